@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: MIT
+# Fails at an include that climbs: each folder has a floor, and a file sees only its own and lower ones.
+# Folders marked qt belong to the desktop library; no other folder may include a Qt header.
+set(floors
+  "platform/text 0" "platform/numbers 0" "platform/store 0" "platform/profile 0" "platform/system 0"
+  "platform/print 0" "platform/jet 0" "platform/fault.h 0" "platform/desktop 8 qt" "platform 0"
+  "shell/config 1" "shell/calendar 1" "data 2" "shell/preparation 3" "tally 3" "floorpart/tally 4"
+  "archive/store 5" "reports 5" "floorpart/reports 5" "shell/startup 6"
+  "screens 9 qt" "floorpart/screens 9 qt" "archive/dialogs 9 qt" "shell/settings_forms 9 qt"
+  "shell/menu 10 qt" "cli 11" "app 11 qt")
+
+function(floor_of path out_rank out_qt)
+  foreach(entry IN LISTS floors)
+    string(REPLACE " " ";" parts "${entry}")
+    list(GET parts 0 folder)
+    string(FIND "${path}" "${folder}/" at)
+    if(at EQUAL 0 OR path STREQUAL folder)
+      list(GET parts 1 rank)
+      set(${out_rank} ${rank} PARENT_SCOPE)
+      list(LENGTH parts n)
+      if(n GREATER 2)
+        set(${out_qt} TRUE PARENT_SCOPE)
+      else()
+        set(${out_qt} FALSE PARENT_SCOPE)
+      endif()
+      return()
+    endif()
+  endforeach()
+  set(${out_rank} -1 PARENT_SCOPE)
+  set(${out_qt} FALSE PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE files RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/*.h ${SOURCE_DIR}/*.cpp)
+set(climbs "")
+foreach(file IN LISTS files)
+  floor_of(${file} own own_qt)
+  if(own LESS 0)
+    list(APPEND climbs "${file}: its folder has no floor")
+    continue()
+  endif()
+  file(STRINGS ${SOURCE_DIR}/${file} lines REGEX "^ *# *include")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "include *\"([^\"]+)\"")
+      set(included ${CMAKE_MATCH_1})
+      if(included MATCHES "^ui_")
+        continue()
+      endif()
+      floor_of(${included} rank unused)
+      if(rank LESS 0)
+        list(APPEND climbs "${file}: include \"${included}\" by its path below src/")
+      elseif(rank GREATER own)
+        list(APPEND climbs "${file}: includes the higher floor ${included}")
+      endif()
+    elseif(line MATCHES "include *<Q" AND NOT own_qt)
+      list(APPEND climbs "${file}: only the desktop library may include Qt")
+    endif()
+  endforeach()
+endforeach()
+if(climbs)
+  list(JOIN climbs "\n  " text)
+  message(FATAL_ERROR "Includes that climb:\n  ${text}")
+endif()

@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: MIT
+# Compiler options shared by every target.
+option(RBTALLY_WERROR "Warnings are errors" OFF)
+
+add_library(rbtally_options INTERFACE)
+target_compile_options(rbtally_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                       -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wnull-dereference)
+# Figures must be the same on every machine: one rounding per operation, no fused multiply-add.
+target_compile_options(rbtally_options INTERFACE -ffp-contract=off)
+if(RBTALLY_WERROR)
+  target_compile_options(rbtally_options INTERFACE -Werror)
+endif()
+if(RBTALLY_SANITIZE)
+  target_compile_options(rbtally_options INTERFACE -fsanitize=${RBTALLY_SANITIZE}
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(rbtally_options INTERFACE -fsanitize=${RBTALLY_SANITIZE})
+endif()

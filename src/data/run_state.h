@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace rbt {
+
+/// What is held for the run beside the selection: presence flags, the accumulation, the report body, date and
+/// time of the load.
+struct RunStateData {
+  bool HasAnchorPlateRows = false;  ///< the site, or the last tally's rows, hold an anchor-plate shape
+  bool HasHoopRows = false;         ///< ... hold shape 87
+  bool HasWeldCounter = false;      ///< \rbk\KAKOU\rbweldcnt.exe exists
+  bool HasJoinCounter = false;      ///< \rbk\KAKOU\rbjoincnt.exe exists
+  bool HasPlateCounter = false;     ///< \rbk\KAKOU\rbplatecnt.exe exists
+  std::int32_t AccumulateFlag = 0;  ///< 1 while tallies of several sites are being added up
+  std::int32_t ReportBody = 1;      ///< 1 totals with Ulbon, 0 deformed only
+  std::string RunDate;              ///< "yyyymmdd" at load
+  std::string RunTime;              ///< "hhnnss" at load
+};
+
+extern RunStateData RunState;
+
+}  // namespace rbt

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/numbers/currency.h"
+
+namespace rbt {
+
+/// Formats with a number mask, halves away from zero on the decimal value, no sign on a value that rounds to
+/// zero. Masks: "#,##0", "#,###" (zero gives ""), "#,##0.00", "0.00", "0", "00", "000", "#.0", "##### t ##0
+/// Kg", "##0 Kg"; any mix of `0`, `#`, one point, a comma between digits for thousands, and literal text
+/// before, between and after the digits works alike. Digits fill the mask from the right; more digits than
+/// places all show at the leftmost place.
+std::string FormatNumber(double value, std::string_view mask);
+std::string FormatNumber(Currency value, std::string_view mask);
+std::string FormatNumber(std::int64_t value, std::string_view mask);
+
+}  // namespace rbt

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace rbt {
+
+/// Registry settings by application, section and key, the store that the programs of the family share for
+/// each user. Elsewhere than on Windows they are one UTF-8 INI file, `$RBK_SETTINGS` or else
+/// `$XDG_CONFIG_HOME/rbtally/settings.ini` (`~/.config` when that is not set), with sections
+/// `[application\section]`. Look-ups ignore letter case; a new key keeps the spelling it was written with.
+std::optional<std::string> RegistryText(std::string_view app, std::string_view section, std::string_view key);
+/// Stored at once; the file is replaced atomically and its folder made when missing. Texts with line breaks,
+/// and blanks at the ends, come back as they were written (they are quoted and escaped).
+void SetRegistryText(std::string_view app, std::string_view section, std::string_view key,
+                     std::string_view value);
+
+/// The settings file in force.
+std::filesystem::path RegistryFile();
+
+}  // namespace rbt

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace rbt {
+
+/// What the user picked; outlives a form and is read by every tally.
+struct SelectionData {
+  std::int32_t StartMode = -1;             ///< first number of the command line, -1 when there is none
+  std::int32_t TallyKind = 0;              ///< 0 bulk, 1 shape, 2 page, 3 shape by page, 4 floor, 5 part
+  std::int32_t MaterialKindMask = 15;      ///< bit 1 異形, 2 ネジ, 4 高強度, 8 スリット
+  std::int32_t PrevMaterialKindMask = 15;  ///< the mask before the last change
+  std::int32_t IncludeUlbon = 1;           ///< 1: Ulbon rows are tallied
+  std::int16_t MaterialFormMask = 15;      ///< bit 1 生材, 2 生材加工, 4 切断, 8 切断加工
+  std::int16_t MaterialCalcChoice = 2;  ///< 0 no 高強度 in the mask, 1 高強度 alone, 2 高強度 with others
+  std::int32_t HoopMode = 0;            ///< shape 87: 0 included, 1 left out, 2 only
+  std::int32_t AnchorPlateMode = 0;  ///< anchor-plate shapes: 0 included, 1 left out, 2 only
+  std::int32_t ShapeStart = 0;       ///< first and last 形状No of the shape tally
+  std::int32_t ShapeEnd = 0;
+};
+
+extern SelectionData Selection;
+
+}  // namespace rbt
