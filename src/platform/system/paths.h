@@ -2,13 +2,16 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace rbt {
 
-/// The folder that `\RBK\` stands for. Starts as `$RBK_ROOT`, empty when that is not set.
+/// The folder that `\RBK\` stands for, as an absolute path. Starts as `$RBK_ROOT`, empty when that is not
+/// set.
 const std::filesystem::path& Root();
+/// Forgets the family directory, which lay below the old root.
 void SetRoot(std::filesystem::path root);
 
 /// A path of the family, `\RBK\DATA\STEEL.INI` or `C:\rbk\kakou\x.exe`, as a path on this machine: the drive
@@ -19,16 +22,25 @@ std::filesystem::path MapPath(std::string_view family_path);
 /// True when the mapped path is an existing file.
 bool FamilyFileExists(std::string_view family_path);
 
-/// The working directory of the family's programs, `\rbk` or `\rbk\kakou`; a folder that does not exist
-/// throws `file`.
+/// The working directory of the family's programs, `\rbk` or `\rbk\kakou`, which siblings start in; that of
+/// this process stays, so that paths given to it keep their meaning. A folder that does not exist throws
+/// `file`.
 void ChangeFamilyDirectory(std::string_view family_path);
+/// That directory on this machine; nothing before the first change.
+const std::optional<std::filesystem::path>& FamilyDirectory();
 
-/// Folders of the user, for dialogs.
+/// Folders of the user, for dialogs: the configured one, else ~/Desktop and ~/Documents, else the home
+/// folder.
 std::filesystem::path DesktopFolder();
 std::filesystem::path DocumentsFolder();
+/// Where the user's settings stand: `$RBK_SETTINGS`, or else `rbtally/settings.ini` in `$XDG_CONFIG_HOME`
+/// (`~/.config` when that is not set).
+std::filesystem::path SettingsFile();
 
 /// Writes the whole file by way of a temporary one in the same folder, synced, then renamed over it: a kill
-/// at any moment leaves the old or the new file. Throws `file` with the path and the system's cause.
+/// at any moment leaves the old or the new file, and so does a full disk. An existing file keeps its
+/// permissions; a symbolic link stays and its target is replaced. Throws `file` with the path and the
+/// system's cause.
 void WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes);
 /// The bytes of a file; throws `file`.
 std::string ReadFileBytes(const std::filesystem::path& file);

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/message.h"
+
+#include <algorithm>
+#include <iostream>
+#include <utility>
+
+namespace rbt {
+
+namespace {
+
+MessageHandler& Handler() {
+  static MessageHandler handler;
+  return handler;
+}
+
+MessageAnswer DefaultAnswer(MessageButtons buttons) {
+  const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
+  return asks ? MessageAnswer::yes : MessageAnswer::ok;
+}
+
+/// A message may break its lines for the window; on standard error it stays one line.
+void WriteOneLine(std::string_view text, std::string_view title) {
+  std::string line;
+  if (!title.empty()) line.append(title).append(": ");
+  line.append(text);
+  line.erase(std::remove(line.begin(), line.end(), '\r'), line.end());
+  std::replace(line.begin(), line.end(), '\n', ' ');
+  std::cerr << line << std::endl;
+}
+
+}  // namespace
+
+MessageAnswer MsgBox(std::string_view text, std::string_view title, MessageButtons buttons) {
+  if (Handler()) return Handler()(text, title, buttons);
+  WriteOneLine(text, title);
+  return DefaultAnswer(buttons);
+}
+
+MessageHandler SetMessageHandler(MessageHandler handler) {
+  return std::exchange(Handler(), std::move(handler));
+}
+
+}  // namespace rbt

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/paths.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <optional>
+#include <vector>
+
+#include "platform/fault.h"
+#include "platform/system/system_error.h"
+
+namespace rbt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Start-up directories must not shift a folder that was given relative to them.
+fs::path Absolute(fs::path path) {
+  if (path.empty()) return path;
+  path = fs::absolute(path).lexically_normal();
+  return path.has_filename() ? path : path.parent_path();
+}
+
+fs::path EnvironmentPath(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? fs::path() : fs::path(value);
+}
+
+fs::path& RootSlot() {
+  static fs::path root = Absolute(EnvironmentPath("RBK_ROOT"));
+  return root;
+}
+
+std::optional<fs::path>& FamilyDirectorySlot() {
+  static std::optional<fs::path> directory;
+  return directory;
+}
+
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool EqualComponents(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+std::vector<std::string_view> Components(std::string_view path) {
+  const bool drive =
+      path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0])) != 0;
+  if (drive) path.remove_prefix(2);
+  std::vector<std::string_view> components;
+  while (!path.empty()) {
+    const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
+    if (end > 0) components.push_back(path.substr(0, end));
+    path.remove_prefix(std::min(end + 1, path.size()));
+  }
+  if (!components.empty() && EqualComponents(components.front(), "rbk")) components.erase(components.begin());
+  return components;
+}
+
+/// The components below the root, "." and ".." worked out.
+std::vector<std::string_view> Normalised(std::string_view family_path) {
+  std::vector<std::string_view> kept;
+  for (const std::string_view component : Components(family_path)) {
+    if (component == ".") continue;
+    if (component != "..") {
+      kept.push_back(component);
+    } else if (!kept.empty()) {
+      kept.pop_back();
+    } else {
+      throw Fault(FaultKind::file, std::string(family_path) + ": leaves the root folder");
+    }
+  }
+  return kept;
+}
+
+/// The entry of a folder that a component names: its own spelling first, else the first in byte order that
+/// differs in letter case alone, else as it was spelled.
+fs::path Entry(const fs::path& folder, std::string_view component) {
+  fs::path exact = folder / component;
+  std::error_code error;
+  if (fs::symlink_status(exact, error).type() != fs::file_type::not_found) return exact;
+  std::optional<std::string> found;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    std::string name = entry->path().filename().string();
+    if (EqualComponents(name, component) && (!found || name < *found)) found = std::move(name);
+  }
+  return found ? folder / *found : exact;
+}
+
+}  // namespace
+
+const fs::path& Root() { return RootSlot(); }
+
+void SetRoot(fs::path root) {
+  RootSlot() = Absolute(std::move(root));
+  FamilyDirectorySlot().reset();
+}
+
+fs::path MapPath(std::string_view family_path) {
+  if (Root().empty()) {
+    throw Fault(FaultKind::file, std::string(family_path) + ": no root folder is set (RBK_ROOT, --root)");
+  }
+  if (family_path.find('\0') != std::string_view::npos) {
+    throw Fault(FaultKind::file, std::string(family_path.substr(0, family_path.find('\0'))) +
+                                     ": a path cannot hold a NUL character");
+  }
+  fs::path mapped = Root();
+  for (const std::string_view component : Normalised(family_path)) mapped = Entry(mapped, component);
+  return mapped;
+}
+
+bool FamilyFileExists(std::string_view family_path) {
+  std::error_code error;
+  return fs::is_regular_file(MapPath(family_path), error);
+}
+
+void ChangeFamilyDirectory(std::string_view family_path) {
+  fs::path directory = MapPath(family_path);
+  std::error_code error;
+  if (!fs::is_directory(directory, error)) {
+    throw FileFault(directory, "cannot become the working directory", error ? error.value() : ENOENT);
+  }
+  FamilyDirectorySlot() = std::move(directory);
+}
+
+const std::optional<fs::path>& FamilyDirectory() { return FamilyDirectorySlot(); }
+
+}  // namespace rbt

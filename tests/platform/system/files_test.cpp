@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+#include "platform/system/paths.h"
+#include "support/temporary_folder.h"
+
+namespace rbt {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TemporaryFolder;
+
+std::size_t FilesIn(const fs::path& folder) {
+  return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+}
+
+TEST(WriteFileAtomically, MakesAndReplacesAFileAndLeavesNothingBeside) {
+  const TemporaryFolder folder;
+  const std::string bytes("a\0b\r\n", 5);
+  WriteFileAtomically(folder / "x.ini", "old");
+  WriteFileAtomically(folder / "x.ini", bytes);
+  EXPECT_EQ(ReadFileBytes(folder / "x.ini"), bytes);
+  EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+TEST(WriteFileAtomically, KeepsThePermissions) {
+  const TemporaryFolder folder;
+  WriteFileAtomically(folder / "x.ini", "old");
+  fs::permissions(folder / "x.ini", fs::perms{0640});
+  WriteFileAtomically(folder / "x.ini", "new");
+  EXPECT_EQ(fs::status(folder / "x.ini").permissions(), fs::perms{0640});
+}
+
+TEST(WriteFileAtomically, GivesANewFileTheUsualPermissions) {
+  const TemporaryFolder folder;
+  const mode_t mask = ::umask(027);
+  WriteFileAtomically(folder / "x.ini", "new");
+  ::umask(mask);
+  EXPECT_EQ(fs::status(folder / "x.ini").permissions(), fs::perms{0640});
+}
+
+TEST(WriteFileAtomically, FollowsALinkToTheFileItStandsFor) {
+  const TemporaryFolder folder;
+  WriteFileAtomically(folder / "real.ini", "old");
+  fs::create_symlink("real.ini", folder / "link.ini");
+  WriteFileAtomically(folder / "link.ini", "new");
+  EXPECT_TRUE(fs::is_symlink(folder / "link.ini"));
+  EXPECT_EQ(ReadFileBytes(folder / "real.ini"), "new");
+}
+
+/// A limit on file sizes stands in for the full disk: the write fails half-way.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limited{bytes, old_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit old_{};
+  void (*handler_)(int);
+};
+
+TEST(WriteFileAtomically, OnAFullDiskFaultsAndLeavesTheOldFileIntact) {
+  const TemporaryFolder folder;
+  WriteFileAtomically(folder / "x.ini", "old");
+  {
+    const FileSizeLimit full(4096);
+    try {
+      WriteFileAtomically(folder / "x.ini", std::string(10000, 'n'));
+      ADD_FAILURE() << "no fault";
+    } catch (const Fault& fault) {
+      EXPECT_EQ(fault.Kind(), FaultKind::file);
+      EXPECT_NE(std::string(fault.what()).find("x.ini"), std::string::npos) << fault.what();
+    }
+  }
+  EXPECT_EQ(ReadFileBytes(folder / "x.ini"), "old");
+  EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+/// The superuser may write everything: under him the test acts as another user on a folder of that user.
+class OrdinaryUser {
+ public:
+  explicit OrdinaryUser(const fs::path& folder) : superuser_(::geteuid() == 0) {
+    constexpr uid_t kNobody = 65534;
+    if (superuser_ && (::chown(folder.c_str(), kNobody, kNobody) != 0 || ::seteuid(kNobody) != 0)) {
+      throw std::runtime_error("cannot act as another user");
+    }
+  }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  ~OrdinaryUser() {
+    if (superuser_ && ::seteuid(0) != 0) std::abort();
+  }
+
+ private:
+  bool superuser_;
+};
+
+TEST(WriteFileAtomically, DoesNotReplaceAWriteProtectedFile) {
+  const TemporaryFolder folder;
+  const OrdinaryUser user(folder.Path());
+  WriteFileAtomically(folder / "x.ini", "old");
+  fs::permissions(folder / "x.ini", fs::perms{0444});
+  EXPECT_THROW(WriteFileAtomically(folder / "x.ini", "new"), Fault);
+  EXPECT_EQ(ReadFileBytes(folder / "x.ini"), "old");
+}
+
+TEST(WriteFileAtomically, RefusesAFolderAndAMissingFolder) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "d");
+  EXPECT_THROW(WriteFileAtomically(folder / "d", "x"), Fault);
+  EXPECT_THROW(WriteFileAtomically(folder / "nowhere" / "x.ini", "x"), Fault);
+  EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+TEST(ReadFileBytes, NamesAMissingFileAndTheCause) {
+  const TemporaryFolder folder;
+  try {
+    ReadFileBytes(folder / "x.ini");
+    ADD_FAILURE() << "no fault";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::file);
+    EXPECT_EQ(std::string(fault.what()),
+              (folder / "x.ini").string() + ": cannot be opened: No such file or directory");
+  }
+}
+
+TEST(ReadFileBytes, RefusesAFolder) {
+  const TemporaryFolder folder;
+  EXPECT_THROW(ReadFileBytes(folder.Path()), Fault);
+}
+
+}  // namespace
+}  // namespace rbt

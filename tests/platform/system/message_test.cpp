@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/message.h"
+
+#include <gtest/gtest.h>
+
+namespace rbt {
+namespace {
+
+TEST(MsgBox, WithoutAWindowIsOneLineOnStandardErrorAndTheDefaultAnswer) {
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(MsgBox("登録されていません。\r\n続けますか", "確認", MessageButtons::yes_no_cancel),
+            MessageAnswer::yes);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "確認: 登録されていません。 続けますか\n");
+}
+
+TEST(MsgBox, WithoutATitleIsTheTextAlone) {
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(MsgBox("終わりました", "", MessageButtons::ok_cancel), MessageAnswer::ok);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "終わりました\n");
+}
+
+TEST(MsgBox, GoesToTheHandlerInPlace) {
+  std::string seen;
+  auto old = SetMessageHandler([&](std::string_view text, std::string_view title, MessageButtons buttons) {
+    seen = std::string(title) + "/" + std::string(text);
+    return buttons == MessageButtons::yes_no ? MessageAnswer::no : MessageAnswer::cancel;
+  });
+  EXPECT_EQ(MsgBox("a", "b", MessageButtons::yes_no), MessageAnswer::no);
+  EXPECT_EQ(seen, "b/a");
+  EXPECT_TRUE(SetMessageHandler(std::move(old)) != nullptr);
+}
+
+}  // namespace
+}  // namespace rbt
