@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text/cp932.h"
+
+#include <cstdint>
+#include <iconv.h>
+
+#include <fmt/format.h>
+
+#include "platform/fault.h"
+#include "platform/text/characters.h"
+
+namespace rbt {
+
+namespace {
+
+/// A conversion that is opened once for each thread; between calls it has no state, as both sides have none.
+class Converter {
+ public:
+  Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {
+    if (handle_ == reinterpret_cast<iconv_t>(-1)) {
+      throw Fault(FaultKind::file, "code page 932 is not known on this machine");
+    }
+  }
+  Converter(const Converter&) = delete;
+  Converter& operator=(const Converter&) = delete;
+  ~Converter() { iconv_close(handle_); }
+
+  /// Appends what converts and returns the number of input bytes taken; less than all when a character does
+  /// not.
+  std::size_t Convert(std::string_view input, std::string& output) {
+    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+    std::string copy(input);
+    char* from = copy.data();
+    std::size_t left = copy.size();
+    const std::size_t start = output.size();
+    output.resize(start + copy.size() * 3 + 4);
+    char* to = output.data() + start;
+    std::size_t room = output.size() - start;
+    iconv(handle_, &from, &left, &to, &room);
+    output.resize(static_cast<std::size_t>(to - output.data()));
+    return copy.size() - left;
+  }
+
+ private:
+  iconv_t handle_;
+};
+
+Converter& Encoder() {
+  thread_local Converter converter("CP932", "UTF-8");
+  return converter;
+}
+
+Converter& Decoder() {
+  thread_local Converter converter("UTF-8", "CP932");
+  return converter;
+}
+
+}  // namespace
+
+std::string ToCp932(std::string_view utf8) {
+  std::string bytes;
+  const std::size_t taken = Encoder().Convert(utf8, bytes);
+  if (taken < utf8.size()) {
+    const std::string_view rest = utf8.substr(taken);
+    throw Fault(FaultKind::type_mismatch,
+                fmt::format("code page 932 has no character U+{:04X} (character {} of the text)",
+                            static_cast<std::uint32_t>(CharactersOf(rest).front()),
+                            CharacterCount(utf8.substr(0, taken)) + 1));
+  }
+  return bytes;
+}
+
+std::string FromCp932(std::string_view bytes) {
+  std::string text;
+  const std::size_t taken = Decoder().Convert(bytes, text);
+  if (taken < bytes.size()) {
+    throw Fault(FaultKind::type_mismatch,
+                fmt::format("byte {:02X} at offset {} is no character of code page 932",
+                            static_cast<unsigned char>(bytes[taken]), taken));
+  }
+  return text;
+}
+
+std::string FromCp932Lenient(std::string_view bytes) {
+  std::string text;
+  while (!bytes.empty()) {
+    bytes.remove_prefix(Decoder().Convert(bytes, text));
+    if (bytes.empty()) break;
+    text += "\xEF\xBF\xBD";
+    bytes.remove_prefix(1);
+  }
+  return text;
+}
+
+std::size_t Cp932Length(std::string_view utf8) { return DisplayWidth(utf8); }
+
+std::string_view Cp932Prefix(std::string_view utf8, std::size_t bytes) {
+  std::size_t at = 0;
+  std::size_t used = 0;
+  while (at < utf8.size()) {
+    const std::string_view character = Left(utf8.substr(at), 1);
+    used += DisplayWidth(character);
+    if (used > bytes) break;
+    at += character.size();
+  }
+  return utf8.substr(0, at);
+}
+
+}  // namespace rbt
