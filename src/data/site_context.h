@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/store/database.h"
 
@@ -26,6 +27,10 @@ struct SiteContextData {
 
 extern SiteContextData SiteContext;
 
+/// Characters 6 to 8 of a schedule file's name: "001" of "GENBA001.MDB"; a shorter name gives fewer.
+std::string SiteNumberOf(std::string_view file_name);
+/// Binds the context to a schedule file by its name; the database is not opened.
+void SelectSite(std::string_view file_name);
 /// Opens `\RBK\DATA\` + `SelectedDbName` and leaves it in `SiteContext`.
 void OpenWorkDatabase();
 

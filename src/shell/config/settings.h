@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "shell/config/setting_keys.h"
+
 namespace rbt {
 
 /// Reads a key of `\RBK\DATA\STEEL.INI` or another INI file of the family (a family path) into an
@@ -21,6 +23,17 @@ std::int32_t ReadSetting(std::string_view app, std::string_view section, std::st
                          std::int32_t fallback);
 void SaveSetting(std::string_view app, std::string_view section, std::string_view key,
                  std::string_view value);
+
+/// The same for a key of the tables, with its own default; a true-or-false setting is "True", "False" or a
+/// number.
+std::string ReadSetting(const TextKey& key);
+std::int32_t ReadSetting(const NumberKey& key);
+bool ReadSetting(const BooleanKey& key);
+void SaveSetting(const NumberKey& key, std::int32_t value);
+void SaveSetting(const TextKey& key, std::string_view value);
+void SaveSetting(const BooleanKey& key, bool value);
+/// Reads a key of `STEEL.INI` with its own default.
+std::string ReadSteelIni(const IniKey& key);
 
 inline constexpr std::string_view kSteelIni = "\\RBK\\DATA\\STEEL.INI";
 inline constexpr std::string_view kNextPrgIni = "\\RBK\\DATA\\NEXTPRG.INI";
@@ -60,5 +73,14 @@ struct SettingsData {
 };
 
 extern SettingsData Settings;
+
+/// `GridRowBackColor` and `GridRowForeColor`; an empty text is the default, any other its leading number.
+void LoadGridColours();
+/// `UseFixedTable`, `AlternateRowColours`, `PrintEmptyDiameters`, `Use13mColumn`, `CapInstalledWeight`.
+void LoadTallySettings();
+/// Everything else that is kept, the title settings included.
+void LoadRemainingSettings();
+/// `DetailShowsWeight`, `ReportTitleChoice` and, when the choice is 3, `ReportTitleText`, else empty.
+void RereadTitleSettings();
 
 }  // namespace rbt

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "data/reference.h"
+
+#include "data/quoted_text.h"
+#include "data/site_context.h"
+#include "platform/fault.h"
+#include "platform/system/message.h"
+#include "platform/system/paths.h"
+#include "platform/text/characters.h"
+#include "shell/config/settings.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kMasterDatabase = "\\RBK\\DATA\\SORANO.MDB";
+constexpr std::int32_t kDefaultWidth = 50;
+constexpr std::int32_t kGradeCount = 10;
+
+constexpr std::array<std::string_view, 12> kGradeFields{"SD10", "SD13", "SD16", "SD19", "SD22", "SD25",
+                                                        "SD29", "SD32", "SD35", "SD38", "SD41", "SD51"};
+
+std::int32_t IntegerOrZero(const Recordset& rows, FieldHandle field) { return rows.Int32(field).value_or(0); }
+
+std::string TextOrEmpty(const Recordset& rows, FieldHandle field) { return rows.Text(field).value_or(""); }
+
+/// A site without a row in the master database cannot be worked on.
+void RequireSite(const Recordset& rows, std::string_view file_name) {
+  if (rows.Eof()) {
+    throw Fault(FaultKind::database,
+                "工事テーブル: no current record with データパス \"" + std::string(file_name) + "\"");
+  }
+}
+
+}  // namespace
+
+void OpenMasterDatabase() {
+  SiteContext.MasterDatabase.reset();
+  SiteContext.MasterDatabase = std::make_unique<Database>(Database::Open(MapPath(kMasterDatabase)));
+}
+
+std::string SiteHeadStatement(std::string_view file_name) {
+  return "SELECT [番号], [工事名], [データパス], [取引先コード] FROM 工事テーブル WHERE データパス = " +
+         QuotedText(file_name, '\'');
+}
+
+SiteHead ReadSiteHead(Database& master, std::string_view file_name) {
+  Recordset rows = master.OpenSnapshot(SiteHeadStatement(file_name));
+  RequireSite(rows, file_name);
+  return {IntegerOrZero(rows, rows.Field("番号")), TextOrEmpty(rows, rows.Field("工事名")),
+          TextOrEmpty(rows, rows.Field("データパス")), IntegerOrZero(rows, rows.Field("取引先コード"))};
+}
+
+std::string ClientName(Database& master, std::int32_t code) {
+  Recordset rows = master.OpenSnapshot("SELECT [会社コード], [会社名] FROM T_取引先 WHERE [会社コード] = " +
+                                       std::to_string(code));
+  return rows.Eof() ? std::string() : TextOrEmpty(rows, rows.Field("会社名"));
+}
+
+LongName ReadLongName(Database& master, std::string_view file_name) {
+  Recordset rows =
+      master.OpenDynaset("SELECT 長い工事名,工事名区切り文字数 FROM 工事テーブル WHERE データパス=" +
+                         QuotedText(file_name, '"'));
+  RequireSite(rows, file_name);
+  const FieldHandle name = rows.Field("長い工事名");
+  const FieldHandle width = rows.Field("工事名区切り文字数");
+  if (rows.IsNull(name)) return {};
+  if (rows.IsNull(width)) {
+    rows.Edit();
+    rows.Set(width, Value{std::int64_t{kDefaultWidth}});
+    rows.Update();
+  }
+  return {TextOrEmpty(rows, name), rows.Int32(width).value_or(kDefaultWidth)};
+}
+
+std::int32_t ReadMakerNumber(Database& master, std::string_view file_name) {
+  Recordset rows = master.OpenSnapshot("SELECT メーカーNo FROM 工事テーブル WHERE データパス=" +
+                                       QuotedText(file_name, '"'));
+  RequireSite(rows, file_name);
+  return IntegerOrZero(rows, rows.Field("メーカーNo"));
+}
+
+SiteGrades ReadSiteGrades(Database& master, std::string_view file_name) {
+  Recordset rows =
+      master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE データパス = " + QuotedText(file_name, '\''));
+  RequireSite(rows, file_name);
+  SiteGrades grades;
+  for (std::size_t i = 0; i < kGradeFields.size(); ++i) {
+    grades.codes[i] = IntegerOrZero(rows, rows.Field(kGradeFields[i]));
+  }
+  // The maker columns have no agreed names: they are the twelve behind the last grade column.
+  const int first = rows.Field(kGradeFields.back()).index + 1;
+  if (first + static_cast<int>(grades.makers.size()) > rows.FieldCount()) {
+    throw Fault(FaultKind::field_not_found, "工事テーブル: twelve maker names behind SD51");
+  }
+  for (std::size_t i = 0; i < grades.makers.size(); ++i) {
+    grades.makers[i] = TextOrEmpty(rows, FieldHandle{first + static_cast<int>(i)});
+  }
+  return grades;
+}
+
+std::optional<std::string> GradeName(Database& master, std::int32_t code) {
+  Recordset rows =
+      master.OpenSnapshot("SELECT [SDコード], [SD名] FROM T_SD WHERE SDコード = " + std::to_string(code));
+  if (rows.Eof()) return std::nullopt;
+  return std::string(Trim(TextOrEmpty(rows, rows.Field("SD名"))));
+}
+
+std::array<std::string, 11> ReadGradeNames(Database& master) {
+  std::array<std::string, 11> names;
+  for (std::int32_t code = 1; code <= kGradeCount; ++code) {
+    if (auto name = GradeName(master, code)) {
+      names[static_cast<std::size_t>(code)] = std::move(*name);
+    } else {
+      MsgBox("ＳＤ名が登録されていません。");
+    }
+  }
+  return names;
+}
+
+std::string PartName(Database& master, std::int32_t part, PartNaming naming) {
+  const std::string_view table = naming == PartNaming::second ? "部位名２テーブル" : "部位名テーブル";
+  Recordset rows = master.OpenSnapshot("SELECT [番号], [部位名], [記号] FROM " + std::string(table) +
+                                       " WHERE 番号 = " + std::to_string(part));
+  return rows.Eof() ? std::string() : TextOrEmpty(rows, rows.Field("部位名"));
+}
+
+std::string Get_BuiNa(std::int32_t part) {
+  constexpr std::int32_t kSecondNaming = 2;
+  if (!SiteContext.MasterDatabase) throw Fault(FaultKind::database, "SORANO.MDB is not open");
+  const PartNaming naming = Settings.ShippingDate == kSecondNaming ? PartNaming::second : PartNaming::first;
+  return PartName(*SiteContext.MasterDatabase, part, naming);
+}
+
+}  // namespace rbt

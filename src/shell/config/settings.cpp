@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "shell/config/settings.h"
+
+#include "platform/numbers/number_words.h"
+#include "platform/profile/ini_file.h"
+#include "platform/profile/registry.h"
+#include "platform/system/clock.h"
+#include "platform/system/paths.h"
+
+namespace rbt {
+
+SettingsData Settings;
+
+namespace {
+
+struct NumberBinding {
+  NumberKey key;
+  std::int32_t SettingsData::*field;
+};
+
+constexpr NumberBinding kTallyNumbers[] = {
+    {kUseFixedTableKey, &SettingsData::UseFixedTable},
+    {kAlternateRowColoursKey, &SettingsData::AlternateRowColours},
+    {kPrintEmptyDiametersKey, &SettingsData::PrintEmptyDiameters},
+    {kUse13mColumnKey, &SettingsData::Use13mColumn},
+    {kCapInstalledWeightKey, &SettingsData::CapInstalledWeight},
+};
+
+constexpr NumberBinding kTitleNumbers[] = {
+    {kDetailShowsWeightKey, &SettingsData::DetailShowsWeight},
+    {kReportTitleChoiceKey, &SettingsData::ReportTitleChoice},
+};
+
+constexpr NumberBinding kRemainingNumbers[] = {
+    {kStockCheckKey, &SettingsData::StockCheck},
+    {kLedgerWeightKey, &SettingsData::LedgerWeight},
+    {kDateStyleKey, &SettingsData::DateStyle},
+    {kComparisonKindKey, &SettingsData::ComparisonKind},
+    {kDetailDatePositionKey, &SettingsData::DetailDatePosition},
+    {kFloorTallyStockKey, &SettingsData::FloorTallyStock},
+    {kDetailPrintKey, &SettingsData::DetailPrint},
+    {kMemoPositionKey, &SettingsData::MemoPosition},
+    {kShippingDateKey, &SettingsData::ShippingDate},
+    {kTagLinesKey, &SettingsData::TagLines},
+    {kTagMethodKey, &SettingsData::TagMethod},
+    {kPrintOwnCompanyKey, &SettingsData::PrintOwnCompany},
+};
+
+struct TextBinding {
+  TextKey key;
+  std::string SettingsData::*field;
+};
+
+constexpr TextBinding kRemainingTexts[] = {
+    {kTallyPrinterKey, &SettingsData::TallyPrinter},
+    {kTagPrinterKey, &SettingsData::TagPrinter},
+    {kStockOrInstalledKey, &SettingsData::StockOrInstalled},
+    {kEraNameKey, &SettingsData::EraName},
+    {kEraStartYearKey, &SettingsData::EraStartYear},
+    {kEraStartMonthKey, &SettingsData::EraStartMonth},
+    {kEraStartDayKey, &SettingsData::EraStartDay},
+    {kClosingMonthKey, &SettingsData::ClosingMonth},
+    {kClosingDayKey, &SettingsData::ClosingDay},
+};
+
+void Load(const NumberBinding& binding) { Settings.*binding.field = ReadSetting(binding.key); }
+
+void Load(const TextBinding& binding) { Settings.*binding.field = ReadSetting(binding.key); }
+
+/// Where a setting stands, with its text: `Kakou\重量集計\日付表記 "abc"`.
+std::string Place(std::string_view app, std::string_view section, std::string_view key,
+                  std::string_view text) {
+  std::string place;
+  place.append(app).append("\\").append(section).append("\\").append(key);
+  return place.append(" \"").append(text).append("\"");
+}
+
+std::int32_t ReadColour(const IniKey& key) {
+  const std::string text = ReadSteelIni(key);
+  return ToInt32(LeadingNumber(text.empty() ? key.fallback : text), key.key);
+}
+
+}  // namespace
+
+std::string ReadIniText(std::string_view family_file, std::string_view section, std::string_view key,
+                        std::string_view fallback) {
+  // The length that the profile call returns counts bytes and the cut counts characters, so that the cut to
+  // that length takes nothing away from what fitted the buffer.
+  return GetProfileText(MapPath(family_file), section, key, fallback, 80);
+}
+
+std::string ReadSteelIni(const IniKey& key) {
+  return ReadIniText(kSteelIni, key.section, key.key, key.fallback);
+}
+
+std::string ReadSetting(std::string_view app, std::string_view section, std::string_view key,
+                        std::string_view fallback) {
+  return RegistryText(app, section, key).value_or(std::string(fallback));
+}
+
+std::int32_t ReadSetting(std::string_view app, std::string_view section, std::string_view key,
+                         std::int32_t fallback) {
+  const std::optional<std::string> text = RegistryText(app, section, key);
+  if (!text) return fallback;
+  const std::string place = Place(app, section, key, *text);
+  return ToInt32(NumberOfText(*text, place), place);
+}
+
+void SaveSetting(std::string_view app, std::string_view section, std::string_view key,
+                 std::string_view value) {
+  SetRegistryText(app, section, key, value);
+}
+
+std::string ReadSetting(const TextKey& key) {
+  return ReadSetting(key.app, key.section, key.key, key.fallback);
+}
+
+std::int32_t ReadSetting(const NumberKey& key) {
+  return ReadSetting(key.app, key.section, key.key, key.fallback);
+}
+
+bool ReadSetting(const BooleanKey& key) {
+  const std::optional<std::string> text = RegistryText(key.app, key.section, key.key);
+  if (!text) return key.fallback;
+  return NumberOfText(*text, Place(key.app, key.section, key.key, *text)) != 0;
+}
+
+void SaveSetting(const NumberKey& key, std::int32_t value) {
+  SetRegistryText(key.app, key.section, key.key, std::to_string(value));
+}
+
+void SaveSetting(const TextKey& key, std::string_view value) {
+  SetRegistryText(key.app, key.section, key.key, value);
+}
+
+void SaveSetting(const BooleanKey& key, bool value) {
+  SetRegistryText(key.app, key.section, key.key, value ? "True" : "False");
+}
+
+void LoadGridColours() {
+  Settings.GridRowBackColor = ReadColour(kGridRowBackColorKey);
+  Settings.GridRowForeColor = ReadColour(kGridRowForeColorKey);
+}
+
+void LoadTallySettings() {
+  for (const NumberBinding& binding : kTallyNumbers) Load(binding);
+}
+
+void LoadRemainingSettings() {
+  for (const NumberBinding& binding : kRemainingNumbers) Load(binding);
+  for (const TextBinding& binding : kRemainingTexts) Load(binding);
+  // The stock check is kept in 16 bits.
+  ToInt16(Settings.StockCheck, Place(kStockCheckKey.app, kStockCheckKey.section, kStockCheckKey.key,
+                                     std::to_string(Settings.StockCheck)));
+  Settings.EraCalendar = ReadSetting(kEraCalendarKey);
+  Settings.ClosingYear = ReadSetting(kClosingYearKey.app, kClosingYearKey.section, kClosingYearKey.key,
+                                     std::to_string(Now().year + 1));
+  RereadTitleSettings();
+}
+
+void RereadTitleSettings() {
+  constexpr std::int32_t kOwnText = 3;
+  for (const NumberBinding& binding : kTitleNumbers) Load(binding);
+  Settings.ReportTitleText =
+      Settings.ReportTitleChoice == kOwnText ? ReadSteelIni(kReportTitleTextKey) : std::string();
+}
+
+}  // namespace rbt
