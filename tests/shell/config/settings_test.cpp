@@ -190,6 +190,7 @@ TEST_F(Configuration, RoundsNumbersHalvesToEvenAndFaultsBeyondTheirWidth) {
   EXPECT_EQ(ReadSetting(kTagLinesKey), 2);
   SaveSetting("Kakou", "エフ印字行", "エフ行", "2147483648");
   ExpectFault(FaultKind::overflow, "エフ行", [] { ReadSetting(kTagLinesKey); });
+  SaveSetting(kTagLinesKey, 0);
   SaveSetting(kStockCheckKey, 32768);
   ExpectFault(FaultKind::overflow, "kakou\\定尺チェック\\定尺", &LoadRemainingSettings);
 }
