@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+#include "platform/store/dialect/expression_writer.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include <fmt/format.h>
+
+#include "platform/store/dialect/quoting.h"
+#include "platform/store/dialect/walk.h"
+#include "platform/text/characters.h"
+
+namespace rbt::dialect {
+namespace {
+
+/// SQLite takes at most 100 arguments a call.
+constexpr std::size_t kMaxArguments = 100;
+
+struct ArithmeticForm {
+  ArithmeticOperator sign;
+  std::string_view format;
+  bool may_fault;
+};
+constexpr ArithmeticForm kArithmeticForms[] = {
+    {ArithmeticOperator::add, "({} + {})", false},
+    {ArithmeticOperator::subtract, "({} - {})", false},
+    {ArithmeticOperator::multiply, "({} * {})", false},
+    {ArithmeticOperator::divide, "jet_divide({}, {})", true},
+    {ArithmeticOperator::divide_whole, "jet_quotient({}, {})", true},
+    {ArithmeticOperator::remainder, "jet_remainder({}, {})", true},
+};
+
+std::optional<std::int64_t> WholeNumber(std::string_view digits) {
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
+  return number;
+}
+
+/// A decimal goes through our own reading: not every SQLite reads the nearest double.
+WrittenValue WriteNumber(const NumberLiteral& literal) {
+  if (const auto whole = WholeNumber(literal.digits)) {
+    return {.sql = fmt::format("{}", *whole), .value = ValueClass::whole, .whole = whole};
+  }
+  return {.sql = fmt::format("jet_number({})", QuoteText(literal.digits)), .value = ValueClass::real};
+}
+
+WrittenValue WriteText(const TextLiteral& literal) {
+  return {
+      .sql = QuoteText(literal.text), .value = ValueClass::text, .characters = CharacterCount(literal.text)};
+}
+
+bool IsWhole(ValueClass value) {
+  return value == ValueClass::whole || value == ValueClass::boolean || value == ValueClass::null;
+}
+
+}  // namespace
+
+bool IsNumber(ValueClass value) { return value != ValueClass::text && value != ValueClass::other; }
+
+ValueClass ClassOf(FieldType type) {
+  switch (type) {
+    case FieldType::boolean:
+      return ValueClass::boolean;
+    case FieldType::byte:
+    case FieldType::integer16:
+    case FieldType::integer32:
+      return ValueClass::whole;
+    case FieldType::single:
+    case FieldType::real:
+      return ValueClass::real;
+    case FieldType::currency:
+      return ValueClass::currency;
+    case FieldType::date_time:
+      return ValueClass::date;
+    case FieldType::text:
+    case FieldType::memo:
+    case FieldType::guid:
+      return ValueClass::text;
+    case FieldType::decimal:
+    case FieldType::binary:
+    case FieldType::ole:
+      break;
+  }
+  return ValueClass::other;
+}
+
+void ExpressionWriter::Group(std::vector<const FieldDef*> columns) {
+  scope_ = Scope::groups;
+  group_ = std::move(columns);
+}
+
+WrittenValue ExpressionWriter::Value(const Expression& expression) {
+  Written written = Write(expression);
+  if (written.is_condition) written.sql = fmt::format("(-{})", written.sql);
+  return written;
+}
+
+std::string ExpressionWriter::Condition(const Expression& expression) {
+  const Written written = Write(expression);
+  if (written.is_condition || written.value == ValueClass::null) return written.sql;
+  if (written.value != ValueClass::boolean) Refuse(statement_, expression.place, "a condition is expected");
+  return fmt::format("({} <> 0)", written.sql);
+}
+
+const FieldDef& ExpressionWriter::Field(const ColumnName& column) const {
+  if (table_ == nullptr) Refuse(statement_, column.field.place, "a name without a table");
+  if (column.table && FoldIdentifier(column.table->text) != FoldIdentifier(table_->name)) {
+    Refuse(statement_, column.table->place, "a table that the statement does not read");
+  }
+  const FieldDef* const field = table_->FindField(column.field.text);
+  if (field == nullptr) {
+    Refuse(statement_, column.field.place, fmt::format("no such field in {}", table_->name));
+  }
+  return *field;
+}
+
+ExpressionWriter::Written ExpressionWriter::Write(const Expression& expression) {
+  const Place place = expression.place;
+  const auto condition = [](std::string sql, bool may_fault) {
+    Written written;
+    written.sql = std::move(sql);
+    written.value = ValueClass::boolean;
+    written.may_fault = may_fault;
+    written.is_condition = true;
+    return written;
+  };
+  return std::visit(Overloaded{
+                        [](const NullLiteral&) { return Written{{.sql = "NULL"}}; },
+                        [](const BooleanLiteral& node) {
+                          return Written{{.sql = node.value ? "-1" : "0", .value = ValueClass::boolean}};
+                        },
+                        [](const NumberLiteral& node) { return Written{WriteNumber(node)}; },
+                        [](const TextLiteral& node) { return Written{WriteText(node)}; },
+                        [&](const ColumnName& node) { return WriteColumn(node, place); },
+                        [&](const Negation& node) {
+                          Written operand{Number(*node.operand)};
+                          operand.sql = fmt::format("(-{})", operand.sql);
+                          operand.field = nullptr;
+                          if (operand.whole) operand.whole = -*operand.whole;
+                          if (operand.value == ValueClass::boolean) operand.value = ValueClass::whole;
+                          return operand;
+                        },
+                        [&](const Arithmetic& node) { return WriteArithmetic(node, place); },
+                        [&](const Concatenation& node) { return WriteConcatenation(node, place); },
+                        [&](const Comparison& node) { return WriteComparison(node, place); },
+                        [&](const NullTest& node) {
+                          const WrittenValue operand = Value(*node.operand);
+                          return condition(
+                              fmt::format("({} IS {}NULL)", operand.sql, node.negated ? "NOT " : ""),
+                              operand.may_fault);
+                        },
+                        [&](const RangeTest& node) { return WriteRange(node, place); },
+                        [&](const ListTest& node) { return WriteList(node, place); },
+                        [&](const Inversion& node) {
+                          return condition(fmt::format("(NOT {})", Condition(*node.operand)), true);
+                        },
+                        [&](const Conjunction& node) { return WriteJunction(node.operands, " AND "); },
+                        [&](const Disjunction& node) { return WriteJunction(node.operands, " OR "); },
+                        [&](const Call& node) { return WriteCall(node, place); },
+                    },
+                    expression.node);
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteColumn(const ColumnName& column, Place place) {
+  const FieldDef& field = Field(column);
+  if (scope_ == Scope::groups && std::ranges::find(group_, &field) == group_.end()) {
+    Refuse(statement_, place, "a field that is neither grouped by nor aggregated");
+  }
+  if (std::ranges::find(fields_read_, &field) == fields_read_.end()) fields_read_.push_back(&field);
+  return {{.sql = QuoteName(field.name), .value = ClassOf(field.type), .field = &field}};
+}
+
+WrittenValue ExpressionWriter::Number(const Expression& expression) {
+  WrittenValue value = Value(expression);
+  if (!IsNumber(value.value)) {
+    Refuse(statement_, expression.place, "a number is expected", FaultKind::type_mismatch);
+  }
+  return value;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {
+  const WrittenValue left = Number(*node.left);
+  const WrittenValue right = Number(*node.right);
+  const auto* const form =
+      std::ranges::find_if(kArithmeticForms, [&](const ArithmeticForm& f) { return f.sign == node.sign; });
+  Written written;
+  written.sql = fmt::format(fmt::runtime(form->format), left.sql, right.sql);
+  written.may_fault = form->may_fault || left.may_fault || right.may_fault;
+  written.value = ValueClass::real;
+  const bool whole_result =
+      node.sign == ArithmeticOperator::divide_whole || node.sign == ArithmeticOperator::remainder;
+  if (whole_result ||
+      (node.sign != ArithmeticOperator::divide && IsWhole(left.value) && IsWhole(right.value))) {
+    written.value = ValueClass::whole;
+  }
+  return written;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteConcatenation(const Concatenation& node, Place place) {
+  if (node.operands.size() > kMaxArguments) Refuse(statement_, place, "too many operands of &");
+  Written written;
+  written.value = ValueClass::text;
+  std::string arguments;
+  for (const ExpressionPtr& operand : node.operands) {
+    const WrittenValue value = Value(*operand);
+    if (value.value == ValueClass::other || value.value == ValueClass::date) {
+      Refuse(statement_, operand->place, "a text or a number is expected", FaultKind::type_mismatch);
+    }
+    if (!arguments.empty()) arguments += ", ";
+    arguments += value.sql;
+    written.may_fault = written.may_fault || value.may_fault;
+  }
+  written.sql = fmt::format("jet_concatenate({})", arguments);
+  return written;
+}
+
+void ExpressionWriter::MustCompare(const WrittenValue& a, const WrittenValue& b, Place place) const {
+  if (a.value == ValueClass::other || b.value == ValueClass::other) {
+    Refuse(statement_, place, "values of this type do not compare", FaultKind::type_mismatch);
+  }
+  if (a.value == ValueClass::null || b.value == ValueClass::null || IsNumber(a.value) == IsNumber(b.value))
+    return;
+  Refuse(statement_, place, "a number and a text do not compare", FaultKind::type_mismatch);
+}
+
+std::string ExpressionWriter::Comparand(const WrittenValue& value) const {
+  return value.value == ValueClass::text ? value.sql + " COLLATE NOCASE" : value.sql;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteComparison(const Comparison& node, Place place) {
+  const WrittenValue left = Value(*node.left);
+  const WrittenValue right = Value(*node.right);
+  MustCompare(left, right, place);
+  Written written;
+  written.sql = fmt::format("({} {} {})", Comparand(left), node.sign, right.sql);
+  written.value = ValueClass::boolean;
+  written.may_fault = left.may_fault || right.may_fault;
+  written.is_condition = true;
+  return written;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteRange(const RangeTest& node, Place place) {
+  const WrittenValue operand = Value(*node.operand);
+  const WrittenValue low = Value(*node.low);
+  const WrittenValue high = Value(*node.high);
+  MustCompare(operand, low, place);
+  MustCompare(operand, high, place);
+  Written written;
+  written.sql = fmt::format("({} {}BETWEEN {} AND {})", Comparand(operand), node.negated ? "NOT " : "",
+                            low.sql, high.sql);
+  written.value = ValueClass::boolean;
+  written.may_fault = operand.may_fault || low.may_fault || high.may_fault;
+  written.is_condition = true;
+  return written;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteList(const ListTest& node, Place place) {
+  const WrittenValue operand = Value(*node.operand);
+  Written written;
+  written.may_fault = operand.may_fault;
+  std::string list;
+  for (const ExpressionPtr& element : node.list) {
+    const WrittenValue value = Value(*element);
+    MustCompare(operand, value, place);
+    if (!list.empty()) list += ", ";
+    list += value.sql;
+    written.may_fault = written.may_fault || value.may_fault;
+  }
+  written.sql = fmt::format("({} {}IN ({}))", Comparand(operand), node.negated ? "NOT " : "", list);
+  written.value = ValueClass::boolean;
+  written.is_condition = true;
+  return written;
+}
+
+ExpressionWriter::Written ExpressionWriter::WriteJunction(const ExpressionList& operands,
+                                                          std::string_view word) {
+  Written written;
+  for (const ExpressionPtr& operand : operands) {
+    if (!written.sql.empty()) written.sql += word;
+    written.sql += Condition(*operand);
+  }
+  written.sql = fmt::format("({})", written.sql);
+  written.value = ValueClass::boolean;
+  written.may_fault = true;
+  written.is_condition = true;
+  return written;
+}
+
+}  // namespace rbt::dialect
