@@ -22,4 +22,8 @@ struct SelectionData {
 
 extern SelectionData Selection;
 
+/// After a change of the kind mask from `PrevMaterialKindMask`: a mode that shows nothing but shapes which
+/// the new kinds do not have goes back to 0.
+void ResetMeaninglessModes(SelectionData& selection);
+
 }  // namespace rbt

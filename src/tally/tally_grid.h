@@ -19,6 +19,7 @@ struct TallyTable {
   Checked2D<Currency, 20, 19> StockWeight;          ///< stock weight per cell
   Checked2D<Currency, 20, 19> InstalledWeight;      ///< installed weight per cell
   Checked2D<double, 13, 19> CutLengthM;             ///< metres of installed bar, a working table
+  CheckedArray<double, 12> LengthWithoutColumnM;    ///< metres that the page and name tallies keep in no cell
   CheckedArray<Currency, 20> StockWeightByDia;      ///< sum of the cells, each rounded to a whole kilogram
   CheckedArray<Currency, 20> InstalledWeightByDia;  ///< sum of the installed cells
   CheckedArray<std::int32_t, 20> WeldCount;         ///< gas pressure welds
@@ -43,6 +44,8 @@ struct TallyTable {
   double LossRatePercent = 0.0;
   std::int32_t HighStrengthRowCount = 0;  ///< rows of 予備2 3 seen
   std::string StockWarningText;  ///< the last row whose stock length has no column; empty when all had one
+
+  friend bool operator==(const TallyTable&, const TallyTable&) = default;
 };
 
 extern TallyTable TallyGrid;

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "tally/clauses.h"
+
+namespace rbt {
+namespace {
+
+struct MaskText {
+  std::int32_t mask;
+  std::string_view text;
+};
+
+constexpr MaskText kFormClauses[] = {
+    {1, " AND 予備3 = 1"},
+    {2, " AND 予備3 = 2"},
+    {3, " AND (予備3 = 1 OR 予備3 = 2)"},
+    {4, " AND 予備3 = 3"},
+    {5, " AND (予備3 = 1 OR 予備3 = 3)"},
+    {6, " AND (予備3 = 2 OR 予備3 = 3)"},
+    {7, " AND (予備3 = 1 OR 予備3 = 2 OR 予備3 = 3)"},
+    {8, " AND (予備3 = 4)"},
+    {9, " AND (予備3 = 1 OR 予備3 = 4)"},
+    {10, " AND (予備3 = 2 OR 予備3 = 4)"},
+    {11, " AND (予備3 = 1 OR 予備3 = 2 OR 予備3 = 4)"},
+    {12, " AND (予備3 = 3 OR 予備3 = 4)"},
+    {13, " AND (予備3 = 1 OR 予備3 = 3 OR 予備3 = 4)"},
+    {14, " AND (予備3 = 2 OR 予備3 = 3 OR 予備3 = 4)"},
+};
+
+// Every kind keeps the Ulbon rows, which the tally itself takes or leaves. The 2 of mask 8 stands outside the
+// parenthesis, so that it leaves every condition before it: Ulbon rows come in whatever the range or the
+// form.
+constexpr MaskText kKindClauses[] = {
+    {1, " AND (予備2<=1 or IsNull(予備2) or 予備2=2)"},
+    {2, " AND (予備2=4 or 予備2=2)"},
+    {3, " AND (予備2<=1 or 予備2=4 or IsNull(予備2) or 予備2=2)"},
+    {4, " AND (予備2=3 or 予備2=2)"},
+    {5, " AND (予備2<=1 or IsNull(予備2) or 予備2=3 or 予備2=2)"},
+    {6, " AND (予備2=3 or 予備2=4 or 予備2=2)"},
+    {7, " AND (予備2<=1 or IsNull(予備2) or 予備2=3 or 予備2=4 or 予備2=2)"},
+    {8, " AND (予備2=5) or 予備2=2"},
+    {9, " AND (予備2<=1 or IsNull(予備2) or 予備2=5 or 予備2=2)"},
+    {10, " AND (予備2=4 or 予備2=5 or 予備2=2)"},
+    {11, " AND (予備2<=1 or IsNull(予備2) or 予備2=4 or 予備2=5 or 予備2=2)"},
+    {12, " AND (予備2=3 or 予備2=5 or 予備2=2)"},
+    {13, " AND (予備2<=1 or IsNull(予備2) or 予備2=3 or 予備2=5 or 予備2=2)"},
+    {14, " AND (予備2=3 or 予備2=4 or 予備2=5 or 予備2=2)"},
+};
+
+constexpr std::string_view kAnchorPlateShapes =
+    " AND (形状No=138 OR 形状No=140 OR (形状No Between 143 And 147) OR 形状No=161 OR (形状No Between 164 And "
+    "169) OR (形状No Between 175 And 176))";
+constexpr std::string_view kOtherThanAnchorPlateShapes =
+    " AND (IsNull(形状No) OR 形状No=0 or 形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR (形状No "
+    "Between 148 And 160) OR (形状No Between 162 And 163) OR (形状No Between 170 And 174) OR 形状No >=177)";
+
+template <std::size_t N>
+std::string_view TextOfMask(const MaskText (&table)[N], std::int32_t mask) {
+  for (const MaskText& row : table) {
+    if (row.mask == mask) return row.text;
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string_view AnchorPlateClause(std::int32_t anchor_plate_mode) {
+  switch (anchor_plate_mode) {
+    case 1:
+      return kOtherThanAnchorPlateShapes;
+    case 2:
+      return kAnchorPlateShapes;
+    default:
+      return "";
+  }
+}
+
+std::string_view FormClause(std::int32_t material_form_mask) {
+  return TextOfMask(kFormClauses, material_form_mask);
+}
+
+std::string_view KindClause(std::int32_t material_kind_mask) {
+  return TextOfMask(kKindClauses, material_kind_mask);
+}
+
+}  // namespace rbt

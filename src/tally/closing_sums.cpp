@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "tally/closing_sums.h"
+
+#include "platform/numbers/number_words.h"
+#include "tally/bar_tables.h"
+
+namespace rbt {
+namespace {
+
+void SumDiameter(TallyTable& table, int d, const ClosingRules& rules) {
+  const int columns = rules.sum_13m_column ? kStockColumns : kColumnsTo12m;
+  for (int l = 0; l < columns; ++l) {
+    table.InstalledWeight[d][l] += Currency::FromDouble(table.CutLengthM[d][l] * UnitWeight(d));
+    table.StockWeightByDia[d] += WholeKilograms(table.StockWeight[d][l]);
+    table.InstalledWeightByDia[d] += table.InstalledWeight[d][l];
+  }
+  table.InstalledWeightByDia[d] += Currency::FromDouble(table.LengthWithoutColumnM[d] * UnitWeight(d));
+  if (rules.cap_installed_weight && table.InstalledWeightByDia[d] > table.StockWeightByDia[d]) {
+    table.InstalledWeightByDia[d] = table.StockWeightByDia[d];
+  }
+}
+
+void AddToTotals(TallyTable& table, int d) {
+  table.TotalStockWeight += WholeKilograms(table.StockWeightByDia[d]);
+  table.TotalInstalledWeight += WholeKilograms(table.InstalledWeightByDia[d]);
+  table.TotalWeldCount = AddInt32(table.TotalWeldCount, table.WeldCount[d], "TotalWeldCount");
+  table.TotalThreadCount = AddInt32(table.TotalThreadCount, table.ThreadCount[d], "TotalThreadCount");
+  table.TotalPlateCount = AddInt32(table.TotalPlateCount, table.PlateCount[d], "TotalPlateCount");
+  table.TotalCutCount = AddInt32(table.TotalCutCount, table.CutCount[d], "TotalCutCount");
+}
+
+double LossRate(Currency stock, Currency installed) {
+  if (stock == Currency() || installed == Currency()) return 0.0;
+  return (stock - installed).ToDouble() / installed.ToDouble() * 100.0;
+}
+
+}  // namespace
+
+void CloseSums(TallyTable& table, const ClosingRules& rules) {
+  for (int d = 0; d < kDeformedRows; ++d) {
+    SumDiameter(table, d, rules);
+    AddToTotals(table, d);
+  }
+  table.LossRatePercent = LossRate(table.TotalStockWeight, table.TotalInstalledWeight);
+}
+
+}  // namespace rbt

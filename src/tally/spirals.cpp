@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tally/spirals.h"
+
+#include "tally/bar_tables.h"
+
+namespace rbt {
+namespace {
+
+enum Spiral : int { kDeformed = 0, kUlbon = 1, kHighStrength = 2 };
+
+constexpr std::int32_t kKindBitDeformed = 1;
+constexpr std::int32_t kKindBitHighStrength = 4;
+
+void AddSpiral(TallyTable& table, const SpiralRow& row, const SelectionData& selection) {
+  if (row.material == 1 && (selection.MaterialKindMask & kKindBitDeformed) != 0) {
+    table.SpiralWeight[kDeformed] += row.weight;
+  } else if (row.material == 2 && selection.IncludeUlbon == 1) {
+    table.SpiralWeight[kUlbon] += row.weight;
+    table.SpiralUlbonByDia[row.diameter_code ? UlbonIndex(*row.diameter_code) : -1] += row.weight;
+  } else if (row.material == 3 && (selection.MaterialKindMask & kKindBitHighStrength) != 0) {
+    table.SpiralWeight[kHighStrength] += row.weight;
+  }
+}
+
+/// Files of sites without spirals have no such table.
+bool HasSpiralTable(Database& companion) {
+  const auto table = companion.FindTable("スパイラル");
+  return table != nullptr && table->FindField("材質") != nullptr && table->FindField("径") != nullptr &&
+         table->FindField("全重量") != nullptr;
+}
+
+}  // namespace
+
+std::vector<SpiralRow> ReadSpirals(Database& companion) {
+  std::vector<SpiralRow> spirals;
+  if (!HasSpiralTable(companion)) return spirals;
+  Recordset rows = companion.OpenSnapshot(
+      "SELECT 材質,径,sum(全重量) as 重量 FROM スパイラル "
+      " GROUP BY 材質,径 ORDER BY 材質,径");
+  const FieldHandle material = rows.Field("材質");
+  const FieldHandle diameter = rows.Field("径");
+  const FieldHandle weight = rows.Field("重量");
+  for (; !rows.Eof(); rows.MoveNext()) {
+    spirals.push_back({rows.Int32(material), rows.Int32(diameter),
+                       Currency::FromDouble(rows.Double(weight).value_or(0.0))});
+  }
+  return spirals;
+}
+
+bool LeavesSpiralsOut(const SelectionData& selection) {
+  return selection.HoopMode == 2 || selection.AnchorPlateMode == 2;
+}
+
+void FoldSpirals(TallyTable& table, std::span<const SpiralRow> rows, const SelectionData& selection) {
+  table.SpiralTotal = Currency();
+  table.SpiralWeight.Clear();
+  table.SpiralUlbonByDia.Clear();
+  table.SpiralKinds = 0;
+  if (LeavesSpiralsOut(selection)) return;
+  for (const SpiralRow& row : rows) AddSpiral(table, row, selection);
+  for (const int spiral : {kDeformed, kUlbon, kHighStrength}) {
+    table.SpiralWeight[spiral] = WholeKilograms(table.SpiralWeight[spiral]);
+    if (table.SpiralWeight[spiral] > Currency()) {
+      table.SpiralKinds |= 1 << spiral;
+      table.SpiralTotal += table.SpiralWeight[spiral];
+    }
+  }
+}
+
+}  // namespace rbt

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "tally/tally_grid.h"
+
+namespace rbt {
+
+TallyTable TallyGrid;
+
+}  // namespace rbt

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "tally/captions.h"
+
+#include <gtest/gtest.h>
+
+namespace rbt {
+namespace {
+
+TEST(KindCaption, NamesTheKindsOfTheMaskInTheirOrder) {
+  EXPECT_EQ(KindCaption(1), "異形のみ");
+  EXPECT_EQ(KindCaption(11), "異形･ネジ･スリット");
+  EXPECT_EQ(KindCaption(15), "異形･ネジ･高強度･スリット");
+  EXPECT_EQ(KindCaption(0), "");
+  EXPECT_EQ(KindCaption(16), "");
+}
+
+TEST(TotalRowLabel, KeepsTheCrossedLabelsOf10To13) {
+  EXPECT_EQ(TotalRowLabel(10), "高強度･スリット");
+  EXPECT_EQ(TotalRowLabel(11), "異形･高強度･ｽﾘｯﾄ");
+  EXPECT_EQ(TotalRowLabel(12), "ネジ･スリット");
+  EXPECT_EQ(TotalRowLabel(13), "異形･ﾈｼﾞ･高強度合計");
+}
+
+TEST(TotalRowLabel, HasOneForAnUnknownMask) {
+  EXPECT_EQ(TotalRowLabel(0), TotalRowLabel(16));
+  EXPECT_EQ(TotalRowLabel(16), "合　　　　   計");
+  EXPECT_EQ(TotalRowLabel(15), "す　 べ 　て");
+}
+
+TEST(FormCaption, NamesTheFormsOfTheMask) {
+  EXPECT_EQ(FormCaption(1), "生材");
+  EXPECT_EQ(FormCaption(7), "生･生加･切");
+  EXPECT_EQ(FormCaption(14), "生加･切･切加");
+  EXPECT_EQ(FormCaption(15), "すべて");
+  EXPECT_EQ(FormCaption(0), "すべて");
+}
+
+TEST(ShortFormCaption, ShortensTheSingleFormsOnly) {
+  EXPECT_EQ(ShortFormCaption(1), "生");
+  EXPECT_EQ(ShortFormCaption(2), "生加");
+  EXPECT_EQ(ShortFormCaption(4), "切");
+  EXPECT_EQ(ShortFormCaption(8), "切加");
+  EXPECT_EQ(ShortFormCaption(3), "生･生加");
+  EXPECT_EQ(ShortFormCaption(15), "すべて");
+}
+
+TEST(StripSlitWord, TakesTheKindWithItsDotWhicheverDotItIs) {
+  EXPECT_EQ(StripSlitWord("異形･ネジ･高強度･スリット"), "異形･ネジ･高強度");
+  EXPECT_EQ(StripSlitWord("異形・高強度・ネジ・スリット"), "異形・高強度・ネジ");
+  EXPECT_EQ(StripSlitWord("スリット合  計"), "合  計");
+}
+
+TEST(StripSlitWord, LeavesOnlyTheEndingOfTheSlitKindAlone) {
+  EXPECT_EQ(StripSlitWord("スリットのみ"), "のみ");
+}
+
+TEST(StripSlitWord, LeavesTheHalfWidthWordAlone) {
+  EXPECT_EQ(StripSlitWord("異形･高強度･ｽﾘｯﾄ"), "異形･高強度･ｽﾘｯﾄ");
+}
+
+TEST(ShowsNoSlitWord, IsForStartModes1And3And4) {
+  for (const int mode : {1, 3, 4}) EXPECT_TRUE(ShowsNoSlitWord(mode)) << mode;
+  for (const int mode : {-1, 0, 2, 5}) EXPECT_FALSE(ShowsNoSlitWord(mode)) << mode;
+}
+
+}  // namespace
+}  // namespace rbt

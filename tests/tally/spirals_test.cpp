@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "tally/spirals.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+
+namespace rbt {
+namespace {
+
+Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+
+const std::vector<SpiralRow> kAllMaterials = {
+    {1, 10, Kg(10.4)}, {1, 13, Kg(10.2)}, {2, 6, Kg(5.25)}, {2, 9, Kg(5.25)}, {3, 13, Kg(7.5)}};
+
+TallyTable Folded(const std::vector<SpiralRow>& rows, const SelectionData& selection) {
+  TallyTable table;
+  table.SpiralKinds = 9;
+  table.SpiralTotal = Kg(9);
+  table.SpiralWeight[0] = Kg(9);
+  table.SpiralUlbonByDia[0] = Kg(9);
+  FoldSpirals(table, rows, selection);
+  return table;
+}
+
+TEST(FoldSpirals, SumEachMaterialThenRoundToWholeKilograms) {
+  const TallyTable table = Folded(kAllMaterials, {});
+  EXPECT_EQ(table.SpiralWeight[0], Kg(21));  // 20.6
+  EXPECT_EQ(table.SpiralWeight[1], Kg(11));  // 10.5
+  EXPECT_EQ(table.SpiralWeight[2], Kg(8));   // 7.5
+  EXPECT_EQ(table.SpiralKinds, 7);
+  EXPECT_EQ(table.SpiralTotal, Kg(40));
+}
+
+TEST(FoldSpirals, KeepUlbonUnroundedByDiameter) {
+  const TallyTable table = Folded(kAllMaterials, {});
+  EXPECT_EQ(table.SpiralUlbonByDia[12], Kg(5.25));
+  EXPECT_EQ(table.SpiralUlbonByDia[14], Kg(5.25));
+  EXPECT_EQ(table.SpiralUlbonByDia[0], Kg(0));
+}
+
+TEST(FoldSpirals, FollowTheKindsOfTheSelection) {
+  SelectionData selection;
+  selection.MaterialKindMask = 4;
+  selection.IncludeUlbon = 0;
+  TallyTable table = Folded(kAllMaterials, selection);
+  EXPECT_EQ(table.SpiralKinds, 4);
+  EXPECT_EQ(table.SpiralTotal, Kg(8));
+  EXPECT_EQ(table.SpiralUlbonByDia[12], Kg(0));
+  selection.MaterialKindMask = 9;
+  table = Folded(kAllMaterials, selection);
+  EXPECT_EQ(table.SpiralKinds, 1);
+  EXPECT_EQ(table.SpiralTotal, Kg(21));
+}
+
+TEST(FoldSpirals, CountOnlyMaterialsWithWeight) {
+  const TallyTable table = Folded({{1, 10, Kg(0.4)}, {3, 10, Kg(-2)}, {9, 10, Kg(5)}}, {});
+  EXPECT_EQ(table.SpiralKinds, 0);
+  EXPECT_EQ(table.SpiralTotal, Kg(0));
+}
+
+TEST(FoldSpirals, LeaveEverythingAt0WhenHoopsOrPlatesAloneAreTallied) {
+  SelectionData hoops;
+  hoops.HoopMode = 2;
+  EXPECT_EQ(Folded(kAllMaterials, hoops), TallyTable());
+  SelectionData plates;
+  plates.AnchorPlateMode = 2;
+  EXPECT_EQ(Folded(kAllMaterials, plates), TallyTable());
+  SelectionData without;
+  without.HoopMode = 1;
+  without.AnchorPlateMode = 1;
+  EXPECT_EQ(Folded(kAllMaterials, without).SpiralTotal, Kg(40));
+}
+
+TEST(FoldSpirals, FaultAtAnUlbonSpiralOfNoUlbonDiameter) {
+  EXPECT_THROW(Folded({{2, 10, Kg(1)}}, {}), Fault);
+  EXPECT_THROW(Folded({{2, std::nullopt, Kg(1)}}, {}), Fault);
+  SelectionData no_ulbon;
+  no_ulbon.IncludeUlbon = 0;
+  EXPECT_EQ(Folded({{2, 10, Kg(1)}}, no_ulbon), TallyTable());
+}
+
+}  // namespace
+}  // namespace rbt
