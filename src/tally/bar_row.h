@@ -1,25 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
-#include <string_view>
 
-#include "platform/store/recordset.h"
+#include "data/materials.h"
+#include "data/shapes.h"
 
 namespace rbt {
-
-/// 形状No of the welded closed hoop, 溶接閉鎖型フープ.
-inline constexpr std::int32_t kHoopShape = 87;
-/// 部位 whose cuts belong to the diameter that the bar is welded to.
-inline constexpr std::int32_t kPartCutAtWeldDiameter = 2;
-/// Codes of 予備2, the material kind; null, 0 and 1 are deformed bars.
-inline constexpr std::int32_t kKindUlbon = 2;
-inline constexpr std::int32_t kKindHighStrength = 3;
-inline constexpr std::int32_t kKindThreaded = 4;
 
 /// What a tally by rows reads of one row of 加工テーブル. Nothing where the column is null or the file lacks
 /// it.
@@ -40,29 +29,13 @@ struct BarRow {
   std::optional<std::int32_t> cuts;                ///< 切断
   std::optional<std::int32_t> kind;                ///< 予備2
 
-  bool IsHoop() const { return shape == kHoopShape; }
+  bool IsOf(MaterialKind code) const { return kind == static_cast<std::int32_t>(code); }
+  bool IsHoop() const { return shape == kWeldedHoopShape; }
 };
 
 /// The digits of a number, empty for null.
 std::string NumberText(const std::optional<std::int32_t>& number);
 /// "加工テーブル 3頁 12行"; empty numbers where they are null.
 std::string PlaceOf(const BarRow& row);
-
-/// Reads `BarRow`s from a snapshot over 加工テーブル; columns are resolved once. Files of older versions may
-/// lack 圧接太さ, ネジ数, 定着板数 and 切断: those read as null; any other that is missing throws `field not
-/// found`.
-class BarRowReader {
- public:
-  /// The columns to narrow the snapshot to.
-  static std::span<const std::string_view> Columns();
-
-  explicit BarRowReader(const Recordset& rows);
-
-  /// The current row. A fault names the row's page and line.
-  BarRow Read(const Recordset& rows) const;
-
- private:
-  std::array<std::optional<FieldHandle>, 15> fields_;
-};
 
 }  // namespace rbt

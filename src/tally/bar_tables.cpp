@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 
+#include "data/materials.h"
 #include "platform/numbers/number_words.h"
 #include "tally/checked_array.h"
 
@@ -22,6 +23,17 @@ constexpr Diameter kDiameters[kDiameterRows] = {
     {41, "D41", 10.5}, {51, "D51", 15.9},  {6, "U 6", 0.235}, {7, "U 7", 0.315}, {9, "U 9", 0.5},
     {11, "U11", 0.71}, {12, "U12", 0.98},  {16, "U16", 1.56},
 };
+
+constexpr bool RowsFollowTheVocabulary() {
+  for (std::size_t d = 0; d < kDeformedDiameters.size(); ++d) {
+    if (kDiameters[d].code != kDeformedDiameters[d]) return false;
+  }
+  for (std::size_t u = 0; u < kUlbonDiameters.size(); ++u) {
+    if (kDiameters[kDeformedDiameters.size() + u].code != kUlbonDiameters[u]) return false;
+  }
+  return kDeformedDiameters.size() + kUlbonDiameters.size() == kDiameterRows;
+}
+static_assert(RowsFollowTheVocabulary());
 
 const Diameter& RowOf(int d) {
   if (d < 0 || d >= kDiameterRows) {

@@ -4,15 +4,16 @@
 #include <utility>
 
 #include "data/run_state.h"
+#include "data/shapes.h"
 #include "data/site_context.h"
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "shell/config/settings.h"
-#include "tally/clauses.h"
+#include "tally/bulk_statement.h"
 #include "tally/closing_sums.h"
-#include "tally/row_fold.h"
-#include "tally/spirals.h"
+#include "tally/row_walk.h"
+#include "tally/spiral_reader.h"
 
 namespace rbt {
 namespace {
@@ -31,7 +32,7 @@ void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasAnchorPlateRows = false;
   if (selection.StartMode == 1 || selection.StartMode == 3) return;
   const std::string so_far = BulkStatementSoFar(selection);
-  RunState.HasAnchorPlateRows = site.HasRows(so_far + std::string(AnchorPlateClause(2)));
+  RunState.HasAnchorPlateRows = site.HasRows(so_far + std::string(kAnchorPlateClause));
   RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");
 }
 
@@ -45,23 +46,6 @@ RowRules BulkRowRules(const SelectionData& selection) {
 }
 
 }  // namespace
-
-std::string BulkStatementSoFar(const SelectionData& selection) {
-  std::string statement =
-      "SELECT * "
-      "FROM 加工テーブル "
-      "WHERE 太さ is not NULL AND 伸定尺 is not NULL AND 本数 is not NULL";
-  statement += FormClause(selection.MaterialFormMask);
-  statement += KindClause(selection.MaterialKindMask);
-  return statement;
-}
-
-std::string BulkStatement(const SelectionData& selection, bool has_hoop_rows) {
-  std::string statement = BulkStatementSoFar(selection);
-  if (has_hoop_rows && selection.HoopMode == 2) statement += " AND 形状No=87 ";
-  statement += AnchorPlateClause(selection.AnchorPlateMode);
-  return statement;
-}
 
 void SetAccumulationLoader(AccumulationLoader loader) { accumulation_loader = std::move(loader); }
 

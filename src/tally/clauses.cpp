@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tally/clauses.h"
 
+#include "data/shapes.h"
+
 namespace rbt {
 namespace {
 
@@ -46,13 +48,6 @@ constexpr MaskText kKindClauses[] = {
     {14, " AND (予備2=3 or 予備2=4 or 予備2=5 or 予備2=2)"},
 };
 
-constexpr std::string_view kAnchorPlateShapes =
-    " AND (形状No=138 OR 形状No=140 OR (形状No Between 143 And 147) OR 形状No=161 OR (形状No Between 164 And "
-    "169) OR (形状No Between 175 And 176))";
-constexpr std::string_view kOtherThanAnchorPlateShapes =
-    " AND (IsNull(形状No) OR 形状No=0 or 形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR (形状No "
-    "Between 148 And 160) OR (形状No Between 162 And 163) OR (形状No Between 170 And 174) OR 形状No >=177)";
-
 template <std::size_t N>
 std::string_view TextOfMask(const MaskText (&table)[N], std::int32_t mask) {
   for (const MaskText& row : table) {
@@ -66,9 +61,9 @@ std::string_view TextOfMask(const MaskText (&table)[N], std::int32_t mask) {
 std::string_view AnchorPlateClause(std::int32_t anchor_plate_mode) {
   switch (anchor_plate_mode) {
     case 1:
-      return kOtherThanAnchorPlateShapes;
+      return kNoAnchorPlateClause;
     case 2:
-      return kAnchorPlateShapes;
+      return kAnchorPlateClause;
     default:
       return "";
   }

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "data/parts.h"
 #include "platform/numbers/number_words.h"
-#include "shell/config/settings.h"
 #include "tally/bar_tables.h"
 
 namespace rbt {
@@ -42,7 +42,7 @@ void AddWelds(CheckedArray<std::int32_t, N>& welds, int index, const BarRow& row
 
 /// A cut of the part whose bars end in a weld is made at the diameter that they are welded to.
 int CutRow(const BarRow& row, int d) {
-  const bool at_weld = row.part == kPartCutAtWeldDiameter && row.weld_diameter_code.value_or(0) != 0;
+  const bool at_weld = row.part == kCutPart && row.weld_diameter_code.value_or(0) != 0;
   return at_weld ? DiameterIndex(*row.weld_diameter_code) : d;
 }
 
@@ -56,7 +56,7 @@ void AddThreadsPlatesCuts(TallyTable& table, int d, const BarRow& row, bool thre
 }
 
 void CountHighStrength(TallyTable& table, const BarRow& row) {
-  if (row.kind != kKindHighStrength) return;
+  if (!row.IsOf(MaterialKind::high_strength)) return;
   table.HighStrengthRowCount = AddInt32(table.HighStrengthRowCount, 1, "予備2");
 }
 
@@ -67,7 +67,7 @@ void FoldDeformed(TallyTable& table, int d, int l, const BarRow& row, const RowR
     table.CutLengthM[d][l] += InstalledMetres(row);
   }
   AddWelds(table.WeldCount, WeldRow(row, d), row, rules);
-  AddThreadsPlatesCuts(table, d, row, row.kind == kKindThreaded, rules);
+  AddThreadsPlatesCuts(table, d, row, row.IsOf(MaterialKind::threaded), rules);
   CountHighStrength(table, row);
 }
 
@@ -85,8 +85,8 @@ void FoldUlbon(TallyTable& table, const BarRow& row, bool weight_from_all_metres
 
 bool CountsWithoutColumn(const BarRow& row, const RowRules& rules) {
   if (!rules.counts_without_column_by_choice) return true;
-  const bool high_strength = row.kind == kKindHighStrength;
-  const bool plain = row.kind.value_or(0) < kKindUlbon;
+  const bool high_strength = row.IsOf(MaterialKind::high_strength);
+  const bool plain = row.kind.value_or(0) < static_cast<std::int32_t>(MaterialKind::ulbon);
   switch (*rules.counts_without_column_by_choice) {
     case 0:
       return plain;
@@ -121,7 +121,7 @@ void FoldWithoutColumn(TallyTable& table, int d, bool deformed, const BarRow& ro
     }
   }
   table.StockWarningText = StockWarning(row);
-  if (rules.length_without_column_in_first_cell && row.kind != kKindUlbon) {
+  if (rules.length_without_column_in_first_cell && !row.IsOf(MaterialKind::ulbon)) {
     table.CutLengthM[d][0] += InstalledMetres(row);
   }
 }
@@ -129,7 +129,7 @@ void FoldWithoutColumn(TallyTable& table, int d, bool deformed, const BarRow& ro
 void FoldPlacedRow(TallyTable& table, const BarRow& row, const RowRules& rules) {
   if (!row.diameter_code) return;
   const int d = DiameterIndex(*row.diameter_code);
-  const bool deformed = row.kind != kKindUlbon && d >= 0;
+  const bool deformed = !row.IsOf(MaterialKind::ulbon) && d >= 0;
   const int l = row.stock_length_m ? StockIndex(*row.stock_length_m) : -1;
   if (l < 0 || *row.diameter_code == 0) {
     FoldWithoutColumn(table, d, deformed, row, rules);
@@ -148,16 +148,6 @@ void FoldRow(TallyTable& table, const BarRow& row, const RowRules& rules) {
   } catch (const Fault& fault) {
     throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
   }
-}
-
-void FoldRows(TallyTable& table, Database& site, std::string_view statement, const RowRules& rules) {
-  Recordset rows = site.OpenSnapshot(statement, BarRowReader::Columns());
-  const BarRowReader reader(rows);
-  for (; !rows.Eof(); rows.MoveNext()) FoldRow(table, reader.Read(rows), rules);
-}
-
-bool ReadCountHoopWelds() {
-  return ReadSetting("Kakou", "重量集計", "溶接フープの圧接数", std::int32_t{1}) != 0;
 }
 
 }  // namespace rbt

@@ -3,9 +3,7 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
-#include "platform/store/database.h"
 #include "tally/bar_row.h"
 #include "tally/tally_grid.h"
 
@@ -39,11 +37,5 @@ struct RowRules {
 /// Adds one row of the schedule to the table. Null adds nothing. Faults: `subscript out of range` for a
 /// diameter that belongs to no row, `overflow` of a count; both name the row's page and line.
 void FoldRow(TallyTable& table, const BarRow& row, const RowRules& rules);
-
-/// Adds every row of a statement over 加工テーブル.
-void FoldRows(TallyTable& table, Database& site, std::string_view statement, const RowRules& rules);
-
-/// The setting 溶接フープの圧接数, read anew at the start of each tally.
-bool ReadCountHoopWelds();
 
 }  // namespace rbt

@@ -4,9 +4,8 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <vector>
 
-#include "platform/store/database.h"
+#include "platform/numbers/currency.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -18,9 +17,6 @@ struct SpiralRow {
   std::optional<std::int32_t> diameter_code;  ///< 径
   Currency weight;                            ///< 重量, kilograms; null is 0
 };
-
-/// The spirals of a site, summed by material and diameter; none when the file has no table スパイラル.
-std::vector<SpiralRow> ReadSpirals(Database& companion);
 
 /// Sets the spiral fields of the table: the selection's materials in whole kilograms each, their total, and
 /// Ulbon by diameter unrounded. All are 0 when the tally shows hoops or anchor plates only. Faults:

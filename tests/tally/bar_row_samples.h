@@ -28,13 +28,13 @@ inline BarRow U9Row() {
   row.cut_length_mm = 1500;
   row.stock_length_m = 5.5;
   row.stock_bars = 4;
-  row.kind = kKindUlbon;
+  row.kind = 2;
   return row;
 }
 
 inline BarRow D19Hoop() {
   BarRow row = D19Row();
-  row.shape = kHoopShape;
+  row.shape = kWeldedHoopShape;
   row.welds = 4;
   return row;
 }

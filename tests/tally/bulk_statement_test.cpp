@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "tally/bulk_statement.h"
+
 #include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "tally/bulk_tally.h"
 #include "tally/clauses.h"
 
 namespace rbt {

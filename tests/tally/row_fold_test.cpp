@@ -13,6 +13,10 @@
 namespace rbt {
 namespace {
 
+constexpr std::int32_t kUlbon = 2;
+constexpr std::int32_t kHighStrength = 3;
+constexpr std::int32_t kThreaded = 4;
+
 using test::D19Hoop;
 using test::D19Row;
 using test::U9Row;
@@ -128,7 +132,7 @@ TEST(FoldRow, FaultsAtAWeldToAThickerBarOfNoDiameterUnlessThereIsNoWeld) {
 TEST(FoldRow, LeavesHoopsOutOfBarsAndWeldsButNotOfTheOtherCounts) {
   RowRules rules = Bulk();
   rules.hoop_mode = 1;
-  BarRow row = WithKind(D19Hoop(), kKindThreaded);
+  BarRow row = WithKind(D19Hoop(), kThreaded);
   row.threads = 5;
   row.plates = 6;
   row.cuts = 7;
@@ -158,7 +162,7 @@ TEST(FoldRow, CountsThreadsOfThreadedBarsOnly) {
   for (const std::optional<std::int32_t> kind : {std::optional<std::int32_t>(), {0}, {1}, {3}, {5}}) {
     EXPECT_EQ(Folded(WithKind(row, kind)).ThreadCount[3], 0);
   }
-  EXPECT_EQ(Folded(WithKind(row, kKindThreaded)).ThreadCount[3], 5);
+  EXPECT_EQ(Folded(WithKind(row, kThreaded)).ThreadCount[3], 5);
 }
 
 TEST(FoldRow, CountsPlatesOfEveryKind) {
@@ -200,9 +204,9 @@ TEST(FoldRow, PassesOverACutOfPart2AtNoDeformedDiameter) {
 TEST(FoldRow, CountsHighStrengthRowsHoopsToo) {
   RowRules rules = Bulk();
   rules.hoop_mode = 1;
-  EXPECT_EQ(Folded(WithKind(D19Hoop(), kKindHighStrength), rules).HighStrengthRowCount, 1);
-  EXPECT_EQ(Folded(WithKind(D19Row(), kKindHighStrength)).HighStrengthRowCount, 1);
-  EXPECT_EQ(Folded(WithKind(D19Row(), kKindThreaded)).HighStrengthRowCount, 0);
+  EXPECT_EQ(Folded(WithKind(D19Hoop(), kHighStrength), rules).HighStrengthRowCount, 1);
+  EXPECT_EQ(Folded(WithKind(D19Row(), kHighStrength)).HighStrengthRowCount, 1);
+  EXPECT_EQ(Folded(WithKind(D19Row(), kThreaded)).HighStrengthRowCount, 0);
 }
 
 TEST(FoldRow, GivesUlbonLengthWeightAndWeldsAndNothingElse) {
@@ -233,7 +237,7 @@ TEST(FoldRow, LeavesUlbonOutWhenItIsNotTallied) {
 
 TEST(FoldRow, AppliesTheHoopRulesToUlbon) {
   BarRow row = U9Row();
-  row.shape = kHoopShape;
+  row.shape = kWeldedHoopShape;
   row.welds = 10;
   RowRules rules = Bulk();
   rules.hoop_mode = 1;
@@ -245,7 +249,7 @@ TEST(FoldRow, AppliesTheHoopRulesToUlbon) {
 }
 
 TEST(FoldRow, FaultsAtAThinBarThatIsNoUlbonDiameter) {
-  EXPECT_EQ(FaultOf(WithKind(D19Row(), kKindUlbon)), FaultKind::subscript_out_of_range);
+  EXPECT_EQ(FaultOf(WithKind(D19Row(), kUlbon)), FaultKind::subscript_out_of_range);
   BarRow row = U9Row();
   row.diameter_code = 14;
   row.pieces = std::nullopt;  // also when it would add nothing
@@ -347,7 +351,7 @@ TEST(FoldRow, LeavesUlbonHoopsWithoutColumnOutButWarns) {
   RowRules rules = Bulk();
   rules.hoop_mode = 1;
   BarRow row = WithStock(U9Row(), 0.0);
-  row.shape = kHoopShape;
+  row.shape = kWeldedHoopShape;
   TallyTable expected;
   expected.StockWarningText = " 3頁の12行目の定尺を確認";
   EXPECT_EQ(Folded(row, rules), expected);
@@ -363,7 +367,7 @@ TEST(FoldRow, FaultsAtDiameter0UnlessTheRowIsUlbon) {
   EXPECT_EQ(FaultOf(row), FaultKind::subscript_out_of_range);
   TallyTable expected;
   expected.StockWarningText = " 3頁の12行目の定尺を確認";
-  EXPECT_EQ(Folded(WithKind(row, kKindUlbon)), expected);
+  EXPECT_EQ(Folded(WithKind(row, kUlbon)), expected);
 }
 
 TEST(FoldRow, FaultsWhenACountLeaves32Bits) {

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "tally/row_walk.h"
+
+#include "shell/config/settings.h"
+#include "tally/bar_row_reader.h"
+
+namespace rbt {
+
+void FoldRows(TallyTable& table, Database& site, std::string_view statement, const RowRules& rules) {
+  Recordset rows = site.OpenSnapshot(statement, BarRowReader::Columns());
+  const BarRowReader reader(rows);
+  for (; !rows.Eof(); rows.MoveNext()) FoldRow(table, reader.Read(rows), rules);
+}
+
+bool ReadCountHoopWelds() {
+  return ReadSetting("Kakou", "重量集計", "溶接フープの圧接数", std::int32_t{1}) != 0;
+}
+
+}  // namespace rbt

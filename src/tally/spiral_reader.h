@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "platform/store/database.h"
+#include "tally/spirals.h"
+
+namespace rbt {
+
+/// The spirals of a site, summed by material and diameter; none when the file has no table スパイラル.
+std::vector<SpiralRow> ReadSpirals(Database& companion);
+
+}  // namespace rbt
