@@ -32,7 +32,7 @@ Recordset::Impl::Impl(Database::Impl& database, SelectStatement select, std::str
 void Recordset::Impl::Step() {
   state_ = State::at_end;
   while (rows_.Step()) {
-    if (!added_.empty() && added_.contains(RowNumber())) continue;
+    if (!done_.empty() && done_.contains(RowNumber())) continue;
     state_ = State::on_row;
     return;
   }
@@ -46,7 +46,7 @@ void Recordset::Impl::MoveNext() {
 
 void Recordset::Impl::MoveFirst() {
   DropEdits();
-  added_.clear();
+  done_.clear();
   rows_.Reset();
   Step();
 }
@@ -121,20 +121,27 @@ void Recordset::Impl::Update() {
       throw Refusal("neither Edit nor AddNew was called");
     case EditMode::add: {
       const std::int64_t row = Editor().Insert(pending_);
-      if (state_ != State::at_end) added_.insert(row);
+      if (state_ != State::at_end) done_.insert(row);
       break;
     }
     case EditMode::edit:
-      Editor().Update(RowNumber(), pending_);
-      for (std::size_t c = 0; c < pending_.size(); ++c) {
-        if (!pending_[c]) continue;
-        if (Editor().IsRowNumber(static_cast<int>(c))) added_.insert(std::get<std::int64_t>(*pending_[c]));
-        written_[c] = std::move(pending_[c]);
-      }
+      UpdateRow();
       break;
   }
   pending_.assign(columns_.size(), std::nullopt);
   mode_ = EditMode::none;
+}
+
+void Recordset::Impl::UpdateRow() {
+  Editor().Update(RowNumber(), pending_);
+  bool moves = false;
+  for (std::size_t c = 0; c < pending_.size(); ++c) {
+    if (!pending_[c]) continue;
+    moves = moves || Editor().MovesRow(c);
+    written_[c] = std::move(pending_[c]);
+  }
+  // The walk may follow an index: a row that moves in it must not be come upon again.
+  if (moves) done_.insert(RowNumber());
 }
 
 void Recordset::Impl::Delete() {
@@ -167,6 +174,8 @@ RowEditor& Recordset::Impl::Editor() const {
 }
 
 std::int64_t Recordset::Impl::RowNumber() const {
+  const auto own = editor_->RowNumberColumn();
+  if (own && written_[*own]) return std::get<std::int64_t>(*written_[*own]);
   return sqlite3_column_int64(rows_.Handle(), static_cast<int>(columns_.size()));
 }
 

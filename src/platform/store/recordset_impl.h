@@ -59,6 +59,7 @@ class Recordset::Impl {
   enum class EditMode { none, edit, add };
 
   void Step();
+  void UpdateRow();
   void StartEditing(EditMode mode);
   void DropEdits();
   const Value* EditedValue(FieldHandle field) const;
@@ -80,7 +81,7 @@ class Recordset::Impl {
   bool overlaid_ = false;                      ///< an edit runs, or has changed the current row
   std::vector<std::optional<Value>> pending_;  ///< set since Edit or AddNew
   std::vector<std::optional<Value>> written_;  ///< of the current row, since it was read
-  std::unordered_set<std::int64_t> added_;     ///< rows the walk must not come upon
+  std::unordered_set<std::int64_t> done_;      ///< rows the walk must not come upon again
 };
 
 }  // namespace rbt

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/store/row_editor.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "platform/store/stored_value.h"
@@ -16,29 +18,30 @@ RowEditor::RowEditor(Database::Impl& database, const SelectStatement& select, st
   if (stored == nullptr || select.grouped) {
     throw Fault{FaultKind::database, fmt::format("the rows of this statement cannot be edited: {}", text)};
   }
-  const TableDef& table = stored->def;
-  table_ = table.name;
+  table_ = stored->def.name;
   for (const auto& column : select.columns)
     columns_.push_back(column.field ? column.field->name : column.name);
   defaults_.resize(columns_.size());
+  indexed_.resize(columns_.size());
+  for (std::size_t f = 0; f < stored->def.fields.size(); ++f) Learn(*stored, f);
+}
 
-  for (std::size_t f = 0; f < table.fields.size(); ++f) {
-    const FieldDef& field = table.fields[f];
-    std::optional<std::size_t> place;
-    for (std::size_t c = 0; c < columns_.size(); ++c) {
-      if (columns_[c] == field.name) place = c;
-    }
-    const bool is_key = IsAutonumberKey(table, field);
-    if (field.autonumber) autonumbers_.push_back({field.name, is_key, place});
-    if (!place) continue;
-    if (field.default_value) {
-      defaults_[*place] = CheckedForField(field, Default(*field.default_value), {table_, field.name});
-    }
-    for (const IndexDef& index : table.indexes) {
-      const bool row_number = index.primary && index.fields.size() == 1 && index.fields[0] == field.name &&
-                              EqualIgnoringCase(stored->declared_types[f], "INTEGER");
-      if (row_number) row_number_column_ = static_cast<int>(*place);
-    }
+void RowEditor::Learn(const StoredTable& table, std::size_t field_index) {
+  const FieldDef& field = table.def.fields[field_index];
+  const auto place = std::find(columns_.begin(), columns_.end(), field.name);
+  std::optional<std::size_t> column;
+  if (place != columns_.end()) column = static_cast<std::size_t>(place - columns_.begin());
+  if (field.autonumber) autonumbers_.push_back({field.name, IsAutonumberKey(table.def, field), column});
+  if (!column) return;
+  if (field.default_value) {
+    defaults_[*column] = CheckedForField(field, Default(*field.default_value), {table_, field.name});
+  }
+  for (const IndexDef& index : table.def.indexes) {
+    if (std::find(index.fields.begin(), index.fields.end(), field.name) == index.fields.end()) continue;
+    indexed_[*column] = true;
+    const bool row_number = index.primary && index.fields.size() == 1 &&
+                            EqualIgnoringCase(table.declared_types[field_index], "INTEGER");
+    if (row_number) row_number_column_ = column;
   }
 }
 

@@ -30,8 +30,10 @@ class RowEditor {
   /// Adds a row of the values that are set, defaults for the rest; returns its number.
   std::int64_t Insert(const Values& values);
   void Delete(std::int64_t row);
-  /// True for the column that is the row's own number: changing it moves the row.
-  bool IsRowNumber(int column) const { return column == row_number_column_; }
+  /// True for a column on which an index stands: changing it may move the row along a walk.
+  bool MovesRow(std::size_t column) const { return indexed_[column]; }
+  /// The column that is the row's own number, if it is in the recordset.
+  std::optional<std::size_t> RowNumberColumn() const { return row_number_column_; }
 
  private:
   struct Autonumber {
@@ -40,6 +42,8 @@ class RowEditor {
     std::optional<std::size_t> column;  ///< in the recordset, if it is there
   };
 
+  /// Takes over what is to be known of one of the table's fields.
+  void Learn(const StoredTable& table, std::size_t field);
   std::int64_t NextNumber(const Autonumber& autonumber) const;
   Value Default(const std::string& literal) const;
   std::vector<std::size_t> ColumnsSet(const Values& values) const;
@@ -56,7 +60,8 @@ class RowEditor {
   std::map<std::vector<std::size_t>, Statement> updates_;
   std::map<std::vector<std::size_t>, Statement> inserts_;
   Statement delete_;
-  int row_number_column_ = -1;
+  std::vector<bool> indexed_;  ///< parallel to the columns
+  std::optional<std::size_t> row_number_column_;
 };
 
 }  // namespace rbt
