@@ -220,13 +220,4 @@ void RollBackQuietly(const Connection& connection, const char* sql) {
 
 std::int64_t FailedRollbacks() { return failed_rollbacks; }
 
-std::string Quoted(std::string_view name) {
-  std::string quoted = "\"";
-  for (const char c : name) {
-    if (c == '"') quoted += '"';
-    quoted += c;
-  }
-  return quoted + '"';
-}
-
 }  // namespace rbt

@@ -105,7 +105,4 @@ void RollBackQuietly(const Connection& connection, const char* sql);
 /// How often `RollBackQuietly` failed in this run.
 std::int64_t FailedRollbacks();
 
-/// An identifier in double quotes.
-std::string Quoted(std::string_view name);
-
 }  // namespace rbt

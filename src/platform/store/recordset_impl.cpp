@@ -17,10 +17,8 @@ Recordset::Impl::Impl(Database::Impl& database, SelectStatement select, std::str
       table_(select.tables.size() == 1 ? select.tables.front() : ""),
       rows_(database.Connected().Prepare(select.sql, text)),
       editor_(std::move(editor)) {
-  const int shown = sqlite3_column_count(rows_.Handle()) - (editor_ ? 1 : 0);
-  for (int c = 0; c < shown; ++c) {
-    auto& column = select.columns.at(static_cast<std::size_t>(c));
-    const char* const declared = sqlite3_column_decltype(rows_.Handle(), c);
+  for (auto& column : select.columns) {
+    const char* const declared = sqlite3_column_decltype(rows_.Handle(), FieldCount());
     if (column.field && !HasKnownType(declared == nullptr ? "" : declared)) column.field.reset();
     columns_.push_back({column.name, FoldIdentifier(column.name), std::move(column.field)});
   }

@@ -5,11 +5,14 @@
 
 #include <fmt/format.h>
 
+#include "platform/store/dialect/quoting.h"
 #include "platform/store/stored_value.h"
 #include "platform/store/table_sql.h"
 #include "platform/text/characters.h"
 
 namespace rbt {
+
+using dialect::QuoteName;
 
 RowEditor::RowEditor(Database::Impl& database, const SelectStatement& select, std::string_view text)
     : database_(database), text_(text) {
@@ -54,8 +57,8 @@ RowEditor::Values RowEditor::NewRow() {
 }
 
 std::int64_t RowEditor::NextNumber(const Autonumber& autonumber) const {
-  const std::string name = Quoted(autonumber.field);
-  const std::string last = fmt::format("SELECT ifnull(max({}), 0) AS last FROM {}", name, Quoted(table_));
+  const std::string name = QuoteName(autonumber.field);
+  const std::string last = fmt::format("SELECT ifnull(max({}), 0) AS last FROM {}", name, QuoteName(table_));
   if (!autonumber.is_key) return database_.Connected().IntegerOf(last) + 1;
   // A number that was given is not given again when its row is gone.
   Statement next = database_.Connected().Prepare(
@@ -84,10 +87,10 @@ std::vector<std::size_t> RowEditor::ColumnsSet(const Values& values) const {
 Statement RowEditor::PrepareUpdate(const std::vector<std::size_t>& columns) const {
   std::string assignments;
   for (const std::size_t c : columns) {
-    assignments += fmt::format("{}{} = ?", assignments.empty() ? "" : ", ", Quoted(columns_[c]));
+    assignments += fmt::format("{}{} = ?", assignments.empty() ? "" : ", ", QuoteName(columns_[c]));
   }
   return database_.Connected().Prepare(
-      fmt::format("UPDATE {} SET {} WHERE rowid = ?", Quoted(table_), assignments), text_);
+      fmt::format("UPDATE {} SET {} WHERE rowid = ?", QuoteName(table_), assignments), text_);
 }
 
 void RowEditor::Update(std::int64_t row, const Values& values) {
@@ -106,7 +109,7 @@ Statement RowEditor::PrepareInsert(const std::vector<std::size_t>& columns) cons
   std::string names;
   std::string places;
   const auto add = [&](const std::string& name) {
-    names += (names.empty() ? "" : ", ") + Quoted(name);
+    names += (names.empty() ? "" : ", ") + QuoteName(name);
     places += places.empty() ? "?" : ", ?";
   };
   for (const std::size_t c : columns) add(columns_[c]);
@@ -115,7 +118,7 @@ Statement RowEditor::PrepareInsert(const std::vector<std::size_t>& columns) cons
   }
   const std::string values =
       names.empty() ? "DEFAULT VALUES" : fmt::format("({}) VALUES ({})", names, places);
-  return database_.Connected().Prepare(fmt::format("INSERT INTO {} {}", Quoted(table_), values), text_);
+  return database_.Connected().Prepare(fmt::format("INSERT INTO {} {}", QuoteName(table_), values), text_);
 }
 
 std::int64_t RowEditor::Insert(const Values& values) {
@@ -136,8 +139,8 @@ std::int64_t RowEditor::Insert(const Values& values) {
 void RowEditor::Delete(std::int64_t row) {
   database_.RequireWritable(text_);
   if (!delete_) {
-    delete_ =
-        database_.Connected().Prepare(fmt::format("DELETE FROM {} WHERE rowid = ?", Quoted(table_)), text_);
+    delete_ = database_.Connected().Prepare(fmt::format("DELETE FROM {} WHERE rowid = ?", QuoteName(table_)),
+                                            text_);
   }
   delete_.Bind(1, Value{row});
   RequireFound(database_.Connected().Run(delete_));

@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 
+#include "platform/store/dialect/quoting.h"
 #include "platform/store/table_sql.h"
 #include "platform/text/characters.h"
 
@@ -49,13 +50,12 @@ FieldType TypeByAffinity(std::string_view declared) {
 /// A default as an SQL literal; SQLite's older double-quoted text becomes a text literal.
 std::string DefaultLiteral(const std::string& text) {
   if (text.size() < 2 || text.front() != '"' || text.back() != '"') return text;
-  std::string literal = "'";
+  std::string plain;
   for (std::size_t i = 1; i + 1 < text.size(); ++i) {
-    if (text[i] == '"' && i + 2 < text.size() && text[i + 1] == '"') ++i;
-    if (text[i] == '\'') literal += '\'';
-    literal += text[i];
+    if (text[i] == '"' && text[i + 1] == '"' && i + 2 < text.size()) ++i;
+    plain += text[i];
   }
-  return literal + "'";
+  return dialect::QuoteText(plain);
 }
 
 /// Reads the tables of a file; keeps its statements between them.

@@ -8,10 +8,13 @@
 
 #include <fmt/format.h>
 
+#include "platform/store/dialect/quoting.h"
 #include "platform/store/table_sql.h"
 #include "platform/text/characters.h"
 
 namespace rbt {
+
+using dialect::QuoteName;
 namespace {
 
 std::vector<IndexDef>::const_iterator FindIndex(const TableDef& table, std::string_view name) {
@@ -22,7 +25,7 @@ std::vector<IndexDef>::const_iterator FindIndex(const TableDef& table, std::stri
 
 std::string FieldList(const std::vector<FieldDef>& fields) {
   std::string list;
-  for (const FieldDef& field : fields) list += (list.empty() ? "" : ", ") + Quoted(field.name);
+  for (const FieldDef& field : fields) list += (list.empty() ? "" : ", ") + QuoteName(field.name);
   return list;
 }
 
@@ -65,7 +68,7 @@ void TableChange::CreateTable(const TableDef& table) const {
 }
 
 void TableChange::DropTable(std::string_view table) const {
-  Run(fmt::format("DROP TABLE {}", Quoted(Require(table).def.name)));
+  Run(fmt::format("DROP TABLE {}", QuoteName(Require(table).def.name)));
 }
 
 void TableChange::AddField(std::string_view table, const FieldDef& field) const {
@@ -74,7 +77,8 @@ void TableChange::AddField(std::string_view table, const FieldDef& field) const 
     throw Refusal(fmt::format("table {} has a field {}", def.name, field.name));
   }
   Savepoint together(connection_);
-  Run(fmt::format("ALTER TABLE {} ADD COLUMN {}", Quoted(def.name), ColumnSql(field, DeclaredType(field))));
+  Run(fmt::format("ALTER TABLE {} ADD COLUMN {}", QuoteName(def.name),
+                  ColumnSql(field, DeclaredType(field))));
   if (field.autonumber) NumberRows(def.name, field.name);
   together.Release();
 }
@@ -83,7 +87,7 @@ void TableChange::NumberRows(std::string_view table, std::string_view field) con
   Run(fmt::format(
       "UPDATE {0} SET {1} = numbered.number FROM (SELECT rowid AS row, row_number() OVER (ORDER BY "
       "rowid) AS number FROM {0}) AS numbered WHERE numbered.row = {0}.rowid",
-      Quoted(table), Quoted(field)));
+      QuoteName(table), QuoteName(field)));
 }
 
 void TableChange::AddIndex(std::string_view table, const IndexDef& index) const {
@@ -119,7 +123,7 @@ void TableChange::DropIndex(std::string_view table, std::string_view index) cons
   const auto place = found - stored.def.indexes.begin();
   const StoredTable::Index& in_file = stored.indexes[static_cast<std::size_t>(place)];
   if (!in_file.create_sql.empty()) {
-    Run(fmt::format("DROP INDEX {}", Quoted(in_file.stored_name)));
+    Run(fmt::format("DROP INDEX {}", QuoteName(in_file.stored_name)));
     return;
   }
   TableDef after = stored.def;
@@ -143,14 +147,14 @@ void TableChange::RequireKeyable(const TableDef& table, const IndexDef& key) con
   std::string fields;
   for (const std::string& field : key.fields) {
     if (connection_.IntegerOf(fmt::format("SELECT EXISTS (SELECT 1 FROM {} WHERE {} IS NULL)",
-                                          Quoted(table.name), Quoted(field))) != 0) {
+                                          QuoteName(table.name), QuoteName(field))) != 0) {
       throw Fault{FaultKind::invalid_use_of_null,
                   fmt::format("{}.{}, a field of the key {}: {}", table.name, field, key.name, text_)};
     }
-    fields += (fields.empty() ? "" : ", ") + Quoted(field);
+    fields += (fields.empty() ? "" : ", ") + QuoteName(field);
   }
   if (connection_.IntegerOf(fmt::format("SELECT EXISTS (SELECT 1 FROM {} GROUP BY {} HAVING count(*) > 1)",
-                                        Quoted(table.name), fields)) != 0) {
+                                        QuoteName(table.name), fields)) != 0) {
     throw Refusal(fmt::format("table {} has rows of one key, so that {} cannot stand", table.name, key.name));
   }
 }
@@ -164,8 +168,8 @@ void TableChange::Rebuild(const StoredTable& before, const TableDef& after) cons
   const std::string columns = (key_is_row_number ? "" : "rowid, ") + FieldList(after.fields);
 
   Run(CreateTableSql(after, rebuilt, types));
-  Run(fmt::format("INSERT INTO {}({}) SELECT {} FROM {} NOT INDEXED ORDER BY rowid", Quoted(rebuilt), columns,
-                  columns, Quoted(name)));
+  Run(fmt::format("INSERT INTO {}({}) SELECT {} FROM {} NOT INDEXED ORDER BY rowid", QuoteName(rebuilt),
+                  columns, columns, QuoteName(name)));
   if (key_is_row_number) {
     // Numbers that were given once are not given again, also those of rows deleted since.
     Statement keep = connection_.Prepare(
@@ -175,8 +179,8 @@ void TableChange::Rebuild(const StoredTable& before, const TableDef& after) cons
     keep.Bind(2, rebuilt);
     keep.Step();
   }
-  Run(fmt::format("DROP TABLE {}", Quoted(name)));
-  Run(fmt::format("ALTER TABLE {} RENAME TO {}", Quoted(rebuilt), Quoted(name)));
+  Run(fmt::format("DROP TABLE {}", QuoteName(name)));
+  Run(fmt::format("ALTER TABLE {} RENAME TO {}", QuoteName(rebuilt), QuoteName(name)));
   RestoreIndexes(before, after);
 }
 

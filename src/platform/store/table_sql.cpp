@@ -7,9 +7,12 @@
 #include <fmt/format.h>
 
 #include "platform/store/connection.h"
+#include "platform/store/dialect/quoting.h"
 #include "platform/text/characters.h"
 
 namespace rbt {
+
+using dialect::QuoteName;
 namespace {
 
 struct Token {
@@ -192,7 +195,7 @@ std::string KeyFieldList(const IndexDef& index) {
   std::string list;
   for (std::size_t i = 0; i < index.fields.size(); ++i) {
     if (i > 0) list += ", ";
-    list += Quoted(index.fields[i]);
+    list += QuoteName(index.fields[i]);
     if (i < index.descending.size() && index.descending[i]) list += " DESC";
   }
   return list;
@@ -205,14 +208,14 @@ std::string ConstraintName(const IndexDef& key) {
 std::string KeyColumnSql(const FieldDef& field, std::string_view declared, const IndexDef& key) {
   std::string sql = ColumnSql(field, declared);
   // The clause carries the key's name, so that the key can take it along when it is dropped.
-  if (!field.required) sql += fmt::format(" CONSTRAINT {} NOT NULL", Quoted(ConstraintName(key)));
+  if (!field.required) sql += fmt::format(" CONSTRAINT {} NOT NULL", QuoteName(ConstraintName(key)));
   return sql;
 }
 
 std::string AutonumberKeySql(const FieldDef& field, const IndexDef& key) {
   const std::string name = ConstraintName(key);
-  const std::string clause = name == kDefaultKeyName ? "" : fmt::format("CONSTRAINT {} ", Quoted(name));
-  return fmt::format("{} INTEGER {}PRIMARY KEY AUTOINCREMENT", Quoted(field.name), clause);
+  const std::string clause = name == kDefaultKeyName ? "" : fmt::format("CONSTRAINT {} ", QuoteName(name));
+  return fmt::format("{} INTEGER {}PRIMARY KEY AUTOINCREMENT", QuoteName(field.name), clause);
 }
 
 }  // namespace
@@ -230,7 +233,7 @@ bool IsAutonumberKey(const TableDef& table, const FieldDef& field) {
 }
 
 std::string ColumnSql(const FieldDef& field, std::string_view declared_type) {
-  std::string sql = Quoted(field.name);
+  std::string sql = QuoteName(field.name);
   if (!declared_type.empty()) sql += fmt::format(" {}", declared_type);
   if (field.required) sql += " NOT NULL";
   if (field.default_value) sql += fmt::format(" DEFAULT ({})", *field.default_value);
@@ -241,7 +244,7 @@ std::string CreateTableSql(const TableDef& table, std::string_view stored_name,
                            const std::vector<std::string>& declared_types) {
   const IndexDef* const key = PrimaryKeyOf(table);
   bool key_stands_in_column = false;
-  std::string sql = fmt::format("CREATE TABLE {}(", Quoted(stored_name));
+  std::string sql = fmt::format("CREATE TABLE {}(", QuoteName(stored_name));
   for (std::size_t i = 0; i < table.fields.size(); ++i) {
     const FieldDef& field = table.fields[i];
     const std::string declared = declared_types.empty() ? DeclaredType(field) : declared_types[i];
@@ -256,14 +259,16 @@ std::string CreateTableSql(const TableDef& table, std::string_view stored_name,
     }
   }
   if (key != nullptr && !key_stands_in_column) {
-    sql += fmt::format(", CONSTRAINT {} PRIMARY KEY({})", Quoted(ConstraintName(*key)), KeyFieldList(*key));
+    sql +=
+        fmt::format(", CONSTRAINT {} PRIMARY KEY({})", QuoteName(ConstraintName(*key)), KeyFieldList(*key));
   }
   return sql + ")";
 }
 
 std::string CreateIndexSql(std::string_view table, const IndexDef& index) {
   return fmt::format("CREATE {}INDEX {} ON {}({})", index.unique ? "UNIQUE " : "",
-                     Quoted(fmt::format("{}.{}", table, index.name)), Quoted(table), KeyFieldList(index));
+                     QuoteName(fmt::format("{}.{}", table, index.name)), QuoteName(table),
+                     KeyFieldList(index));
 }
 
 std::string IndexNameOf(std::string_view table, std::string_view stored_name) {
