@@ -96,9 +96,7 @@ class LineReader {
     line.begin = begin;
     line.end = feed == std::string_view::npos ? bytes_.size() : feed + 1;
     line.text_end = feed == std::string_view::npos ? bytes_.size() : feed;
-    while (feed != std::string_view::npos && line.text_end > begin && bytes_[line.text_end - 1] == '\r') {
-      --line.text_end;
-    }
+    while (line.text_end > begin && bytes_[line.text_end - 1] == '\r') --line.text_end;
     Classify(line);
     return true;
   }
@@ -180,7 +178,7 @@ bool HoldsNoLine(std::string_view name) {
 
 }  // namespace
 
-std::optional<std::string_view> IniText::Find(std::string_view section, std::string_view key) const {
+std::optional<std::string_view> IniText::Find(std::string_view section, std::string_view key) const& {
   const Place place = Locate(bytes_, encoding_, section, key, true);
   if (place.keys.empty()) return std::nullopt;
   const Line& line = place.keys.front();

@@ -25,7 +25,8 @@ class IniText {
 
   /// The value without the blanks round it, its quotes still on; nothing when section or key are missing. It
   /// points into the text.
-  std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
+  std::optional<std::string_view> Find(std::string_view section, std::string_view key) const&;
+  std::optional<std::string_view> Find(std::string_view section, std::string_view key) && = delete;
   /// Replaces the value in place, or adds the key behind the last one of the section, or the section at the
   /// end. A new line ends as the first line of the file does, in CR LF when there is none.
   void Set(std::string_view section, std::string_view key, std::string_view value);

@@ -31,11 +31,13 @@ bool ReadNumber(std::string_view text, int& number) {
   return error == std::errc{} && end == text.data() + text.size();
 }
 
+std::chrono::year_month_day DateOf(const DateTime& at) {
+  return {std::chrono::year{at.year}, std::chrono::month{static_cast<unsigned>(at.month)},
+          std::chrono::day{static_cast<unsigned>(at.day)}};
+}
+
 bool IsValid(const DateTime& at) {
-  const std::chrono::year_month_day day{std::chrono::year{at.year},
-                                        std::chrono::month{static_cast<unsigned>(at.month)},
-                                        std::chrono::day{static_cast<unsigned>(at.day)}};
-  return day.ok() && at.hour <= 23 && at.minute <= 59 && at.second <= 59;
+  return DateOf(at).ok() && at.hour <= 23 && at.minute <= 59 && at.second <= 59;
 }
 
 /// Reads "2026-11-21T09:00:00".
@@ -60,8 +62,7 @@ DateTime ParseClock(std::string_view text) {
 }
 
 std::chrono::sys_days EpochOfDayNumbers() {
-  using namespace std::chrono;
-  return sys_days{year{1899} / December / day{30}};
+  return std::chrono::sys_days{std::chrono::year{1899} / std::chrono::December / std::chrono::day{30}};
 }
 
 }  // namespace
@@ -80,9 +81,7 @@ DateTime Now() {
 void SetClock(std::optional<DateTime> fixed) { FixedClock() = fixed; }
 
 double DayNumber(const DateTime& at) {
-  using namespace std::chrono;
-  const sys_days date{year{at.year} / month{static_cast<unsigned>(at.month)} /
-                      day{static_cast<unsigned>(at.day)}};
+  const std::chrono::sys_days date{DateOf(at)};
   const double days = static_cast<double>((date - EpochOfDayNumbers()).count());
   const double time = (at.hour * 3600 + at.minute * 60 + at.second) / static_cast<double>(kSecondsPerDay);
   // Before the epoch the whole part counts down while the time of day still counts up: -1.25 is six in the

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 fs::path Target(const fs::path& file) {
   std::error_code error;
   if (!fs::is_symlink(file, error)) return file;
-  const fs::path target = fs::weakly_canonical(file, error);
+  fs::path target = fs::weakly_canonical(file, error);
   if (error) throw FileFault(file, "cannot follow the link", error.value());
   return target;
 }
