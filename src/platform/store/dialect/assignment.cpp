@@ -67,7 +67,8 @@ bool Fits(const WrittenValue& value, const FieldDef& target) {
     case FieldType::boolean:
       return value.value == ValueClass::boolean;
     case FieldType::text:
-      return value.characters && *value.characters <= static_cast<std::size_t>(target.size);
+      return value.value == ValueClass::text && value.longest &&
+             *value.longest <= static_cast<std::size_t>(target.size);
     case FieldType::memo:
       return value.value == ValueClass::text;
     default:
@@ -110,7 +111,10 @@ std::optional<std::string> Conversion(const WrittenValue& value, const FieldDef&
 
 WrittenValue AssignedValue(const WrittenValue& value, const FieldDef& target, std::string_view statement,
                            Place place) {
-  if (Fits(value, target)) return value;
+  if (Fits(value, target)) {
+    if (target.type != FieldType::real || value.value == ValueClass::real) return value;
+    return {.sql = fmt::format("CAST({} AS REAL)", value.sql), .value = ValueClass::real};
+  }
   std::optional<std::string> converted = Conversion(value, target);
   if (!converted) {
     Refuse(statement, place, fmt::format("no value for {}", target.name), FaultKind::type_mismatch);

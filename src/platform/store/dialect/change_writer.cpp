@@ -63,32 +63,42 @@ ChangeStatement WriteInsert(const Insert& insert, const Scope& scope) {
           table.name};
 }
 
+WrittenUpdate WriteAssignments(const Update& update, const TableDef& table, const Scope& scope,
+                               ListTestWriter list_tests) {
+  ExpressionWriter writer(scope.Statement(), &table);
+  writer.WriteListTestsBy(std::move(list_tests));
+  WrittenUpdate written;
+  for (const Assignment& assignment : update.assignments) {
+    const FieldDef& field = writer.Field(assignment.target);
+    const auto is_same = [&](const WrittenAssignment& other) { return other.field == &field; };
+    if (std::ranges::any_of(written.assignments, is_same)) {
+      scope.RefuseAt(assignment.target.field.place, "a field set twice");
+    }
+    written.assignments.push_back({&field, AssignedValue(writer.Value(*assignment.value), field,
+                                                         scope.Statement(), assignment.value->place)});
+  }
+  if (update.where) written.where = writer.Condition(*update.where);
+  written.fields_read = writer.FieldsRead();
+  return written;
+}
+
 ChangeStatement WriteUpdate(const Update& update, const Scope& scope) {
   const TableDef& table = scope.Table(update.table);
-  ExpressionWriter writer(scope.Statement(), &table);
-  std::vector<const FieldDef*> targets;
+  const WrittenUpdate written = WriteAssignments(update, table, scope);
   std::vector<std::string> settings;
   std::vector<std::string> differences;
   bool may_fault = false;
-  for (const Assignment& assignment : update.assignments) {
-    const FieldDef& field = writer.Field(assignment.target);
-    if (std::ranges::find(targets, &field) != targets.end()) {
-      scope.RefuseAt(assignment.target.field.place, "a field set twice");
-    }
-    targets.push_back(&field);
-    const WrittenValue value =
-        AssignedValue(writer.Value(*assignment.value), field, scope.Statement(), assignment.value->place);
-    settings.push_back(fmt::format("{} = {}", QuoteName(field.name), value.sql));
-    differences.push_back(fmt::format("{} IS NOT {}", QuoteName(field.name), value.sql));
+  for (const auto& [field, value] : written.assignments) {
+    settings.push_back(fmt::format("{} = {}", QuoteName(field->name), value.sql));
+    differences.push_back(fmt::format("{} IS NOT {}", QuoteName(field->name), value.sql));
     may_fault = may_fault || value.may_fault;
   }
   std::string guard = fmt::format("({})", fmt::join(differences, " OR "));
-  if (update.where) {
-    const std::string where = writer.Condition(*update.where);
+  if (!written.where.empty()) {
     // SQLite may test the parts of an AND in any order; a value that can fault is worked out only for the
     // rows that the statement means.
-    guard = may_fault ? fmt::format("CASE WHEN {} THEN {} ELSE 0 END", where, guard)
-                      : fmt::format("{} AND {}", where, guard);
+    guard = may_fault ? fmt::format("CASE WHEN {} THEN {} ELSE 0 END", written.where, guard)
+                      : fmt::format("{} AND {}", written.where, guard);
   }
   return {fmt::format("UPDATE {} SET {} WHERE {}", QuoteName(table.name), fmt::join(settings, ", "), guard),
           table.name};

@@ -46,12 +46,33 @@ WrittenValue WriteNumber(const NumberLiteral& literal) {
 }
 
 WrittenValue WriteText(const TextLiteral& literal) {
-  return {
-      .sql = QuoteText(literal.text), .value = ValueClass::text, .characters = CharacterCount(literal.text)};
+  return {.sql = QuoteText(literal.text), .value = ValueClass::text, .longest = CharacterCount(literal.text)};
 }
 
 bool IsWhole(ValueClass value) {
   return value == ValueClass::whole || value == ValueClass::boolean || value == ValueClass::null;
+}
+
+bool IsLiteral(const Expression& expression) {
+  if (const auto* negation = std::get_if<Negation>(&expression.node)) return IsLiteral(*negation->operand);
+  return std::holds_alternative<NumberLiteral>(expression.node) ||
+         std::holds_alternative<TextLiteral>(expression.node);
+}
+
+/// Characters that the text of a value has at most: of a 64-bit number twenty with its sign.
+std::optional<std::size_t> LongestText(const WrittenValue& value) {
+  constexpr std::size_t kWhole = 20;
+  if (value.value == ValueClass::null) return 0;
+  return IsWhole(value.value) ? std::optional(kWhole) : value.longest;
+}
+
+/// A number that takes part in arithmetic of doubles. SQLite keeps a whole CURRENCY as an integer and would
+/// reckon with it as one.
+std::string AsDouble(const WrittenValue& value) {
+  const bool is_single = value.field != nullptr && value.field->type == FieldType::single;
+  const bool may_be_integer =
+      is_single || value.value == ValueClass::currency || value.value == ValueClass::date;
+  return may_be_integer ? fmt::format("CAST({} AS REAL)", value.sql) : value.sql;
 }
 
 }  // namespace
@@ -168,7 +189,9 @@ ExpressionWriter::Written ExpressionWriter::WriteColumn(const ColumnName& column
     Refuse(statement_, place, "a field that is neither grouped by nor aggregated");
   }
   if (std::ranges::find(fields_read_, &field) == fields_read_.end()) fields_read_.push_back(&field);
-  return {{.sql = QuoteName(field.name), .value = ClassOf(field.type), .field = &field}};
+  WrittenValue value{.sql = QuoteName(field.name), .value = ClassOf(field.type), .field = &field};
+  if (field.type == FieldType::text && field.size > 0) value.longest = static_cast<std::size_t>(field.size);
+  return {value};
 }
 
 WrittenValue ExpressionWriter::Number(const Expression& expression) {
@@ -184,16 +207,14 @@ ExpressionWriter::Written ExpressionWriter::WriteArithmetic(const Arithmetic& no
   const WrittenValue right = Number(*node.right);
   const auto* const form =
       std::ranges::find_if(kArithmeticForms, [&](const ArithmeticForm& f) { return f.sign == node.sign; });
-  Written written;
-  written.sql = fmt::format(fmt::runtime(form->format), left.sql, right.sql);
-  written.may_fault = form->may_fault || left.may_fault || right.may_fault;
-  written.value = ValueClass::real;
   const bool whole_result =
       node.sign == ArithmeticOperator::divide_whole || node.sign == ArithmeticOperator::remainder;
-  if (whole_result ||
-      (node.sign != ArithmeticOperator::divide && IsWhole(left.value) && IsWhole(right.value))) {
-    written.value = ValueClass::whole;
-  }
+  const bool of_wholes =
+      node.sign != ArithmeticOperator::divide && IsWhole(left.value) && IsWhole(right.value);
+  Written written;
+  written.sql = fmt::format(fmt::runtime(form->format), AsDouble(left), AsDouble(right));
+  written.value = whole_result || of_wholes ? ValueClass::whole : ValueClass::real;
+  written.may_fault = form->may_fault || left.may_fault || right.may_fault;
   return written;
 }
 
@@ -201,6 +222,7 @@ ExpressionWriter::Written ExpressionWriter::WriteConcatenation(const Concatenati
   if (node.operands.size() > kMaxArguments) Refuse(statement_, place, "too many operands of &");
   Written written;
   written.value = ValueClass::text;
+  written.longest = 0;
   std::string arguments;
   for (const ExpressionPtr& operand : node.operands) {
     const WrittenValue value = Value(*operand);
@@ -209,6 +231,8 @@ ExpressionWriter::Written ExpressionWriter::WriteConcatenation(const Concatenati
     }
     if (!arguments.empty()) arguments += ", ";
     arguments += value.sql;
+    const std::optional<std::size_t> longest = LongestText(value);
+    written.longest = written.longest && longest ? std::optional(*written.longest + *longest) : std::nullopt;
     written.may_fault = written.may_fault || value.may_fault;
   }
   written.sql = fmt::format("jet_concatenate({})", arguments);
@@ -259,6 +283,7 @@ ExpressionWriter::Written ExpressionWriter::WriteList(const ListTest& node, Plac
   const WrittenValue operand = Value(*node.operand);
   Written written;
   written.may_fault = operand.may_fault;
+  bool of_literals = true;
   std::string list;
   for (const ExpressionPtr& element : node.list) {
     const WrittenValue value = Value(*element);
@@ -266,8 +291,11 @@ ExpressionWriter::Written ExpressionWriter::WriteList(const ListTest& node, Plac
     if (!list.empty()) list += ", ";
     list += value.sql;
     written.may_fault = written.may_fault || value.may_fault;
+    of_literals = of_literals && IsLiteral(*element);
   }
-  written.sql = fmt::format("({} {}IN ({}))", Comparand(operand), node.negated ? "NOT " : "", list);
+  std::string test = fmt::format("{} IN ({})", Comparand(operand), list);
+  if (list_tests_ && operand.field != nullptr && of_literals) test = list_tests_(*operand.field, test);
+  written.sql = fmt::format("({}{})", node.negated ? "NOT " : "", test);
   written.value = ValueClass::boolean;
   written.is_condition = true;
   return written;

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/store/dialect/ast.h"
@@ -31,11 +33,14 @@ ValueClass ClassOf(FieldType type);
 struct WrittenValue {
   std::string sql;
   ValueClass value = ValueClass::null;
-  const FieldDef* field = nullptr;                       ///< when it is a plain column
-  std::optional<std::int64_t> whole = std::nullopt;      ///< when it is a whole number written out
-  std::optional<std::size_t> characters = std::nullopt;  ///< length of a text written out
-  bool may_fault = false;                                ///< its evaluation can end the statement
+  const FieldDef* field = nullptr;                    ///< when it is a plain column
+  std::optional<std::int64_t> whole = std::nullopt;   ///< when it is a whole number written out
+  std::optional<std::size_t> longest = std::nullopt;  ///< characters that its text has at most, if known
+  bool may_fault = false;                             ///< its evaluation can end the statement
 };
+
+/// Gets a list test of a field, "f" IN (1, 2), and gives what shall stand for it.
+using ListTestWriter = std::function<std::string(const FieldDef& field, const std::string& test)>;
 
 /// Writes the expressions of one statement over at most one table: looks up the names, minds the types and
 /// keeps Jet's rules where SQLite's differ. Three-valued logic, AND and OR are the same in both.
@@ -52,6 +57,9 @@ class ExpressionWriter {
 
   /// From here on the values are those of a grouped result: aggregates, and the columns grouped by.
   void Group(std::vector<const FieldDef*> columns);
+
+  /// List tests of a field with a list of literals are written by `list_tests` from here on.
+  void WriteListTestsBy(ListTestWriter list_tests) { list_tests_ = std::move(list_tests); }
 
   WrittenValue Value(const Expression& expression);
   std::string Condition(const Expression& expression);
@@ -91,6 +99,7 @@ class ExpressionWriter {
 
   std::string_view statement_;
   const TableDef* table_;
+  ListTestWriter list_tests_;
   Scope scope_ = Scope::rows;
   std::vector<const FieldDef*> group_;
   std::vector<const FieldDef*> fields_read_;

@@ -76,7 +76,9 @@ void Number(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void Concatenate(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  constexpr std::size_t kUsualLength = 64;
   std::string text;
+  text.reserve(kUsualLength);
   for (int i = 0; i < count; ++i) AppendText(arguments[i], text);
   ResultText(context, text);
 }

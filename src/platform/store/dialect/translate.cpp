@@ -10,6 +10,7 @@
 #include "platform/store/dialect/parser.h"
 #include "platform/store/dialect/scope.h"
 #include "platform/store/dialect/select_writer.h"
+#include "platform/store/dialect/update_fusion.h"
 #include "platform/store/dialect/walk.h"
 #include "platform/text/characters.h"
 
@@ -58,6 +59,13 @@ Translated TranslateStatement(const Statement& statement, const Scope& scope,
       statement);
 }
 
+Update ParseUpdateOf(const std::string& jet_update, const Scope& scope) {
+  Statement statement = Parse(jet_update);
+  auto* const update = std::get_if<Update>(&statement);
+  if (update == nullptr) scope.RefuseAt({0, 0}, "not an UPDATE");
+  return std::move(*update);
+}
+
 }  // namespace
 }  // namespace rbt::dialect
 
@@ -67,6 +75,24 @@ Translated TranslateJetSql(std::string_view jet_sql, const SchemaSource& schema,
                            const TranslateOptions& options) {
   const dialect::Scope scope(jet_sql, schema);
   return dialect::TranslateStatement(dialect::Parse(jet_sql), scope, options);
+}
+
+ChangeStatement FuseUpdates(std::span<const std::string> jet_updates, const SchemaSource& schema) {
+  if (jet_updates.empty()) throw Fault(FaultKind::database, "no UPDATE to put together");
+  std::optional<dialect::UpdateFusion> fusion;
+  std::string table;
+  for (const std::string& jet_update : jet_updates) {
+    const dialect::Scope scope(jet_update, schema);
+    const dialect::Update update = dialect::ParseUpdateOf(jet_update, scope);
+    const TableDef& updated = scope.Table(update.table);
+    if (!fusion) {
+      table = updated.name;
+      fusion.emplace(updated);
+    }
+    if (updated.name != table) scope.RefuseAt(update.table.place, "an UPDATE of another table");
+    fusion->Append(update, scope);
+  }
+  return fusion->Statement();
 }
 
 }  // namespace rbt
