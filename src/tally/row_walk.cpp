@@ -12,8 +12,6 @@ void FoldRows(TallyTable& table, Database& site, std::string_view statement, con
   for (; !rows.Eof(); rows.MoveNext()) FoldRow(table, reader.Read(rows), rules);
 }
 
-bool ReadCountHoopWelds() {
-  return ReadSetting("Kakou", "重量集計", "溶接フープの圧接数", std::int32_t{1}) != 0;
-}
+bool ReadCountHoopWelds() { return ReadSetting(kWeldedHoopWeldsKey) != 0; }
 
 }  // namespace rbt

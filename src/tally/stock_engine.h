@@ -36,6 +36,8 @@ class StockLengthLimits {
   std::int32_t Max(std::int32_t diameter_code) const { return max_[Index(diameter_code)]; }
   void Set(std::int32_t diameter_code, std::int32_t min_mm, std::int32_t max_mm);
 
+  std::int32_t ones_rounding = 2;  ///< １の位まるめ: read with the limits for the family; no tally uses it
+
  private:
   static constexpr std::int32_t kThinnest = 6;
   static constexpr std::int32_t kThickest = 51;

@@ -2,9 +2,9 @@
 #include <string>
 
 #include "data/fixed_stock.h"
+#include "data/materials.h"
 #include "platform/numbers/number_words.h"
 #include "shell/config/settings.h"
-#include "tally/bar_tables.h"
 #include "tally/stock_engine.h"
 
 namespace rbt {
@@ -13,26 +13,22 @@ EngineStateData EngineState;
 
 namespace {
 
-std::int32_t ReadLimit(const std::string& key, std::string_view fallback) {
-  return ToInt32(LeadingNumber(ReadIniText(kSteelIni, "加工帳", key, fallback)), key);
-}
+std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSteelIni(key)), key.key); }
 
 }  // namespace
 
 StockLengthLimits GetStockLengthLimits() {
   StockLengthLimits limits;
-  for (int d = 0; d < kDeformedRows; ++d) {
-    const std::string diameter(DiameterLabel(d));
-    limits.Set(DiameterCode(d), ReadLimit(diameter + "最小値", "3500"),
-               ReadLimit(diameter + "最大値", "12000"));
+  for (const StockLimitKey& key : StockLimitKeys) {
+    limits.Set(key.diameter, ReadNumber(key.shortest), ReadNumber(key.longest));
   }
-  for (const int thin : {6, 7, 9, 11, 12}) limits.Set(thin, limits.Min(10), limits.Max(10));
+  limits.ones_rounding = ReadNumber(kOnesRoundingKey);
+  for (const int thin : kUlbonOnlyDiameters) limits.Set(thin, limits.Min(10), limits.Max(10));
   return limits;
 }
 
 std::int16_t ReadPlus() {
-  EngineState.Plus =
-      ToInt16(LeadingNumber(ReadSetting("Kakou", "プラス", "長さ", std::string_view("0"))), "プラス 長さ");
+  EngineState.Plus = ToInt16(LeadingNumber(ReadSetting(kPlusKey)), kPlusKey.key);
   return EngineState.Plus;
 }
 
@@ -40,7 +36,7 @@ EngineSettings ReadEngineSettings() {
   EngineSettings settings;
   settings.limits = GetStockLengthLimits();
   settings.plus = ReadPlus();
-  settings.loss_priority = ReadSetting("Kakou", "定尺計算", "ロス優先", std::int32_t{0});
+  settings.loss_priority = ReadSetting(kLossPriorityKey);
   EngineState.LossPriority = settings.loss_priority;
   if (Settings.UseFixedTable == 1) settings.fixed_stock = GetFixedStockLength;
   return settings;
