@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+// Laws that hold over every schedule, tried on random ones.
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "data/run_state.h"
+#include "data/site_context.h"
+#include "shell/config/settings.h"
+#include "tally/bar_tables.h"
+#include "tally/bulk_tally.h"
+#include "tally/closing_sums.h"
+#include "tally/row_fold.h"
+#include "tally/schedule_site.h"
+#include "tally/selection.h"
+
+namespace rbt {
+namespace {
+
+class RandomRows {
+ public:
+  explicit RandomRows(unsigned seed) : random_(seed) {}
+
+  int Pick(int low, int high) { return std::uniform_int_distribution(low, high)(random_); }
+  std::optional<std::int32_t> PickOrNull(int low, int high) {
+    if (Pick(0, 9) == 0) return std::nullopt;
+    return Pick(low, high);
+  }
+
+  BarRow Next() {
+    BarRow row;
+    row.page = Pick(1, 50);
+    row.line = Pick(1, 30);
+    row.part = PickOrNull(0, 11);
+    const bool ulbon = Pick(0, 4) == 0;
+    row.kind = ulbon ? std::optional<std::int32_t>(2) : AnyKindButUlbon();
+    row.diameter_code = DiameterCode(ulbon ? Pick(12, 17) : Pick(0, 11));
+    if (Pick(0, 4) == 0) row.weld_diameter_code = Pick(0, 1) == 0 ? 0 : DiameterCode(Pick(0, 11));
+    constexpr int kShapes[] = {1, 2, 87, 87, 138, 143, 161, 177};
+    row.shape = Pick(0, 9) == 0 ? std::nullopt : std::optional<std::int32_t>(kShapes[Pick(0, 7)]);
+    row.pieces = PickOrNull(1, 500);
+    row.cut_length_mm = PickOrNull(200, 12000);
+    row.stock_length_m = Pick(0, 9) == 0 ? 12.5 : StockMetres(Pick(0, 18));
+    row.stock_bars = PickOrNull(1, 300);
+    row.welds = PickOrNull(0, 20);
+    row.threads = PickOrNull(0, 20);
+    row.plates = PickOrNull(0, 20);
+    row.cuts = PickOrNull(0, 20);
+    return row;
+  }
+
+  std::vector<BarRow> Many(int count) {
+    std::vector<BarRow> rows;
+    for (int i = 0; i < count; ++i) rows.push_back(Next());
+    return rows;
+  }
+
+  std::mt19937& Engine() { return random_; }
+
+ private:
+  std::optional<std::int32_t> AnyKindButUlbon() {
+    constexpr int kKinds[] = {0, 1, 1, 3, 4, 5};
+    return Pick(0, 9) == 0 ? std::nullopt : std::optional<std::int32_t>(kKinds[Pick(0, 5)]);
+  }
+
+  std::mt19937 random_;
+};
+
+RowRules Bulk(std::int32_t hoop_mode = 0) {
+  RowRules rules;
+  rules.hoop_mode = hoop_mode;
+  rules.counts_without_column_by_choice = 2;
+  return rules;
+}
+
+TallyTable Folded(const std::vector<BarRow>& rows, const RowRules& rules) {
+  TallyTable table;
+  for (const BarRow& row : rows) FoldRow(table, row, rules);
+  return table;
+}
+
+std::vector<BarRow> Only(const std::vector<BarRow>& rows, bool hoops) {
+  std::vector<BarRow> chosen;
+  std::copy_if(rows.begin(), rows.end(), std::back_inserter(chosen),
+               [hoops](const BarRow& row) { return row.IsHoop() == hoops; });
+  return chosen;
+}
+
+void ExpectCountsAdd(const TallyTable& whole, const TallyTable& a, const TallyTable& b) {
+  for (int d = 0; d < 19; ++d) {
+    for (int l = 0; l < 19; ++l) {
+      EXPECT_EQ(whole.BarCount[d][l], a.BarCount[d][l] + b.BarCount[d][l]);
+      EXPECT_EQ(whole.StockWeight[d][l], a.StockWeight[d][l] + b.StockWeight[d][l]);
+    }
+    EXPECT_EQ(whole.WeldCount[d], a.WeldCount[d] + b.WeldCount[d]);
+    EXPECT_EQ(whole.UlbonWeldCount[d], a.UlbonWeldCount[d] + b.UlbonWeldCount[d]);
+    EXPECT_NEAR(whole.UlbonLengthM[d], a.UlbonLengthM[d] + b.UlbonLengthM[d], 1e-6);
+  }
+}
+
+TEST(TallyLaws, TwoHalvesOfAScheduleAddUpToTheWhole) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    std::vector<BarRow> rows = RandomRows(seed).Many(300);
+    const auto half = rows.begin() + 120;
+    const TallyTable whole = Folded(rows, Bulk());
+    const TallyTable a = Folded({rows.begin(), half}, Bulk());
+    const TallyTable b = Folded({half, rows.end()}, Bulk());
+    ExpectCountsAdd(whole, a, b);
+    for (int d = 0; d < 19; ++d) {
+      EXPECT_EQ(whole.ThreadCount[d], a.ThreadCount[d] + b.ThreadCount[d]);
+      EXPECT_EQ(whole.PlateCount[d], a.PlateCount[d] + b.PlateCount[d]);
+      EXPECT_EQ(whole.CutCount[d], a.CutCount[d] + b.CutCount[d]);
+    }
+    EXPECT_EQ(whole.HighStrengthRowCount, a.HighStrengthRowCount + b.HighStrengthRowCount);
+  }
+}
+
+TEST(TallyLaws, TheOrderOfTheRowsChangesNoCountAndNoStockWeight) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    RandomRows random(seed);
+    std::vector<BarRow> rows = random.Many(300);
+    const TallyTable before = Folded(rows, Bulk());
+    std::shuffle(rows.begin(), rows.end(), random.Engine());
+    const TallyTable after = Folded(rows, Bulk());
+    EXPECT_EQ(before.BarCount, after.BarCount);
+    EXPECT_EQ(before.StockWeight, after.StockWeight);
+    EXPECT_EQ(before.WeldCount, after.WeldCount);
+    EXPECT_EQ(before.ThreadCount, after.ThreadCount);
+    EXPECT_EQ(before.PlateCount, after.PlateCount);
+    EXPECT_EQ(before.CutCount, after.CutCount);
+  }
+}
+
+TEST(TallyLaws, AllRowsAreTheRowsWithoutHoopsAndTheHoopsWhereTheStockHasAColumn) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    std::vector<BarRow> rows = RandomRows(seed).Many(300);
+    std::erase_if(rows, [](const BarRow& row) { return row.stock_length_m == 12.5; });
+    const TallyTable all = Folded(rows, Bulk(0));
+    const TallyTable without = Folded(rows, Bulk(1));
+    const TallyTable only = Folded(Only(rows, true), Bulk(2));
+    ExpectCountsAdd(all, without, only);
+    for (int d = 0; d < 13; ++d) {
+      for (int l = 0; l < 19; ++l) {
+        EXPECT_NEAR(all.CutLengthM[d][l], without.CutLengthM[d][l] + only.CutLengthM[d][l], 1e-6);
+      }
+    }
+    // Threads, plates and cuts of hoops stay when the hoops are left out.
+    EXPECT_EQ(all.ThreadCount, without.ThreadCount);
+    EXPECT_EQ(all.PlateCount, without.PlateCount);
+    EXPECT_EQ(all.CutCount, without.CutCount);
+  }
+}
+
+TEST(TallyLaws, LeavingHoopsOutKeepsTheLengthsThatHaveNoColumn) {
+  std::vector<BarRow> rows = RandomRows(7).Many(300);
+  std::erase_if(rows, [](const BarRow& row) {
+    return row.stock_length_m != 12.5 || !row.IsHoop() || row.IsOf(MaterialKind::ulbon);
+  });
+  ASSERT_FALSE(rows.empty());
+  EXPECT_EQ(Folded(rows, Bulk(0)).CutLengthM, Folded(rows, Bulk(1)).CutLengthM);
+}
+
+TEST(TallyLaws, NotCountingHoopWeldsChangesWeldsOnly) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    const std::vector<BarRow> rows = RandomRows(seed).Many(300);
+    RowRules rules = Bulk();
+    rules.count_hoop_welds = false;
+    TallyTable not_counted = Folded(rows, rules);
+    const TallyTable counted = Folded(rows, Bulk());
+    const TallyTable without_hoops = Folded(Only(rows, false), Bulk());
+    EXPECT_EQ(not_counted.WeldCount, without_hoops.WeldCount);
+    EXPECT_EQ(not_counted.UlbonWeldCount, without_hoops.UlbonWeldCount);
+    not_counted.WeldCount = counted.WeldCount;
+    not_counted.UlbonWeldCount = counted.UlbonWeldCount;
+    EXPECT_EQ(not_counted, counted);
+  }
+}
+
+TEST(TallyLaws, SumsByDiameterLieWithinHalfAKilogramACell) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    TallyTable table = Folded(RandomRows(seed).Many(300), Bulk());
+    CloseSums(table, {.sum_13m_column = true});
+    Currency total;
+    for (int d = 0; d < 12; ++d) {
+      Currency exact;
+      Currency installed;
+      for (int l = 0; l < 19; ++l) {
+        exact += table.StockWeight[d][l];
+        installed += table.InstalledWeight[d][l];
+      }
+      EXPECT_LE(std::abs((table.StockWeightByDia[d] - exact).ToDouble()), 19 * 0.5);
+      EXPECT_EQ(table.InstalledWeightByDia[d], installed);
+      total += table.StockWeightByDia[d];
+    }
+    EXPECT_EQ(table.TotalStockWeight, total);  // whole kilograms stay whole
+  }
+}
+
+TEST(TallyLaws, ACappedTallyIsNeverHeavierInstalledThanInStock) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    TallyTable table = Folded(RandomRows(seed).Many(300), Bulk());
+    CloseSums(table, {.cap_installed_weight = true});
+    for (int d = 0; d < 12; ++d) EXPECT_LE(table.InstalledWeightByDia[d], table.StockWeightByDia[d]);
+    EXPECT_GE(table.LossRatePercent, 0.0);
+  }
+}
+
+Value OrNull(const std::optional<std::int32_t>& number) {
+  return number ? test::Number(*number) : test::kNull;
+}
+
+void AddRow(test::ScheduleSite& site, const BarRow& row) {
+  site.AddRow({{"頁", OrNull(row.page)},
+               {"行", OrNull(row.line)},
+               {"部位", OrNull(row.part)},
+               {"太さ", OrNull(row.diameter_code)},
+               {"圧接太さ", OrNull(row.weld_diameter_code)},
+               {"形状No", OrNull(row.shape)},
+               {"合計", OrNull(row.pieces)},
+               {"伸切寸", OrNull(row.cut_length_mm)},
+               {"伸定尺", Value{*row.stock_length_m}},
+               {"伸総計", OrNull(row.stock_bars)},
+               {"圧接", OrNull(row.welds)},
+               {"ネジ数", OrNull(row.threads)},
+               {"定着板数", OrNull(row.plates)},
+               {"切断", OrNull(row.cuts)},
+               {"予備2", OrNull(row.kind)}});
+}
+
+class RandomSchedule : public testing::Test {
+ protected:
+  RandomSchedule() : rows_(RandomRows(11).Many(400)) {
+    Transaction transaction(site_.Work());
+    for (const BarRow& row : rows_) AddRow(site_, row);
+    transaction.Commit();
+  }
+
+  static TallyTable Tallied() {
+    Jyuuryo_Syukei();
+    return TallyGrid;
+  }
+
+  test::ScheduleSite site_;
+  std::vector<BarRow> rows_;
+};
+
+TEST_F(RandomSchedule, ReadsFromTheFileWhatWasFoldedInMemory) {
+  TallyTable expected = Folded(rows_, Bulk());
+  CloseSums(expected, {});
+  EXPECT_EQ(Tallied(), expected);
+}
+
+TEST_F(RandomSchedule, TheKindsAddUpToAllKinds) {
+  const TallyTable all = Tallied();
+  Checked2D<std::int32_t, 19, 19> sum;
+  for (const int mask : {1, 2, 4, 8}) {
+    Selection.MaterialKindMask = mask;
+    const TallyTable kind = Tallied();
+    for (int d = 0; d < 19; ++d) {
+      for (int l = 0; l < 19; ++l) sum[d][l] += kind.BarCount[d][l];
+    }
+    EXPECT_EQ(kind.UlbonWeight, all.UlbonWeight) << mask;
+  }
+  EXPECT_EQ(sum, all.BarCount);
+}
+
+TEST_F(RandomSchedule, TheHoopModesAddUpWhereTheStockHasAColumn) {
+  const TallyTable all = Tallied();
+  Selection.HoopMode = 1;
+  const TallyTable without = Tallied();
+  Selection.HoopMode = 2;
+  const TallyTable only = Tallied();
+  EXPECT_TRUE(RunState.HasHoopRows);
+  ExpectCountsAdd(all, without, only);
+  EXPECT_EQ(all.CutCount, without.CutCount);
+}
+
+TEST_F(RandomSchedule, ThePlateModesAddUp) {
+  const TallyTable all = Tallied();
+  Selection.AnchorPlateMode = 1;
+  const TallyTable without = Tallied();
+  Selection.AnchorPlateMode = 2;
+  const TallyTable only = Tallied();
+  ExpectCountsAdd(all, without, only);
+  for (int d = 0; d < 19; ++d) EXPECT_EQ(all.PlateCount[d], without.PlateCount[d] + only.PlateCount[d]);
+}
+
+TEST_F(RandomSchedule, ASecondTallyOfTheSameSelectionIsTheSame) {
+  const TallyTable first = Tallied();
+  EXPECT_EQ(Tallied(), first);
+}
+
+}  // namespace
+}  // namespace rbt
