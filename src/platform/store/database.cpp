@@ -51,6 +51,16 @@ struct Executor {
   }
 };
 
+/// The translator knows the statement, not the file it was meant for.
+template <typename Translate>
+auto NamingFile(const Connection& connection, Translate translate) {
+  try {
+    return translate();
+  } catch (const Fault& fault) {
+    throw Fault{fault.Kind(), fmt::format("{}: {}", fault.Where(), connection.File().string())};
+  }
+}
+
 }  // namespace
 
 Translated Database::Impl::Translate(std::string_view jet_sql, const TranslateOptions& options) {
@@ -66,6 +76,11 @@ SelectStatement Database::Impl::TranslateSelect(std::string_view jet_sql, const 
                 fmt::format("the statement gives no rows: {}: {}", connection_.File().string(), jet_sql)};
   }
   return std::move(*select);
+}
+
+ChangeStatement Database::Impl::Fuse(std::span<const std::string> updates) {
+  schema_.Refresh();
+  return NamingFile(connection_, [&] { return FuseUpdates(updates, schema_); });
 }
 
 void Database::Impl::RequireWritable(std::string_view statement) const {
@@ -123,6 +138,15 @@ bool Database::HasRows(std::string_view jet_sql) {
 std::int64_t Database::Execute(std::string_view jet_sql) {
   impl_->RequireWritable(jet_sql);
   return std::visit(Executor{*impl_, jet_sql}, impl_->Translate(jet_sql));
+}
+
+std::int64_t Database::ExecuteTogether(std::span<const std::string> updates) {
+  if (updates.empty()) return 0;
+  impl_->RequireWritable(updates.front());
+  const ChangeStatement fused = impl_->Fuse(updates);
+  std::string text;
+  for (const std::string& update : updates) text += (text.empty() ? "" : "; ") + update;
+  return impl_->Connected().Run(fused.sql, text);
 }
 
 std::vector<TableDef> Database::TableDefs() {

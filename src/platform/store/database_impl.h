@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include <fmt/format.h>
-
 #include "platform/store/connection.h"
 #include "platform/store/database.h"
 #include "platform/store/dialect/translate.h"
@@ -40,15 +38,5 @@ class Database::Impl {
   SchemaCache schema_;
   bool in_transaction_ = false;
 };
-
-/// The translator knows the statement, not the file it was meant for.
-template <typename Translate>
-auto NamingFile(const Connection& connection, Translate translate) {
-  try {
-    return translate();
-  } catch (const Fault& fault) {
-    throw Fault{fault.Kind(), fmt::format("{}: {}", fault.Where(), connection.File().string())};
-  }
-}
 
 }  // namespace rbt
