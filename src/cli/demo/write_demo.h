@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace rbt::demo {
+
+struct DemoOptions {
+  std::int32_t sites = 3;    ///< 1 to 999
+  std::int32_t rows = 3000;  ///< lines of each schedule, 0 to 1,000,000
+  std::uint64_t seed = 1;
+};
+
+/// Makes a root folder with demonstration sites and all files that the program reads. `root` must not exist
+/// or be an empty folder; anything else throws `file` and is left as it was. The same options give the same
+/// rows on every machine.
+void WriteDemo(const std::filesystem::path& root, const DemoOptions& options);
+
+}  // namespace rbt::demo
