@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/store/database.h"
+
+namespace rbt {
+
+/// The statements that classify the schedule at load, in their order: material form (`予備3`), dimension
+/// string (`予備5`), material kind (`予備2`), weld diameter (`圧接太さ`). The form statements read `予備2` as
+/// the last start left it: a threaded shape above 200 of a new schedule takes its form from the next start
+/// on.
+std::vector<std::string> ClassificationStatements(std::int32_t start_mode);
+/// Runs them as one transaction. Rows that do not change are not written.
+void ClassifySchedule(Database& schedule, std::int32_t start_mode);
+
+/// The statements of each return to the menu: thin bars are Ulbon, others that were Ulbon become deformed
+/// (of 16 both are possible, and a null `太さ` keeps its kind), anchor plates are counted (none in the start
+/// modes 1 and 3), slit bars are marked, in this order. Files of old layouts have no `定着板数`.
+std::vector<std::string> ActivationStatements(std::int32_t start_mode, bool has_plate_counts);
+/// Runs them as one transaction. Rows that do not change are not written.
+void RefreshSchedule(Database& schedule, std::int32_t start_mode);
+
+/// No floor for a null `階`, no part for a null `部位`: before floors or parts are tallied.
+void FillFloorsAndParts(Database& schedule);
+
+/// Adds the columns that the work with registered names needs to the schedule and to the site's companion
+/// file where they are missing, and turns null weights into 0.
+void AddNameWorkColumns(Database& schedule, Database& companion);
+
+}  // namespace rbt
