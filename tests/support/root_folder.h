@@ -29,7 +29,7 @@ class RootFolder {
 
   /// Puts a file below the root, its folders made.
   std::filesystem::path Put(const std::string& name, const std::string& bytes) const {
-    const std::filesystem::path file = folder_ / name;
+    std::filesystem::path file = folder_ / name;
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << bytes;
     return file;

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -125,6 +126,25 @@ TEST(WriteFileAtomically, RefusesAFolderAndAMissingFolder) {
   EXPECT_THROW(WriteFileAtomically(folder / "d", "x"), Fault);
   EXPECT_THROW(WriteFileAtomically(folder / "nowhere" / "x.ini", "x"), Fault);
   EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+TEST(WriteFileAtomically, KilledAtAnyMomentLeavesTheOldOrTheNewFile) {
+  const TemporaryFolder folder;
+  const fs::path file = folder / "x.ini";
+  const std::string contents[] = {std::string(200'000, 'a'), std::string(300'000, 'b')};
+  WriteFileAtomically(file, contents[0]);
+  for (int round = 0; round < 20; ++round) {
+    const pid_t writer = ::fork();
+    ASSERT_GE(writer, 0);
+    if (writer == 0) {
+      for (int i = 0;; ++i) WriteFileAtomically(file, contents[i % 2]);
+    }
+    ::usleep(static_cast<useconds_t>(1000 + 700 * round));
+    ASSERT_EQ(::kill(writer, SIGKILL), 0);
+    ASSERT_EQ(::waitpid(writer, nullptr, 0), writer);
+    const std::string bytes = ReadFileBytes(file);
+    EXPECT_TRUE(bytes == contents[0] || bytes == contents[1]) << bytes.size() << " bytes";
+  }
 }
 
 TEST(ReadFileBytes, NamesAMissingFileAndTheCause) {

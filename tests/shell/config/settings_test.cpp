@@ -82,7 +82,7 @@ TEST_F(Configuration, TakesTheYearAfterTheCurrentOneAsClosingYear) {
 
 struct NumberCase {
   NumberKey key;
-  std::int32_t SettingsData::*field;
+  std::int32_t SettingsData::*field = nullptr;
 };
 
 TEST_F(Configuration, KeepsEachStoredNumberInItsField) {
@@ -117,7 +117,7 @@ TEST_F(Configuration, KeepsEachStoredNumberInItsField) {
 
 struct TextCase {
   TextKey key;
-  std::string SettingsData::*field;
+  std::string SettingsData::*field = nullptr;
 };
 
 TEST_F(Configuration, KeepsEachStoredTextInItsField) {
