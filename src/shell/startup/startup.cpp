@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "shell/startup/startup.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <fmt/format.h>
+
+#include "archive/store/check_jsyukei.h"
+#include "data/fixed_stock.h"
+#include "data/reference.h"
+#include "data/shapes.h"
+#include "data/site_context.h"
+#include "platform/fault.h"
+#include "platform/numbers/number_words.h"
+#include "platform/profile/ini_file.h"
+#include "platform/system/clock.h"
+#include "platform/system/paths.h"
+#include "platform/system/process.h"
+#include "platform/system/system_error.h"
+#include "shell/preparation/preparation.h"
+#include "tally/selection.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kAccumulationFile = "\\RBK\\DATA\\hozon.MDB";
+constexpr std::string_view kPlateSheetProgram = "\\RBK\\kakou\\rbplateprt.exe";
+
+/// The program that reads newer sites is looked for under one name and started under another.
+constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
+constexpr std::string_view kNewerProgram = "\\rbk\\rbtally1S.exe";
+constexpr double kNewestVersion = 6.0;
+
+/// One step of a sequence; pending events run behind it, so that the screen stays alive.
+template <typename Action>
+void Step(Action action) {
+  action();
+  RunPendingEvents();
+}
+
+/// For reads of tables that older sites lack: their absence, in whatever form, counts as nothing.
+template <typename Read>
+void PassOverFaults(Read read) {
+  try {
+    read();
+  } catch (const Fault&) {
+    return;
+  }
+}
+
+void OpenFixedStock() {
+  ProvideFixedStockDatabase();
+  SiteContext.FixedStockDatabase.reset();
+  if (Settings.UseFixedTable == 1) OpenFixedStockDatabase();
+}
+
+void RequireSteelIni() {
+  if (!FamilyFileExists(kSteelIni)) throw FileFaultText(MapPath(kSteelIni), "the file does not exist");
+}
+
+void BindSite(const StartOptions& options) {
+  const std::string name = options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+  if (name.empty()) {
+    throw FileFaultText(MapPath(kSteelIni), fmt::format("no site: [{}] {} is empty",
+                                                        kSelectedDbNameKey.section, kSelectedDbNameKey.key));
+  }
+  SelectSite(name);
+  OpenWorkDatabase();
+}
+
+/// The format of the site database, 0 when the file does not tell.
+double ReadSiteVersion() {
+  double version = 0.0;
+  PassOverFaults([&] {
+    Recordset rows = SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM データーベースバージョン");
+    version = LeadingNumber(TextOf(rows.Get("バージョン")));
+  });
+  return version;
+}
+
+bool NeedsNewerProgram() { return ReadSiteVersion() > kNewestVersion && FamilyFileExists(kNewerProgramMark); }
+
+/// Finds out nothing: sites without a shape table are worked on like any other.
+void ProbeShapeTable() {
+  PassOverFaults([] { SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM 形状テーブル"); });
+}
+
+/// Every registered name starts out as selected.
+void MarkRegisteredNames(std::int32_t start_mode) {
+  Database companion = Database::Open(MapPath(CompanionDatabasePath()));
+  if (IsPassThrough(start_mode)) return;
+  Transaction transaction(companion);
+  Recordset names = companion.OpenDynaset("SELECT * FROM 登録名 ORDER BY 登録AN");
+  const FieldHandle number = names.Field("登録AN");
+  const FieldHandle mark = names.Field("表示番号");
+  for (; !names.Eof(); names.MoveNext()) {
+    if (names.IsNull(number)) continue;
+    names.Edit();
+    names.Set(mark, Value{std::int64_t{1}});
+    names.Update();
+  }
+  transaction.Commit();
+}
+
+void ReadSiteNames() {
+  const LongName name = ReadLongName(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  SiteContext.LongSiteName = name.name;
+  SiteContext.LongSiteNameWidth = name.width;
+}
+
+void ReadMaker() {
+  SiteContext.MakerNumber = ReadMakerNumber(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+}
+
+void ReadGrades() { SiteContext.GradeNames = ReadGradeNames(*SiteContext.MasterDatabase); }
+
+void ResetAccumulation(const StartOptions& options) {
+  RunState.AccumulateFlag = 0;
+  if (options.command_line) return;
+  SaveSetting(kAccumulateFlagKey, 0);
+  if (!FamilyFileExists(kAccumulationFile)) return;
+  const std::filesystem::path file = MapPath(kAccumulationFile);
+  std::error_code error;
+  std::filesystem::remove(file, error);
+  if (error) throw FileFault(file, "cannot be deleted", error.value());
+}
+
+void ProbeShapes() {
+  // The clause continues a condition: " AND (...)".
+  constexpr std::string_view kAnchorPlates = kAnchorPlateClause.substr(6, kAnchorPlateClause.size() - 6 - 1);
+  static_assert(kAnchorPlateClause.starts_with(" AND (") && kAnchorPlateClause.ends_with(")"));
+  constexpr std::string_view kRows = "SELECT * FROM 加工テーブル WHERE ";
+  Database& site = *SiteContext.WorkDatabase;
+  RunState.HasAnchorPlateRows = site.HasRows(fmt::format("{}{}", kRows, kAnchorPlates));
+  RunState.HasHoopRows = site.HasRows(fmt::format("{}形状No={}", kRows, kWeldedHoopShape));
+}
+
+void ProbeCounters() {
+  RunState.HasWeldCounter = FamilyFileExists("\\rbk\\KAKOU\\rbweldcnt.exe");
+  RunState.HasJoinCounter = FamilyFileExists("\\rbk\\KAKOU\\rbjoincnt.exe");
+  RunState.HasPlateCounter = FamilyFileExists("\\rbk\\KAKOU\\rbplatecnt.exe");
+}
+
+void StampRun() {
+  const DateTime now = Now();
+  RunState.RunDate = fmt::format("{:04}{:02}{:02}", now.year, now.month, now.day);
+  RunState.RunTime = fmt::format("{:02}{:02}{:02}", now.hour, now.minute, now.second);
+}
+
+void ResetSelection() {
+  if (RunState.AccumulateFlag != 0) return;
+  constexpr std::int16_t kAllForms = 15;
+  constexpr std::int16_t kHighStrengthWithOthers = 2;
+  Selection.MaterialCalcChoice = kHighStrengthWithOthers;
+  Selection.MaterialFormMask = kAllForms;
+}
+
+MenuState DescribeMenu(const StartOptions& options) {
+  // The key is read into ten characters, not into the eighty of other keys.
+  const std::string weight_tally =
+      GetProfileText(MapPath(kNextPrgIni), kHandOverSection, kWeightTallyKey, "", 10);
+  MenuState state = MenuStateOf(options.start_mode, RunState, Settings, weight_tally);
+  if (options.command_line) state.pass_on_to.reset();
+  return state;
+}
+
+void ForgetHoops() {
+  Selection.HoopMode = 0;
+  RunState.HasHoopRows = false;
+}
+
+}  // namespace
+
+LoadResult LoadSite(const StartOptions& options) {
+  LoadResult result;
+  RequireSteelIni();
+  Step(LoadGridColours);
+  Selection.StartMode = options.start_mode;
+  Step(LoadTallySettings);
+  Step(OpenFixedStock);
+  Step([&] { BindSite(options); });
+  Step(DropEmptyArchiveTables);
+  Step(Check_JSyukei);
+  if (!options.command_line && NeedsNewerProgram()) {
+    SiteContext.WorkDatabase.reset();
+    result.hand_over_to = kNewerProgram;
+    return result;
+  }
+  Step(ProbeShapeTable);
+  if (options.prepare) Step([&] { ClassifySchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  Step(OpenMasterDatabase);
+  Step([&] { MarkRegisteredNames(options.start_mode); });
+  Step(ReadSiteNames);
+  Step(ReadMaker);
+  Step(ReadGrades);
+  Step([&] { ResetAccumulation(options); });
+  result.shows_plate_sheet = FamilyFileExists(kPlateSheetProgram);
+  Step(LoadRemainingSettings);
+  Step(ProbeShapes);
+  SiteContext.WorkDatabase.reset();
+  Step(ProbeCounters);
+  StampRun();
+  return result;
+}
+
+MenuState ActivateMenu(const StartOptions& options) {
+  Step(RereadTitleSettings);
+  Step([&] { BindSite(options); });
+  if (options.prepare) Step([&] { RefreshSchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  ResetSelection();
+  MenuState state = DescribeMenu(options);
+  ForgetHoops();
+  return state;
+}
+
+}  // namespace rbt
