@@ -24,6 +24,13 @@ enum class Joint {
   closed,  ///< one weld closes each hoop
 };
 
+/// What steel the bars are of.
+enum class Steel {
+  plain,
+  strong_below,  ///< high-strength steel on some lines of the lower storeys
+  thin,          ///< thin high-strength shear bar: U6 to U16
+};
+
 struct Range {
   std::int32_t low;
   std::int32_t high;
@@ -43,8 +50,7 @@ struct BarPattern {
   Range places;
   std::int32_t stock_cut_percent = 0;  ///< lines whose cut length is a stock length: bars used whole
   Joint joint = Joint::none;
-  bool high_strength = false;  ///< may be of high-strength steel in the lower storeys
-  bool thin = false;           ///< thin high-strength shear bar: U6 to U16
+  Steel steel = Steel::plain;
 };
 
 std::span<const BarPattern> BarPatterns();

@@ -61,7 +61,8 @@ ScheduleGenerator::ScheduleGenerator(std::int32_t rows, std::int32_t registered_
 }
 
 void ScheduleGenerator::PlanBlocks() {
-  std::int64_t total = 0;
+  std::vector<std::int64_t> weight_so_far;
+  std::int64_t sum = 0;
   for (const Storey& storey : Storeys()) {
     for (std::int32_t part = 1; part <= kParts; ++part) {
       Block block{&storey, {}, 0, 0};
@@ -71,15 +72,14 @@ void ScheduleGenerator::PlanBlocks() {
         block.pattern_weight += pattern.weight;
       }
       if (block.patterns.empty()) continue;
-      total += static_cast<std::int64_t>(storey.weight) * block.pattern_weight;
+      sum += static_cast<std::int64_t>(storey.weight) * block.pattern_weight;
+      weight_so_far.push_back(sum);
       blocks_.push_back(std::move(block));
     }
   }
   // Shares are cut off the running sum, so that the lines come to exactly `rows_`.
-  std::int64_t sum = 0;
-  for (Block& block : blocks_) {
-    sum += static_cast<std::int64_t>(block.storey->weight) * block.pattern_weight;
-    block.last_row = static_cast<std::int32_t>(rows_ * sum / total);
+  for (std::size_t i = 0; i < blocks_.size(); ++i) {
+    blocks_[i].last_row = static_cast<std::int32_t>(rows_ * weight_so_far[i] / weight_so_far.back());
   }
 }
 
@@ -129,7 +129,8 @@ void ScheduleGenerator::Cut(ScheduleRow& row, const BarPattern& pattern) {
 void ScheduleGenerator::Join(ScheduleRow& row, const BarPattern& pattern, double height) {
   const Shape& shape = ShapeOf(row.shape);
   row.threads = shape.thread_ends * row.total;
-  const bool closed = pattern.joint == Joint::closed || (pattern.thin && row.shape == kWeldedHoopShape);
+  const bool closed =
+      pattern.joint == Joint::closed || (pattern.steel == Steel::thin && row.shape == kWeldedHoopShape);
   if (closed) row.welds = row.total;
   if (pattern.joint == Joint::weld && row.diameter >= 19 && random_.Chance(75)) {
     row.welds = row.total;
@@ -138,7 +139,7 @@ void ScheduleGenerator::Join(ScheduleRow& row, const BarPattern& pattern, double
     if (steps) row.weld_diameter = NextThicker(row.diameter);
     // The sheared end is sawn square before it is welded.
     row.cuts = row.total;
-  } else if (row.diameter >= 29 && !pattern.thin) {
+  } else if (row.diameter >= 29 && pattern.steel != Steel::thin) {
     // Too thick for the shear: every piece that is no whole stock bar is sawn.
     const bool whole = std::lround(row.stock_m * 1000.0) == row.cut_mm;
     row.cuts = whole ? 0 : row.total;
@@ -146,11 +147,12 @@ void ScheduleGenerator::Join(ScheduleRow& row, const BarPattern& pattern, double
 }
 
 void ScheduleGenerator::MarkKind(ScheduleRow& row, const BarPattern& pattern, double height) {
-  if (pattern.thin) {
+  if (pattern.steel == Steel::thin) {
     if (row.diameter == kMarkedThinDiameter) row.kind = 2;
   } else if (row.shape > 200) {
     row.kind = 4;
-  } else if (pattern.high_strength && row.diameter >= 29 && height <= 0.5 && random_.Chance(45)) {
+  } else if (pattern.steel == Steel::strong_below && row.diameter >= 29 && height <= 0.5 &&
+             random_.Chance(45)) {
     row.kind = 3;
   } else if (random_.Chance(25)) {
     row.kind = 0;

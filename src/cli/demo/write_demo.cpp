@@ -103,8 +103,9 @@ void WriteScheduleFile(const fs::path& data, const Site& site, const DemoOptions
   const std::vector<TableDef> tables = ScheduleFileTables();
   WriteDatabase(data / site.ScheduleFile(), tables, [&](Database& database) {
     TableWriter schedule(database, TableNamed(tables, "加工テーブル"));
-    ScheduleGenerator lines(options.rows, static_cast<std::int32_t>(site.registered_names.size()),
-                            options.seed * 1000 + static_cast<std::uint64_t>(site.number));
+    ScheduleGenerator lines(
+        options.rows, static_cast<std::int32_t>(site.registered_names.size()),
+        static_cast<std::uint64_t>(options.seed) * 1000 + static_cast<std::uint64_t>(site.number));
     std::vector<Value> values;
     while (!lines.Done()) {
       AppendRow(values, lines.Next());

@@ -6,10 +6,14 @@
 
 namespace rbt::demo {
 
+inline constexpr std::int32_t kMostSites = 999;  ///< site numbers have three digits
+inline constexpr std::int32_t kMostRows = 1'000'000;
+inline constexpr std::int32_t kHighestSeed = 999'999'999;
+
 struct DemoOptions {
-  std::int32_t sites = 3;    ///< 1 to 999
-  std::int32_t rows = 3000;  ///< lines of each schedule, 0 to 1,000,000
-  std::uint64_t seed = 1;
+  std::int32_t sites = 3;    ///< 1 to kMostSites
+  std::int32_t rows = 3000;  ///< lines of each schedule, 0 to kMostRows
+  std::int32_t seed = 1;     ///< 0 to kHighestSeed
 };
 
 /// Makes a root folder with demonstration sites and all files that the program reads. `root` must not exist
