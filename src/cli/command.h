@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <span>
+#include <stdexcept>
+#include <string_view>
+
+namespace CLI {
+class App;
+}
+
+namespace rbt {
+
+/// Wrong usage that only shows once all options are known; ends the program with status 2.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// What a command does once its options are read; faults end it.
+using Action = std::function<void()>;
+
+/// One command of the program. `define` adds its options to its part of the command line; the action it
+/// returns is called when the command is the one given.
+struct Command {
+  std::string_view name;
+  std::string_view description;
+  Action (*define)(CLI::App& line);
+};
+
+/// The commands, as `--help` lists them.
+std::span<const Command> Commands();
+
+Action DefineDemo(CLI::App& line);
+Action DefinePrepare(CLI::App& line);
+Action DefineTally(CLI::App& line);
+
+}  // namespace rbt

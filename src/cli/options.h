@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "tally/selection.h"
+
+namespace rbt {
+
+/// The options that every command on a site takes.
+struct CommonOptions {
+  std::string root;              ///< root folder; empty: $RBK_ROOT
+  std::string site;              ///< schedule file in place of 選択ＤＢ名; empty: as STEEL.INI says
+  std::int32_t start_mode = -1;  ///< StartMode
+  bool no_prepare = false;       ///< leave the schedule as it stands
+};
+
+/// The filters of a tally.
+struct SelectionOptions {
+  std::int32_t kinds = 15;  ///< MaterialKindMask; 0 (thin bars alone) is for the floor and part tallies
+  std::int16_t forms = 15;  ///< MaterialFormMask
+  std::int32_t ulbon = 1;   ///< IncludeUlbon
+  std::int16_t calc = 2;    ///< MaterialCalcChoice
+  std::int32_t hoops = 0;   ///< HoopMode
+  std::int32_t plates = 0;  ///< AnchorPlateMode
+};
+
+/// A whole number from `lowest` to `highest`, with its present value as the default.
+template <typename Number>
+void AddNumberOption(CLI::App& line, const std::string& name, Number& number, std::int64_t lowest,
+                     std::int64_t highest, const std::string& description) {
+  line.add_option(name, number, description)
+      ->type_name(std::to_string(lowest) + ".." + std::to_string(highest))
+      ->check(CLI::Range(lowest, highest).description(""))
+      ->capture_default_str();
+}
+
+void AddCommonOptions(CLI::App& line, CommonOptions& options);
+void AddSelectionOptions(CLI::App& line, SelectionOptions& options);
+/// `--format`: "table", "json" or "csv".
+void AddFormatOption(CLI::App& line, std::string& format);
+
+/// Takes the filters over as given; what a screen would reset stays.
+void ApplySelection(const SelectionOptions& options, SelectionData& selection);
+
+}  // namespace rbt
