@@ -19,8 +19,7 @@ struct Era {
   constexpr int FirstYear() const { return first_day / 10000; }
 };
 
-/// The eras since the solar calendar's use for them, oldest first; days as the imperial edicts proclaimed
-/// them.
+/// The eras from 明治 on, oldest first.
 inline constexpr std::array<Era, 5> kEras{{
     {"明治", "明", "M", 18681023},
     {"大正", "大", "T", 19120730},

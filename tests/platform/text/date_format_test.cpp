@@ -80,6 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(PlatformFormat, AnOldPlatformGoesOnCountingHeisei) {
   EXPECT_EQ(PlatformFormat({2019, 5, 1}, "gemmdd", KnownEras::up_to_heisei), "H310501");
+  EXPECT_EQ(PlatformFormat({2019, 5, 1}, "gemmdd", KnownEras::all), "R10501");
+  EXPECT_EQ(PlatformFormat({2019, 5, 2}, "gemmdd", KnownEras::up_to_heisei), "H310502");
   EXPECT_EQ(PlatformFormat({2026, 2, 3}, "ggge", KnownEras::up_to_heisei), "平成38");  // 2026 - 1988
   EXPECT_EQ(PlatformFormat({1989, 1, 7}, "ggge", KnownEras::up_to_heisei), "昭和64");
 }

@@ -170,6 +170,15 @@ TEST(FormatDate, ThePlatformOfTheRunningProgramKnowsTheNewEra) {
   EXPECT_EQ(FormatDate(kFirstDayOfReiwa, "gemmdd"), "R10501");
 }
 
+TEST(FormatDate, ThePlatformIsProbedOnEachCall) {
+  // An escaped "g" tells the roads apart: only the old platform's takes it for the era's letter.
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(FormatDate(kFirstDayOfReiwa, "\\ge", kNumber, KnownEras::all), "g1");
+    EXPECT_EQ(FormatDate(kFirstDayOfReiwa, "\\ge", kNumber, KnownEras::up_to_heisei), "R1");
+    EXPECT_EQ(FormatDate(kLastDayOfHeisei, "\\ge", kNumber, KnownEras::up_to_heisei), "g31");
+  }
+}
+
 TEST(FormatDate, ADateThatThePlatformRefusesComesBackAsItStands) {
   EXPECT_EQ(FormatDate({2019, 2, 30}, "ggge年"), "2019/2/30");
   EXPECT_EQ(FormatDate({2018, 2, 30}, "ggge年", kWord, KnownEras::up_to_heisei), "2018/2/30");
