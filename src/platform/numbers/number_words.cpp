@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <locale.h>
 #include <string>
 
 #include <fmt/format.h>
@@ -16,6 +17,8 @@
 namespace rbt {
 
 namespace {
+
+constexpr int kSignificantDigits = 15;
 
 template <typename T>
 T Narrow(double x, std::string_view where) {
@@ -50,6 +53,12 @@ std::size_t DecimalLength(std::string_view text) {
   return at;
 }
 
+/// A number too large or too small for a double: infinity or zero, with its sign.
+double BeyondDouble(const std::string& plain) {
+  static const locale_t plain_locale = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtod_l(plain.c_str(), nullptr, plain_locale);
+}
+
 double ParseDecimal(std::string_view text) {
   std::string plain(text);
   for (char& c : plain) {
@@ -58,7 +67,7 @@ double ParseDecimal(std::string_view text) {
   const char* first = plain.data() + (plain[0] == '+' ? 1 : 0);
   double value = 0.0;
   const auto [end, error] = std::from_chars(first, plain.data() + plain.size(), value);
-  if (error == std::errc::result_out_of_range) return std::strtod(plain.c_str(), nullptr);
+  if (error == std::errc::result_out_of_range) return BeyondDouble(plain);
   return end == first ? 0.0 : value;
 }
 
@@ -130,7 +139,9 @@ double NumberOfText(std::string_view text, std::string_view where) {
   if (plain.empty() || DecimalLength(plain) != plain.size()) {
     throw Fault(FaultKind::type_mismatch, fmt::format("{}: \"{}\" is no number", where, text));
   }
-  return ParseDecimal(plain);
+  const double number = ParseDecimal(plain);
+  if (std::isinf(number)) throw Fault(FaultKind::overflow, fmt::format("{}: \"{}\"", where, text));
+  return number;
 }
 
 std::string ShortestDecimal(double x) {
@@ -148,7 +159,8 @@ std::string ShortestDecimal(double x) {
   digits.erase(digits.find_last_not_of('0') + 1);
   const std::string sign = x < 0 ? "-" : "";
   const int count = static_cast<int>(digits.size());
-  if (exponent >= 15 || exponent < -15 || (exponent < -1 && count - exponent > 15)) {
+  const int places = count - exponent - 1;
+  if (exponent >= kSignificantDigits || places > kSignificantDigits) {
     const std::string mantissa = count == 1 ? digits : digits.substr(0, 1) + "." + digits.substr(1);
     return fmt::format("{}{}E{}{:02}", sign, mantissa, exponent < 0 ? '-' : '+', std::abs(exponent));
   }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text/cp932.h"
 
+#include <array>
+#include <cerrno>
 #include <cstdint>
 #include <iconv.h>
 
@@ -17,7 +19,7 @@ namespace {
 class Converter {
  public:
   Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {
-    if (handle_ == reinterpret_cast<iconv_t>(-1)) {
+    if (reinterpret_cast<std::intptr_t>(handle_) == -1) {
       throw Fault(FaultKind::file, "code page 932 is not known on this machine");
     }
   }
@@ -29,16 +31,16 @@ class Converter {
   /// not.
   std::size_t Convert(std::string_view input, std::string& output) {
     iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-    std::string copy(input);
-    char* from = copy.data();
-    std::size_t left = copy.size();
-    const std::size_t start = output.size();
-    output.resize(start + copy.size() * 3 + 4);
-    char* to = output.data() + start;
-    std::size_t room = output.size() - start;
-    iconv(handle_, &from, &left, &to, &room);
-    output.resize(static_cast<std::size_t>(to - output.data()));
-    return copy.size() - left;
+    char* from = const_cast<char*>(input.data());  // iconv only reads there
+    std::size_t left = input.size();
+    std::array<char, 1024> buffer{};
+    for (bool full = true; full;) {
+      char* to = buffer.data();
+      std::size_t room = buffer.size();
+      full = iconv(handle_, &from, &left, &to, &room) == static_cast<std::size_t>(-1) && errno == E2BIG;
+      output.append(buffer.data(), to);
+    }
+    return input.size() - left;
   }
 
  private:
@@ -53,6 +55,11 @@ Converter& Encoder() {
 Converter& Decoder() {
   thread_local Converter converter("UTF-8", "CP932");
   return converter;
+}
+
+/// The code page keeps the yen sign and the overline in the places of the backslash and the tilde.
+std::size_t BytesOf(std::string_view character) {
+  return character == "\u00A5" || character == "\u203E" ? 1 : DisplayWidth(character);
 }
 
 }  // namespace
@@ -92,14 +99,22 @@ std::string FromCp932Lenient(std::string_view bytes) {
   return text;
 }
 
-std::size_t Cp932Length(std::string_view utf8) { return DisplayWidth(utf8); }
+std::size_t Cp932Length(std::string_view utf8) {
+  std::size_t bytes = 0;
+  while (!utf8.empty()) {
+    const std::string_view character = Left(utf8, 1);
+    bytes += BytesOf(character);
+    utf8.remove_prefix(character.size());
+  }
+  return bytes;
+}
 
 std::string_view Cp932Prefix(std::string_view utf8, std::size_t bytes) {
   std::size_t at = 0;
   std::size_t used = 0;
   while (at < utf8.size()) {
     const std::string_view character = Left(utf8.substr(at), 1);
-    used += DisplayWidth(character);
+    used += BytesOf(character);
     if (used > bytes) break;
     at += character.size();
   }

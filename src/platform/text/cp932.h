@@ -7,8 +7,10 @@
 
 namespace rbt {
 
-/// UTF-8 to code page 932 (the Windows one: ①, ㈱, 髙, ～ have codes). Throws `type mismatch`, naming the
-/// character and its place, for what the code page does not hold or for text that is not UTF-8.
+/// UTF-8 to code page 932 (the Windows one: ①, ㈱, 髙, ～ have codes). Look-alikes take the code of their
+/// Windows character and come back as that: 〜 as ～, − as －, ‖ as ∥, — as ―, ¢£¬ as ￠￡￢, the half-width
+/// yen sign as a backslash. Throws `type mismatch`, naming the character and its place, for what the code
+/// page does not hold or for text that is not UTF-8.
 std::string ToCp932(std::string_view utf8);
 /// Code page 932 to UTF-8. A byte sequence that is no character throws `type mismatch` and names its offset.
 std::string FromCp932(std::string_view bytes);

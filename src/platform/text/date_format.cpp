@@ -19,8 +19,8 @@ constexpr std::string_view kJapaneseLocale = "[$-411]";
 /// What the words of a format draw on.
 struct Parts {
   DateTime at;
-  const Era* era;   ///< null before the first era
-  bool after_hour;  ///< the word before was an hour, so that "m" is the minute
+  const Era* era = nullptr;  ///< null before the first era
+  bool after_hour = false;   ///< the word before was an hour, so that "m" is the minute
 
   int EraYear() const { return era == nullptr ? at.year : at.year - era->FirstYear() + 1; }
 };
@@ -98,7 +98,7 @@ int DayStamp(const DateTime& at) { return (at.year * 100 + at.month) * 100 + at.
 
 std::string PlatformFormat(const DateTime& at, std::string_view format, KnownEras eras) {
   CheckExists(at);
-  Parts parts{at, EraOf(at, eras), false};
+  Parts parts{.at = at, .era = EraOf(at, eras)};
   std::string text;
   while (!format.empty()) {
     const Word* word = WordAt(format);

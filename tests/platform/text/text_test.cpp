@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <ios>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
@@ -44,6 +48,70 @@ TEST(Cp932, CountsBytesAndNeverCutsACharacterInHalf) {
   EXPECT_EQ(Cp932Prefix("柱", 0), "");
 }
 
+TEST(Cp932, TakesLookAlikesForTheirWindowsCharacters) {
+  EXPECT_EQ(FromCp932(ToCp932("〜−‖—¢£¬\u00A5\u203E")), "～－∥―￠￡￢\\~");
+}
+
+TEST(Cp932, RefusesTheBytesThatNoCharacterHas) {
+  for (const char* bytes : {"\x80", "\xA0", "\xFD", "\xFE", "\xFF", "\x81", "\x81 ", "\x85\x40"}) {
+    EXPECT_THROW(FromCp932(bytes), Fault);
+  }
+  try {
+    FromCp932("ab\xFF");
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::type_mismatch);
+    EXPECT_NE(std::string(fault.what()).find("byte FF at offset 2"), std::string::npos) << fault.what();
+  }
+}
+
+TEST(Cp932, RefusesTextThatIsNotUtf8) {
+  EXPECT_THROW(ToCp932("a\xE6\x9F"), Fault);
+  EXPECT_THROW(ToCp932("\xC0\x80"), Fault);
+}
+
+TEST(Cp932, TheLengthIsThatOfTheBytesForEveryCharacterItHolds) {
+  int held = 0;
+  for (char32_t c = 0; c < 0x10000; ++c) {
+    if (c >= 0xD800 && c < 0xE000) continue;
+    const std::string text = Utf8Of(c);
+    try {
+      const std::string bytes = ToCp932(text);
+      ++held;
+      ASSERT_EQ(Cp932Length(text), bytes.size()) << std::hex << static_cast<unsigned>(c);
+    } catch (const Fault&) {
+      ASSERT_EQ(Cp932Length(text), 2U) << std::hex << static_cast<unsigned>(c);
+    }
+  }
+  // 128 of ASCII, 63 half-width katakana, 7,070 + 1,880 full-width at least (rows 1 to 94, NEC, IBM; own
+  // ones).
+  EXPECT_GT(held, 128 + 63 + 7070 + 1880);
+}
+
+TEST(Cp932, EveryCodeReadsBackAsItsCharacter) {
+  int codes = 0;
+  for (int lead = 0x81; lead <= 0xFC; ++lead) {
+    if (lead >= 0xA0 && lead < 0xE0) continue;
+    for (int trail = 0x40; trail <= 0xFC; ++trail) {
+      const std::string bytes{static_cast<char>(lead), static_cast<char>(trail)};
+      const std::string text = FromCp932Lenient(bytes);
+      if (CharacterCount(text) != 1 || text == "\uFFFD") continue;
+      ++codes;
+      ASSERT_EQ(FromCp932(ToCp932(text)), text) << std::hex << lead << trail;
+    }
+  }
+  EXPECT_GT(codes, 7070 + 1880);
+}
+
+TEST(Cp932, ALongTextConvertsWhole) {
+  std::string text;
+  for (int i = 0; i < 5000; ++i) text += "鉄a筋";
+  const std::string bytes = ToCp932(text);
+  EXPECT_EQ(bytes.size(), 5000U * 5);
+  EXPECT_EQ(FromCp932(bytes), text);
+  EXPECT_EQ(FromCp932Lenient("\xFF" + bytes + "\xFF"), "\uFFFD" + text + "\uFFFD");
+}
+
 TEST(Characters, AreCountedAndCutAsCodePoints) {
   EXPECT_EQ(CharacterCount("GENBA００１"), 8U);
   EXPECT_EQ(Mid("GENBA001.MDB", 6, 3), "001");
@@ -56,6 +124,36 @@ TEST(Characters, AreCountedAndCutAsCodePoints) {
 }
 
 TEST(Characters, TrimTakesHalfWidthBlanksOnly) { EXPECT_EQ(Trim("  SD345　 "), "SD345　"); }
+
+TEST(Characters, BytesThatAreNoUtf8AreOneReplacementCharacterEach) {
+  const std::vector<char32_t> two{0xFFFD, 0xFFFD};
+  EXPECT_EQ(CharactersOf("\xE6\x9F"), two);                                       // cut short
+  EXPECT_EQ(CharactersOf("\xC0\x80"), two);                                       // longer than needed
+  EXPECT_EQ(CharactersOf("\xED\xA0\x80"), std::vector<char32_t>(3, 0xFFFD));      // half a pair
+  EXPECT_EQ(CharactersOf("\xF4\x90\x80\x80"), std::vector<char32_t>(4, 0xFFFD));  // beyond U+10FFFF
+  EXPECT_EQ(CharactersOf("\xF0\x9F\x98\x80"), std::vector<char32_t>{0x1F600});
+  EXPECT_EQ(Utf8Of(0xD800), "\uFFFD");
+  EXPECT_EQ(Utf8Of(0x1F600), "\xF0\x9F\x98\x80");
+  EXPECT_EQ(Utf8Of(U'é') + Utf8Of(U'柱') + Utf8Of(U'a'), "é柱a");
+}
+
+TEST(Characters, MidLeftAndRightStopAtTheEnds) {
+  EXPECT_EQ(Mid("柱梁", 3), "");
+  EXPECT_EQ(Mid("柱梁", 9, 1), "");
+  EXPECT_EQ(Mid("柱梁", 1, 0), "");
+  EXPECT_EQ(Mid("柱梁", 2, 9), "梁");
+  EXPECT_EQ(Left("柱梁", 0), "");
+  EXPECT_EQ(Left("柱梁", 9), "柱梁");
+  EXPECT_EQ(Right("柱梁", 0), "");
+  EXPECT_EQ(Right("", 3), "");
+}
+
+TEST(Characters, ReplaceAllDoesNotReadItsOwnReplacements) {
+  EXPECT_EQ(ReplaceAll("aaa", "aa", "a"), "aa");
+  EXPECT_EQ(ReplaceAll("a.b.c", ".", ".."), "a..b..c");
+  EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
+  EXPECT_EQ(ReplaceAll("abc", "abc", ""), "");
+}
 
 TEST(Characters, WidthsAndForms) {
   EXPECT_EQ(ToFullWidth("B12 F"), "Ｂ１２　Ｆ");
