@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// Times what a user waits for, each against the bare aggregation over the same file, taken in turn in the
+// same run. `x_bare` is the ratio to quote; `peak_MB` the greatest resident memory meanwhile.
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include "data/site_context.h"
+#include "platform/system/paths.h"
+#include "shell/startup/startup.h"
+#include "tally/bulk_tally.h"
+#include "tally/selection.h"
+#include "tally/tally_grid.h"
+#include "yardstick.h"
+
+namespace rbt::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path& Folder() {
+  static const fs::path folder = [] {
+    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    std::atexit([] { fs::remove_all(Folder()); });
+    return fs::path(pattern);
+  }();
+  return folder;
+}
+
+/// A demonstration root with so many rows in its first site, its schedule as the entry programs leave it,
+/// made once.
+const fs::path& DemoRoot(std::int64_t rows) {
+  static std::map<std::int64_t, fs::path> roots;
+  fs::path& root = roots[rows];
+  if (!root.empty()) return root;
+  root = Folder() / std::to_string(rows);
+  const std::string command =
+      std::string(RBTALLY_PROGRAM) + " demo " + root.string() + " --sites 1 --rows " + std::to_string(rows);
+  if (std::system((command + " >/dev/null").c_str()) != 0) throw std::runtime_error("failed: " + command);
+  fs::copy_file(root / "DATA/GENBA001.MDB", root / "fresh.MDB");
+  return root;
+}
+
+fs::path SiteFile(const fs::path& root) { return root / "DATA/GENBA001.MDB"; }
+
+void CloseSite() { SiteContext = SiteContextData(); }
+
+void Bind(const fs::path& root) {
+  CloseSite();
+  setenv("RBK_SETTINGS", (root / "settings.ini").c_str(), 1);
+  SetRoot(root);
+  Selection = SelectionData();
+}
+
+/// Times `work` and, in turn with it, the bare aggregation over the same file.
+void Compare(benchmark::State& state, const fs::path& site, const std::function<void()>& set_up,
+             const std::function<void()>& work) {
+  double worked = 0.0;
+  double bare = 0.0;
+  double peak = 0.0;
+  for (auto unused : state) {
+    set_up();
+    bare += BareAggregation(site);
+    ResetPeakMemory();
+    const double start = SecondsNow();
+    work();
+    const double seconds = SecondsNow() - start;
+    worked += seconds;
+    peak = std::max(peak, PeakMemoryMb());
+    state.SetIterationTime(seconds);
+  }
+  state.counters["x_bare"] = worked / bare;
+  state.counters["bare_ms"] = bare / static_cast<double>(state.iterations()) * 1000.0;
+  state.counters["peak_MB"] = peak;
+}
+
+void Load() { LoadSite({.command_line = true}); }
+void Activate() { ActivateMenu({.command_line = true}); }
+
+void LoadFreshSite(benchmark::State& state) {
+  const fs::path& root = DemoRoot(state.range(0));
+  const auto set_up = [&] {
+    Bind(root);
+    fs::copy_file(root / "fresh.MDB", SiteFile(root), fs::copy_options::overwrite_existing);
+  };
+  Compare(state, SiteFile(root), set_up, [] {
+    Load();
+    Activate();
+  });
+}
+
+void LoadSiteAgain(benchmark::State& state) {
+  const fs::path& root = DemoRoot(state.range(0));
+  Bind(root);
+  Load();
+  Activate();
+  Compare(
+      state, SiteFile(root), [&] { Bind(root); }, Load);
+}
+
+void ActivateAgain(benchmark::State& state) {
+  const fs::path& root = DemoRoot(state.range(0));
+  Bind(root);
+  Load();
+  Activate();
+  Compare(
+      state, SiteFile(root), [] {}, Activate);
+}
+
+void BulkTally(benchmark::State& state) {
+  const fs::path& root = DemoRoot(state.range(0));
+  Bind(root);
+  Load();
+  Activate();
+  Compare(
+      state, SiteFile(root), [] {},
+      [] {
+        Jyuuryo_Syukei();
+        benchmark::DoNotOptimize(TallyGrid.TotalStockWeight);
+      });
+  CloseSite();
+}
+
+void Sizes(benchmark::internal::Benchmark* b) {
+  b->Arg(5000)->Arg(50000)->Arg(1000000)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(0.5);
+}
+
+BENCHMARK(LoadFreshSite)->Apply(Sizes);
+BENCHMARK(LoadSiteAgain)->Apply(Sizes);
+BENCHMARK(ActivateAgain)->Apply(Sizes);
+BENCHMARK(BulkTally)->Apply(Sizes);
+
+}  // namespace
+}  // namespace rbt::bench
+
+BENCHMARK_MAIN();
