@@ -83,8 +83,14 @@ void Compare(benchmark::State& state, const fs::path& site, const std::function<
   state.counters["peak_MB"] = peak;
 }
 
-void Load() { LoadSite({.command_line = true}); }
-void Activate() { ActivateMenu({.command_line = true}); }
+StartOptions Options() {
+  StartOptions options;
+  options.command_line = true;
+  return options;
+}
+
+void Load() { LoadSite(Options()); }
+void Activate() { ActivateMenu(Options()); }
 
 void LoadFreshSite(benchmark::State& state) {
   const fs::path& root = DemoRoot(state.range(0));
