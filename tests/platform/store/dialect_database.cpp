@@ -28,6 +28,15 @@ Cell CellOf(sqlite3_stmt* statement, int column) {
   }
 }
 
+struct CellText {
+  std::string operator()(std::monostate) const { return "null"; }
+  std::string operator()(const std::string& text) const { return text; }
+  template <typename Number>
+  std::string operator()(Number number) const {
+    return fmt::format("{}", number);
+  }
+};
+
 std::string CreateSql(const TableDef& table) {
   std::vector<std::string> columns;
   for (const FieldDef& field : table.fields) {
@@ -112,7 +121,15 @@ std::vector<Row> DialectDatabase::Rows(std::string_view jet_sql, const Translate
   return RowsOfSqlite(std::get<SelectStatement>(TranslateJetSql(jet_sql, *this, options)).sql);
 }
 
-Cell DialectDatabase::Only(std::string_view jet_sql) const { return Rows(jet_sql).at(0).at(0); }
+std::vector<std::string> DialectDatabase::Lines(std::string_view jet_sql) const {
+  std::vector<std::string> lines;
+  for (const Row& row : Rows(jet_sql)) {
+    std::vector<std::string> cells;
+    for (const Cell& cell : row) cells.push_back(std::visit(CellText{}, cell));
+    lines.push_back(fmt::format("{}", fmt::join(cells, "|")));
+  }
+  return lines;
+}
 
 std::int64_t DialectDatabase::ExecuteSqlite(const std::string& sql) {
   const std::int64_t before = sqlite3_total_changes64(connection_);

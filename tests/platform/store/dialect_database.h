@@ -38,8 +38,8 @@ class DialectDatabase : public SchemaSource {
   std::int64_t Execute(std::string_view jet_sql);
   /// The rows of a SELECT in the Jet dialect.
   std::vector<Row> Rows(std::string_view jet_sql, const TranslateOptions& options = {}) const;
-  /// The first value of a SELECT in the Jet dialect.
-  Cell Only(std::string_view jet_sql) const;
+  /// The rows as text, columns divided by bars: "1|null|12.5".
+  std::vector<std::string> Lines(std::string_view jet_sql) const;
 
   std::int64_t ExecuteSqlite(const std::string& sql);
   std::vector<Row> RowsOfSqlite(const std::string& sql) const;

@@ -10,8 +10,8 @@
 namespace rbt::dialect {
 namespace {
 
-/// Levels of parentheses and of operators, far above what a statement has and far below the stack's end.
-constexpr int kMaxDepth = 200;
+/// Levels of parentheses and of operators: above what a statement has, and within reach of SQLite's parser.
+constexpr int kMaxDepth = 40;
 
 constexpr std::string_view kComparisonSigns[] = {"=", "<>", "<", "<=", ">", ">="};
 

@@ -64,8 +64,9 @@ class Lexer {
 
   /// A point behind a name divides table and field, also before a digit.
   bool AfterName() const {
-    return !tokens_.empty() &&
-           (tokens_.back().kind == TokenKind::word || tokens_.back().kind == TokenKind::bracketed);
+    if (tokens_.empty()) return false;
+    const Token& last = tokens_.back();
+    return last.kind == TokenKind::bracketed || (last.kind == TokenKind::word && !IsReserved(last.text));
   }
 
   Token Cut(TokenKind kind, std::size_t begin) const {

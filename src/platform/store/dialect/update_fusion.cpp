@@ -12,8 +12,10 @@ namespace {
 
 // Names of the query's own: no field's name has a point.
 constexpr std::string_view kRow = "\".\"";
-std::string OldName(const FieldDef& field) { return QuoteName("." + field.name); }
-std::string TestName(std::size_t test) { return fmt::format("\".{}\"", test); }
+std::string OldName(const FieldDef& field) { return QuoteName(".old." + field.name); }
+constexpr std::string_view kChanged = "\".changed\"";
+std::string LayerName(std::size_t layer) { return fmt::format("\".layer{}\"", layer); }
+std::string TestName(std::size_t test) { return fmt::format("\".test{}\"", test); }
 
 bool Contains(const std::vector<const FieldDef*>& fields, const FieldDef* field) {
   return std::ranges::find(fields, field) != fields.end();
@@ -95,10 +97,11 @@ std::string UpdateFusion::ColumnSql(const Layer& layer, const FieldDef& field) c
                        : fmt::format("CASE{} ELSE {} END AS {}", cases, last, name);
 }
 
-/// A query with a limit is not folded into the one around it, which would work its columns out again.
+/// The layers as named queries, the bottom one first. A query with a limit is not folded into the one that
+/// reads it, which would work its columns out again.
 std::string UpdateFusion::LayersSql() const {
   const std::vector<Fields> needed = NeededByLayer();
-  std::string source = QuoteName(table_.name);
+  std::string sql = "WITH ";
   for (std::size_t i = 0; i < layers_.size(); ++i) {
     const bool bottom = i == 0;
     const bool top = i + 1 == layers_.size();
@@ -113,10 +116,10 @@ std::string UpdateFusion::LayersSql() const {
       columns += bottom ? fmt::format(", {} AS {}", tests_[test], TestName(test))
                         : fmt::format(", {}", TestName(test));
     }
-    const std::string sql = fmt::format("SELECT {} FROM {} LIMIT -1", columns, source);
-    source = fmt::format("({})", sql);
+    const std::string source = bottom ? QuoteName(table_.name) : LayerName(i - 1);
+    sql += fmt::format("{} AS (SELECT {} FROM {} LIMIT -1), ", LayerName(i), columns, source);
   }
-  return source;
+  return sql;
 }
 
 ChangeStatement UpdateFusion::Statement() const {
@@ -124,13 +127,14 @@ ChangeStatement UpdateFusion::Statement() const {
   std::vector<std::string> differences;
   for (const FieldDef* const field : targets_) {
     const std::string name = QuoteName(field->name);
-    settings.push_back(fmt::format("{} = {}.{}", name, kRow, name));
+    settings.push_back(fmt::format("{} = {}.{}", name, kChanged, name));
     differences.push_back(fmt::format("{} IS NOT {}", name, OldName(*field)));
   }
   const std::string table = QuoteName(table_.name);
-  return {fmt::format("UPDATE {} SET {} FROM (SELECT * FROM {} WHERE {} LIMIT -1) AS {} WHERE {}.{} = {}.{}",
-                      table, fmt::join(settings, ", "), LayersSql(), fmt::join(differences, " OR "), kRow,
-                      table, RowNumberOf(table_), kRow, kRow),
+  return {fmt::format("{}{} AS (SELECT * FROM {} WHERE {} LIMIT -1) "
+                      "UPDATE {} SET {} FROM {} WHERE {}.{} = {}.{}",
+                      LayersSql(), kChanged, LayerName(layers_.size() - 1), fmt::join(differences, " OR "),
+                      table, fmt::join(settings, ", "), kChanged, table, RowNumberOf(table_), kChanged, kRow),
           table_.name};
 }
 
