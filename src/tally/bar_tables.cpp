@@ -111,4 +111,12 @@ double BarWeight(int d, int l) {
   return weights[d][l];
 }
 
+double Get_BarWeightTbl(std::int16_t row, std::int16_t column) {
+  const int index = row * kColumnsTo12m + column;
+  if (index < 0 || index >= kDeformedRows * kColumnsTo12m) {
+    throw Fault(FaultKind::subscript_out_of_range, "bar weight " + std::to_string(index));
+  }
+  return BarWeight(index / kColumnsTo12m, index % kColumnsTo12m);
+}
+
 }  // namespace rbt

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace rbt {
@@ -33,5 +34,9 @@ double UnitWeight(int d);
 /// significant figures, halves to the even figure: the double nearest to that decimal. Faults: subscript out
 /// of range.
 double BarWeight(int d, int l);
+/// The same from the table of 12 rows of 18 columns that the shape by page and line tally reads at row x 18 +
+/// column: the 13.0 m column (18) gives the 3.5 m weight of the next diameter, and of D51 it faults.
+/// Faults: subscript out of range.
+double Get_BarWeightTbl(std::int16_t row, std::int16_t column);
 
 }  // namespace rbt

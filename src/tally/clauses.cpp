@@ -2,14 +2,10 @@
 #include "tally/clauses.h"
 
 #include "data/shapes.h"
+#include "tally/mask_text.h"
 
 namespace rbt {
 namespace {
-
-struct MaskText {
-  std::int32_t mask;
-  std::string_view text;
-};
 
 constexpr MaskText kFormClauses[] = {
     {1, " AND 予備3 = 1"},
@@ -47,14 +43,6 @@ constexpr MaskText kKindClauses[] = {
     {13, " AND (予備2<=1 or IsNull(予備2) or 予備2=3 or 予備2=5 or 予備2=2)"},
     {14, " AND (予備2=3 or 予備2=4 or 予備2=5 or 予備2=2)"},
 };
-
-template <std::size_t N>
-std::string_view TextOfMask(const MaskText (&table)[N], std::int32_t mask) {
-  for (const MaskText& row : table) {
-    if (row.mask == mask) return row.text;
-  }
-  return "";
-}
 
 }  // namespace
 

@@ -2,21 +2,14 @@
 #include "tally/row_fold.h"
 
 #include <string>
-#include <string_view>
 
 #include "data/parts.h"
 #include "platform/numbers/number_words.h"
 #include "tally/bar_tables.h"
+#include "tally/count_cells.h"
 
 namespace rbt {
 namespace {
-
-template <int N>
-void Add(CheckedArray<std::int32_t, N>& counts, int index, const std::optional<std::int32_t>& addend,
-         std::string_view column) {
-  if (!addend) return;
-  counts[index] = AddInt32(counts[index], *addend, column);
-}
 
 /// Metres of installed bar in a row; a null factor makes none.
 double InstalledMetres(const BarRow& row) {
@@ -37,7 +30,7 @@ template <int N>
 void AddWelds(CheckedArray<std::int32_t, N>& welds, int index, const BarRow& row, const RowRules& rules) {
   if (IsLeftOut(row, rules)) return;
   if (row.IsHoop() && !rules.count_hoop_welds) return;
-  Add(welds, index, row.welds, "圧接");
+  AddCount(welds, index, row.welds, "圧接");
 }
 
 /// A cut of the part whose bars end in a weld is made at the diameter that they are welded to.
@@ -48,11 +41,11 @@ int CutRow(const BarRow& row, int d) {
 
 void AddThreadsPlatesCuts(TallyTable& table, int d, const BarRow& row, bool threads_count,
                           const RowRules& rules) {
-  if (threads_count) Add(table.ThreadCount, d, row.threads, "ネジ数");
-  Add(table.PlateCount, d, row.plates, "定着板数");
+  if (threads_count) AddCount(table.ThreadCount, d, row.threads, "ネジ数");
+  AddCount(table.PlateCount, d, row.plates, "定着板数");
   const int cut_row = CutRow(row, d);
   if (cut_row < 0 && rules.pass_over_cuts_at_unknown_diameter) return;
-  Add(table.CutCount, cut_row, row.cuts, "切断");
+  AddCount(table.CutCount, cut_row, row.cuts, "切断");
 }
 
 void CountHighStrength(TallyTable& table, const BarRow& row) {
@@ -62,7 +55,7 @@ void CountHighStrength(TallyTable& table, const BarRow& row) {
 
 void FoldDeformed(TallyTable& table, int d, int l, const BarRow& row, const RowRules& rules) {
   if (!IsLeftOut(row, rules)) {
-    Add(table.BarCount[d], l, row.stock_bars, "伸総計");
+    AddCount(table.BarCount[d], l, row.stock_bars, "伸総計");
     table.StockWeight[d][l] += Currency::FromDouble(BarWeight(d, l) * row.stock_bars.value_or(0));
     table.CutLengthM[d][l] += InstalledMetres(row);
   }

@@ -61,6 +61,21 @@ TEST(BarWeight, FaultsOutsideTheTable) {
   }
 }
 
+TEST(Get_BarWeightTbl, AgreesWithTheBarWeightsTo12Metres) {
+  for (std::int16_t d = 0; d < 12; ++d) {
+    for (std::int16_t l = 0; l < 18; ++l) EXPECT_EQ(Get_BarWeightTbl(d, l), BarWeight(d, l));
+  }
+  EXPECT_EQ(Get_BarWeightTbl(3, 0), 7.88);
+  EXPECT_EQ(Get_BarWeightTbl(10, 2), 47.2);
+  EXPECT_EQ(Get_BarWeightTbl(9, 16), 103.0);
+}
+
+TEST(Get_BarWeightTbl, ReadsTheNextDiameterAt13MetresAndFaultsBehindTheLast) {
+  for (std::int16_t d = 0; d < 11; ++d) EXPECT_EQ(Get_BarWeightTbl(d, 18), BarWeight(d + 1, 0));
+  EXPECT_THROW(Get_BarWeightTbl(11, 18), Fault);
+  EXPECT_THROW(Get_BarWeightTbl(0, -1), Fault);
+}
+
 TEST(UnitWeight, FollowsTheBarStandard) {
   for (int d = 0; d < 18; ++d) {
     EXPECT_EQ(UnitWeight(d), static_cast<double>(kThousandths[d]) / 1000.0) << d;

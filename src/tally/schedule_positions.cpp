@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "tally/schedule_positions.h"
+
+#include <array>
+
+#include <fmt/format.h>
+
+namespace rbt {
+namespace {
+
+constexpr std::array<std::string_view, 1> kLineNumberOnly = {"行No"};
+
+std::int32_t LineNumber(const Recordset& rows, FieldHandle number) {
+  return Int32Of(rows.Get(number), "加工テーブル 行No");
+}
+
+}  // namespace
+
+std::int32_t LineNumberAt(Database& site, SchedulePosition position) {
+  Recordset rows = site.OpenSnapshot(
+      fmt::format("SELECT * FROM 加工テーブル WHERE 頁 = {} AND 行 = {}", position.page, position.line),
+      kLineNumberOnly);
+  const FieldHandle number = rows.Field("行No");
+  std::int32_t last = 0;
+  for (; !rows.Eof(); rows.MoveNext()) last = LineNumber(rows, number);
+  return last;
+}
+
+LineRange LinesBetween(Database& site, const PositionRange& positions) {
+  return {LineNumberAt(site, positions.first), LineNumberAt(site, positions.last)};
+}
+
+std::optional<PositionRange> WholePositionRange(Database& site) {
+  Recordset rows = site.OpenSnapshot("SELECT 行No, 頁, 行 FROM 加工テーブル ORDER BY 行No");
+  if (rows.Eof()) return std::nullopt;
+  const FieldHandle page = rows.Field("頁");
+  const FieldHandle line = rows.Field("行");
+  const auto position = [&] {
+    return SchedulePosition{Int32Of(rows.Get(page), "加工テーブル 頁"),
+                            Int32Of(rows.Get(line), "加工テーブル 行")};
+  };
+  PositionRange range = {position(), {}};
+  // Only the last row's position is read: rows between may lack theirs.
+  for (std::int64_t left = rows.RecordCount() - 1; left > 0; --left) rows.MoveNext();
+  range.last = position();
+  return range;
+}
+
+Value GetKeijouNoSQL(Database& site, std::string_view expression, std::string_view where_clause) {
+  const Recordset rows =
+      site.OpenSnapshot(fmt::format("SELECT {} From 加工テーブル {}", expression, where_clause));
+  return rows.Eof() ? Value{} : rows.Get(FieldHandle{0});
+}
+
+ShapeRange WholeShapeRange(Database& site, const std::optional<LineRange>& lines) {
+  const std::string where =
+      lines ? fmt::format(" WHERE 行No Between {} And {}", lines->first, lines->last) : " ";
+  const auto shape = [&](std::string_view expression) {
+    const Value value = GetKeijouNoSQL(site, expression, where);
+    return IsNull(value) ? 0 : Int32Of(value, "加工テーブル 形状No");
+  };
+  return {shape("Min(形状No)"), shape("Max(形状No)")};
+}
+
+}  // namespace rbt

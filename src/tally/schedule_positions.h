@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "data/shapes.h"
+#include "platform/store/database.h"
+#include "tally/group_statements.h"
+
+namespace rbt {
+
+/// A line of the schedule as it is written: 頁 and 行.
+struct SchedulePosition {
+  std::int32_t page = 0;
+  std::int32_t line = 0;
+
+  friend bool operator==(const SchedulePosition&, const SchedulePosition&) = default;
+};
+
+struct PositionRange {
+  SchedulePosition first;
+  SchedulePosition last;
+
+  friend bool operator==(const PositionRange&, const PositionRange&) = default;
+};
+
+/// 行No of the last row at a position, 0 when there is none. Faults: `invalid use of null` for a row without
+/// 行No.
+std::int32_t LineNumberAt(Database& site, SchedulePosition position);
+/// The running line numbers between two positions.
+LineRange LinesBetween(Database& site, const PositionRange& positions);
+
+/// Positions of the first and the last row by 行No; nothing for an empty schedule. Faults: `invalid use of
+/// null`.
+std::optional<PositionRange> WholePositionRange(Database& site);
+
+/// The first field of "SELECT expression From 加工テーブル where_clause": null when there is no row.
+Value GetKeijouNoSQL(Database& site, std::string_view expression, std::string_view where_clause);
+
+/// Smallest and largest 形状No of the schedule, within a range of lines when one is given; 0 and 0 when no
+/// row has a shape.
+ShapeRange WholeShapeRange(Database& site, const std::optional<LineRange>& lines = std::nullopt);
+
+}  // namespace rbt

@@ -1,0 +1,448 @@
+// SPDX-License-Identifier: MIT
+#include "tally/shape_tally.h"
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "data/run_state.h"
+#include "platform/fault.h"
+#include "shell/config/settings.h"
+#include "tally/schedule_site.h"
+#include "tally/selection.h"
+#include "tally/stock_engine.h"
+#include "tally/tally_grid.h"
+
+namespace rbt {
+namespace {
+
+using test::Fields;
+using test::kNull;
+using test::Number;
+using test::ScheduleSite;
+
+Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+
+std::optional<FaultKind> FaultOf(const std::function<void()>& tally) {
+  try {
+    tally();
+  } catch (const Fault& fault) {
+    return fault.Kind();
+  }
+  return std::nullopt;
+}
+
+void TallyShapes(std::int32_t first = 1, std::int32_t last = 200) {
+  Selection.ShapeStart = first;
+  Selection.ShapeEnd = last;
+  Keijou_Jyuuryo_Syukei();
+}
+
+/// Page 1, from line 1 on.
+void TallyLines(std::int32_t last = 99) { PKeijou_Jyuuryo_Syukei(1, 1, 1, last); }
+
+/// 7 pieces of 2.0 m: 4 bars of 4.0 m by the engine.
+const Fields kSevenOf2m = {{"伸切寸", Number(2000)}, {"合計", Number(7)}};
+/// 9 hoops of 2.0 m, D19: 5 bars of 4.0 m.
+const Fields kHoops = {
+    {"形状No", Number(87)}, {"伸切寸", Number(2000)}, {"合計", Number(9)}, {"圧接", Number(9)}};
+const Fields kUlbon = {{"太さ", Number(9)},
+                       {"予備2", Number(2)},
+                       {"合計", Number(10)},
+                       {"伸切寸", Number(1500)},
+                       {"形状No", Number(5)}};
+
+Fields With(Fields fields, const Fields& more) {
+  fields.insert(fields.end(), more.begin(), more.end());
+  return fields;
+}
+
+TEST(Keijou_Jyuuryo_Syukei, WorksOutStockForEqualPiecesOfAllPages) {
+  ScheduleSite site;
+  site.AddRow(
+      {{"伸切寸", Number(2000)}, {"合計", Number(3)}, {"伸定尺", Value{12.0}}, {"伸総計", Number(99)}});
+  site.AddRow({{"伸切寸", Number(2000)}, {"合計", Number(4)}, {"頁", Number(8)}});
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 4);          // seven pieces together, two a bar of 4.0 m
+  EXPECT_EQ(TallyGrid.StockWeight[3][1], Kg(36));  // 2.25 x 4 = 9 kg
+  EXPECT_EQ(TallyGrid.InstalledWeight[3][1], Kg(31.5));
+  EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(36));
+  EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(32));
+  EXPECT_EQ(TallyGrid.LossRatePercent, 4.0 / 32.0 * 100.0);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, KeepsPiecesOfOtherDimensionsApart) {
+  ScheduleSite site;
+  site.AddRow({{"伸切寸", Number(2000)}, {"合計", Number(3)}, {"寸法1", Value{std::string("1000")}}});
+  site.AddRow({{"伸切寸", Number(2000)}, {"合計", Number(4)}, {"寸法1", Value{std::string("900")}}});
+  TallyShapes();
+  // 3 x 2.0 m fit one bar of 6.0 m, 4 x 2.0 m one of 8.0 m
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 1);
+  EXPECT_EQ(TallyGrid.BarCount[3][9], 1);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, BringsTheDimensionTextUpToDate) {
+  ScheduleSite site;
+  site.AddRow({{"寸法1", Value{std::string("1000")}}, {"寸法10", Value{std::string("7")}}});
+  TallyShapes();
+  EXPECT_EQ(TextOf(site.Work().OpenSnapshot("SELECT 予備5 FROM 加工テーブル").Get("予備5")),
+            "1000,,,,,,,,,7,");
+}
+
+TEST(Keijou_Jyuuryo_Syukei, KeepsTheScheduleStockByTheSetting) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{6.0}}}));
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{5.0}}}));
+  Settings.StockCheck = 1;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 3);  // three pieces a bar of 6.0 m
+  EXPECT_EQ(TallyGrid.BarCount[3][3], 4);  // two a bar of 5.0 m
+  Settings.StockCheck = 0;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 7);  // fourteen pieces, two a bar of 4.0 m
+}
+
+TEST(Keijou_Jyuuryo_Syukei, TakesThePlusThatWasLastReadForTheScheduleStock) {
+  ScheduleSite site;
+  site.AddRow({{"伸切寸", Number(3005)}, {"合計", Number(4)}, {"伸定尺", Value{6.0}}});
+  SaveSetting("Kakou", "プラス", "長さ", "10");
+  Settings.StockCheck = 1;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 4);  // not read yet: one piece a bar
+  ReadPlus();
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, LeavesScheduleStockOf13MetresOutOfTheTotals) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{13.0}}}));
+  Settings.StockCheck = 1;
+  Settings.Use13mColumn = 1;  // has no effect here
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][18], 2);
+  EXPECT_EQ(TallyGrid.StockWeight[3][18], Kg(58.4));
+  EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(0));
+  EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(0));
+}
+
+TEST(Keijou_Jyuuryo_Syukei, DoesNotCapTheInstalledWeight) {
+  ScheduleSite site;
+  // 5 pieces of 12.5 m: five bars of 12.0 m
+  site.AddRow({{"伸切寸", Number(12500)}, {"合計", Number(5)}});
+  Settings.CapInstalledWeight = 1;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(135));
+  EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(141));  // 62.5 m x 2.25 = 140.625
+}
+
+TEST(Keijou_Jyuuryo_Syukei, TakesUlbonForEveryKindAndSelection) {
+  ScheduleSite site;
+  site.AddRow(With(kUlbon, {{"圧接", Number(2)}, {"ネジ数", Number(3)}, {"定着板数", Number(4)}}));
+  Selection.MaterialKindMask = 4;
+  Selection.IncludeUlbon = 0;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
+  EXPECT_EQ(TallyGrid.UlbonWeight[14], 7.5);
+  EXPECT_EQ(TallyGrid.UlbonWeldCount[14], 2);
+  EXPECT_EQ(TallyGrid.UlbonThreadCount[14], 3);
+  EXPECT_EQ(TallyGrid.UlbonPlateCount[14], 4);
+  EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesHoopsOutAndHoopsOnly) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"圧接", Number(1)}}));
+  site.AddRow(kHoops);
+  const std::int32_t bars[] = {9, 4, 5};
+  const std::int32_t welds[] = {10, 1, 9};
+  for (int mode = 0; mode < 3; ++mode) {
+    Selection.HoopMode = mode;
+    TallyShapes();
+    EXPECT_TRUE(RunState.HasHoopRows);
+    EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
+    EXPECT_EQ(TallyGrid.TotalWeldCount, welds[mode]) << mode;
+  }
+}
+
+TEST(Keijou_Jyuuryo_Syukei, ShowsThePlainRangeWhenHoopsAloneAreAskedForAndThereAreNone) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  Selection.HoopMode = 2;
+  TallyShapes();
+  EXPECT_FALSE(RunState.HasHoopRows);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, DropsTheWeldsOfHoopsByTheSetting) {
+  ScheduleSite site;
+  site.AddRow(kHoops);
+  SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", "0");
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 5);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesPlatesOutAndPlatesOnly) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
+  const std::int32_t bars[] = {9, 4, 5};
+  for (int mode = 0; mode < 3; ++mode) {
+    Selection.AnchorPlateMode = mode;
+    TallyShapes();
+    EXPECT_TRUE(RunState.HasAnchorPlateRows);
+    EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
+  }
+}
+
+TEST(Keijou_Jyuuryo_Syukei, ProbesNothingInStartModes1And3AndThenKnowsNoModes) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(kHoops);
+  site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
+  for (const int mode : {1, 3}) {
+    Selection.StartMode = mode;
+    Selection.HoopMode = 2;
+    Selection.AnchorPlateMode = 2;
+    TallyShapes();
+    EXPECT_FALSE(RunState.HasHoopRows);
+    EXPECT_FALSE(RunState.HasAnchorPlateRows);
+    EXPECT_EQ(TallyGrid.BarCount[3][1], 14);
+  }
+}
+
+TEST(Keijou_Jyuuryo_Syukei, TakesCutsOfAllShapesWhenTheRangeHasNoHoops) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"部位", Number(5)}, {"切断", Number(1)}}));
+  site.AddRow(With(kSevenOf2m, {{"部位", Number(5)}, {"切断", Number(10)}, {"形状No", Number(30)}}));
+  TallyShapes(1, 9);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 11);
+  site.AddRow(With(kHoops, {{"形状No", Number(87)}}));
+  TallyShapes(1, 29);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 11);
+  TallyShapes(30, 99);  // with hoops in the range the cuts are those of the range
+  EXPECT_EQ(TallyGrid.TotalCutCount, 10);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, CountsCutsOfParts5And2OnlyAndAtTheirOwnDiameters) {
+  ScheduleSite site;
+  struct Cut {
+    int part;
+    Value weld;
+    int cuts;
+  };
+  for (const Cut& cut :
+       {Cut{5, kNull, 1}, Cut{5, Number(0), 2}, Cut{5, Number(25), 4}, Cut{5, Number(13), 8},
+        Cut{2, kNull, 16}, Cut{2, Number(25), 32}, Cut{2, Number(13), 64}, Cut{1, kNull, 128}}) {
+    site.AddRow({{"部位", Number(cut.part)}, {"圧接太さ", cut.weld}, {"切断", Number(cut.cuts)}});
+  }
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.CutCount[3], 1 + 2 + 8 + 16);  // part 5 welded to a thinner bar: its own, the thicker
+  EXPECT_EQ(TallyGrid.CutCount[5], 4 + 32);
+  EXPECT_EQ(TallyGrid.CutCount[1], 64);  // part 2 however thin
+  EXPECT_EQ(TallyGrid.TotalCutCount, 127);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, FaultsAtACutAtNoDeformedDiameterUnlessThereIsNone) {
+  ScheduleSite site;
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(9)}});
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalCutCount, 0);
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(9)}, {"切断", Number(0)}});
+  EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::subscript_out_of_range);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, CountsThreadsOfEveryKind) {
+  ScheduleSite site;
+  site.AddRow({{"ネジ数", Number(5)}, {"定着板数", Number(6)}});
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalThreadCount, 5);
+  EXPECT_EQ(TallyGrid.TotalPlateCount, 6);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, LeavesOutRowsOfNoKind) {
+  ScheduleSite site;
+  site.AddRow({{"予備2", kNull}});  // "other than Ulbon" does not hold for null
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(0));
+}
+
+TEST(Keijou_Jyuuryo_Syukei, AddsOneForASiteWithHighStrengthToWhatTheScreenCounted) {
+  ScheduleSite site;
+  site.AddRow({{"予備2", Number(3)}, {"形状No", Number(199)}});
+  site.AddRow({{"予備2", Number(3)}});
+  TallyShapes(300, 400);
+  EXPECT_EQ(TallyGrid.HighStrengthRowCount, 1);
+  TallyGrid.HighStrengthRowCount = 7;
+  TallyShapes(300, 400);
+  EXPECT_EQ(TallyGrid.HighStrengthRowCount, 8);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, OfAnEmptyOrCrossedRangeIsZero) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  TallyGrid.StockWarningText = "old";
+  TallyShapes(50, 60);
+  EXPECT_EQ(TallyGrid, TallyTable());
+  TallyShapes(9, 1);
+  EXPECT_EQ(TallyGrid, TallyTable());
+}
+
+TEST(Keijou_Jyuuryo_Syukei, EndsWithoutAHalfSumAtStockThatHasNoColumn) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{12.5}}, {"太さ", Number(22)}}));
+  TallyShapes();  // the engine does not look at it
+  EXPECT_EQ(TallyGrid.BarCount[4][1], 4);
+  Settings.StockCheck = 1;
+  EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::subscript_out_of_range);
+  EXPECT_EQ(TallyGrid, TallyTable());
+}
+
+TEST(Keijou_Jyuuryo_Syukei, EndsAtAThinBarThatIsNoUlbonAndAtPiecesWithoutLength) {
+  {
+    ScheduleSite site;
+    site.AddRow(With(kUlbon, {{"予備2", Number(1)}}));
+    EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::field_not_found);
+  }
+  ScheduleSite site;
+  site.AddRow({{"伸切寸", kNull}});
+  EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::division_by_zero);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, FailsWithAKindMaskThatLeavesTheStatementOpen) {
+  ScheduleSite site;
+  Selection.MaterialKindMask = 0;
+  EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::database);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, TakesTheLinesBetweenTwoPositions) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(kSevenOf2m);
+  site.AddRow(With(kSevenOf2m, {{"太さ", Number(22)}}));
+  site.AddRow(With(kUlbon, {}));
+  TallyLines(2);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 7);
+  EXPECT_EQ(TallyGrid.BarCount[4][1], 0);
+  EXPECT_EQ(TallyGrid.UlbonLengthM[14], 0.0);
+  TallyLines(4);
+  EXPECT_EQ(TallyGrid.BarCount[4][1], 4);
+  EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, OfPositionsThatDoNotExistIsZero) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  PKeijou_Jyuuryo_Syukei(7, 1, 8, 1);
+  EXPECT_EQ(TallyGrid, TallyTable());
+  PKeijou_Jyuuryo_Syukei(1, 1, 1, 2);  // from line 1 to line number 0
+  EXPECT_EQ(TallyGrid, TallyTable());
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, ShowsHighStrengthInsteadOfThreadedForMask11) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"予備2", Number(4)}}));
+  site.AddRow(With(kSevenOf2m, {{"予備2", Number(3)}, {"太さ", Number(22)}}));
+  Selection.MaterialKindMask = 11;
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
+  EXPECT_EQ(TallyGrid.BarCount[4][1], 0);
+  TallyLines(2);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 0);
+  EXPECT_EQ(TallyGrid.BarCount[4][1], 4);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, ShowsNothingWhenHoopsAloneAreAskedForAndThereAreNone) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  Selection.HoopMode = 2;
+  TallyLines(1);
+  EXPECT_EQ(TallyGrid, TallyTable());
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, FindsNoHoopsWhereTheyAreLeftOut) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(kHoops);
+  const bool found[] = {true, false, true};
+  const std::int32_t bars[] = {9, 4, 5};
+  for (int mode = 0; mode < 3; ++mode) {
+    Selection.HoopMode = mode;
+    TallyLines(2);
+    EXPECT_EQ(RunState.HasHoopRows, found[mode]) << mode;
+    EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
+  }
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, TakesThePlateModeWhetherPlatesWereFoundOrNot) {
+  ScheduleSite site;
+  site.AddRow(kSevenOf2m);
+  site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
+  Selection.StartMode = 1;
+  const std::int32_t bars[] = {9, 4, 5};
+  for (int mode = 0; mode < 3; ++mode) {
+    Selection.AnchorPlateMode = mode;
+    TallyLines(2);
+    EXPECT_FALSE(RunState.HasAnchorPlateRows);
+    EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
+  }
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, TakesAShapeOf0ForAPlateInItsProbeAlone) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"形状No", Number(0)}}));
+  TallyLines(1);
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+  Selection.AnchorPlateMode = 2;
+  TallyLines(1);
+  EXPECT_EQ(TallyGrid, TallyTable());
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, TakesThe13MetreWeightFromTheNextRowAndFaultsForD51) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{13.0}}}));
+  Settings.StockCheck = 1;
+  TallyLines(1);
+  EXPECT_EQ(TallyGrid.BarCount[3][18], 2);
+  EXPECT_EQ(TallyGrid.StockWeight[3][18], Kg(21.2));  // D22 at 3.5 m: 10.6 kg
+  site.AddRow(With(kSevenOf2m, {{"伸定尺", Value{13.0}}, {"太さ", Number(51)}}));
+  EXPECT_EQ(FaultOf([] { TallyLines(2); }), FaultKind::subscript_out_of_range);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, ReadsThePlusItself) {
+  ScheduleSite site;
+  site.AddRow({{"伸切寸", Number(3005)}, {"合計", Number(4)}, {"伸定尺", Value{6.0}}});
+  SaveSetting("Kakou", "プラス", "長さ", "10");
+  Settings.StockCheck = 1;
+  TallyLines(1);
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, LeavesTheDimensionTextAndTheHighStrengthCountAlone) {
+  ScheduleSite site;
+  site.AddRow(With(kSevenOf2m, {{"予備2", Number(3)}, {"寸法1", Value{std::string("5")}}}));
+  TallyGrid.HighStrengthRowCount = 7;
+  TallyLines(1);
+  EXPECT_EQ(TallyGrid.HighStrengthRowCount, 7);
+  EXPECT_TRUE(IsNull(site.Work().OpenSnapshot("SELECT 予備5 FROM 加工テーブル").Get("予備5")));
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, LimitsTheCutsToItsLines) {
+  ScheduleSite site;
+  site.AddRow({{"部位", Number(5)}, {"切断", Number(1)}});
+  site.AddRow({{"部位", Number(2)}, {"切断", Number(2)}, {"圧接太さ", Number(25)}});
+  site.AddRow({{"部位", Number(5)}, {"切断", Number(4)}});
+  TallyLines(2);
+  EXPECT_EQ(TallyGrid.CutCount[3], 1);
+  EXPECT_EQ(TallyGrid.CutCount[5], 2);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 3);
+}
+
+}  // namespace
+}  // namespace rbt
