@@ -97,9 +97,9 @@ bool Statement::Step() {
   const int code = sqlite3_step(handle_.get());
   if (code == SQLITE_ROW) return true;
   if (code == SQLITE_DONE) return false;
-  Fault fault = StoreFault(sqlite3_db_handle(handle_.get()), code, text_);
-  Reset();
-  throw fault;
+  // After the message is taken, so that the statement can be bound and run again.
+  const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_reset)> reset(handle_.get(), &sqlite3_reset);
+  throw StoreFault(sqlite3_db_handle(handle_.get()), code, text_);
 }
 
 void Statement::Bind(int parameter, const Value& value) {

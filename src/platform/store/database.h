@@ -50,7 +50,8 @@ class Database {
   /// changed; only those are written.
   std::int64_t ExecuteTogether(std::span<const std::string> updates);
 
-  /// Tables in the order of their creation, internal ones left out.
+  /// Tables in the order of their creation, internal ones left out; one whose key was added or dropped is
+  /// new.
   std::vector<TableDef> TableDefs();
   /// One table by its name (letter case and width ignored); null when there is none.
   std::unique_ptr<TableDef> FindTable(std::string_view name);

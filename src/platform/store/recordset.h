@@ -49,8 +49,13 @@ class Recordset {
   std::optional<std::string> Text(FieldHandle field) const;
 
   /// Updatable recordsets only. `Edit` or `AddNew`, then `Set`, then `Update`; `Update` after an `Edit` that
-  /// changed no value writes nothing.
+  /// changed no value writes nothing. Between `Edit` and the next move the fields read what was set. `Set`
+  /// converts and checks by the declared type: `overflow`, `type mismatch`, `invalid use of null`, and
+  /// `database` for a text that is too long. A walk visits each row once, though its order be edited; moving
+  /// on without `Update` drops the edit.
   void Edit();
+  /// Begins a row of defaults and nulls; an autonumber already reads its number. After `Update` the current
+  /// row is the one it was before; the new one is met after `MoveFirst`.
   void AddNew();
   void Set(FieldHandle field, const Value& value);
   void Set(std::string_view name, const Value& value) { Set(Field(name), value); }

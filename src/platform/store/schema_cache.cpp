@@ -109,6 +109,7 @@ class SchemaReader {
     }
     std::sort(key.begin(), key.end());
     std::vector<std::string> names;
+    names.reserve(key.size());
     for (auto& [place, name] : key) names.push_back(std::move(name));
     return names;
   }

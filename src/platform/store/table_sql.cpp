@@ -60,7 +60,7 @@ class Scanner {
     }
     ++at_;
     if (c == ')') --depth_;
-    const Token sign{std::string(1, c), false, depth_};
+    Token sign{std::string(1, c), false, depth_};
     if (c == '(') ++depth_;
     return sign;
   }
