@@ -129,7 +129,7 @@ void Add_PrimaryKey(std::string_view TableName) {
   if (key == kPrimaryKeys.end()) {
     throw Fault(FaultKind::database, fmt::format("{}: no table of saved tallies", TableName));
   }
-  SiteContext.WorkDatabase->Execute(
+  OpenSite().Execute(
       fmt::format("ALTER TABLE {0} ADD CONSTRAINT {0}_pkey PRIMARY KEY({1})", TableName, key->fields));
 }
 
