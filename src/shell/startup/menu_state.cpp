@@ -79,6 +79,7 @@ bool MenuState::Shows(std::string_view control) const {
 
 std::vector<std::string_view> MenuControls() {
   std::vector<std::string_view> names;
+  names.reserve(kMenuControls.size());
   for (const MenuControl& control : kMenuControls) names.push_back(control.name);
   return names;
 }

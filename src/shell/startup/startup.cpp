@@ -61,6 +61,7 @@ void RequireSteelIni() {
 }
 
 void BindSite(const StartOptions& options) {
+  RequireSteelIni();
   const std::string name = options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
   if (name.empty()) {
     throw FileFaultText(MapPath(kSteelIni), fmt::format("no site: [{}] {} is empty",
@@ -129,8 +130,10 @@ void ResetAccumulation(const StartOptions& options) {
 
 void ProbeShapes() {
   // The clause continues a condition: " AND (...)".
-  constexpr std::string_view kAnchorPlates = kAnchorPlateClause.substr(6, kAnchorPlateClause.size() - 6 - 1);
-  static_assert(kAnchorPlateClause.starts_with(" AND (") && kAnchorPlateClause.ends_with(")"));
+  constexpr std::string_view kOpening = " AND (";
+  static_assert(kAnchorPlateClause.starts_with(kOpening) && kAnchorPlateClause.ends_with(")"));
+  constexpr std::string_view kAnchorPlates =
+      kAnchorPlateClause.substr(kOpening.size(), kAnchorPlateClause.size() - kOpening.size() - 1);
   constexpr std::string_view kRows = "SELECT * FROM 加工テーブル WHERE ";
   Database& site = *SiteContext.WorkDatabase;
   RunState.HasAnchorPlateRows = site.HasRows(fmt::format("{}{}", kRows, kAnchorPlates));

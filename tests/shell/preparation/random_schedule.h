@@ -16,8 +16,8 @@ class RandomSchedule {
   explicit RandomSchedule(unsigned seed) : engine_(seed) {}
 
   std::vector<Cells> Rows(int count) {
-    std::vector<Cells> rows;
-    for (int i = 0; i < count; ++i) rows.push_back(Row());
+    std::vector<Cells> rows(static_cast<std::size_t>(count));
+    for (Cells& row : rows) row = Row();
     return rows;
   }
 

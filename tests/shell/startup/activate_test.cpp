@@ -106,6 +106,15 @@ TEST_F(Activate, ReadiesTheSelectionForANewTally) {
   EXPECT_EQ(Selection.MaterialKindMask, 1) << "the result forms set it when they load";
 }
 
+TEST_F(Activate, ForgetsTheHoopsOfTheLastTallyAndKeepsItsAnchorPlates) {
+  LoadSite(options_);
+  RunState.HasHoopRows = true;
+  RunState.HasAnchorPlateRows = true;
+  ActivateMenu(options_);
+  EXPECT_FALSE(RunState.HasHoopRows);
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+}
+
 TEST_F(Activate, KeepsTheSelectionWhileAnAccumulationRuns) {
   LoadSite(options_);
   RunState.AccumulateFlag = 1;

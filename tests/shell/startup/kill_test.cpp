@@ -47,11 +47,8 @@ int EndOf(pid_t child) {
 class KilledLoad : public testing::Test {
  protected:
   void SetUp() override {
-    std::vector<Cells> rows;
-    for (int i = 0; i < kRows; ++i) {
-      rows.push_back({{"太さ", 19}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}, {"寸法1", "7000"}});
-    }
-    site_.AddRows(rows);
+    const Cells row{{"太さ", 19}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}, {"寸法1", "7000"}};
+    site_.AddRows(std::vector<Cells>(kRows, row));
     std::filesystem::copy_file(site_.Data(kScheduleFile), fresh_);
   }
 
