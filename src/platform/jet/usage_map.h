@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/jet/jet_file.h"
+
+namespace rbt::jet {
+
+/// The page numbers that the usage map at a row names, ascending: an inline bitmap with its start page, or a
+/// list of bitmap pages. Pages behind the end of the file are left out. Damage throws `Fault` of kind `file`.
+std::vector<std::uint32_t> PagesOfUsageMap(JetFile& file, RowPointer map);
+
+/// The bitmap pages that a usage map of the second sort keeps, for the check of who owns which page.
+std::vector<std::uint32_t> BitmapPagesOfUsageMap(JetFile& file, RowPointer map);
+
+}  // namespace rbt::jet
