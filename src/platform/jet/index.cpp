@@ -20,7 +20,8 @@ struct RawEntry {
 /// The entries of one index page, their shared prefix restored.
 std::vector<RawEntry> EntriesOf(const JetFile& file, const PageView& page, bool branch) {
   const Layout& layout = file.layout();
-  const std::size_t prefix_length = page.U16(layout.index_prefix_length);
+  const std::size_t prefix_length = file.Version() == JetVersion::jet3 ? page.U8(layout.index_prefix_length)
+                                                                       : page.U16(layout.index_prefix_length);
   std::vector<RawEntry> entries;
   std::vector<unsigned char> prefix;
   std::size_t start = 0;

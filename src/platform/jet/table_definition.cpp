@@ -38,7 +38,7 @@ DefinitionBytes Gather(JetFile& file, std::uint32_t first) {
   return all;
 }
 
-bool Known(std::uint8_t type) { return (type >= 1 && type <= 12) || type == 15 || type == 16; }
+bool Known(std::uint8_t type) { return (type >= 1 && type <= 12) || (type >= 15 && type <= 17); }
 
 /// Reads the records of a definition one after the other.
 class Reader {

@@ -27,6 +27,7 @@ enum class ColumnType : std::uint8_t {
   memo = 12,
   guid = 15,
   numeric = 16,
+  opaque = 17,  ///< in tables of the engine's own; kept as bytes
 };
 
 struct Column {
