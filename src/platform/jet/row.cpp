@@ -140,6 +140,7 @@ Value DecodeField(JetFile& file, const Column& column, const PageView& field) {
       return file.TextOfBytes(ReadLongValue(file, field));
     case ColumnType::ole:
       return ReadLongValue(file, field);
+    case ColumnType::opaque:
     case ColumnType::binary:
       return Bytes(field.Bytes().begin(), field.Bytes().end());
     case ColumnType::guid:

@@ -187,6 +187,7 @@ FieldType StoreType(ColumnType type) {
       return FieldType::real;
     case ColumnType::date_time:
       return FieldType::date_time;
+    case ColumnType::opaque:
     case ColumnType::binary:
       return FieldType::binary;
     case ColumnType::text:
