@@ -2,6 +2,7 @@
 #include "platform/jet/data_page.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 #include <fmt/format.h>
@@ -13,6 +14,7 @@ namespace {
 constexpr std::uint16_t kOffsetMask = 0x1FFF;
 constexpr std::uint16_t kMoved = 0x4000;
 constexpr std::uint16_t kBody = 0x8000;
+constexpr std::size_t kOwnerAt = 4;
 constexpr std::size_t kLongValueHead = 12;
 constexpr std::uint8_t kInlineValue = 0x80;
 constexpr std::uint8_t kOnePageValue = 0x40;
@@ -44,6 +46,8 @@ Slot ReadSlot(const JetFile& file, const PageView& page, std::size_t number) {
 
 }  // namespace
 
+std::uint32_t OwnerOf(const PageView& page) { return page.U32(kOwnerAt); }
+
 std::vector<Slot> SlotsOf(const JetFile& file, const PageView& page) {
   std::vector<Slot> slots(RowCount(file, page));
   for (std::size_t i = 0; i < slots.size(); ++i) slots[i] = ReadSlot(file, page, i);
@@ -56,10 +60,15 @@ Slot SlotOf(const JetFile& file, const PageView& page, std::uint8_t slot) {
 }
 
 std::vector<unsigned char> ReadRowBytes(JetFile& file, RowPointer row) {
+  std::optional<std::uint32_t> owner;
   for (int moves = 0; moves < 8; ++moves) {
     const PageView page = file.Page(row.page, PageType::data);
     const Slot slot = SlotOf(file, page, row.slot);
     if (slot.deleted) page.Damaged(fmt::format("row {} is deleted but something points to it", row.slot));
+    if (owner && (*owner != OwnerOf(page) || !(slot.body || slot.moved))) {
+      page.Damaged(fmt::format("row {} is not where a row of the other page has moved to", row.slot));
+    }
+    owner = OwnerOf(page);
     const PageView bytes = page.Part(slot.start, slot.length);
     if (!slot.moved) return {bytes.Bytes().begin(), bytes.Bytes().end()};
     row = RowPointerOf(bytes.U32(0));
@@ -84,8 +93,8 @@ std::vector<unsigned char> ReadLongValue(JetFile& file, const PageView& field) {
       break;
     }
     const PageView chunk(row, &file.Name(), at.page);
-    value.insert(value.end(), row.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(4, row.size())),
-                 row.end());
+    if (row.size() <= 4) chunk.Damaged("a piece of a long value is empty");
+    value.insert(value.end(), row.begin() + 4, row.end());
     at = RowPointerOf(chunk.U32(0));
   }
   if (value.size() < length)

@@ -17,6 +17,9 @@ struct Slot {
   std::size_t length = 0;
 };
 
+/// The definition page of the table whose rows a data page holds; of pages of long values "LVAL".
+std::uint32_t OwnerOf(const PageView& page);
+
 /// The slots of a data page. Damage throws `Fault` of kind `file`.
 std::vector<Slot> SlotsOf(const JetFile& file, const PageView& page);
 Slot SlotOf(const JetFile& file, const PageView& page, std::uint8_t slot);

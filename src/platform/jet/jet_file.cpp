@@ -10,7 +10,6 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
-#include "platform/jet/text.h"
 
 namespace rbt::jet {
 
@@ -112,8 +111,8 @@ void DecodeHeader(std::span<unsigned char> coded) {
   }
 }
 
-/// Jet 3 keeps a password plain; Jet 4 masks it with the day of creation, which then stands alone where there
-/// is none.
+/// Jet 3 keeps a password plain; Jet 4 masks it with the day of creation, which stands alone where there is
+/// none. Where the mask begins is not asked: some writers begin it two bytes later.
 bool HasPassword(const PageView& header, JetVersion version) {
   if (version == JetVersion::jet3) {
     for (std::size_t i = 0; i < 20; ++i) {
@@ -199,8 +198,8 @@ void JetFile::ReadHeader() {
   code_page_ = header.U16(kCodePageAt);
   const std::size_t commits = version_ == JetVersion::jet3 ? 0x600 : 0xE00;
   for (std::size_t at = commits; at < commits + 512; at += 2) {
-    // The second byte of a user's pair is 1 while nothing of his is half written.
-    if (header.U8(at + 1) != 1) closed_cleanly_ = false;
+    // A user's pair counts his commits from 0x100 on and is zero while one is under way.
+    if (header.U16(at) == 0) closed_cleanly_ = false;
   }
 }
 
@@ -249,7 +248,7 @@ PageView JetFile::Page(std::uint32_t number, PageType type) {
   return page;
 }
 
-std::string JetFile::TextOfBytes(std::span<const unsigned char> bytes) const {
+DecodedText JetFile::TextOfBytes(std::span<const unsigned char> bytes) const {
   return version_ == JetVersion::jet4 ? TextOfJet4(bytes) : TextOfCodePage(bytes, code_page_);
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/jet/page_view.h"
+#include "platform/jet/text.h"
 
 namespace rbt::jet {
 
@@ -81,18 +82,19 @@ class JetFile {
   const std::string& Name() const { return name_; }
   std::uint32_t PageCount() const { return page_count_; }
   std::uint16_t CodePage() const { return code_page_; }
-  /// False when a commit byte of some user is not idle: the file was not closed cleanly.
+  /// False when a commit of some user was under way when the file was last written: it was not closed
+  /// cleanly.
   bool ClosedCleanly() const { return closed_cleanly_; }
 
-  /// The whole page; one behind the end of the file is damage. The view stays valid until the next but 60
+  /// The whole page; one behind the end of the file is damage. The view stays valid while fewer than 60 other
   /// pages are read.
   PageView Page(std::uint32_t number);
   /// As `Page`, and of the given type.
   PageView Page(std::uint32_t number, PageType type);
 
-  /// Text bytes in the file's encoding to UTF-8: UTF-16LE (compressed when it says so) in Jet 4, the code
-  /// page in Jet 3.
-  std::string TextOfBytes(std::span<const unsigned char> bytes) const;
+  /// Text bytes in the file's encoding: UTF-16LE (compressed when it says so) in Jet 4, the code page in
+  /// Jet 3.
+  DecodedText TextOfBytes(std::span<const unsigned char> bytes) const;
 
   [[noreturn]] void Damaged(std::uint32_t page, const std::string& cause) const;
 

@@ -77,7 +77,10 @@ class RowShape {
   }
 
   void SetFixedEnd() {
-    if (offsets_.front() >= head_ && offsets_.front() <= mask_at_) fixed_end_ = offsets_.front();
+    fixed_end_ = offsets_.front();
+    if (fixed_end_ < head_ || fixed_end_ > mask_at_) {
+      row_.Damaged(fmt::format("the variable columns of a row begin at {}", fixed_end_));
+    }
   }
 
   PageView row_;
@@ -119,6 +122,12 @@ std::string GuidText(const PageView& f) {
   return text + "}";
 }
 
+Value TextOrBytes(const JetFile& file, std::span<const unsigned char> bytes) {
+  DecodedText decoded = file.TextOfBytes(bytes);
+  if (decoded.exact) return std::move(decoded.text);
+  return Bytes(bytes.begin(), bytes.end());
+}
+
 Value DecodeField(JetFile& file, const Column& column, const PageView& field) {
   switch (column.type) {
     case ColumnType::byte:
@@ -135,9 +144,9 @@ Value DecodeField(JetFile& file, const Column& column, const PageView& field) {
     case ColumnType::date_time:
       return field.F64(0);
     case ColumnType::text:
-      return file.TextOfBytes(field.Bytes());
+      return TextOrBytes(file, field.Bytes());
     case ColumnType::memo:
-      return file.TextOfBytes(ReadLongValue(file, field));
+      return TextOrBytes(file, ReadLongValue(file, field));
     case ColumnType::ole:
       return ReadLongValue(file, field);
     case ColumnType::opaque:

@@ -14,7 +14,6 @@ namespace rbt::jet {
 namespace {
 
 constexpr std::uint32_t kCatalogPage = 2;
-constexpr std::size_t kTablePointerAt = 4;  // of a data page: the definition whose rows it holds
 constexpr std::uint32_t kSystemFlags = 0x80000002;
 
 CatalogEntry::Kind KindOf(std::int64_t type) {
@@ -42,7 +41,7 @@ CatalogEntry::Kind KindOf(std::int64_t type) {
 }
 
 bool BelongsTo(const PageView& page, const TableDefinition& table) {
-  return page.U8(0) == static_cast<std::uint8_t>(PageType::data) && page.U32(kTablePointerAt) == table.page;
+  return page.U8(0) == static_cast<std::uint8_t>(PageType::data) && OwnerOf(page) == table.page;
 }
 
 /// Every data page whose pointer names the table, for files whose usage maps cannot be relied on.
@@ -86,18 +85,28 @@ std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& tab
   }
 }
 
-ScanReport ScanTable(JetFile& file, const TableDefinition& table, const RowHandler& handle) {
-  ScanReport report;
-  for (const std::uint32_t number : DataPagesOf(file, table, report.warning)) {
+std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning) {
+  std::vector<RowPointer> places;
+  for (const std::uint32_t number : DataPagesOf(file, table, warning)) {
     const std::vector<Slot> slots = SlotsOf(file, file.Page(number, PageType::data));
     for (std::size_t i = 0; i < slots.size(); ++i) {
-      if (slots[i].deleted || slots[i].body) continue;
-      const RowPointer place{number, static_cast<std::uint8_t>(i)};
-      const std::vector<unsigned char> bytes = ReadRowBytes(file, place);
-      std::vector<Value> fields = DecodeRow(file, table, PageView(bytes, &file.Name(), number));
-      ++report.rows;
-      handle(place, fields);
+      if (!slots[i].deleted && !slots[i].body) places.push_back({number, static_cast<std::uint8_t>(i)});
     }
+  }
+  return places;
+}
+
+std::vector<Value> ReadRow(JetFile& file, const TableDefinition& table, RowPointer place) {
+  const std::vector<unsigned char> bytes = ReadRowBytes(file, place);
+  return DecodeRow(file, table, PageView(bytes, &file.Name(), place.page));
+}
+
+ScanReport ScanTable(JetFile& file, const TableDefinition& table, const RowHandler& handle) {
+  ScanReport report;
+  for (const RowPointer place : PlacesOfRows(file, table, report.warning)) {
+    std::vector<Value> fields = ReadRow(file, table, place);
+    ++report.rows;
+    handle(place, fields);
   }
   return report;
 }

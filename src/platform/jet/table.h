@@ -40,7 +40,12 @@ struct ScanReport {
 using RowHandler = std::function<void(RowPointer place, std::vector<Value>& fields)>;
 ScanReport ScanTable(JetFile& file, const TableDefinition& table, const RowHandler& handle);
 
-/// The pages that hold the table's rows (and its long values), by the usage map or, with `warning` filled, by
+/// The places of the live rows, in page order. `warning` as in `ScanReport`.
+std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning);
+/// One live row.
+std::vector<Value> ReadRow(JetFile& file, const TableDefinition& table, RowPointer place);
+
+/// The pages that hold the table's rows, by the usage map or, with `warning` filled, by
 /// the pages' own pointers.
 std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& table, std::string& warning);
 

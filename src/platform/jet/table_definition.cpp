@@ -66,6 +66,7 @@ class Reader {
     ReadColumns(table, columns);
     ReadPhysicalIndexes(table);
     ReadIndexes(table, logical);
+    ReadLongValueMaps(table);
     return table;
   }
 
@@ -117,7 +118,7 @@ class Reader {
       prefix = 2;
     }
     if (length == 0 || length > 128) view_.Damaged(fmt::format("a name of {} bytes", length));
-    const std::string name = file_.TextOfBytes(view_.Part(at_ + prefix, length).Bytes());
+    const std::string name = file_.TextOfBytes(view_.Part(at_ + prefix, length).Bytes()).text;
     at_ += prefix + length;
     return name;
   }
@@ -161,6 +162,14 @@ class Reader {
       table.indexes.push_back(index);
     }
     for (Index& index : table.indexes) index.name = ReadName();
+  }
+
+  /// Ended by the column number FFFF. Columns that were deleted keep theirs.
+  void ReadLongValueMaps(TableDefinition& table) {
+    for (; at_ + 2 <= view_.size() && view_.U16(at_) != kNoColumn; at_ += 10) {
+      table.long_value_maps.push_back(
+          {view_.U16(at_), RowPointerOf(view_.U32(at_ + 2)), RowPointerOf(view_.U32(at_ + 6))});
+    }
   }
 
   JetFile& file_;

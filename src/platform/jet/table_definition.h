@@ -72,6 +72,13 @@ struct Index {
   Kind kind = Kind::plain;
 };
 
+/// The pages that hold the long values of one column.
+struct LongValueMap {
+  std::uint16_t column = 0;  ///< its number
+  RowPointer owned_pages;
+  RowPointer free_pages;
+};
+
 struct TableDefinition {
   std::string name;  ///< filled by the catalog
   std::uint32_t page = 0;
@@ -82,6 +89,7 @@ struct TableDefinition {
   std::vector<Column> columns;  ///< in the order of the definition
   std::vector<PhysicalIndex> physical_indexes;
   std::vector<Index> indexes;
+  std::vector<LongValueMap> long_value_maps;
   RowPointer owned_pages;
   RowPointer free_pages;
   std::vector<std::uint32_t> definition_pages;

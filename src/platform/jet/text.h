@@ -7,13 +7,18 @@
 
 namespace rbt::jet {
 
+/// Text of a file as UTF-8. What is no character became U+FFFD, and `exact` is false then: such a text cannot
+/// be written back as it was.
+struct DecodedText {
+  std::string text;
+  bool exact = true;
+};
+
 /// Text of a Jet 4 column: UTF-16LE, or, when it begins FF FE, one byte a character that switches to two and
-/// back at a zero byte. Half pairs become U+FFFD.
-std::string TextOfJet4(std::span<const unsigned char> bytes);
-/// UTF-16LE without compression.
-std::string TextOfUtf16(std::span<const unsigned char> bytes);
-/// Text of a Jet 3 column in the file's code page (932 is the Windows one); what is no character becomes
-/// U+FFFD.
-std::string TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t code_page);
+/// back at a zero byte. Halves of surrogate pairs and halves of units are no characters.
+DecodedText TextOfJet4(std::span<const unsigned char> bytes);
+/// Text of a Jet 3 column in the file's code page (932 is the Windows one). A code page that this machine
+/// does not know throws `Fault` of kind `file`.
+DecodedText TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t code_page);
 
 }  // namespace rbt::jet
