@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/action.h"
+
+#include <exception>
+
+#include <QWidget>
+
+#include "platform/system/message.h"
+
+namespace rbt {
+
+namespace {
+
+int& RunningActions() {
+  static int running = 0;
+  return running;
+}
+
+class Running {
+ public:
+  Running() { ++RunningActions(); }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+  ~Running() { --RunningActions(); }
+};
+
+}  // namespace
+
+bool RunAction(const QWidget& form, const std::function<void()>& action) {
+  const Running running;
+  // The form may go with its action; its title is read before.
+  const std::string title = form.window()->windowTitle().toStdString();
+  try {
+    action();
+    return true;
+  } catch (const std::exception& fault) {
+    // Faults, and what the libraries throw: nothing may pass through the event loop.
+    MsgBox(fault.what(), title);
+    return false;
+  }
+}
+
+bool ActionRunning() { return RunningActions() > 0; }
+
+}  // namespace rbt

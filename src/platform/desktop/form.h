@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+namespace rbt {
+
+/// Gives a form what all forms share: Enter presses the button that has the focus, the arrow keys move the
+/// focus from button to button as the eye goes, hidden buttons keep their place. Once, after `setupUi`.
+void PrepareForm(QWidget& form);
+
+/// Puts a form in the middle of its screen, whole pixels towards the upper left.
+void Center_Form(QWidget& form);
+
+/// Shows a form over all others, in the middle of the screen, and returns when it is hidden or closed.
+void ShowModally(QWidget& form);
+
+/// Moves the focus from the focused button to the nearest visible, enabled button of the form that lies in
+/// the direction of the arrow key; false when there is none.
+bool MoveFocusByArrow(QWidget& form, int arrow_key);
+
+}  // namespace rbt
