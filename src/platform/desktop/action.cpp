@@ -2,6 +2,7 @@
 #include "platform/desktop/action.h"
 
 #include <exception>
+#include <string>
 
 #include <QWidget>
 
@@ -26,10 +27,8 @@ class Running {
 
 }  // namespace
 
-bool RunAction(const QWidget& form, const std::function<void()>& action) {
+bool RunAction(std::string_view title, const std::function<void()>& action) {
   const Running running;
-  // The form may go with its action; its title is read before.
-  const std::string title = form.window()->windowTitle().toStdString();
   try {
     action();
     return true;
@@ -38,6 +37,12 @@ bool RunAction(const QWidget& form, const std::function<void()>& action) {
     MsgBox(fault.what(), title);
     return false;
   }
+}
+
+bool RunAction(const QWidget& form, const std::function<void()>& action) {
+  // The form may go with its action; its title is read before.
+  const std::string title = form.window()->windowTitle().toStdString();
+  return RunAction(title, action);
 }
 
 bool ActionRunning() { return RunningActions() > 0; }

@@ -91,9 +91,6 @@ void PrepareForm(QWidget& form) {
   for (QPushButton* button : form.findChildren<QPushButton*>()) {
     button->setAutoDefault(true);
     button->installEventFilter(arrows);
-    QSizePolicy policy = button->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    button->setSizePolicy(policy);
   }
 }
 

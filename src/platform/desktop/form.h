@@ -6,7 +6,7 @@ class QWidget;
 namespace rbt {
 
 /// Gives a form what all forms share: Enter presses the button that has the focus, the arrow keys move the
-/// focus from button to button as the eye goes, hidden buttons keep their place. Once, after `setupUi`.
+/// focus from button to button as the eye goes. Once, after `setupUi`.
 void PrepareForm(QWidget& form);
 
 /// Puts a form in the middle of its screen, whole pixels towards the upper left.

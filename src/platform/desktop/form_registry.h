@@ -12,8 +12,8 @@ namespace rbt {
 
 /// One state in which a form is looked at and tested.
 struct FormState {
-  std::string name;                      ///< part of a picture's file name: "start-mode-1"
-  std::function<void(QWidget&)> bring;   ///< brings a form that was just shown into the state
+  std::string name;                     ///< part of a picture's file name: "start-mode-1"
+  std::function<void(QWidget&)> bring;  ///< brings a form that was just shown into the state
 };
 
 /// One form as the walk through all forms and the pictures know it.

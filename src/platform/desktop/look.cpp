@@ -19,6 +19,7 @@ constexpr int kFontPoints = 12;
 constexpr const char* kStyleSheet = R"(
 QPushButton {
   background: #ffffff; color: #10202e; border: 1px solid #8497a8; border-radius: 4px; padding: 5px 12px;
+  outline: none;
 }
 QPushButton:hover { background: #f0f6fc; }
 QPushButton:focus { background: #fff8d9; border: 2px solid #1457a8; padding: 4px 11px; }

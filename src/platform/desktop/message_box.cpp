@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/message_box.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <string_view>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 
 #include "platform/system/message.h"
 
@@ -52,8 +56,19 @@ QString PlainText(std::string_view text) {
   return plain;
 }
 
+/// Lines are broken where the message says so; only one wider than most of the screen wraps.
+void KeepLines(QMessageBox& box) {
+  constexpr int kPercentOfScreen = 60;
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  if (label == nullptr) return;
+  const int widest = box.screen()->availableGeometry().width() * kPercentOfScreen / 100;
+  const int text = label->fontMetrics().size(0, box.text()).width();
+  label->setMinimumWidth(std::min(text, widest));
+}
+
 MessageAnswer ShowMessage(std::string_view text, std::string_view title, MessageButtons buttons) {
-  QMessageBox box(QApplication::activeWindow());
+  const QPointer<QWidget> below = QApplication::activeWindow();
+  QMessageBox box(below);
   const std::span<const Answer> answers = Answers(buttons);
   box.setIcon(answers.size() == 1 ? QMessageBox::Information : QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
@@ -67,7 +82,9 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
     cautious = button;
   }
   box.setEscapeButton(cautious);
+  KeepLines(box);
   box.exec();
+  if (below) below->activateWindow();
   for (const Answer& answer : answers) {
     if (box.clickedButton()->objectName() == QString::fromUtf8(answer.caption)) return answer.answer;
   }

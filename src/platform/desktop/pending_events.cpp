@@ -15,12 +15,10 @@ namespace rbt {
 namespace {
 
 constexpr std::array kInput = {
-    QEvent::KeyPress,           QEvent::KeyRelease,          QEvent::ShortcutOverride,
-    QEvent::Shortcut,           QEvent::InputMethod,         QEvent::MouseButtonPress,
-    QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::Wheel,
-    QEvent::TouchBegin,         QEvent::TouchUpdate,         QEvent::TouchEnd,
-    QEvent::TabletPress,        QEvent::TabletRelease,       QEvent::ContextMenu,
-    QEvent::Close,
+    QEvent::KeyPress,    QEvent::KeyRelease,       QEvent::ShortcutOverride,   QEvent::Shortcut,
+    QEvent::InputMethod, QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
+    QEvent::Wheel,       QEvent::TouchBegin,       QEvent::TouchUpdate,        QEvent::TouchEnd,
+    QEvent::TabletPress, QEvent::TabletRelease,    QEvent::ContextMenu,        QEvent::Close,
 };
 
 class InputDropper : public QObject {

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "app/arguments.h"
+
+#include <string_view>
+
+namespace rbt {
+
+Arguments ParseArguments(std::span<const char* const> words) {
+  constexpr std::string_view kRoot = "--root";
+  constexpr std::string_view kRootIs = "--root=";
+  Arguments arguments;
+  bool first = true;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string_view word = words[i];
+    if (word == "--help" || word == "-h") {
+      arguments.help = true;
+    } else if (word == "--version") {
+      arguments.version = true;
+    } else if (word.starts_with(kRootIs)) {
+      arguments.root = word.substr(kRootIs.size());
+    } else if (word == kRoot && i + 1 < words.size()) {
+      arguments.root = words[++i];
+    } else if (word == kRoot) {
+      arguments.usage_fault = "--root needs a folder";
+    } else if (word.starts_with("--")) {
+      arguments.usage_fault = "unknown option " + std::string(word);
+    } else {
+      if (!first) arguments.command_line += ' ';
+      arguments.command_line += word;
+      first = false;
+    }
+  }
+  return arguments;
+}
+
+}  // namespace rbt

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace rbt {
+
+/// What the program was told when it was started.
+struct Arguments {
+  std::string command_line;         ///< the words that are no options, a blank between each two
+  std::optional<std::string> root;  ///< --root DIR
+  bool help = false;
+  bool version = false;
+  std::string usage_fault;  ///< what is wrong with the options; empty when nothing is
+};
+
+/// Takes the options out of the program's words (its own name not among them). A word of one dash is no
+/// option: start modes may be negative.
+Arguments ParseArguments(std::span<const char* const> words);
+
+}  // namespace rbt

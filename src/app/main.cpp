@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <span>
+
+#include <QApplication>
+#include <QTimer>
+
+#include "app/arguments.h"
+#include "platform/desktop/action.h"
+#include "platform/desktop/look.h"
+#include "platform/fault.h"
+#include "platform/system/paths.h"
+#include "shell/menu/captions.h"
+#include "shell/menu/jsmenu.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+constexpr const char* kUsage =
+    "usage: rbtally1 [--root DIR] [START-MODE ...]\n"
+    "\n"
+    "Opens the tally menu of the site that another program of the family has chosen.\n"
+    "\n"
+    "  --root DIR   the folder that \\RBK\\ stands for; default $RBK_ROOT\n"
+    "  --help       this text\n"
+    "  --version    the version\n";
+
+/// What can be answered without a window.
+std::optional<int> AnswerWithoutWindow(const Arguments& arguments) {
+  if (!arguments.usage_fault.empty()) {
+    std::cerr << "rbtally1: " << arguments.usage_fault << " (see rbtally1 --help)\n";
+    return kWrongUsage;
+  }
+  if (arguments.help) {
+    std::cout << kUsage;
+    return EXIT_SUCCESS;
+  }
+  if (arguments.version) {
+    std::cout << "rbtally1 " RBTALLY_VERSION "\n";
+    return EXIT_SUCCESS;
+  }
+  return std::nullopt;
+}
+
+void UseRoot(const Arguments& arguments) {
+  if (arguments.root) SetRoot(*arguments.root);
+  if (Root().empty()) throw Fault(FaultKind::file, "no root folder: give --root DIR or set RBK_ROOT");
+  if (!std::filesystem::is_directory(Root())) {
+    throw Fault(FaultKind::file, "the root " + Root().string() + " is no folder");
+  }
+}
+
+int RunMenu(const Arguments& arguments) {
+  StartOptions options;
+  const bool ready = RunAction(kMenuTitle, [&] {
+    UseRoot(arguments);
+    options.start_mode = ParseStartMode(arguments.command_line);
+  });
+  if (!ready) return EXIT_FAILURE;
+  JSMENU menu(MenuPartsFor(options));
+  QTimer::singleShot(0, [&menu] { menu.Open(); });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+}  // namespace rbt
+
+int main(int argc, char** argv) {
+  const std::span<char*> words(argv, static_cast<std::size_t>(argc));
+  const rbt::Arguments arguments = rbt::ParseArguments(words.subspan(words.empty() ? 0 : 1));
+  if (const auto status = rbt::AnswerWithoutWindow(arguments)) return *status;
+  int own_name_only = 1;
+  const QApplication application(own_name_only, argv);
+  rbt::PrepareDesktop();
+  return rbt::RunMenu(arguments);
+}

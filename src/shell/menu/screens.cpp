@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "shell/menu/screens.h"
+
+#include <array>
+
+#include <QWidget>
+
+namespace rbt {
+
+namespace {
+
+constexpr std::array<MenuScreen, 7> kMenuScreens{{
+    {"JS", "一括集計"},
+    {"KEIJOJS", "形状別 一括集計"},
+    {"PGJS", "頁行別集計"},
+    {"PKEIJOJS", "形状別 頁行別集計"},
+    {"KAIJS", "階別集計"},
+    {"BUIJS", "部位別集計"},
+    {"SETJS", "年号等集計印刷設定"},
+}};
+
+}  // namespace
+
+std::span<const MenuScreen> MenuScreens() { return kMenuScreens; }
+
+}  // namespace rbt
