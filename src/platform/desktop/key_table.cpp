@@ -30,7 +30,9 @@ bool KeyPreview::eventFilter(QObject* receiver, QEvent* event) {
   const auto& press = static_cast<const QKeyEvent&>(*event);
   bool answered = false;
   const bool finished = RunAction(form_, [&] { answered = answer_(press); });
-  return answered || !finished;
+  if (!answered && finished) return false;
+  event->accept();
+  return true;
 }
 
 }  // namespace rbt

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "app/arguments.h"
+
+#include <initializer_list>
+
+#include <gtest/gtest.h>
+
+namespace rbt::test {
+
+namespace {
+
+Arguments Parse(std::initializer_list<const char*> words) {
+  return ParseArguments(std::span<const char* const>(words.begin(), words.size()));
+}
+
+}  // namespace
+
+TEST(Arguments, NoWordsAreAnEmptyCommandLine) { EXPECT_EQ(Parse({}).command_line, ""); }
+
+TEST(Arguments, WordsAreJoinedByOneBlank) { EXPECT_EQ(Parse({"1", "2", "3"}).command_line, "1 2 3"); }
+
+TEST(Arguments, ANegativeStartModeIsNoOption) { EXPECT_EQ(Parse({"-1"}).command_line, "-1"); }
+
+TEST(Arguments, TheRootIsTakenOutWhereverItStands) {
+  const Arguments behind = Parse({"4", "--root", "/srv/rbk"});
+  EXPECT_EQ(behind.command_line, "4");
+  EXPECT_EQ(behind.root, "/srv/rbk");
+  const Arguments before = Parse({"--root=/srv/rbk", "4"});
+  EXPECT_EQ(before.command_line, "4");
+  EXPECT_EQ(before.root, "/srv/rbk");
+}
+
+TEST(Arguments, ARootWithoutAFolderAndUnknownOptionsAreWrongUsage) {
+  EXPECT_EQ(Parse({"--root"}).usage_fault, "--root needs a folder");
+  EXPECT_EQ(Parse({"--rot", "x"}).usage_fault, "unknown option --rot");
+}
+
+TEST(Arguments, HelpAndVersionAreAskedFor) {
+  EXPECT_TRUE(Parse({"--help"}).help);
+  EXPECT_TRUE(Parse({"--version"}).version);
+  EXPECT_FALSE(Parse({"1"}).help);
+}
+
+}  // namespace rbt::test

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QStyle>
+#include <QStyleOption>
+#include <gtest/gtest.h>
+
+#include "app/all_forms.h"
+#include "desktop/key_press.h"
+#include "support/site_fixture.h"
+
+namespace rbt::test {
+
+namespace {
+
+QRect PlaceOf(const QWidget& control, const QWidget& form) {
+  return {control.mapTo(&form, QPoint(0, 0)), control.size()};
+}
+
+/// Controls that Tab comes to, in its order, from the focused one on.
+std::vector<QWidget*> TabWalk(QWidget& form) {
+  std::vector<QWidget*> walk;
+  for (QWidget* at = form.focusWidget(); at != nullptr; at = form.focusWidget()) {
+    if (std::find(walk.begin(), walk.end(), at) != walk.end()) break;
+    walk.push_back(at);
+    Press(form, Qt::Key_Tab);
+  }
+  return walk;
+}
+
+/// True when the eye goes on from `from` to `to`: downwards, or to the right.
+bool ReadsOn(const QRect& from, const QRect& to) {
+  return to.top() >= from.bottom() || to.left() >= from.right();
+}
+
+QSize TextSize(const QWidget& control, const QString& text) { return control.fontMetrics().size(0, text); }
+
+/// The text of a control, and the room that it has for it.
+struct Caption {
+  QString text;
+  QSize room;
+};
+
+std::optional<Caption> CaptionOf(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+    return Caption{label->text(), label->contentsRect().size()};
+  }
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    const QRect room = button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+    return Caption{button->text(), room.size()};
+  }
+  if (const auto* frame = qobject_cast<const QGroupBox*>(&control)) {
+    return Caption{frame->title(), frame->size()};
+  }
+  return std::nullopt;
+}
+
+void ExpectNoClippedCaption(const QWidget& form, const std::string& where) {
+  for (const QWidget* control : form.findChildren<QWidget*>()) {
+    if (!control->isVisible()) continue;
+    EXPECT_TRUE(form.rect().contains(PlaceOf(*control, form)))
+        << where << ": " << control->objectName().toStdString() << " leaves the form";
+    const std::optional<Caption> caption = CaptionOf(*control);
+    if (!caption) continue;
+    const QSize needed = TextSize(*control, caption->text);
+    EXPECT_LE(needed.width(), caption->room.width()) << where << ": " << caption->text.toStdString();
+    EXPECT_LE(needed.height(), caption->room.height()) << where << ": " << caption->text.toStdString();
+  }
+}
+
+/// A form in one of its states, shown.
+std::unique_ptr<QWidget> Shown(const FormEntry& entry, const FormState& state) {
+  std::unique_ptr<QWidget> form = entry.make();
+  form->show();
+  form->activateWindow();
+  Settle();
+  state.bring(*form);
+  Settle();
+  return form;
+}
+
+}  // namespace
+
+TEST(AllForms, AreNamedAsRegistered) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    EXPECT_EQ(entry.make()->objectName().toStdString(), entry.name);
+    EXPECT_FALSE(entry.states.empty()) << entry.name;
+  }
+}
+
+TEST(AllForms, StartWithTheFocusOnTheirFirstControl) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    const std::unique_ptr<QWidget> form = Shown(entry, entry.states.front());
+    ASSERT_NE(form->focusWidget(), nullptr) << entry.name;
+    EXPECT_EQ(form->focusWidget()->objectName().toStdString(), entry.first_focus);
+  }
+}
+
+TEST(AllForms, TabGoesRoundInReadingOrder) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    for (const FormState& state : entry.states) {
+      const std::unique_ptr<QWidget> form = Shown(entry, state);
+      const std::vector<QWidget*> walk = TabWalk(*form);
+      ASSERT_GT(walk.size(), 1U) << entry.name << " " << state.name;
+      for (std::size_t i = 1; i < walk.size(); ++i) {
+        EXPECT_TRUE(ReadsOn(PlaceOf(*walk[i - 1], *form), PlaceOf(*walk[i], *form)))
+            << entry.name << " " << state.name << ": " << walk[i - 1]->objectName().toStdString() << " to "
+            << walk[i]->objectName().toStdString();
+      }
+    }
+  }
+}
+
+TEST(AllForms, ShowTheirCaptionsWhole) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    for (const FormState& state : entry.states) {
+      const std::unique_ptr<QWidget> form = Shown(entry, state);
+      ExpectNoClippedCaption(*form, entry.name + " " + state.name);
+      form->resize(1, 1);
+      Settle();
+      ExpectNoClippedCaption(*form, entry.name + " " + state.name + ", as small as it goes");
+    }
+  }
+}
+
+TEST(AllForms, AnswerEveryKeyOfTheirTableInEveryState) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    EXPECT_FALSE(entry.keys.empty()) << entry.name;
+    for (const FormState& state : entry.states) {
+      for (const int key : entry.keys) {
+        const std::unique_ptr<QWidget> form = Shown(entry, state);
+        EXPECT_TRUE(Press(*form, key)) << entry.name << " " << state.name << " key " << key;
+      }
+    }
+  }
+}
+
+TEST(AllForms, EnterPressesTheButtonThatHasTheFocus) {
+  const SiteFixture site;
+  for (const FormEntry& entry : AllForms()) {
+    const std::unique_ptr<QWidget> form = Shown(entry, entry.states.front());
+    for (QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
+      if (!button->isVisible()) continue;
+      int pressed = 0;
+      button->disconnect();
+      QObject::connect(button, &QAbstractButton::clicked, [&pressed] { ++pressed; });
+      button->setFocus();
+      Press(*form, Qt::Key_Return);
+      EXPECT_EQ(pressed, 1) << entry.name << " " << button->objectName().toStdString();
+    }
+  }
+}
+
+}  // namespace rbt::test

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/message_box.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "desktop/key_press.h"
+#include "platform/system/message.h"
+
+namespace rbt::test {
+
+namespace {
+
+/// What the box looked like while it was open, and what the key made of it.
+struct Seen {
+  QString text;
+  QString title;
+  QString focused;
+  bool open = false;
+  MessageAnswer answer = MessageAnswer::ok;
+};
+
+Seen Show(std::string_view text, std::string_view title, MessageButtons buttons, int key) {
+  Seen seen;
+  QTimer::singleShot(0, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    seen.open = MessageBoxOpen();
+    seen.text = box->text();
+    seen.title = box->windowTitle();
+    if (const auto* button = qobject_cast<QAbstractButton*>(box->focusWidget()))
+      seen.focused = button->text();
+    Press(*box, key);
+  });
+  seen.answer = MsgBox(text, title, buttons);
+  return seen;
+}
+
+}  // namespace
+
+TEST(MessageBox, EnterTakesTheFirstAnswer) {
+  EXPECT_EQ(Show("a", "t", MessageButtons::ok, Qt::Key_Return).answer, MessageAnswer::ok);
+  EXPECT_EQ(Show("a", "t", MessageButtons::ok_cancel, Qt::Key_Return).answer, MessageAnswer::ok);
+  EXPECT_EQ(Show("a", "t", MessageButtons::yes_no, Qt::Key_Enter).answer, MessageAnswer::yes);
+  EXPECT_EQ(Show("a", "t", MessageButtons::yes_no_cancel, Qt::Key_Return).answer, MessageAnswer::yes);
+}
+
+TEST(MessageBox, EscTakesTheCautiousAnswer) {
+  EXPECT_EQ(Show("a", "t", MessageButtons::ok, Qt::Key_Escape).answer, MessageAnswer::ok);
+  EXPECT_EQ(Show("a", "t", MessageButtons::ok_cancel, Qt::Key_Escape).answer, MessageAnswer::cancel);
+  EXPECT_EQ(Show("a", "t", MessageButtons::yes_no, Qt::Key_Escape).answer, MessageAnswer::no);
+  EXPECT_EQ(Show("a", "t", MessageButtons::yes_no_cancel, Qt::Key_Escape).answer, MessageAnswer::cancel);
+}
+
+TEST(MessageBox, ShowsTextAndTitleAsTheyAre) {
+  const Seen seen = Show("重量は修正出来ません。\r\n<b>本数</b>", "注意", MessageButtons::ok, Qt::Key_Return);
+  EXPECT_EQ(seen.text, "重量は修正出来ません。\n<b>本数</b>");
+  EXPECT_EQ(seen.title, "注意");
+  EXPECT_EQ(seen.focused, "OK");
+  EXPECT_TRUE(seen.open);
+  EXPECT_FALSE(MessageBoxOpen());
+}
+
+TEST(MessageBox, WithoutATitleBearsTheProgramsName) {
+  EXPECT_EQ(Show("a", "", MessageButtons::ok, Qt::Key_Return).title, QApplication::applicationDisplayName());
+}
+
+TEST(MessageBox, GivesTheFocusBackToTheControlThatHadIt) {
+  QWidget form;
+  auto* first = new QWidget(&form);
+  auto* second = new QWidget(&form);
+  for (QWidget* control : {first, second}) control->setFocusPolicy(Qt::StrongFocus);
+  form.show();
+  form.activateWindow();
+  second->setFocus();
+  Settle();
+  Show("a", "t", MessageButtons::ok, Qt::Key_Return);
+  Settle();
+  EXPECT_EQ(QApplication::focusWidget(), second);
+}
+
+}  // namespace rbt::test
