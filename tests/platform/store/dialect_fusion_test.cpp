@@ -73,8 +73,7 @@ TEST_F(DialectFusion, TakesOnlyUpdatesOfOneTable) {
 
 TEST_F(DialectFusion, TheStatementGrowsAsTheStatementsDo) {
   // Each reads the last one's field twice: written into each other they would double sixty times.
-  std::vector<std::string> updates;
-  for (int i = 0; i < 60; ++i) updates.push_back("UPDATE T SET a = a + a WHERE a < 1000 AND a > 0");
+  const std::vector<std::string> updates(60, "UPDATE T SET a = a + a WHERE a < 1000 AND a > 0");
   db_.Execute("INSERT INTO T(a) VALUES(1)");
   EXPECT_LT(FuseUpdates(updates, db_).sql.size(), 60U * 200U);
   EXPECT_EQ(Fuse(updates), 1);

@@ -34,15 +34,15 @@ const Expression& ExpressionWriter::OnlyArgument(const Call& call) const {
   return *call.arguments.front();
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteCall(const Call& node, Place place) {
+WrittenValue ExpressionWriter::WriteCall(const Call& node, Place place) {
   if (IsAggregate(node.function)) return WriteAggregate(node, place);
-  Written written;
+  WrittenValue written;
   if (Is(node.function, "IsNull")) {
     const WrittenValue operand = Value(OnlyArgument(node));
     written.sql = fmt::format("({} IS NULL)", operand.sql);
     written.value = ValueClass::boolean;
     written.may_fault = operand.may_fault;
-    written.is_condition = true;
+    written.is_test = true;
   } else if (Is(node.function, "Fix") || Is(node.function, "Int")) {
     const WrittenValue operand = Number(OnlyArgument(node));
     const std::string_view function = Is(node.function, "Fix") ? "jet_fix" : "jet_int";
@@ -63,49 +63,49 @@ ExpressionWriter::Written ExpressionWriter::WriteCall(const Call& node, Place pl
   return written;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteAggregate(const Call& node, Place place) {
+WrittenValue ExpressionWriter::WriteAggregate(const Call& node, Place place) {
   if (scope_ != Scope::groups) Refuse(statement_, place, "an aggregate has no place here");
   if (node.of_rows) {
     if (!Is(node.function, "Count")) OnlyArgument(node);
-    return {{.sql = "count(*)", .value = ValueClass::whole}};
+    return {.sql = "count(*)", .value = ValueClass::whole};
   }
   scope_ = Scope::inside_aggregate;
   const WrittenValue operand = Value(OnlyArgument(node));
   scope_ = Scope::groups;
 
   if (Is(node.function, "Count")) {
-    return {{.sql = fmt::format("count({})", operand.sql),
-             .value = ValueClass::whole,
-             .may_fault = operand.may_fault}};
+    return {.sql = fmt::format("count({})", operand.sql),
+            .value = ValueClass::whole,
+            .may_fault = operand.may_fault};
   }
   if (Is(node.function, "Sum")) return WriteSum(operand, place);
   if (operand.value == ValueClass::other) {
     Refuse(statement_, place, "values of this type do not compare", FaultKind::type_mismatch);
   }
   const std::string_view function = Is(node.function, "Min") ? "min" : "max";
-  return {{.sql = fmt::format("{}({})", function, Comparand(operand)),
-           .value = operand.value,
-           .may_fault = operand.may_fault}};
+  return {.sql = fmt::format("{}({})", function, Comparand(operand)),
+          .value = operand.value,
+          .may_fault = operand.may_fault};
 }
 
 /// Whole numbers sum exactly in 64 bits, ten-thousandths of a CURRENCY too; doubles one after the other.
-ExpressionWriter::Written ExpressionWriter::WriteSum(const WrittenValue& operand, Place place) {
+WrittenValue ExpressionWriter::WriteSum(const WrittenValue& operand, Place place) {
   if (!IsNumber(operand.value)) Refuse(statement_, place, "a number is expected", FaultKind::type_mismatch);
   switch (operand.value) {
     case ValueClass::whole:
     case ValueClass::boolean:
-      return {{.sql = fmt::format("sum({})", operand.sql),
-               .value = ValueClass::whole,
-               .may_fault = operand.may_fault}};
+      return {.sql = fmt::format("sum({})", operand.sql),
+              .value = ValueClass::whole,
+              .may_fault = operand.may_fault};
     case ValueClass::currency:
-      return {{.sql = fmt::format("jet_sum_currency({})", operand.sql),
-               .value = ValueClass::currency,
-               .may_fault = true}};
+      return {.sql = fmt::format("jet_sum_currency({})", operand.sql),
+              .value = ValueClass::currency,
+              .may_fault = true};
     default:
       depends_on_row_order_ = true;
-      return {{.sql = fmt::format("jet_sum_real({})", operand.sql),
-               .value = ValueClass::real,
-               .may_fault = operand.may_fault}};
+      return {.sql = fmt::format("jet_sum_real({})", operand.sql),
+              .value = ValueClass::real,
+              .may_fault = operand.may_fault};
   }
 }
 

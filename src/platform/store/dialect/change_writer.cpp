@@ -57,6 +57,7 @@ ChangeStatement WriteInsert(const Insert& insert, const Scope& scope) {
   const TableDef& table = scope.Table(insert.table);
   const std::vector<const FieldDef*> targets = TargetFields(insert, table, scope);
   std::vector<std::string> names;
+  names.reserve(targets.size());
   for (const FieldDef* const field : targets) names.push_back(QuoteName(field->name));
   return {fmt::format("INSERT INTO {} ({}) {}", QuoteName(table.name), fmt::join(names, ", "),
                       SourceSql(insert, targets, scope)),

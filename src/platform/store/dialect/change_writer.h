@@ -10,7 +10,7 @@
 namespace rbt::dialect {
 
 struct WrittenAssignment {
-  const FieldDef* field;
+  const FieldDef* field = nullptr;
   WrittenValue value;  ///< as the field takes it
 };
 struct WrittenUpdate {

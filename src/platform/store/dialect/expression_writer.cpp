@@ -112,14 +112,17 @@ void ExpressionWriter::Group(std::vector<const FieldDef*> columns) {
 }
 
 WrittenValue ExpressionWriter::Value(const Expression& expression) {
-  Written written = Write(expression);
-  if (written.is_condition) written.sql = fmt::format("(-{})", written.sql);
+  WrittenValue written = Write(expression);
+  if (written.is_test) {
+    written.sql = fmt::format("(-{})", written.sql);
+    written.is_test = false;
+  }
   return written;
 }
 
 std::string ExpressionWriter::Condition(const Expression& expression) {
-  const Written written = Write(expression);
-  if (written.is_condition || written.value == ValueClass::null) return written.sql;
+  const WrittenValue written = Write(expression);
+  if (written.is_test || written.value == ValueClass::null) return written.sql;
   if (written.value != ValueClass::boolean) Refuse(statement_, expression.place, "a condition is expected");
   return fmt::format("({} <> 0)", written.sql);
 }
@@ -136,26 +139,26 @@ const FieldDef& ExpressionWriter::Field(const ColumnName& column) const {
   return *field;
 }
 
-ExpressionWriter::Written ExpressionWriter::Write(const Expression& expression) {
+WrittenValue ExpressionWriter::Write(const Expression& expression) {
   const Place place = expression.place;
   const auto condition = [](std::string sql, bool may_fault) {
-    Written written;
+    WrittenValue written;
     written.sql = std::move(sql);
     written.value = ValueClass::boolean;
     written.may_fault = may_fault;
-    written.is_condition = true;
+    written.is_test = true;
     return written;
   };
   return std::visit(Overloaded{
-                        [](const NullLiteral&) { return Written{{.sql = "NULL"}}; },
+                        [](const NullLiteral&) { return WrittenValue{.sql = "NULL"}; },
                         [](const BooleanLiteral& node) {
-                          return Written{{.sql = node.value ? "-1" : "0", .value = ValueClass::boolean}};
+                          return WrittenValue{.sql = node.value ? "-1" : "0", .value = ValueClass::boolean};
                         },
-                        [](const NumberLiteral& node) { return Written{WriteNumber(node)}; },
-                        [](const TextLiteral& node) { return Written{WriteText(node)}; },
+                        [](const NumberLiteral& node) { return WriteNumber(node); },
+                        [](const TextLiteral& node) { return WriteText(node); },
                         [&](const ColumnName& node) { return WriteColumn(node, place); },
                         [&](const Negation& node) {
-                          Written operand{Number(*node.operand)};
+                          WrittenValue operand = Number(*node.operand);
                           operand.sql = fmt::format("(-{})", operand.sql);
                           operand.field = nullptr;
                           if (operand.whole) operand.whole = -*operand.whole;
@@ -183,7 +186,7 @@ ExpressionWriter::Written ExpressionWriter::Write(const Expression& expression) 
                     expression.node);
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteColumn(const ColumnName& column, Place place) {
+WrittenValue ExpressionWriter::WriteColumn(const ColumnName& column, Place place) {
   const FieldDef& field = Field(column);
   if (scope_ == Scope::groups && std::ranges::find(group_, &field) == group_.end()) {
     Refuse(statement_, place, "a field that is neither grouped by nor aggregated");
@@ -191,7 +194,7 @@ ExpressionWriter::Written ExpressionWriter::WriteColumn(const ColumnName& column
   if (std::ranges::find(fields_read_, &field) == fields_read_.end()) fields_read_.push_back(&field);
   WrittenValue value{.sql = QuoteName(field.name), .value = ClassOf(field.type), .field = &field};
   if (field.type == FieldType::text && field.size > 0) value.longest = static_cast<std::size_t>(field.size);
-  return {value};
+  return value;
 }
 
 WrittenValue ExpressionWriter::Number(const Expression& expression) {
@@ -202,7 +205,7 @@ WrittenValue ExpressionWriter::Number(const Expression& expression) {
   return value;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {
+WrittenValue ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {
   const WrittenValue left = Number(*node.left);
   const WrittenValue right = Number(*node.right);
   const auto* const form =
@@ -211,16 +214,16 @@ ExpressionWriter::Written ExpressionWriter::WriteArithmetic(const Arithmetic& no
       node.sign == ArithmeticOperator::divide_whole || node.sign == ArithmeticOperator::remainder;
   const bool of_wholes =
       node.sign != ArithmeticOperator::divide && IsWhole(left.value) && IsWhole(right.value);
-  Written written;
+  WrittenValue written;
   written.sql = fmt::format(fmt::runtime(form->format), AsDouble(left), AsDouble(right));
   written.value = whole_result || of_wholes ? ValueClass::whole : ValueClass::real;
   written.may_fault = form->may_fault || left.may_fault || right.may_fault;
   return written;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteConcatenation(const Concatenation& node, Place place) {
+WrittenValue ExpressionWriter::WriteConcatenation(const Concatenation& node, Place place) {
   if (node.operands.size() > kMaxArguments) Refuse(statement_, place, "too many operands of &");
-  Written written;
+  WrittenValue written;
   written.value = ValueClass::text;
   written.longest = 0;
   std::string arguments;
@@ -252,36 +255,36 @@ std::string ExpressionWriter::Comparand(const WrittenValue& value) const {
   return value.value == ValueClass::text ? value.sql + " COLLATE NOCASE" : value.sql;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteComparison(const Comparison& node, Place place) {
+WrittenValue ExpressionWriter::WriteComparison(const Comparison& node, Place place) {
   const WrittenValue left = Value(*node.left);
   const WrittenValue right = Value(*node.right);
   MustCompare(left, right, place);
-  Written written;
+  WrittenValue written;
   written.sql = fmt::format("({} {} {})", Comparand(left), node.sign, right.sql);
   written.value = ValueClass::boolean;
   written.may_fault = left.may_fault || right.may_fault;
-  written.is_condition = true;
+  written.is_test = true;
   return written;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteRange(const RangeTest& node, Place place) {
+WrittenValue ExpressionWriter::WriteRange(const RangeTest& node, Place place) {
   const WrittenValue operand = Value(*node.operand);
   const WrittenValue low = Value(*node.low);
   const WrittenValue high = Value(*node.high);
   MustCompare(operand, low, place);
   MustCompare(operand, high, place);
-  Written written;
+  WrittenValue written;
   written.sql = fmt::format("({} {}BETWEEN {} AND {})", Comparand(operand), node.negated ? "NOT " : "",
                             low.sql, high.sql);
   written.value = ValueClass::boolean;
   written.may_fault = operand.may_fault || low.may_fault || high.may_fault;
-  written.is_condition = true;
+  written.is_test = true;
   return written;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteList(const ListTest& node, Place place) {
+WrittenValue ExpressionWriter::WriteList(const ListTest& node, Place place) {
   const WrittenValue operand = Value(*node.operand);
-  Written written;
+  WrittenValue written;
   written.may_fault = operand.may_fault;
   bool of_literals = true;
   std::string list;
@@ -297,13 +300,12 @@ ExpressionWriter::Written ExpressionWriter::WriteList(const ListTest& node, Plac
   if (list_tests_ && operand.field != nullptr && of_literals) test = list_tests_(*operand.field, test);
   written.sql = fmt::format("({}{})", node.negated ? "NOT " : "", test);
   written.value = ValueClass::boolean;
-  written.is_condition = true;
+  written.is_test = true;
   return written;
 }
 
-ExpressionWriter::Written ExpressionWriter::WriteJunction(const ExpressionList& operands,
-                                                          std::string_view word) {
-  Written written;
+WrittenValue ExpressionWriter::WriteJunction(const ExpressionList& operands, std::string_view word) {
+  WrittenValue written;
   for (const ExpressionPtr& operand : operands) {
     if (!written.sql.empty()) written.sql += word;
     written.sql += Condition(*operand);
@@ -311,7 +313,7 @@ ExpressionWriter::Written ExpressionWriter::WriteJunction(const ExpressionList& 
   written.sql = fmt::format("({})", written.sql);
   written.value = ValueClass::boolean;
   written.may_fault = true;
-  written.is_condition = true;
+  written.is_test = true;
   return written;
 }
 

@@ -37,6 +37,7 @@ struct WrittenValue {
   std::optional<std::int64_t> whole = std::nullopt;   ///< when it is a whole number written out
   std::optional<std::size_t> longest = std::nullopt;  ///< characters that its text has at most, if known
   bool may_fault = false;                             ///< its evaluation can end the statement
+  bool is_test = false;  ///< SQLite's 1 or 0 of a test; never in what `Value` gives
 };
 
 /// Gets a list test of a field, "f" IN (1, 2), and gives what shall stand for it.
@@ -74,22 +75,17 @@ class ExpressionWriter {
  private:
   enum class Scope { rows, groups, inside_aggregate };
 
-  /// A written value, or a condition, which SQLite holds as 1 and 0.
-  struct Written : WrittenValue {
-    bool is_condition = false;
-  };
-
-  Written Write(const Expression& expression);
-  Written WriteColumn(const ColumnName& column, Place place);
-  Written WriteArithmetic(const Arithmetic& node, Place place);
-  Written WriteConcatenation(const Concatenation& node, Place place);
-  Written WriteComparison(const Comparison& node, Place place);
-  Written WriteRange(const RangeTest& node, Place place);
-  Written WriteList(const ListTest& node, Place place);
-  Written WriteJunction(const ExpressionList& operands, std::string_view word);
-  Written WriteCall(const Call& node, Place place);
-  Written WriteAggregate(const Call& node, Place place);
-  Written WriteSum(const WrittenValue& operand, Place place);
+  WrittenValue Write(const Expression& expression);
+  WrittenValue WriteColumn(const ColumnName& column, Place place);
+  WrittenValue WriteArithmetic(const Arithmetic& node, Place place);
+  WrittenValue WriteConcatenation(const Concatenation& node, Place place);
+  WrittenValue WriteComparison(const Comparison& node, Place place);
+  WrittenValue WriteRange(const RangeTest& node, Place place);
+  WrittenValue WriteList(const ListTest& node, Place place);
+  WrittenValue WriteJunction(const ExpressionList& operands, std::string_view word);
+  WrittenValue WriteCall(const Call& node, Place place);
+  WrittenValue WriteAggregate(const Call& node, Place place);
+  WrittenValue WriteSum(const WrittenValue& operand, Place place);
 
   WrittenValue Number(const Expression& expression);
   /// The tested value of a comparison, made ready to compare with values of its class.

@@ -11,7 +11,8 @@ namespace rbt::dialect {
 
 /// Writes a SELECT over one table. Rows come in table order, groups ascending by the columns grouped by, as
 /// listed, nulls first; a statement's own ORDER BY goes before, and what it leaves equal keeps that order.
-/// Text groups and sorts without regard to ASCII letter case; a group shows the value of its first row.
+/// Text groups and sorts without regard to ASCII letter case; a group shows the text of its first row (beside
+/// a lone Min or Max, that of the row which has it).
 class SelectWriter {
  public:
   /// Both must outlive the writer.

@@ -54,7 +54,7 @@ void UpdateFusion::Append(const Update& update, const Scope& scope) {
   bool has_shared_test = false;
   const WrittenUpdate written =
       WriteAssignments(update, table_, scope, [&](const FieldDef& field, const std::string& test) {
-        const std::string shared = Share(field, test);
+        std::string shared = Share(field, test);
         has_shared_test = has_shared_test || shared != test;
         return shared;
       });
@@ -88,7 +88,7 @@ std::vector<UpdateFusion::Fields> UpdateFusion::NeededByLayer() const {
 }
 
 std::string UpdateFusion::ColumnSql(const Layer& layer, const FieldDef& field) const {
-  const std::string name = QuoteName(field.name);
+  std::string name = QuoteName(field.name);
   const auto found = layer.settings.find(&field);
   if (found == layer.settings.end()) return name;
   const auto& [cases, otherwise] = found->second;
