@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace rbt {
+
+/// Twips, 1440 to the inch: the unit of every coordinate on paper.
+inline constexpr double kTwipsPerMillimetre = 1440.0 / 25.4;
+
+/// Printer paper codes.
+inline constexpr std::int32_t kPaperA3 = 8;
+inline constexpr std::int32_t kPaperA4 = 9;
+inline constexpr std::int32_t kPaperB5 = 13;
+inline constexpr std::int32_t kCustomPaper = 256;
+
+/// Orientation values of a printer.
+inline constexpr std::int32_t kPortrait = 1;
+inline constexpr std::int32_t kLandscape = 2;
+
+/// A sheet as it lies in portrait.
+struct PaperRow {
+  std::int32_t code;
+  std::int32_t width_mm;
+  std::int32_t height_mm;
+};
+
+/// B5 is the Japanese one.
+inline constexpr std::array<PaperRow, 3> kPapers{{
+    {kPaperA3, 297, 420},
+    {kPaperA4, 210, 297},
+    {kPaperB5, 182, 257},
+}};
+
+/// Width and height in twips.
+struct SheetSize {
+  double width = 0.0;
+  double height = 0.0;
+};
+
+/// The row of a paper code, null for a code that the table lacks.
+const PaperRow* FindPaper(std::int32_t code);
+/// The sheet as it is printed on: landscape lies on its long side. A code that the table lacks is taken as
+/// A4.
+SheetSize SheetOf(std::int32_t paper_code, std::int32_t orientation);
+
+}  // namespace rbt

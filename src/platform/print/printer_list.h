@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <string_view>
+
+#include "platform/print/printer_surface.h"
+
+namespace rbt {
+
+/// The printers of this machine and the one that this program prints on; the system's own choice of a printer
+/// is never changed. Where no printer is installed, the PDF device is the only one.
+class PrinterList {
+ public:
+  /// At least one printer; the first is current.
+  explicit PrinterList(std::list<PrinterSurface> printers);
+
+  std::list<PrinterSurface>& Installed() { return printers_; }
+  PrinterSurface& Current() { return *current_; }
+  /// Makes the first printer of that name current; false, and nothing changed, when there is none.
+  bool MakeCurrent(std::string_view device_name);
+
+ private:
+  // A list, so that a printer stays where it is while the list moves.
+  std::list<PrinterSurface> printers_;
+  std::list<PrinterSurface>::iterator current_;
+};
+
+/// The printers in force: what the desktop, the command line or a test has put there. Before that, the PDF
+/// device alone, whose documents go nowhere: delivering one throws `file`.
+PrinterList& Printers();
+/// Returns the list that was in force.
+PrinterList SetPrinters(PrinterList printers);
+
+}  // namespace rbt
