@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/numbers/currency.h"
+
+namespace rbt {
+
+/// Length in bytes of code page 932: a full-width character counts 2, a half-width one 1.
+std::int32_t Get_ByteLen(std::string_view Text);
+
+/// A project name cut behind its first `koji_break` characters.
+struct CutName {
+  std::string_view first;
+  std::string_view rest;
+};
+CutName CutAtBreak(std::string_view name, std::int32_t koji_break);
+/// The piece with the greater byte length; of two equal ones the first.
+std::string_view LongerPiece(const CutName& name);
+/// The longer piece of a text cut at the project-name break of `SiteContext`.
+std::string Get_HalfLonger(std::string_view Text);
+
+/// X offset, twips, at which a short label starts so that its last character ends at a fixed place.
+float Get_RightX(std::string_view Text);
+
+/// A material text without its slit wording; of "スリットのみ" "のみ" is left.
+std::string Trim_SlitText(std::string_view Text);
+
+/// The rightmost `count` characters of the text with blanks in front: how numbers stand in a column. A longer
+/// text loses its leftmost characters.
+std::string RightAligned(std::string_view text, std::size_t count);
+
+/// Mask of weights and counts in table cells.
+inline constexpr std::string_view kCellMask = "#,##0";
+inline constexpr std::string_view kTonnesMask = "##### t ##0 Kg";
+inline constexpr std::string_view kKilogramsMask = "##0 Kg";
+/// The mask of a total weight in kilograms: tonnes and the rest from 1000 on, kilograms below.
+std::string_view TotalWeightMask(double kilograms);
+/// A total weight by its mask, right-aligned in 14 characters.
+std::string TotalWeightText(double kilograms);
+
+}  // namespace rbt
