@@ -285,9 +285,9 @@ TEST(FoldRow, CountsWithoutColumnOnlyTheKindsOfTheChoice) {
   row.cuts = 1;
   const std::optional<std::int32_t> null_kind;
   struct Case {
-    std::int32_t choice;
-    std::optional<std::int32_t> kind;
-    bool counts;
+    std::int32_t choice = 0;
+    std::optional<std::int32_t> kind = std::nullopt;
+    bool counts = false;
   };
   for (const Case& c : std::initializer_list<Case>{{0, null_kind, true},
                                                    {0, 0, true},

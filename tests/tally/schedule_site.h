@@ -17,8 +17,8 @@ using Fields = std::vector<std::pair<std::string, Value>>;
 inline Value Number(std::int64_t number) { return Value{number}; }
 inline const Value kNull{};
 
-/// A root folder with the site 001, bound and open, the selection and the settings at their defaults: a small
-/// schedule that a test fills row by row.
+/// A root folder with the site 001 alone, bound and open, the selection and the settings at their defaults: a
+/// small schedule that a test fills row by row, with what a tally reads and nothing else.
 class ScheduleSite {
  public:
   /// `absent`: columns that the schedule of an older file lacks.

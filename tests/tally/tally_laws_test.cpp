@@ -13,9 +13,12 @@
 #include "tally/bar_tables.h"
 #include "tally/bulk_tally.h"
 #include "tally/closing_sums.h"
+#include "tally/page_tally.h"
 #include "tally/row_fold.h"
+#include "tally/schedule_positions.h"
 #include "tally/schedule_site.h"
 #include "tally/selection.h"
+#include "tally/shape_tally.h"
 
 namespace rbt {
 namespace {
@@ -54,6 +57,7 @@ class RandomRows {
 
   std::vector<BarRow> Many(int count) {
     std::vector<BarRow> rows;
+    rows.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) rows.push_back(Next());
     return rows;
   }
@@ -212,9 +216,10 @@ Value OrNull(const std::optional<std::int32_t>& number) {
   return number ? test::Number(*number) : test::kNull;
 }
 
-void AddRow(test::ScheduleSite& site, const BarRow& row) {
-  site.AddRow({{"頁", OrNull(row.page)},
-               {"行", OrNull(row.line)},
+/// With a line number the row stands on page 1 at that line instead of its own.
+void AddRow(test::ScheduleSite& site, const BarRow& row, std::optional<std::int32_t> line = std::nullopt) {
+  site.AddRow({{"頁", OrNull(line ? 1 : row.page)},
+               {"行", OrNull(line ? line : row.line)},
                {"部位", OrNull(row.part)},
                {"太さ", OrNull(row.diameter_code)},
                {"圧接太さ", OrNull(row.weld_diameter_code)},
@@ -291,6 +296,98 @@ TEST_F(RandomSchedule, ThePlateModesAddUp) {
 TEST_F(RandomSchedule, ASecondTallyOfTheSameSelectionIsTheSame) {
   const TallyTable first = Tallied();
   EXPECT_EQ(Tallied(), first);
+}
+
+/// Rows that the tallies by groups take: every shape and length known, Ulbon welded to Ulbon alone.
+std::vector<BarRow> GroupableRows(unsigned seed, int count) {
+  std::vector<BarRow> rows = RandomRows(seed).Many(count);
+  for (BarRow& row : rows) {
+    row.shape = row.shape.value_or(1);
+    row.pieces = row.pieces.value_or(7);
+    row.cut_length_mm = row.cut_length_mm.value_or(2400);
+    row.kind = row.kind.value_or(1);
+    if (row.IsOf(MaterialKind::ulbon)) row.weld_diameter_code = std::nullopt;
+  }
+  return rows;
+}
+
+class GroupableSchedule : public testing::Test {
+ protected:
+  GroupableSchedule() : rows_(GroupableRows(5, 300)) {
+    Transaction transaction(site_.Work());
+    for (const BarRow& row : rows_) AddRow(site_, row, next_line_++);
+    transaction.Commit();
+    Selection.ShapeStart = 0;
+    Selection.ShapeEnd = 999;
+  }
+
+  static TallyTable ByShape() {
+    Keijou_Jyuuryo_Syukei();
+    return TallyGrid;
+  }
+  TallyTable ByPageAndShape() const {
+    PKeijou_Jyuuryo_Syukei(1, 1, 1, next_line_ - 1);
+    return TallyGrid;
+  }
+
+  static double Metres(const TallyTable& table, int d) {
+    double metres = 0.0;
+    for (int l = 0; l < 19; ++l) metres += table.CutLengthM[d][l];
+    return metres;
+  }
+
+  test::ScheduleSite site_;
+  std::vector<BarRow> rows_;
+  int next_line_ = 1;
+};
+
+TEST_F(GroupableSchedule, TheShapeTallyInstallsTheSameLengthAsTheBulkTally) {
+  const TallyTable shapes = ByShape();
+  Jyuuryo_Syukei();
+  for (int d = 0; d < 12; ++d) EXPECT_NEAR(Metres(shapes, d), Metres(TallyGrid, d), 1e-6) << d;
+  for (int d = 12; d < 18; ++d) EXPECT_NEAR(shapes.UlbonWeight[d], TallyGrid.UlbonWeight[d], 1e-6) << d;
+}
+
+TEST_F(GroupableSchedule, TheShapeTallyBuysAtLeastWhatIsInstalled) {
+  for (const int loss_priority : {0, 1}) {
+    SaveSetting("Kakou", "定尺計算", "ロス優先", std::to_string(loss_priority));
+    const TallyTable shapes = ByShape();
+    for (int d = 0; d < 12; ++d) {
+      double bought = 0.0;
+      for (int l = 0; l < 19; ++l) bought += shapes.BarCount[d][l] * StockMetres(l);
+      EXPECT_GE(bought, Metres(shapes, d) - 1e-6) << d << ' ' << loss_priority;
+    }
+  }
+}
+
+TEST_F(GroupableSchedule, TheShapeTallyOfAllLinesIsTheShapeTallyOfAllShapes) {
+  for (const int mask : {1, 2, 3, 4, 7, 10, 14, 15}) {
+    Selection.MaterialKindMask = mask;
+    for (const int hoop_mode : {0, 1, 2}) {
+      Selection.HoopMode = hoop_mode;
+      TallyTable shapes = ByShape();
+      if (!RunState.HasHoopRows) continue;  // the cuts have no range then
+      const TallyTable lines = ByPageAndShape();
+      for (int d = 12; d < 18; ++d) EXPECT_NEAR(shapes.UlbonWeight[d], lines.UlbonWeight[d], 1e-6);
+      shapes.UlbonWeight = lines.UlbonWeight;  // grouped by stock too, and so added in other steps
+      shapes.UlbonLengthM = lines.UlbonLengthM;
+      EXPECT_EQ(shapes, lines) << mask << ' ' << hoop_mode;
+    }
+  }
+}
+
+TEST_F(GroupableSchedule, ThePageTallyOfAllLinesIsTheBulkTallyWhereEveryStockHasAColumn) {
+  site_.Work().Execute("DELETE * FROM 加工テーブル WHERE 伸定尺=12.5");
+  for (const int hoop_mode : {0, 1, 2}) {
+    Selection.HoopMode = hoop_mode;
+    Jyuuryo_Syukei();
+    const TallyTable bulk = TallyGrid;
+    const PositionRange lines = *WholePositionRange(site_.Work());
+    PG_Jyuuryo_Syukei(static_cast<std::int16_t>(lines.first.page),
+                      static_cast<std::int16_t>(lines.first.line), static_cast<std::int16_t>(lines.last.page),
+                      static_cast<std::int16_t>(lines.last.line));
+    EXPECT_EQ(TallyGrid, bulk) << hoop_mode;
+  }
 }
 
 }  // namespace
