@@ -2,14 +2,13 @@
 #include "platform/jet/check.h"
 
 #include <algorithm>
-#include <map>
-#include <set>
 
 #include <fmt/format.h>
 
 #include "platform/fault.h"
+#include "platform/jet/check_index.h"
 #include "platform/jet/data_page.h"
-#include "platform/jet/index.h"
+#include "platform/jet/page_owners.h"
 #include "platform/jet/table.h"
 #include "platform/jet/usage_map.h"
 
@@ -17,24 +16,40 @@ namespace rbt::jet {
 
 namespace {
 
+constexpr std::uint32_t kLongValueOwner = 0x4C41564C;  // "LVAL"
+constexpr std::size_t kMostDamages = 200;
+
+bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
+  return std::binary_search(ascending.begin(), ascending.end(), page);
+}
+
 class Checker {
  public:
-  explicit Checker(JetFile& file) : file_(file) {}
+  explicit Checker(JetFile& file)
+      : file_(file), owners_(file.PageCount(), [this](std::string text) { Damage(std::move(text)); }) {}
 
   CheckReport Run() {
     if (!file_.ClosedCleanly()) Warn("the file was not closed cleanly");
-    Own(0, "the header");
+    owners_.Own(0, "the header");
+    Guard("the map of free pages", [&] { free_ = OwnPagesOf(kFreePages, kUsageMaps); });
     Guard("the catalog", [&] {
       for (const CatalogEntry& entry : ReadCatalog(file_)) {
         if (entry.kind == CatalogEntry::Kind::table) CheckTable(entry);
       }
     });
     CheckFreePages();
+    if (damages_ > kMostDamages) {
+      report_.damages.push_back(fmt::format("and {} more", damages_ - kMostDamages));
+    }
     return std::move(report_);
   }
 
  private:
-  void Damage(std::string text) { report_.damages.push_back(std::move(text)); }
+  static constexpr const char* kUsageMaps = "the usage maps";
+
+  void Damage(std::string text) {
+    if (++damages_ <= kMostDamages) report_.damages.push_back(std::move(text));
+  }
   void Warn(std::string text) { report_.warnings.push_back(std::move(text)); }
 
   /// Faults are what the check is there to find: each becomes a line and the next object is looked at.
@@ -47,116 +62,128 @@ class Checker {
     }
   }
 
-  void Own(std::uint32_t page, const std::string& owner) {
-    const auto [at, fresh] = owners_.emplace(page, owner);
-    if (!fresh && at->second != owner)
-      Damage(fmt::format("page {} belongs to {} and to {}", page, at->second, owner));
-  }
-
   void CheckTable(const CatalogEntry& entry) {
     const std::string what = fmt::format("table {}", entry.name);
     Guard(what, [&] {
       TableDefinition table = ReadTableDefinition(file_, entry.id & 0xFFFFFF);
       table.name = entry.name;
-      for (const std::uint32_t page : table.definition_pages) Own(page, what);
+      for (const std::uint32_t page : table.definition_pages) owners_.Own(page, what);
       Guard(what + ", usage map", [&] { CheckUsageMap(table, what); });
-      std::map<RowPointer, std::vector<bool>> rows;
-      Guard(what + ", rows", [&] { CheckRows(table, what, rows); });
-      for (const Index& index : table.indexes) {
-        const std::string name = fmt::format("{}, index {}", what, index.name);
-        Guard(name, [&] { CheckIndex(table, index, name, rows); });
+      for (const LongValueMap& map : table.long_value_maps) {
+        const std::string name = fmt::format("{}, long values of column {}", what, map.column);
+        Guard(name, [&] { CheckLongValueMap(map, name); });
       }
+      std::vector<RowNulls> rows;
+      Guard(what + ", rows", [&] { rows = CheckRows(table, what); });
+      CheckIndexes(table, what, rows);
       report_.lines.push_back(fmt::format("{}: {} rows, {} columns, {} indexes", what, rows.size(),
                                           table.columns.size(), table.indexes.size()));
     });
   }
 
-  void CheckUsageMap(const TableDefinition& table, const std::string& what) {
-    for (const std::uint32_t page : BitmapPagesOfUsageMap(file_, table.owned_pages)) Own(page, what);
-    for (const std::uint32_t page : BitmapPagesOfUsageMap(file_, table.free_pages)) Own(page, what);
-    const std::vector<std::uint32_t> owned = PagesOfUsageMap(file_, table.owned_pages);
-    for (const std::uint32_t page : owned) Own(page, what);
-    for (const std::uint32_t page : PagesOfUsageMap(file_, table.free_pages)) {
-      if (!std::binary_search(owned.begin(), owned.end(), page)) {
-        Damage(fmt::format("{}: page {} has free space but is not owned", what, page));
-      }
-    }
-    for (std::uint32_t page = 1; page < file_.PageCount(); ++page) {
-      const PageView view = file_.Page(page);
-      const bool data = view.U8(0) == static_cast<std::uint8_t>(PageType::data) && view.U32(4) == table.page;
-      const bool listed = std::binary_search(owned.begin(), owned.end(), page);
-      if (data && !listed)
-        Warn(fmt::format("{}: page {} points to it but its usage map lacks the page", what, page));
+  /// The pages of a map, which with its bitmap pages belong to `owner`.
+  std::vector<std::uint32_t> OwnPagesOf(RowPointer map, const std::string& owner) {
+    if (map == kNoUsageMap) return {};
+    owners_.Own(map.page, kUsageMaps);
+    for (const std::uint32_t page : BitmapPagesOfUsageMap(file_, map)) owners_.Own(page, owner);
+    return PagesOfUsageMap(file_, map);
+  }
+
+  void CheckFreeSpace(RowPointer map, const std::vector<std::uint32_t>& owned, const std::string& what) {
+    for (const std::uint32_t page : OwnPagesOf(map, what)) {
+      if (!Lists(owned, page)) Damage(fmt::format("{}: page {} has free space but is not owned", what, page));
     }
   }
 
-  void CheckRows(const TableDefinition& table, const std::string& what,
-                 std::map<RowPointer, std::vector<bool>>& rows) {
+  void CheckUsageMap(const TableDefinition& table, const std::string& what) {
+    const std::vector<std::uint32_t> owned = OwnPagesOf(table.owned_pages, what);
+    const std::vector<std::uint32_t>& pointing = file_.DataPagesPointingTo(table.page);
+    for (const std::uint32_t page : owned) {
+      owners_.Own(page, what);
+      if (!Lists(pointing, page) && !Contains(table.definition_pages, page)) {
+        Damage(fmt::format("{}: page {} is in its usage map but does not point to it", what, page));
+      }
+    }
+    for (const std::uint32_t page : pointing) {
+      if (!Lists(owned, page) && !Lists(free_, page)) {
+        Damage(fmt::format("{}: page {} points to it but is not in its usage map", what, page));
+      }
+    }
+    CheckFreeSpace(table.free_pages, owned, what);
+  }
+
+  static bool Contains(const std::vector<std::uint32_t>& pages, std::uint32_t page) {
+    return std::find(pages.begin(), pages.end(), page) != pages.end();
+  }
+
+  void CheckLongValueMap(const LongValueMap& map, const std::string& what) {
+    const std::vector<std::uint32_t> owned = OwnPagesOf(map.owned_pages, what);
+    const std::vector<std::uint32_t>& long_values = file_.DataPagesPointingTo(kLongValueOwner);
+    for (const std::uint32_t page : owned) {
+      owners_.Own(page, what);
+      if (!Lists(long_values, page)) Damage(fmt::format("{}: page {} holds no long values", what, page));
+    }
+    CheckFreeSpace(map.free_pages, owned, what);
+  }
+
+  std::vector<RowNulls> CheckRows(const TableDefinition& table, const std::string& what) {
+    std::vector<RowNulls> rows;
     const ScanReport scan = ScanTable(file_, table, [&](RowPointer place, std::vector<Value>& fields) {
-      std::vector<bool> nulls(fields.size());
-      for (std::size_t i = 0; i < fields.size(); ++i) nulls[i] = IsNull(fields[i]);
-      rows.emplace(place, std::move(nulls));
+      RowNulls& row = rows.emplace_back(RowNulls{place, std::vector<bool>(fields.size())});
+      for (std::size_t i = 0; i < fields.size(); ++i) row.nulls[i] = IsNull(fields[i]);
     });
     if (!scan.warning.empty() && file_.ClosedCleanly()) Damage(scan.warning);
     if (scan.rows != table.row_count) {
       Damage(
           fmt::format("{}: its definition counts {} rows, {} are there", what, table.row_count, scan.rows));
     }
+    return rows;
   }
 
-  /// Rows that the index leaves out because a key column is null.
-  static bool LeftOut(const TableDefinition& table, const PhysicalIndex& physical,
-                      const std::vector<bool>& nulls) {
-    if (!physical.ignores_null) return false;
-    return std::any_of(physical.columns.begin(), physical.columns.end(), [&](const IndexColumn& key) {
-      const auto at = static_cast<std::size_t>(table.FindNumber(key.number) - table.columns.data());
-      return nulls[at];
-    });
-  }
-
-  void CheckIndex(const TableDefinition& table, const Index& index, const std::string& what,
-                  const std::map<RowPointer, std::vector<bool>>& rows) {
-    const PhysicalIndex& physical = table.physical_indexes[index.physical];
-    if (physical.columns.empty()) return;
-    std::set<RowPointer> seen;
-    IndexEntry last;
-    const IndexWalk walk = WalkIndex(file_, physical, [&](const IndexEntry& entry) {
-      if (entry.key < last.key || (entry.key == last.key && entry.row < last.row)) {
-        Damage(
-            fmt::format("{}: the entry of row {}:{} is out of order", what, entry.row.page, entry.row.slot));
-      }
-      if (rows.count(entry.row) == 0) {
-        Damage(fmt::format("{}: an entry points to row {}:{}, which is not there", what, entry.row.page,
-                           entry.row.slot));
-      }
-      if (!seen.insert(entry.row).second) {
-        Damage(fmt::format("{}: row {}:{} has two entries", what, entry.row.page, entry.row.slot));
-      }
-      last = entry;
-    });
-    for (const std::uint32_t page : walk.pages) Own(page, fmt::format("table {}", table.name));
-    for (const auto& [place, nulls] : rows) {
-      if (seen.count(place) == 0 && !LeftOut(table, physical, nulls)) {
-        Damage(fmt::format("{}: row {}:{} has no entry", what, place.page, place.slot));
-      }
+  /// Several indexes may share one B-tree, which is walked once.
+  void CheckIndexes(const TableDefinition& table, const std::string& what,
+                    const std::vector<RowNulls>& rows) {
+    for (std::size_t i = 0; i < table.physical_indexes.size(); ++i) {
+      const PhysicalIndex& physical = table.physical_indexes[i];
+      const std::string name = fmt::format("{}, index {}", what, IndexName(table, i));
+      Guard(name, [&] {
+        const IndexWalk walk = CheckIndex(file_, table, physical, rows,
+                                          [&](const std::string& text) { Damage(name + ": " + text); });
+        for (const std::uint32_t page : walk.pages) owners_.Own(page, name);
+        const std::vector<std::uint32_t> mapped = OwnPagesOf(physical.usage, name);
+        for (const std::uint32_t page : walk.pages) {
+          if (!Lists(mapped, page)) Damage(fmt::format("{}: page {} is not in its usage map", name, page));
+        }
+      });
     }
   }
 
-  /// The map of free pages is row 0 of page 1; what it calls free nobody may own.
+  static std::string IndexName(const TableDefinition& table, std::size_t physical) {
+    const auto found = std::find_if(table.indexes.begin(), table.indexes.end(),
+                                    [&](const Index& index) { return index.physical == physical; });
+    return found == table.indexes.end() ? fmt::format("number {}", physical) : found->name;
+  }
+
+  /// What is called free nobody may own, and what is neither is lost.
   void CheckFreePages() {
-    Own(1, "the map of free pages");
-    Guard("the map of free pages", [&] {
-      for (const std::uint32_t page : PagesOfUsageMap(file_, {1, 0})) {
-        const auto owner = owners_.find(page);
-        if (owner != owners_.end())
-          Damage(fmt::format("page {} is called free but belongs to {}", page, owner->second));
+    std::vector<std::uint32_t> lost;
+    for (std::uint32_t page = 0; page < file_.PageCount(); ++page) {
+      const std::string* owner = owners_.Find(page);
+      if (owner == nullptr && !Lists(free_, page)) lost.push_back(page);
+      if (owner != nullptr && Lists(free_, page)) {
+        Damage(fmt::format("page {} is called free but belongs to {}", page, *owner));
       }
-    });
+    }
+    if (lost.empty()) return;
+    Damage(
+        fmt::format("pages that are neither owned nor free: {}, page {} first", lost.size(), lost.front()));
   }
 
   JetFile& file_;
   CheckReport report_;
-  std::map<std::uint32_t, std::string> owners_;
+  std::size_t damages_ = 0;
+  PageOwners owners_;
+  std::vector<std::uint32_t> free_;
 };
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
+#include "platform/jet/data_page.h"
 
 namespace rbt::jet {
 
@@ -246,6 +247,19 @@ PageView JetFile::Page(std::uint32_t number, PageType type) {
     page.Damaged(fmt::format("is of type {} where type {} is due", page.U8(0), static_cast<int>(type)));
   }
   return page;
+}
+
+const std::vector<std::uint32_t>& JetFile::DataPagesPointingTo(std::uint32_t owner) {
+  if (!data_pages_) {
+    auto& sorted = data_pages_.emplace();
+    for (std::uint32_t number = 1; number < page_count_; ++number) {
+      const PageView page = Page(number);
+      if (page.U8(0) == static_cast<std::uint8_t>(PageType::data)) sorted[OwnerOf(page)].push_back(number);
+    }
+  }
+  static const std::vector<std::uint32_t> kNone;
+  const auto found = data_pages_->find(owner);
+  return found == data_pages_->end() ? kNone : found->second;
 }
 
 DecodedText JetFile::TextOfBytes(std::span<const unsigned char> bytes) const {

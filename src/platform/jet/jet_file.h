@@ -96,6 +96,10 @@ class JetFile {
   /// Jet 3.
   DecodedText TextOfBytes(std::span<const unsigned char> bytes) const;
 
+  /// The data pages whose owner pointer is `owner`, ascending; freed pages keep theirs. The first call reads
+  /// the whole file.
+  const std::vector<std::uint32_t>& DataPagesPointingTo(std::uint32_t owner);
+
   [[noreturn]] void Damaged(std::uint32_t page, const std::string& cause) const;
 
  private:
@@ -118,6 +122,7 @@ class JetFile {
   bool closed_cleanly_ = true;
   std::unordered_map<std::uint32_t, Cached> cache_;
   std::list<std::uint32_t> ages_;  ///< least recently used first
+  std::optional<std::unordered_map<std::uint32_t, std::vector<std::uint32_t>>> data_pages_;  ///< by owner
 };
 
 /// True when the bytes 4 to 18 of the file read "Standard Jet DB".

@@ -40,17 +40,18 @@ CatalogEntry::Kind KindOf(std::int64_t type) {
   }
 }
 
-bool BelongsTo(const PageView& page, const TableDefinition& table) {
-  return page.U8(0) == static_cast<std::uint8_t>(PageType::data) && OwnerOf(page) == table.page;
+bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
+  return std::binary_search(ascending.begin(), ascending.end(), page);
 }
 
-/// Every data page whose pointer names the table, for files whose usage maps cannot be relied on.
-std::vector<std::uint32_t> PagesByPointer(JetFile& file, const TableDefinition& table) {
-  std::vector<std::uint32_t> pages;
-  for (std::uint32_t page = 1; page < file.PageCount(); ++page) {
-    if (BelongsTo(file.Page(page), table)) pages.push_back(page);
+/// The pages of a usage map, none and the cause when it cannot be read.
+std::vector<std::uint32_t> PagesOrCause(JetFile& file, RowPointer map, std::string& cause) {
+  try {
+    return PagesOfUsageMap(file, map);
+  } catch (const Fault& fault) {
+    cause = fault.what();
+    return {};
   }
-  return pages;
 }
 
 std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& table,
@@ -65,24 +66,26 @@ std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& 
 }  // namespace
 
 std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& table, std::string& warning) {
+  std::string cause;
+  std::vector<std::uint32_t> owned = PagesOrCause(file, table.owned_pages, cause);
+  std::erase_if(owned, [&](std::uint32_t page) {
+    return std::find(table.definition_pages.begin(), table.definition_pages.end(), page) !=
+           table.definition_pages.end();
+  });
+  std::string free_pages_unknown;
+  const std::vector<std::uint32_t> free = PagesOrCause(file, kFreePages, free_pages_unknown);
+  // A freed page keeps its pointer and its rows.
+  std::vector<std::uint32_t> pointing;
+  for (const std::uint32_t page : file.DataPagesPointingTo(table.page)) {
+    if (Lists(owned, page) || !Lists(free, page)) pointing.push_back(page);
+  }
   if (!file.ClosedCleanly()) {
     warning = fmt::format("{} was not closed cleanly; all data pages were looked through", file.Name());
-    return PagesByPointer(file, table);
+  } else if (!cause.empty() || pointing != owned) {
+    warning = fmt::format("the usage map of {} {}; all data pages were looked through", table.name,
+                          cause.empty() ? "does not agree with the pages" : "is of no use (" + cause + ")");
   }
-  try {
-    std::vector<std::uint32_t> pages;
-    for (const std::uint32_t number : PagesOfUsageMap(file, table.owned_pages)) {
-      const PageView page = file.Page(number);
-      if (page.U8(0) == static_cast<std::uint8_t>(PageType::table_definition)) continue;
-      if (!BelongsTo(page, table)) page.Damaged("the usage map of another table names it");
-      pages.push_back(number);
-    }
-    return pages;
-  } catch (const Fault& fault) {
-    warning = fmt::format("the usage map of {} is of no use ({}); all data pages were looked through",
-                          table.name, fault.what());
-    return PagesByPointer(file, table);
-  }
+  return pointing;
 }
 
 std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning) {

@@ -8,6 +8,11 @@
 
 namespace rbt::jet {
 
+/// Where a usage map is due and there is none.
+inline constexpr RowPointer kNoUsageMap{0, 0};
+/// The map of the file's free pages.
+inline constexpr RowPointer kFreePages{1, 0};
+
 /// The page numbers that the usage map at a row names, ascending: an inline bitmap with its start page, or a
 /// list of bitmap pages. Pages behind the end of the file are left out. Damage throws `Fault` of kind `file`.
 std::vector<std::uint32_t> PagesOfUsageMap(JetFile& file, RowPointer map);
