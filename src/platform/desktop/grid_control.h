@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <QColor>
+#include <QTableView>
+
+namespace rbt {
+
+struct GridColumn {
+  std::string caption;
+  int characters = 10;                       ///< width in half-width characters
+  Qt::Alignment alignment = Qt::AlignRight;  ///< of the cells; captions stand in the middle
+  bool visible = true;
+  bool locked = true;  ///< cells cannot be edited
+};
+
+/// A grid of texts: the form writes rows, the user walks them with the keys and copies them (Ctrl+C,
+/// tab-separated). Cells of unlocked columns are edited in place.
+class GridControl : public QTableView {
+ public:
+  /// Asked before a cell is edited and before an edited text is taken; false refuses.
+  using BeforeEdit = std::function<bool(int row, int column)>;
+  using BeforeUpdate = std::function<bool(int row, int column, const std::string& text)>;
+  using AfterEdit = std::function<void(int row, int column)>;
+
+  explicit GridControl(QWidget* parent = nullptr);
+  ~GridControl() override;
+
+  void SetColumns(std::vector<GridColumn> columns);
+  /// Replaces all rows; the scroll position and, where it is still there, the current cell stay.
+  void SetRows(std::vector<std::vector<std::string>> rows);
+
+  int RowCount() const;
+  std::string Cell(int row, int column) const;
+  void SetCell(int row, int column, std::string text);
+
+  /// Every second row in these colours; two invalid colours turn it off.
+  void SetAlternateColours(const QColor& back, const QColor& fore);
+
+  void OnBeforeEdit(BeforeEdit handler);
+  void OnBeforeUpdate(BeforeUpdate handler);
+  void OnAfterEdit(AfterEdit handler);
+
+  /// The selected cells, or the current row, as lines of tab-separated texts.
+  QString SelectedText() const;
+
+  QSize sizeHint() const override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  class Model;
+  void LayOutColumns();
+
+  Model* model_;
+};
+
+}  // namespace rbt
