@@ -5,12 +5,14 @@
 
 #include <QWidget>
 
+#include "screens/screen_forms.h"
+
 namespace rbt {
 
 namespace {
 
 constexpr std::array<MenuScreen, 7> kMenuScreens{{
-    {"JS", "一括集計"},
+    {"JS", "一括集計", MakeJS},
     {"KEIJOJS", "形状別 一括集計"},
     {"PGJS", "頁行別集計"},
     {"PKEIJOJS", "形状別 頁行別集計"},

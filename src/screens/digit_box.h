@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QLineEdit;
+
+namespace rbt {
+
+/// A text box that takes the digits 0 to 9 only, typed and pasted alike: full-width digits become half-width,
+/// everything else is dropped.
+void TakeDigitsOnly(QLineEdit& box, int most_digits);
+
+}  // namespace rbt
