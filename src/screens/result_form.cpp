@@ -159,20 +159,23 @@ void ResultForm::ConnectControls() {
 
 bool ResultForm::AnswerPress(const QKeyEvent& press) {
   const bool panel_open = !ui_->SSPanel3->isHidden();
+  bool ours = false;
   for (const Action& action : Actions()) {
     if (action.key == 0 || !IsPress(press, action.key)) continue;
+    ours = true;
     const QPushButton* button = (*ui_).*action.button;
     if (panel_open != ui_->SSPanel3->isAncestorOf(button)) continue;
     if (!IsRepeat(press) && button->isVisibleTo(this) && button->isEnabled()) (this->*action.handler)();
-    return true;
+    break;
   }
-  return false;
+  return ours;
 }
 
 void ResultForm::Load() {
   SetDefaults();
   SelectSite(ReadSteelIni(kSelectedDbNameKey));
   OpenWorkDatabase();
+  if (!SiteContext.MasterDatabase) OpenMasterDatabase();
   ShowHead();
   LayOutGrid();
   for (QWidget* hidden :

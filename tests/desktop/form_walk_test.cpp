@@ -18,7 +18,7 @@ QRect PlaceOf(const QWidget& control, const QWidget& form) {
   return {control.mapTo(&form, QPoint(0, 0)), control.size()};
 }
 
-/// Controls that Tab comes to, in its order, from the focused one on.
+/// Controls that Tab comes to, in its order, from the one on that the eye meets first.
 std::vector<QWidget*> TabWalk(QWidget& form) {
   std::vector<QWidget*> walk;
   for (QWidget* at = form.focusWidget(); at != nullptr; at = form.focusWidget()) {
@@ -26,6 +26,12 @@ std::vector<QWidget*> TabWalk(QWidget& form) {
     walk.push_back(at);
     Press(form, Qt::Key_Tab);
   }
+  const auto first = std::min_element(walk.begin(), walk.end(), [&](const QWidget* a, const QWidget* b) {
+    const QRect left = PlaceOf(*a, form);
+    const QRect right = PlaceOf(*b, form);
+    return std::pair(left.top(), left.left()) < std::pair(right.top(), right.left());
+  });
+  std::rotate(walk.begin(), first, walk.end());
   return walk;
 }
 
