@@ -33,6 +33,17 @@ struct MenuLaunch {
   }
 };
 
+/// The menu's screens as long as none of them can be used.
+inline constexpr MenuScreen kNoneReady[] = {
+    {"JS", "一括集計"},
+    {"KEIJOJS", "形状別 一括集計"},
+    {"PGJS", "頁行別集計"},
+    {"PKEIJOJS", "形状別 頁行別集計"},
+    {"KAIJS", "階別集計"},
+    {"BUIJS", "部位別集計"},
+    {"SETJS", "年号等集計印刷設定"},
+};
+
 /// A menu over a root folder, its load and activation scripted, its messages, starts of programs and its end
 /// kept instead of shown and made. All siblings are on disk and no setting hides a button.
 class MenuDriver {
@@ -53,7 +64,7 @@ class MenuDriver {
       return MenuStateOf(start_mode, RunState, Settings, weight_tally);
     };
     parts.write_accumulated = [this] { ++accumulations_written; };
-    parts.screens = MenuScreens();
+    parts.screens = kNoneReady;
     parts.end_program = [this](int status) { end_status = status; };
     old_messages_ = SetMessageHandler([this](auto text, auto title, MessageButtons buttons) {
       messages.push_back({std::string(text), std::string(title), buttons});
