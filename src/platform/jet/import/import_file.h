@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+#include "platform/jet/import/import_report.h"
+
+namespace rbt::jet {
+
+/// Takes a real Jet file into a new file of the store: user tables with their columns, sizes, literal
+/// defaults, primary keys and unique indexes, rows in key order. The Jet file is only read. `target` must not
+/// exist; it appears when it is complete. A Jet file that cannot be read, or that changes meanwhile, throws
+/// `Fault` of kind `file`; no `target` is left then.
+ImportReport ImportJetFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// Puts a store file with the contents of a real Jet file under the Jet file's own name. The Jet file stays
+/// as `NAME.MDB.jet` beside it, where nothing may stand yet.
+ImportReport ImportJetFileInPlace(const std::filesystem::path& file);
+/// Where the Jet file is kept then.
+std::filesystem::path KeptJetFile(const std::filesystem::path& file);
+
+}  // namespace rbt::jet
