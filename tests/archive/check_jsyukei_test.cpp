@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "cli/demo/table_layouts.h"
 #include "data/site_context.h"
+#include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/system/paths.h"
 #include "support/site_fixture.h"
@@ -44,7 +44,7 @@ class CheckJSyukei : public testing::Test {
   }
   /// The template's table of a name, changed to make an old layout of it.
   TableDef Layout(const std::string& name) const {
-    for (const TableDef& table : demo::ArchiveTables()) {
+    for (const TableDef& table : ArchiveTables()) {
       if (table.name == name) return table;
     }
     ADD_FAILURE() << name;
@@ -124,8 +124,7 @@ TEST_F(CheckJSyukei, AnAppendedKeyFieldTakesTheOldRowsUnderTheNewKey) {
 }
 
 TEST_F(CheckJSyukei, MakesMissingTablesWithFieldsAttributesAndIndexes) {
-  for (const TableDef& table : demo::ArchiveTables())
-    site_.Execute(kScheduleFile, "DROP TABLE " + table.name);
+  for (const TableDef& table : ArchiveTables()) site_.Execute(kScheduleFile, "DROP TABLE " + table.name);
   Check();
   for (const TableDef& wanted : Tables(kTemplateFile)) ExpectSame(Table(wanted.name), wanted);
 }

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <fstream>
 
-#include "cli/demo/table_layouts.h"
 #include "data/run_state.h"
 #include "data/site_context.h"
+#include "data/table_layouts.h"
 #include "platform/profile/ini_file.h"
 #include "platform/system/clock.h"
 #include "platform/text/cp932.h"
@@ -107,12 +107,12 @@ SiteFixture::SiteFixture() {
     launches_.push_back({std::string(command_line), style, polling});
   });
 
-  MakeDatabase(Data(kScheduleFile), demo::ScheduleFileTables());
-  MakeDatabase(Data(kCompanionFile), demo::CompanionFileTables());
-  MakeDatabase(Data(kMasterFile), demo::MasterFileTables());
-  MakeDatabase(Data(kFixedStockFile), demo::FixedStockFileTables());
-  MakeDatabase(Data("MTTeijyaku_ORG.mdb"), demo::FixedStockFileTables());
-  MakeDatabase(Data(kTemplateFile), demo::ArchiveTables());
+  MakeDatabase(Data(kScheduleFile), ScheduleFileTables());
+  MakeDatabase(Data(kCompanionFile), CompanionFileTables());
+  MakeDatabase(Data(kMasterFile), MasterFileTables());
+  MakeDatabase(Data(kFixedStockFile), FixedStockFileTables());
+  MakeDatabase(Data("MTTeijyaku_ORG.mdb"), FixedStockFileTables());
+  MakeDatabase(Data(kTemplateFile), ArchiveTables());
   FillMaster(Data(kMasterFile));
   for (const char* folder : {"KAKOU", "rbshopTM"}) std::filesystem::create_directories(root_ / folder);
   WriteIni(Data(kNextPrgFile), "[データ]\r\n材料明細=0\r\nCALL PRG=\r\n重量集計=\r\n");
@@ -142,7 +142,7 @@ void SiteFixture::Add(const std::string& file, std::string_view table, const Cel
 }
 
 void SiteFixture::LeaveOutColumns(std::initializer_list<std::string_view> columns) {
-  const std::vector<TableDef> tables = demo::ScheduleFileTables();
+  const std::vector<TableDef> tables = ScheduleFileTables();
   TableDef table = TableNamed(tables, kSchedule);
   std::erase_if(table.fields, [&](const FieldDef& field) {
     return std::find(columns.begin(), columns.end(), field.name) != columns.end();

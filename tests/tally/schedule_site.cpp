@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "cli/demo/table_layouts.h"
 #include "data/site_context.h"
+#include "data/table_layouts.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -30,7 +30,7 @@ void Insert(Database& database, const std::string& table, const Fields& fields) 
 
 ScheduleSite::ScheduleSite(const std::vector<std::string>& absent) : absent_(absent) {
   SiteFixture::ResetGlobalState();
-  TableDef schedule = TableOf(demo::ScheduleFileTables(), "加工テーブル");
+  TableDef schedule = TableOf(ScheduleFileTables(), "加工テーブル");
   std::erase_if(schedule.fields, [&](const FieldDef& field) { return IsOneOf(absent, field.name); });
   Database::CreateDatabase(folder_.Data("GENBA001.MDB")).CreateTable(schedule);
   Database::CreateDatabase(folder_.Data("HIROI001.mdb"));
@@ -58,7 +58,7 @@ void ScheduleSite::AddRow(const Fields& fields) {
 void ScheduleSite::AddSpiral(const Value& material, const Value& diameter, double weight) {
   Database companion = Database::Open(folder_.Data("HIROI001.mdb"));
   if (companion.FindTable("スパイラル") == nullptr) {
-    companion.CreateTable(TableOf(demo::CompanionFileTables(), "スパイラル"));
+    companion.CreateTable(TableOf(CompanionFileTables(), "スパイラル"));
   }
   Insert(companion, "スパイラル",
          {{"材質", material}, {"径", diameter}, {"全重量", Value{Currency::FromDouble(weight)}}});

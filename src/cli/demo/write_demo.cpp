@@ -10,7 +10,7 @@
 #include "cli/demo/demo_company.h"
 #include "cli/demo/schedule_generator.h"
 #include "cli/demo/shapes.h"
-#include "cli/demo/table_layouts.h"
+#include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/store/database.h"
 #include "platform/system/paths.h"

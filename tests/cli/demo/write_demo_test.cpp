@@ -9,7 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "cli/demo/table_layouts.h"
+#include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/profile/ini_file.h"
 #include "platform/store/database.h"

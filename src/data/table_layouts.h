@@ -5,7 +5,7 @@
 
 #include "platform/store/schema.h"
 
-namespace rbt::demo {
+namespace rbt {
 
 /// The six tables of saved tallies with their named keys, as the template JSyukeiORG.mdb holds them.
 std::vector<TableDef> ArchiveTables();
@@ -18,4 +18,4 @@ std::vector<TableDef> MasterFileTables();
 /// MTTeijyaku.mdb and MTTeijyaku_ORG.mdb.
 std::vector<TableDef> FixedStockFileTables();
 
-}  // namespace rbt::demo
+}  // namespace rbt

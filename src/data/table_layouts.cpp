@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "cli/demo/table_layouts.h"
+#include "data/table_layouts.h"
 
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
 
-namespace rbt::demo {
+namespace rbt {
 
 namespace {
 
@@ -188,4 +188,4 @@ std::vector<TableDef> FixedStockFileTables() {
                 {Long("太さ"), Long("開始切り寸"), Long("終了切り寸"), Long("材質"), Long("定尺")})};
 }
 
-}  // namespace rbt::demo
+}  // namespace rbt

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/demo/table_layouts.h"
+#include "data/table_layouts.h"
 
 #include <algorithm>
 #include <map>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace rbt::demo {
+namespace rbt {
 namespace {
 
 using Keys = std::map<std::string, std::vector<std::string>>;
@@ -84,4 +84,4 @@ TEST(TableLayouts, maker_names_follow_the_grades_of_the_twelve_diameters) {
 }
 
 }  // namespace
-}  // namespace rbt::demo
+}  // namespace rbt
