@@ -10,7 +10,7 @@
 #include "app/arguments.h"
 #include "platform/desktop/action.h"
 #include "platform/desktop/look.h"
-#include "platform/fault.h"
+#include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/menu/captions.h"
 #include "shell/menu/jsmenu.h"
@@ -46,21 +46,29 @@ std::optional<int> AnswerWithoutWindow(const Arguments& arguments) {
   return std::nullopt;
 }
 
-void UseRoot(const Arguments& arguments) {
+/// False, after a message, when there is no root folder to work on.
+bool UseRoot(const Arguments& arguments) {
   if (arguments.root) SetRoot(*arguments.root);
-  if (Root().empty()) throw Fault(FaultKind::file, "no root folder: give --root DIR or set RBK_ROOT");
-  if (!std::filesystem::is_directory(Root())) {
-    throw Fault(FaultKind::file, "the root " + Root().string() + " is no folder");
+  if (Root().empty()) {
+    MsgBox("フォルダ「\\RBK」の場所が分かりません。\r\n--root か環境変数 RBK_ROOT で指定して下さい。",
+           kMenuTitle);
+    return false;
   }
+  if (!std::filesystem::is_directory(Root())) {
+    MsgBox("フォルダ「" + Root().string() + "」が見つかりません。", kMenuTitle);
+    return false;
+  }
+  return true;
 }
 
 int RunMenu(const Arguments& arguments) {
+  bool root_known = false;
   StartOptions options;
   const bool ready = RunAction(kMenuTitle, [&] {
-    UseRoot(arguments);
+    root_known = UseRoot(arguments);
     options.start_mode = ParseStartMode(arguments.command_line);
   });
-  if (!ready) return EXIT_FAILURE;
+  if (!ready || !root_known) return EXIT_FAILURE;
   JSMENU menu(MenuPartsFor(options));
   QTimer::singleShot(0, [&menu] { menu.Open(); });
   return QApplication::exec();

@@ -10,7 +10,6 @@ namespace rbt::test {
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 

@@ -279,6 +279,11 @@ void JSMENU::ShowAgain() {
   show();
   raise();
   activateWindow();
+  // Without a window manager the loss of the focus by hiding may be told only now; it is asked for again.
+  constexpr std::chrono::milliseconds kFocusSettled{300};
+  QTimer::singleShot(kFocusSettled, this, [this] {
+    if (isVisible() && QApplication::activeWindow() == nullptr) activateWindow();
+  });
   RequestActivation();
 }
 
@@ -302,7 +307,8 @@ void JSMENU::ServeActivation() {
     return;
   }
   activation_due_ = false;
-  if (isVisible()) Form_Activate();
+  if (!isVisible()) return;
+  Form_Activate();
 }
 
 void JSMENU::closeEvent(QCloseEvent* event) {
