@@ -24,7 +24,7 @@ struct GroupStatements {
 /// What closes a main statement and a cut statement.
 inline constexpr std::string_view kGroupByPieces = " GROUP BY 太さ,圧接太さ,形状No,伸切寸,予備5,伸定尺 ";
 inline constexpr std::string_view kGroupByWeld = " GROUP BY 太さ,圧接太さ ";
-/// Parts 5 and 2 of the cut statement, walked one after the other.
+/// 部位 5 and 2 of the cut statement, walked one after the other.
 inline constexpr std::string_view kCutsOfPart5 = " AND 部位=5";
 inline constexpr std::string_view kCutsOfPart2 = " AND 部位=2 ";
 

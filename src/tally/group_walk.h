@@ -14,8 +14,8 @@ void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view stateme
 /// Adds every group of a main statement, which has no closing clause yet.
 void FoldGroups(TallyTable& table, Database& site, std::string_view main_statement, const GroupRules& rules);
 
-/// Adds the cuts of parts 5 and 2 of a cut statement, which has no closing clause yet. A cut of part 5 counts
-/// at the thicker of the bar and the one that it is welded to, a cut of part 2 at the one that it is welded
+/// Adds the cuts of 部位 5 and 2 of a cut statement, which has no closing clause yet. A cut of 部位 5 counts
+/// at the thicker of the bar and the one that it is welded to, a cut of 部位 2 at the one that it is welded
 /// to however thin. Faults: `subscript out of range` for cuts at no deformed diameter.
 void FoldCuts(TallyTable& table, Database& site, std::string_view cut_statement);
 

@@ -112,4 +112,9 @@ GridRows ShowTally(const TallyTable& table, const SelectionData& selection, cons
   return rows;
 }
 
+GridRows StockRows(const StockResult& stock) {
+  return {{std::to_string(stock.StockBars), std::to_string(stock.PiecesPerBar),
+           ShortestDecimal(stock.StockLengthM)}};
+}
+
 }  // namespace rbt

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tally/selection.h"
+#include "tally/stock_engine.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {
@@ -32,5 +33,8 @@ double UpliftedUlbonWeight(const TallyTable& table, int d, double percent);
 /// The rows of a result grid, texts as they stand in the cells. The selection decides the total row's label
 /// and whether Ulbon and spiral rows belong to it; the grand total is the sum of what the grid shows.
 GridRows ShowTally(const TallyTable& table, const SelectionData& selection, const GridView& view);
+/// One call of the stock-length engine as a row: bars, pieces per bar, metres.
+inline constexpr std::array<std::string_view, 3> kStockCaptions = {"本数", "切本数", "定尺"};
+GridRows StockRows(const StockResult& stock);
 
 }  // namespace rbt

@@ -2,18 +2,12 @@
 #include "tally/tally_json.h"
 
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "tally/bar_tables.h"
+#include "tally/json_text.h"
 
 namespace rbt {
 namespace {
-
-std::string JsonText(std::int32_t number) { return std::to_string(number); }
-std::string JsonText(Currency kilograms) { return kilograms.ToText(); }
-std::string JsonText(double number) { return fmt::format("{:.17g}", number); }
-std::string JsonText(bool flag) { return flag ? "true" : "false"; }
-std::string JsonText(std::string_view text) { return nlohmann::json(text).dump(); }
 
 /// The first `count` entries of a table.
 template <typename T, int N>
@@ -37,17 +31,6 @@ std::string Sparse(const Checked2D<T, Rows, Columns>& cells) {
   }
   return '[' + text + ']';
 }
-
-class JsonObject {
- public:
-  void Add(std::string_view name, std::string_view json) {
-    text_ += fmt::format("{}\n  \"{}\": {}", text_.empty() ? "" : ",", name, json);
-  }
-  std::string Text() const { return '{' + text_ + "\n}\n"; }
-
- private:
-  std::string text_;
-};
 
 void AddCells(JsonObject& object, const TallyTable& table) {
   object.Add("BarCount", Sparse(table.BarCount));
@@ -98,6 +81,12 @@ std::string TallyJson(const TallyTable& table, std::string_view kind, bool has_h
   object.Add("HasHoopRows", JsonText(has_hoop_rows));
   object.Add("HasAnchorPlateRows", JsonText(has_anchor_plate_rows));
   return object.Text();
+}
+
+std::string StockJson(const StockResult& stock) {
+  return "{ \"StockBars\": " + JsonText(stock.StockBars) +
+         ", \"PiecesPerBar\": " + JsonText(stock.PiecesPerBar) +
+         ", \"StockLengthM\": " + JsonText(stock.StockLengthM) + " }\n";
 }
 
 }  // namespace rbt

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "tally/stock_engine.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {
@@ -13,5 +14,7 @@ namespace rbt {
 /// Two-dimensional tables list their cells other than 0 as [d, l, value].
 std::string TallyJson(const TallyTable& table, std::string_view kind, bool has_hoop_rows,
                       bool has_anchor_plate_rows);
+/// The stock of one group as one JSON object on one line.
+std::string StockJson(const StockResult& stock);
 
 }  // namespace rbt

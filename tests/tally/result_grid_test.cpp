@@ -169,5 +169,9 @@ TEST(ShowTally, GivesEveryRowACellForEachCaption) {
   for (const auto& row : ShowTally(WithSpirals(7), {}, {})) EXPECT_EQ(row.size(), kResultCaptions.size());
 }
 
+TEST(StockRows, AreBarsPiecesPerBarAndMetres) {
+  EXPECT_THAT(StockRows({3, 2, 5.5}), ElementsAre(ElementsAre("3", "2", "5.5")));
+}
+
 }  // namespace
 }  // namespace rbt

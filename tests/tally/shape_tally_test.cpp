@@ -239,9 +239,9 @@ TEST(Keijou_Jyuuryo_Syukei, CountsCutsOfParts5And2OnlyAndAtTheirOwnDiameters) {
     site.AddRow({{"部位", Number(cut.part)}, {"圧接太さ", cut.weld}, {"切断", Number(cut.cuts)}});
   }
   TallyShapes();
-  EXPECT_EQ(TallyGrid.CutCount[3], 1 + 2 + 8 + 16);  // part 5 welded to a thinner bar: its own, the thicker
+  EXPECT_EQ(TallyGrid.CutCount[3], 1 + 2 + 8 + 16);  // 部位 5 welded to a thinner bar: its own, the thicker
   EXPECT_EQ(TallyGrid.CutCount[5], 4 + 32);
-  EXPECT_EQ(TallyGrid.CutCount[1], 64);  // part 2 however thin
+  EXPECT_EQ(TallyGrid.CutCount[1], 64);  // 部位 2 however thin
   EXPECT_EQ(TallyGrid.TotalCutCount, 127);
 }
 

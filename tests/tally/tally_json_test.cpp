@@ -113,5 +113,9 @@ TEST(TallyJson, TellsTheWarningAndTheFlags) {
   EXPECT_EQ(json["HasAnchorPlateRows"], false);
 }
 
+TEST(StockJson, IsOneObjectOnOneLine) {
+  EXPECT_EQ(StockJson({3, 2, 5.5}), "{ \"StockBars\": 3, \"PiecesPerBar\": 2, \"StockLengthM\": 5.5 }\n");
+}
+
 }  // namespace
 }  // namespace rbt
