@@ -35,5 +35,6 @@ std::span<const Command> Commands();
 Action DefineDemo(CLI::App& line);
 Action DefinePrepare(CLI::App& line);
 Action DefineTally(CLI::App& line);
+Action DefineStock(CLI::App& line);
 
 }  // namespace rbt

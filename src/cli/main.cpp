@@ -76,6 +76,7 @@ std::span<const Command> Commands() {
       {"demo", "Make a root folder with demonstration sites", DefineDemo},
       {"prepare", "Run the load and activation steps on a site", DefinePrepare},
       {"tally", "Tally a site", DefineTally},
+      {"stock", "Choose the stock length for one group of equal pieces", DefineStock},
   };
   return kCommands;
 }

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
 
+#include "data/shapes.h"
+#include "tally/schedule_positions.h"
 #include "tally/selection.h"
 
 namespace rbt {
@@ -26,6 +29,9 @@ struct SelectionOptions {
   std::int16_t calc = 2;    ///< MaterialCalcChoice
   std::int32_t hoops = 0;   ///< HoopMode
   std::int32_t plates = 0;  ///< AnchorPlateMode
+  std::optional<ShapeRange> shapes;      ///< of the shape tally; nothing: all
+  std::optional<SchedulePosition> from;  ///< of the tallies by page and line; nothing: the first
+  std::optional<SchedulePosition> to;    ///< nothing: the last
 };
 
 /// A whole number from `lowest` to `highest`, with its present value as the default.

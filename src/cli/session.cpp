@@ -10,8 +10,6 @@
 
 namespace rbt {
 
-namespace {
-
 void UseRoot(const std::string& root) {
   if (!root.empty()) SetRoot(root);
   if (Root().empty()) throw UsageError("no root folder: give --root DIR or set RBK_ROOT");
@@ -19,8 +17,6 @@ void UseRoot(const std::string& root) {
     throw Fault(FaultKind::file, "the root " + Root().string() + " is no folder");
   }
 }
-
-}  // namespace
 
 void OpenSite(const CommonOptions& options) {
   UseRoot(options.root);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "cli/options.h"
 
 namespace rbt {
@@ -9,5 +11,9 @@ namespace rbt {
 /// started and no accumulation touched. Leaves the site and the master database open in `SiteContext`.
 /// Throws `UsageError` when no root folder is named, `file` when it does not exist.
 void OpenSite(const CommonOptions& options);
+
+/// The root folder alone, for commands that need no site: `root`, or $RBK_ROOT when it is empty. Throws like
+/// `OpenSite`.
+void UseRoot(const std::string& root);
 
 }  // namespace rbt

@@ -15,12 +15,17 @@
 #include "cli/session.h"
 #include "data/grade_names.h"
 #include "data/run_state.h"
+#include "data/site_context.h"
+#include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
 #include "tally/bulk_tally.h"
 #include "tally/grid_text.h"
+#include "tally/page_tally.h"
 #include "tally/result_grid.h"
+#include "tally/schedule_positions.h"
 #include "tally/selection.h"
+#include "tally/shape_tally.h"
 #include "tally/tally_grid.h"
 #include "tally/tally_json.h"
 
@@ -57,6 +62,34 @@ std::string TallyBulk(const TallyOptions& options) {
   return TallyGridText(options);
 }
 
+std::string TallyShapes(const TallyOptions& options) {
+  const ShapeRange shapes = options.selection.shapes.value_or(WholeShapeRange(*SiteContext.WorkDatabase));
+  Selection.ShapeStart = shapes.first;
+  Selection.ShapeEnd = shapes.last;
+  Keijou_Jyuuryo_Syukei();
+  return TallyGridText(options);
+}
+
+/// The positions asked for; a bound that is not given is that of the schedule.
+PositionRange PositionsOf(const SelectionOptions& selection) {
+  const PositionRange whole = WholePositionRange(*SiteContext.WorkDatabase).value_or(PositionRange());
+  return {selection.from.value_or(whole.first), selection.to.value_or(whole.last)};
+}
+
+std::string TallyPages(const TallyOptions& options) {
+  const PositionRange range = PositionsOf(options.selection);
+  PG_Jyuuryo_Syukei(ToInt16(range.first.page, "first 頁"), ToInt16(range.first.line, "first 行"),
+                    ToInt16(range.last.page, "last 頁"), ToInt16(range.last.line, "last 行"));
+  ShowStockWarning();
+  return TallyGridText(options);
+}
+
+std::string TallyPageShapes(const TallyOptions& options) {
+  const PositionRange range = PositionsOf(options.selection);
+  PKeijou_Jyuuryo_Syukei(range.first.page, range.first.line, range.last.page, range.last.line);
+  return TallyGridText(options);
+}
+
 /// One kind of tally: its word on the command line, its number, and what runs it and gives its text.
 struct TallyKindRow {
   std::string_view name;
@@ -67,6 +100,9 @@ struct TallyKindRow {
 
 constexpr std::array kTallyKinds = {
     TallyKindRow{"bulk", 0, false, TallyBulk},
+    TallyKindRow{"shape", 1, false, TallyShapes},
+    TallyKindRow{"page", 2, false, TallyPages},
+    TallyKindRow{"page-shape", 3, false, TallyPageShapes},
 };
 
 std::vector<std::string> TallyKindNames() {

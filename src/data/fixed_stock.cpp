@@ -48,6 +48,13 @@ void OpenFixedStockDatabase() {
   SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::Open(MapPath(kFixedStockDatabase)));
 }
 
+void OpenFixedStockForReading() {
+  const std::string_view file =
+      FamilyFileExists(kFixedStockDatabase) ? kFixedStockDatabase : kFixedStockTemplate;
+  SiteContext.FixedStockDatabase.reset();
+  SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::OpenReadOnly(MapPath(file)));
+}
+
 std::array<std::string, 4> FixedStockStatements(std::int32_t cut_length, std::int32_t diameter) {
   const std::string head = "SELECT * FROM 固定定尺テーブル WHERE 太さ = ";
   const std::string tail = " AND 材質 = 1 ";

@@ -12,6 +12,9 @@ namespace rbt {
 void ProvideFixedStockDatabase();
 /// Opens `\RBK\DATA\MTTeijyaku.mdb` for the run, into `SiteContext`.
 void OpenFixedStockDatabase();
+/// The same for reading alone and without making the copy: `MTTeijyaku_ORG.mdb` stands in for a missing
+/// `MTTeijyaku.mdb`.
+void OpenFixedStockForReading();
 
 /// The statements over `固定定尺テーブル` in the order in which they are asked: this diameter at this exact
 /// cut length, this diameter in a range, any diameter at this exact length, any diameter in a range.

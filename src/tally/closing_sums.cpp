@@ -15,8 +15,9 @@ void SumDiameter(TallyTable& table, int d, const ClosingRules& rules) {
     table.InstalledWeightByDia[d] += table.InstalledWeight[d][l];
   }
   table.InstalledWeightByDia[d] += Currency::FromDouble(table.LengthWithoutColumnM[d] * UnitWeight(d));
-  const Currency excess = table.InstalledWeightByDia[d] - table.StockWeightByDia[d];
-  if (rules.cap_installed_weight && excess.TenThousandths() > 0) table.InstalledWeightByDia[d] -= excess;
+  if (rules.cap_installed_weight && table.InstalledWeightByDia[d] > table.StockWeightByDia[d]) {
+    table.InstalledWeightByDia[d] = table.StockWeightByDia[d];
+  }
 }
 
 void AddToTotals(TallyTable& table, int d) {

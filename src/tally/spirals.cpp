@@ -37,7 +37,7 @@ void FoldSpirals(TallyTable& table, std::span<const SpiralRow> rows, const Selec
   for (const SpiralRow& row : rows) AddSpiral(table, row, selection);
   for (const int spiral : {kDeformed, kUlbon, kHighStrength}) {
     table.SpiralWeight[spiral] = WholeKilograms(table.SpiralWeight[spiral]);
-    if (table.SpiralWeight[spiral].TenThousandths() > 0) {
+    if (table.SpiralWeight[spiral] > Currency()) {
       table.SpiralKinds |= 1 << spiral;
       table.SpiralTotal += table.SpiralWeight[spiral];
     }

@@ -207,8 +207,7 @@ TEST(TallyLaws, ACappedTallyIsNeverHeavierInstalledThanInStock) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     TallyTable table = Folded(RandomRows(seed).Many(300), Bulk());
     CloseSums(table, {.cap_installed_weight = true});
-    for (int d = 0; d < 12; ++d)
-      EXPECT_LE(table.InstalledWeightByDia[d].ToDouble(), table.StockWeightByDia[d].ToDouble());
+    for (int d = 0; d < 12; ++d) EXPECT_LE(table.InstalledWeightByDia[d], table.StockWeightByDia[d]);
     EXPECT_GE(table.LossRatePercent, 0.0);
   }
 }

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/session.h"
+#include "data/fixed_stock.h"
+#include "shell/config/settings.h"
+#include "tally/grid_text.h"
+#include "tally/result_grid.h"
+#include "tally/stock_engine.h"
+#include "tally/tally_json.h"
+
+namespace rbt {
+
+namespace {
+
+struct StockOptions {
+  std::int32_t cut_mm = 0;
+  std::int32_t count = 0;
+  std::int32_t diameter = 0;
+  CommonOptions common;
+  std::string format = "table";
+};
+
+std::string StockText(const StockResult& stock, const std::string& format) {
+  if (format == "json") return StockJson(stock);
+  const GridRows rows = StockRows(stock);
+  return format == "csv" ? GridCsv(kStockCaptions, rows) : GridTable(rows);
+}
+
+void RunStock(const StockOptions& options) {
+  UseRoot(options.common.root);
+  Settings.UseFixedTable = ReadSetting(kUseFixedTableKey);
+  if (Settings.UseFixedTable == 1) OpenFixedStockForReading();
+  Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(options.count), options.diameter);
+  WriteResult(StockText(EngineState.TeijyakuResult, options.format));
+}
+
+}  // namespace
+
+Action DefineStock(CLI::App& line) {
+  auto options = std::make_shared<StockOptions>();
+  line.add_option("CUT", options->cut_mm, "cut length in mm")->type_name("MM")->required();
+  line.add_option("COUNT", options->count, "number of pieces")->type_name("N")->required();
+  line.add_option("DIAMETER", options->diameter, "diameter code: 10 to 51, 6 to 16")
+      ->type_name("D")
+      ->required();
+  AddCommonOptions(line, options->common);
+  AddFormatOption(line, options->format);
+  return [options] { RunStock(*options); };
+}
+
+}  // namespace rbt
