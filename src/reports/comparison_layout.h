@@ -17,8 +17,7 @@ namespace rbt {
 
 inline constexpr std::string_view kComparisonTitle = "重  量  対  比  表";
 
-/// The heads of A4 portrait, A4 landscape and B5 landscape. The own-company block stands beside a portrait
-/// head, so that a wide sub-project text has to stand smaller there.
+/// The heads of A4 portrait, A4 landscape and B5 landscape.
 inline constexpr HeadLayout kHeadA4T{.title = kComparisonTitle,
                                      .title_place = {3800, 3600, 7400},
                                      .title_drop = 1000,
@@ -27,9 +26,10 @@ inline constexpr HeadLayout kHeadA4T{.title = kComparisonTitle,
                                      .short_name_x = 1567,
                                      .name_indent = 960,
                                      .labels = kProjectLabels,
+                                     .rule_width_without_client = 4,
                                      .project_rule_to = 0,
                                      .long_sub_project_size = 7,
-                                     .wide_sub_project_size = 7,
+                                     .sub_project_end = 7000,
                                      .date_drop = 1500,
                                      .western_date = {8500, 8400, 10800},
                                      .era_date = {8300, 8200, 11000}};
@@ -41,9 +41,10 @@ inline constexpr HeadLayout kHeadA4Y{.title = kComparisonTitle,
                                      .short_name_x = 2760,
                                      .name_indent = 960,
                                      .labels = kProjectLabels,
+                                     .rule_width_without_client = 4,
                                      .project_rule_to = 0,
                                      .long_sub_project_size = 7,
-                                     .wide_sub_project_size = 12,
+                                     .sub_project_end = 0,
                                      .date_drop = 1300,
                                      .western_date = {11800, 11700, 14100},
                                      .era_date = {11600, 11500, 14300}};
@@ -55,9 +56,10 @@ inline constexpr HeadLayout kHeadB5Y{.title = kComparisonTitle,
                                      .short_name_x = 1767,
                                      .name_indent = 1067,
                                      .labels = kProjectLabels,
+                                     .rule_width_without_client = 4,
                                      .project_rule_to = 0,
                                      .long_sub_project_size = 7,
-                                     .wide_sub_project_size = 12,
+                                     .sub_project_end = 0,
                                      .date_drop = 1300,
                                      .western_date = {10700, 10600, 13000},
                                      .era_date = {10500, 10400, 13200}};
@@ -159,12 +161,12 @@ inline constexpr std::array<ComparisonColumn, 5> kColumnsAB5Y{{
 
 inline constexpr std::array<float, 5> kRulesBB5Y{1000, 4500, 8000, 10500, 13000};
 inline constexpr std::array<ComparisonColumn, 3> kColumnsBB5Y{{
-    {Figure::stock_weight, "定　　　尺　　　重　　　量", 4800, 6000, 6000, 11},
+    {Figure::stock_weight, "定　　　尺　　重　　　量", 4800, 6000, 6000, 11},
     {Figure::welds, "圧　　　接", 8600, 9000, 9000, 7},
     {Figure::cuts, "切　　　断", 11100, 11500, 11500, 7},
 }};
 inline constexpr std::array<ComparisonColumn, 3> kColumnsCB5Y{{
-    {Figure::installed_weight, "取　　　付　　　重　　　量", 4800, 6000, 6000, 11},
+    {Figure::installed_weight, "取　　　付　　重　　　量", 4800, 6000, 6000, 11},
     {Figure::welds, "圧　　　接", 8600, 9000, 9000, 7},
     {Figure::cuts, "切　　　断", 11100, 11500, 11500, 7},
 }};

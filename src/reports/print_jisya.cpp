@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/print_jisya.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -61,20 +62,33 @@ float PrintAddressLabel(PrinterSurface& Printer, float X, float Y, std::string_v
   return size;
 }
 
+float NameBoxWidth(std::string_view label1, std::string_view label2) {
+  return label1.empty() && label2.empty() ? kAddressBox : kBlockWidth;
+}
+
+/// Index of the largest size of a name that fits the width, 0 when none above the smallest does.
+std::size_t NameSizeIndex(std::string_view name, float width) {
+  std::size_t index = kNameSizes.size() - 1;
+  while (index > 0 && width - TextWidthAt(kNameSizes[index], name) < 0) --index;
+  return index;
+}
+
 /// The block while it is drawn: the line it stands on, and the size by which the next line steps.
 class Block {
  public:
-  Block(PrinterSurface& Printer, const OwnCompany& company, float x, float y, const OwnCompanyStyle& style)
+  /// Without a printer nothing is drawn, and only the lines are found.
+  Block(PrinterSurface* Printer, const OwnCompany& company, float x, float y, const OwnCompanyStyle& style)
       : Printer_(Printer), company_(company), style_(style), x_(x), y_(y) {}
 
-  void Draw() {
+  /// Returns the Y of the last line.
+  float Draw() {
     Shift();
-    step_size_ = Print_JisyaName(Printer_, x_, y_, company_.name, company_.label1, company_.label2,
-                                 style_.name_font, style_.name_bold, company_.name_in_one_piece);
+    Name();
     Addresses();
     Contacts();
     SecondOffice();
     Rule();
+    return y_;
   }
 
  private:
@@ -89,26 +103,37 @@ class Block {
     y_ += step_size_ * twips_per_point + style_.line_gap + more;
   }
 
+  void Name() {
+    step_size_ = kNameSizes[NameSizeIndex(company_.name, NameBoxWidth(company_.label1, company_.label2))];
+    if (Printer_ == nullptr) return;
+    Print_JisyaName(*Printer_, x_, y_, company_.name, company_.label1, company_.label2, style_.name_font,
+                    style_.name_bold, company_.name_in_one_piece);
+  }
+
   void Postal(std::string_view code) {
-    const float size = Printer_.FontSize;
-    Printer_.FontName = style_.address_font;
-    Printer_.FontSize = kDetailSize;
-    Printer_.FontBold = false;
-    PrintAt(Printer_, x_ + kPostalShift, y_, {"〒", code});
-    Printer_.FontSize = size;
+    if (Printer_ == nullptr) return;
+    const float size = Printer_->FontSize;
+    Printer_->FontName = style_.address_font;
+    Printer_->FontSize = kDetailSize;
+    Printer_->FontBold = false;
+    PrintAt(*Printer_, x_ + kPostalShift, y_, {"〒", code});
+    Printer_->FontSize = size;
   }
 
   void Address(decltype(Print_JisyaJyusyo) print, std::string_view label, std::string_view text) {
+    if (Printer_ == nullptr) return;
     constexpr float kSizeByLength = 0;
-    print(Printer_, x_, y_, label, text, style_.address_font, style_.label_font, kSizeByLength);
+    print(*Printer_, x_, y_, label, text, style_.address_font, style_.label_font, kSizeByLength);
   }
 
   void Phone(std::string_view label, std::string_view number) {
-    Print_JisyaTel(Printer_, x_ + kPhoneShift, y_, label, number, style_.address_font);
+    if (Printer_ == nullptr) return;
+    Print_JisyaTel(*Printer_, x_ + kPhoneShift, y_, label, number, style_.address_font);
   }
 
   void Mail(std::string_view address) {
-    Print_JisyaMail(Printer_, x_, y_, "E-mail: ", address, style_.address_font);
+    if (Printer_ == nullptr) return;
+    Print_JisyaMail(*Printer_, x_, y_, "E-mail: ", address, style_.address_font);
   }
 
   void Addresses() {
@@ -178,12 +203,13 @@ class Block {
   void Rule() {
     if (style_.rule_width == 0) return;
     Step(kPhoneStep);
-    Printer_.DrawWidth = style_.rule_width;
-    const bool unlabelled = company_.label1.empty() && company_.label2.empty();
-    Printer_.Line(unlabelled ? x_ + kLabelColumn : x_, y_, x_ + kBlockWidth, y_);
+    if (Printer_ == nullptr) return;
+    Printer_->DrawWidth = style_.rule_width;
+    const float right = x_ + kBlockWidth;
+    Printer_->Line(right - NameBoxWidth(company_.label1, company_.label2), y_, right, y_);
   }
 
-  PrinterSurface& Printer_;
+  PrinterSurface* Printer_;
   const OwnCompany& company_;
   const OwnCompanyStyle& style_;
   float x_;
@@ -197,16 +223,13 @@ float Print_JisyaName(PrinterSurface& Printer, float X, float Y, std::string_vie
                       std::string_view Label1, std::string_view Label2, std::string_view Font, bool Bold,
                       bool in_one_piece) {
   MeasureLine(Printer);
-  const bool unlabelled = Label1.empty() && Label2.empty();
-  const float width = unlabelled ? kAddressBox : kBlockWidth;
-  const float x = unlabelled ? X + kLabelColumn : X;
+  const float width = NameBoxWidth(Label1, Label2);
+  const float x = X + kBlockWidth - width;
+  const std::size_t index = NameSizeIndex(Name, width);
   Printer.FontName = Font;
   Printer.FontBold = Bold;
-  std::size_t index = kNameSizes.size() - 1;
-  for (; index > 0; --index) {
-    Printer.FontSize = kNameSizes[index];
-    if (width - Printer.TextWidth(Name) >= 0) break;
-  }
+  // In one piece, a name that fits no size keeps the last one tried.
+  Printer.FontSize = kNameSizes[std::max<std::size_t>(index, 1)];
   if (in_one_piece) {
     PrintAt(Printer, x, Y, {Name});
   } else {
@@ -260,7 +283,13 @@ void Print_JisyaMail(PrinterSurface& Printer, float X, float Y, std::string_view
 
 void DrawOwnCompany(PrinterSurface& Printer, const OwnCompany& company, float X, float Y,
                     const OwnCompanyStyle& style) {
-  Block(Printer, company, X, Y, style).Draw();
+  Block(&Printer, company, X, Y, style).Draw();
+}
+
+float OwnCompanyBottom(const OwnCompany& company, float Y, float line_gap) {
+  OwnCompanyStyle style;
+  style.line_gap = line_gap;
+  return Block(nullptr, company, 0, Y, style).Draw() + LineHeight(kLargestAddressSize);
 }
 
 std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_view NameFont,
@@ -273,7 +302,7 @@ std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_
 }
 
 void PrintOwnCompany(PrinterSurface& Printer, float X, float Y) {
-  Print_Jisya(Printer, X, Y, ReportFont, ReportFont, ReportFont, "2", 0, 10.0F);
+  Print_Jisya(Printer, X, Y, ReportFont, ReportFont, ReportFont, "2", 0, kReportLineGap);
 }
 
 }  // namespace rbt

@@ -28,11 +28,16 @@ struct OwnCompanyStyle {
 void DrawOwnCompany(PrinterSurface& Printer, const OwnCompany& company, float X, float Y,
                     const OwnCompanyStyle& style);
 
+/// Y below which nothing of the block stands.
+float OwnCompanyBottom(const OwnCompany& company, float Y, float line_gap);
+
 /// Reads the firm's data and draws its block. `NameBold` is a number as text, "0" for a name that is not
 /// bold. Returns the length reported for the last value of STEEL.INI that was read.
 std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_view NameFont,
                          std::string_view LabelFont, std::string_view AddressFont, std::string_view NameBold,
                          std::int32_t RuleWidth, float LineGap);
+/// Twips between lines in the reports.
+inline constexpr float kReportLineGap = 10.0F;
 /// The block as the reports of a tally carry it.
 void PrintOwnCompany(PrinterSurface& Printer, float X, float Y);
 

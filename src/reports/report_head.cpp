@@ -19,7 +19,7 @@ constexpr float kTitleSize = 18;
 constexpr float kLineSize = 13;
 constexpr float kNameSize = 12;
 constexpr float kTotalSize = 14;
-constexpr std::int32_t kLongSubProject = 22;  ///< characters
+constexpr float kSmallSize = 7;
 
 void SetFont(PrinterSurface& Printer, float size, bool bold = false) {
   Printer.FontName = ReportFont;
@@ -44,8 +44,8 @@ float DrawTitle(PrinterSurface& Printer, const HeadLayout& layout) {
 RowGrid DrawClient(PrinterSurface& Printer, const HeadLayout& layout, const std::string& client, float y) {
   SetFont(Printer, kLineSize);
   RowGrid grid{MeasureLine(Printer) + layout.line_gap, y};
+  Printer.DrawWidth = client.empty() ? layout.rule_width_without_client : 2;
   if (client.empty()) return grid;
-  Printer.DrawWidth = 2;
   grid.BaseY += 2 * grid.LineUnit;
   // Long enough for a 御中 that the line does not carry.
   const std::int32_t bytes = Get_ByteLen(client + "　御中");
@@ -55,10 +55,16 @@ RowGrid DrawClient(PrinterSurface& Printer, const HeadLayout& layout, const std:
   return grid;
 }
 
-std::string InBrackets(const std::string& sub_project) { return "（" + sub_project + "）"; }
-
-void PrintSubProject(PrinterSurface& Printer, const HeadLayout& layout, float y, const std::string& text) {
-  PrintAt(Printer, layout.margin, y, {"　　　", InBrackets(text)});
+/// In a size of its own, told by the form of the project name, unless the text would run into the own-company
+/// block.
+void PrintSubProject(PrinterSurface& Printer, const HeadLayout& layout, float y, float size,
+                     const std::string& sub_project) {
+  const std::string text = "　　　（" + sub_project + "）";
+  Printer.FontSize = size;
+  const bool runs_on =
+      layout.sub_project_end > 0 && layout.margin + Printer.TextWidth(text) > layout.sub_project_end;
+  if (runs_on) Printer.FontSize = kSmallSize;
+  PrintAt(Printer, layout.margin, y, {text});
 }
 
 /// Takes half points off the font until a name of that many bytes ends within the head.
@@ -82,6 +88,7 @@ float LongNameRuleEnd(const PrinterSurface& Printer, const HeadLayout& layout, s
 
 void DrawLongName(PrinterSurface& Printer, const HeadLayout& layout, const RowGrid& grid,
                   const std::string& name, const std::string& sub_project) {
+  constexpr std::size_t kLongSubProject = 22;
   Printer.FontSize = kNameSize;
   const float y = grid.Y(sub_project.empty() ? 2.0 : 1.3) - Printer.TextHeight("M") + 400;
   PrintAt(Printer, layout.margin, y, {layout.labels.long_name});
@@ -93,10 +100,9 @@ void DrawLongName(PrinterSurface& Printer, const HeadLayout& layout, const RowGr
   const float under_line = std::max(under_label, Printer.CurrentY);
   Printer.Line(layout.margin, under_line, LongNameRuleEnd(Printer, layout, bytes), under_line);
   if (sub_project.empty()) return;
-  Printer.FontSize = static_cast<std::int32_t>(CharacterCount(sub_project)) > kLongSubProject
-                         ? layout.long_sub_project_size
-                         : kNameSize;
-  PrintSubProject(Printer, layout, under_line, sub_project);
+  const bool is_long = CharacterCount(sub_project) > kLongSubProject;
+  PrintSubProject(Printer, layout, under_line, is_long ? layout.long_sub_project_size : kNameSize,
+                  sub_project);
 }
 
 /// On two lines there is no room for a sub-project text.
@@ -123,9 +129,7 @@ void DrawShortName(PrinterSurface& Printer, const HeadLayout& layout, const RowG
   PrintAt(Printer, layout.short_name_x, grid.Y(2), {name});
   const float end = ProjectRuleEnd(layout, static_cast<double>(CharacterCount(name)) * 264 + 1600);
   Printer.Line(layout.margin, grid.Y(2.7), end, grid.Y(2.7));
-  if (sub_project.empty()) return;
-  if (Get_ByteLen(sub_project) > 2 * kLongSubProject) Printer.FontSize = layout.wide_sub_project_size;
-  PrintSubProject(Printer, layout, grid.Y(3.3), sub_project);
+  if (!sub_project.empty()) PrintSubProject(Printer, layout, grid.Y(3.3), kNameSize, sub_project);
 }
 
 void DrawProject(PrinterSurface& Printer, const HeadLayout& layout, const RowGrid& grid,

@@ -43,10 +43,11 @@ struct HeadLayout {
   float short_name_x;
   float name_indent;  ///< from the margin to a long name
   ProjectLabels labels;
-  float project_rule_to;        ///< 0: the rule under the project name is as long as the name
+  std::int32_t rule_width_without_client;  ///< DrawWidth under the project's name; with a client line it is 2
+  float project_rule_to;                   ///< 0: the rule under the project name is as long as the name
   float long_sub_project_size;  ///< points, of more than 22 characters under a long name; others stand in 12
-  float wide_sub_project_size;  ///< points, of a text wider than 22 full-width characters under a short name
-  float date_drop;              ///< from row 1 up to the date
+  float sub_project_end;  ///< X that the sub-project text may reach beside the own-company block, 0: any
+  float date_drop;        ///< from row 1 up to the date
   RuledText western_date;
   RuledText era_date;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/ulbon_report.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -27,9 +28,10 @@ constexpr HeadLayout kHead{.title = "ウ ル ボ ン 重 量 表",
                            .short_name_x = 2760,
                            .name_indent = 960,
                            .labels = {"工事名　", "工事名　", "工事名　"},
+                           .rule_width_without_client = 2,
                            .project_rule_to = 9300,
                            .long_sub_project_size = 12,
-                           .wide_sub_project_size = 12,
+                           .sub_project_end = 9900,
                            .date_drop = 1300,
                            .western_date = {11800, 11700, 14100},
                            .era_date = {11600, 11500, 14300}};
@@ -95,6 +97,12 @@ void DrawTable(PrinterSurface& Printer, const RowGrid& grid, const TallyTable& t
   DrawRow(Printer, text_y(kTotalRow), "合　　　計", total, UlbonWeldSum(table));
 }
 
+/// Without a client line the table starts higher: a block of many lines that would run into it moves up.
+float OwnCompanyTop(const RowGrid& grid) {
+  const float bottom = OwnCompanyBottom(ReadOwnCompany(), kOwnCompanyY, kReportLineGap);
+  return kOwnCompanyY - std::max(0.0F, bottom - grid.Y(kFirstRow));
+}
+
 }  // namespace
 
 Currency UlbonRowWeight(const TallyTable& table, int d, std::int32_t percent) {
@@ -110,7 +118,7 @@ void DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const Repo
   DrawTotalLine(Printer, kTotalLine, grid, total);
   DrawDate(Printer, kHead, grid, site, arguments);
   DrawTable(Printer, grid, table, arguments.Percent, total);
-  PrintOwnCompany(Printer, kOwnCompanyX, kOwnCompanyY);
+  PrintOwnCompany(Printer, kOwnCompanyX, OwnCompanyTop(grid));
   Printer.EndDoc();
 }
 
