@@ -36,5 +36,6 @@ Action DefineDemo(CLI::App& line);
 Action DefinePrepare(CLI::App& line);
 Action DefineTally(CLI::App& line);
 Action DefineStock(CLI::App& line);
+Action DefineReport(CLI::App& line);
 
 }  // namespace rbt

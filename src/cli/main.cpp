@@ -77,6 +77,7 @@ std::span<const Command> Commands() {
       {"prepare", "Run the load and activation steps on a site", DefinePrepare},
       {"tally", "Tally a site", DefineTally},
       {"stock", "Choose the stock length for one group of equal pieces", DefineStock},
+      {"report", "Print a report form of a tally to a PDF file", DefineReport},
   };
   return kCommands;
 }

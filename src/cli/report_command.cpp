@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command.h"
+#include "cli/options.h"
+#include "cli/tally_kinds.h"
+#include "data/run_state.h"
+#include "platform/print/pdf_writer.h"
+#include "platform/print/print_trace.h"
+#include "platform/print/printer_list.h"
+#include "platform/system/clock.h"
+#include "platform/system/paths.h"
+#include "reports/print_frame.h"
+#include "reports/report_site.h"
+#include "reports/taihi.h"
+#include "reports/ulbon_report.h"
+#ifdef RBTALLY_PAINTS_PDF
+#include "platform/desktop/painting_surface.h"
+#endif
+
+namespace rbt {
+
+namespace {
+
+/// A report form by its word on the command line, with the paper that its print button sets.
+struct ReportForm {
+  std::string_view name;
+  std::int32_t orientation;
+  std::int32_t paper_kind;
+  void (*draw)(PrinterSurface& Printer, const ReportArguments& arguments);
+};
+
+constexpr std::array kReportForms = {
+    ReportForm{"taihi-a-a4t", kPortrait, kPaperKindA4, Taihi_A_A4T},
+    ReportForm{"taihi-a-a4y", kLandscape, kPaperKindA4, Taihi_A_A4Y},
+    ReportForm{"taihi-a-b5y", kLandscape, kPaperKindB5, Taihi_A_B5Y},
+    ReportForm{"taihi-b-a4t", kPortrait, kPaperKindA4, Taihi_B_A4T},
+    ReportForm{"taihi-b-a4y", kLandscape, kPaperKindA4, Taihi_B_A4Y},
+    ReportForm{"taihi-b-b5y", kLandscape, kPaperKindB5, Taihi_B_B5Y},
+    ReportForm{"taihi-c-a4t", kPortrait, kPaperKindA4, Taihi_C_A4T},
+    ReportForm{"taihi-c-a4y", kLandscape, kPaperKindA4, Taihi_C_A4Y},
+    ReportForm{"taihi-c-b5y", kLandscape, kPaperKindB5, Taihi_C_B5Y},
+    ReportForm{"ulbon", kLandscape, kPaperKindA4, Ulbon_Report},
+};
+
+struct ReportOptions {
+  std::string name;
+  CommonOptions common;
+  SelectionOptions selection;
+  std::string tally = "bulk";
+  std::int32_t body = 1;
+  std::int32_t percent = 0;
+  std::string sub_project;
+  std::string date;
+  std::string pdf;
+  std::string trace;
+};
+
+std::vector<std::string> ReportNames() {
+  std::vector<std::string> names;
+  names.reserve(kReportForms.size());
+  for (const ReportForm& form : kReportForms) names.emplace_back(form.name);
+  return names;
+}
+
+/// The three texts between the slashes, as typed; nothing when no date was given.
+std::optional<DateTexts> TypedDate(const std::string& date) {
+  if (date.empty()) return std::nullopt;
+  const std::size_t first = date.find('/');
+  const std::size_t second = date.find('/', first + 1);
+  if (first == std::string::npos || second == std::string::npos ||
+      date.find('/', second + 1) != std::string::npos) {
+    throw UsageError("--date: " + date + " is no YEAR/MONTH/DAY");
+  }
+  return DateTexts{date.substr(0, first), date.substr(first + 1, second - first - 1),
+                   date.substr(second + 1)};
+}
+
+/// A report goes to the PDF device, whatever printers there are.
+void UsePdfDevice(const ReportOptions& options) {
+#ifdef RBTALLY_PAINTS_PDF
+  SetPdfWriter(PaintPdf);
+#endif
+  std::list<PrinterSurface> printers;
+  printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
+                        [options](const PrintedDocument& document) {
+                          if (!options.trace.empty()) WriteFileAtomically(options.trace, TraceText(document));
+                          if (!options.pdf.empty()) WritePdf(document, options.pdf);
+                        });
+  SetPrinters(PrinterList(std::move(printers)));
+}
+
+void RunReport(const ReportOptions& options) {
+  const std::optional<DateTexts> typed = TypedDate(options.date);
+  if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
+  FillTallyGrid(options.tally, options.common, options.selection);
+  RunState.ReportBody = options.body;
+  UsePdfDevice(options);
+
+  const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
+  const ReportArguments arguments{options.sub_project, date.year,      date.month, date.day,
+                                  RunState.ReportBody, options.percent};
+  const ReportForm& form = *std::find_if(kReportForms.begin(), kReportForms.end(),
+                                         [&](const ReportForm& row) { return row.name == options.name; });
+  PrintReport(form.orientation, form.paper_kind,
+              [&](PrinterSurface& Printer) { form.draw(Printer, arguments); });
+}
+
+}  // namespace
+
+Action DefineReport(CLI::App& line) {
+  constexpr std::int64_t kHighestPercent = 999999;
+  auto options = std::make_shared<ReportOptions>();
+  line.add_option("NAME", options->name, "the report form")->required()->check(CLI::IsMember(ReportNames()));
+  AddCommonOptions(line, options->common);
+  AddSelectionOptions(line, options->selection);
+  line.add_option("--tally", options->tally, "the kind of tally that fills the report")
+      ->type_name("KIND")
+      ->check(CLI::IsMember(GridTallyNames()))
+      ->capture_default_str();
+  AddNumberOption(line, "--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
+  AddNumberOption(line, "--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
+  line.add_option("--subproject", options->sub_project, "a line under the project's name")->type_name("TEXT");
+  line.add_option("--date", options->date,
+                  "the date as typed, the year of the era with era dates; default today")
+      ->type_name("YEAR/MONTH/DAY");
+  line.add_option("-o", options->pdf, "the PDF file to write")->type_name("FILE.pdf");
+  line.add_option("--trace", options->trace, "writes what the report drew, one operation a line")
+      ->type_name("FILE");
+  return [options] { RunReport(*options); };
+}
+
+}  // namespace rbt

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+#include "platform/print/printed_document.h"
+
+class QPagedPaintDevice;
+class QPainter;
+
+namespace rbt {
+
+/// Paints a page on a painter whose unit is the twip and whose origin is the page's top left corner. Every
+/// character stands in its own cell of the fixed metrics, whatever font gives its shape.
+void PaintPage(QPainter& painter, const PrintedPage& page);
+
+/// Sets paper and orientation of a printer or PDF writer, without margins of its own.
+void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document);
+/// Paints all pages on a device that is set up. A device that cannot be painted on throws `file`.
+void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document);
+
+/// Writes a PDF file, all of it or nothing; throws `file`. The sheet's corner is the origin. Needs no display
+/// and no running application: where there is none yet, one without windows is made.
+void PaintPdf(const PrintedDocument& document, const std::filesystem::path& file);
+
+}  // namespace rbt
