@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Compares what the report forms draw with the accepted traces, or accepts new ones.
+
+usage: golden.py check RBTALLY [SITE]     fails at any difference, at a missing trace and at one that no form has
+       golden.py accept RBTALLY [SITE]    shows each difference, then asks whether to take it (--yes: takes all)
+
+A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then lines
+`report OPTIONS` with the options that every form is drawn with. A trace is SITE.FORM.trace.
+"""
+import difflib
+import pathlib
+import shlex
+import sys
+import tempfile
+
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent / "end_to_end"))
+import scenario  # noqa: E402
+
+FORMS = [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")] + ["ulbon"]
+
+
+class Site:
+    """A root folder set up as the site's file says."""
+
+    def __init__(self, program, file, folder):
+        self.name = file.stem
+        self.world = scenario.World(program, folder)
+        self.options = []
+        for line in file.read_text(encoding="utf-8").splitlines():
+            words = shlex.split(line, comments=True)
+            if words[:1] == ["report"]:
+                self.options = words[1:]
+            elif words:
+                scenario.DIRECTIVES[words[0]](self.world, words[1:])
+
+    def run(self, *words):
+        self.world.run(shlex.join(["rbtally", *words]))
+        if self.world.status != 0:
+            raise scenario.Mismatch(f"{self.name}: {words[1]} ends with {self.world.stderr}")
+        return self.world.stdout
+
+    def trace(self, form):
+        file = self.world.folder / f"{form}.trace"
+        self.run("report", form, *self.options, "--trace", str(file))
+        return file.read_text(encoding="utf-8")
+
+
+def sites(program, names):
+    for file in sorted((HERE / "sites").glob("*.site")):
+        if names and file.stem not in names:
+            continue
+        with tempfile.TemporaryDirectory(prefix="rbtally-") as folder:
+            yield Site(program, file, folder)
+
+
+def golden_file(site, form):
+    return HERE / f"{site.name}.{form}.trace"
+
+
+def difference(file, trace):
+    old = file.read_text(encoding="utf-8") if file.exists() else ""
+    return "".join(difflib.unified_diff(old.splitlines(True), trace.splitlines(True),
+                                        f"{file.name} as accepted", "as drawn"))
+
+
+def check(program, names):
+    failures, known = [], set()
+    for site in sites(program, names):
+        for form in FORMS:
+            file = golden_file(site, form)
+            known.add(file)
+            if not file.exists():
+                failures.append(f"{file.name} is missing: look at the page, then golden.py accept")
+            elif text := difference(file, site.trace(form)):
+                failures.append(text)
+    if not names:
+        failures += [f"{file.name} belongs to no form" for file in HERE.glob("*.trace") if file not in known]
+    if not known:
+        failures.append(f"no such site: {' '.join(names)}")
+    for failure in failures:
+        print(failure, file=sys.stderr)
+    return 1 if failures else 0
+
+
+def accept(program, names, take_all):
+    for site in sites(program, names):
+        for form in FORMS:
+            file, trace = golden_file(site, form), site.trace(form)
+            text = difference(file, trace)
+            if not text:
+                continue
+            print(text)
+            if take_all or input(f"Take {file.name}? [y/N] ").strip().lower() == "y":
+                file.write_text(trace, encoding="utf-8")
+    return 0
+
+
+def main():
+    words = [word for word in sys.argv[1:] if word != "--yes"]
+    if len(words) < 2 or words[0] not in ("check", "accept"):
+        print(__doc__, file=sys.stderr)
+        return 2
+    command, program, *names = words
+    return check(program, names) if command == "check" else accept(program, names, "--yes" in sys.argv)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
