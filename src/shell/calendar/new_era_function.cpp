@@ -116,8 +116,8 @@ std::string EraNameOfYear(std::string_view yymmdd) {
   return heisei ? "平成" : "令和";
 }
 
-std::string TodayStamp() { return FormatDate(Now(), "yyyymmdd"); }
+std::string TodayStamp(const DateTime& now) { return FormatDate(now, "yyyymmdd"); }
 
-std::string TimeStamp() { return FormatDate(Now(), "hhnnss"); }
+std::string TimeStamp(const DateTime& now) { return FormatDate(now, "hhnnss"); }
 
 }  // namespace rbt

@@ -27,9 +27,10 @@ std::string FormatDate(const DateTime& date, std::string_view format,
 /// are "平成", every other year is "令和".
 std::string EraNameOfYear(std::string_view yymmdd);
 
-/// Today as "yyyymmdd".
-std::string TodayStamp();
+/// The date as "yyyymmdd". Date and time that belong together are taken from one `now`: two readings of the
+/// clock may stand on either side of midnight.
+std::string TodayStamp(const DateTime& now = Now());
 /// The time of day as "hhnnss".
-std::string TimeStamp();
+std::string TimeStamp(const DateTime& now = Now());
 
 }  // namespace rbt

@@ -18,6 +18,7 @@
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "platform/system/system_error.h"
+#include "shell/calendar/new_era_function.h"
 #include "shell/preparation/preparation.h"
 #include "tally/selection.h"
 
@@ -148,8 +149,8 @@ void ProbeCounters() {
 
 void StampRun() {
   const DateTime now = Now();
-  RunState.RunDate = fmt::format("{:04}{:02}{:02}", now.year, now.month, now.day);
-  RunState.RunTime = fmt::format("{:02}{:02}{:02}", now.hour, now.minute, now.second);
+  RunState.RunDate = TodayStamp(now);
+  RunState.RunTime = TimeStamp(now);
 }
 
 void ResetSelection() {

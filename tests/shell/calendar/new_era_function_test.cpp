@@ -227,6 +227,11 @@ TEST_F(Stamps, AreTheDateAndTheTimeInDigits) {
   EXPECT_EQ(TimeStamp(), "030405");
 }
 
+TEST_F(Stamps, OfAGivenMomentDoNotAskTheClock) {
+  const DateTime moment{2026, 12, 31, 23, 59, 58};
+  EXPECT_EQ(TodayStamp(moment) + TimeStamp(moment), "20261231235958");
+}
+
 TEST_F(Stamps, GoFromMidnightToTheLastSecond) {
   SetClock(DateTime{2026, 12, 31, 0, 0, 0});
   EXPECT_EQ(TodayStamp() + TimeStamp(), "20261231000000");
