@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/system/process.h"
+#include "shell/startup/sibling_programs.h"
 
 namespace rbt {
 
@@ -19,16 +20,15 @@ struct Sibling {
 inline constexpr Sibling kAllSites{"\\rbk", "\\rbk\\rballsites.exe", WindowStyle::normal, false, false};
 inline constexpr Sibling kSiteSum{"\\rbk", "\\rbk\\rbsitesum.exe", WindowStyle::normal, false, false};
 inline constexpr Sibling kLedger{"", "\\rbk\\rbshopTM\\rbledger1.exe 4", WindowStyle::normal, true, false};
-inline constexpr Sibling kWeldCounter{"\\rbk\\kakou", "\\rbk\\kakou\\rbweldcnt.exe", WindowStyle::maximised,
-                                      false, true};
-inline constexpr Sibling kPlateCounter{"\\rbk\\kakou", "\\rbk\\kakou\\rbplatecnt.exe", WindowStyle::maximised,
-                                       true, true};
-inline constexpr Sibling kCouplerCounter{"\\rbk\\kakou", "\\rbk\\kakou\\rbjoincnt.exe",
-                                         WindowStyle::maximised, true, true};
+inline constexpr Sibling kWeldCounter{"\\rbk\\kakou", kWeldCounterProgram, WindowStyle::maximised, false,
+                                      true};
+inline constexpr Sibling kPlateCounter{"\\rbk\\kakou", kPlateCounterProgram, WindowStyle::maximised, true,
+                                       true};
+inline constexpr Sibling kCouplerCounter{"\\rbk\\kakou", kJoinCounterProgram, WindowStyle::maximised, true,
+                                         true};
 inline constexpr Sibling kCutCounter{"\\rbk\\kakou", "\\rbk\\kakou\\rbcutcnt.exe", WindowStyle::maximised,
                                      true, true};
-inline constexpr Sibling kPlateSheet{"\\rbk\\kakou", "\\rbk\\kakou\\rbplateprt.exe", WindowStyle::maximised,
-                                     true, true};
+inline constexpr Sibling kPlateSheet{"\\rbk\\kakou", kPlateSheetProgram, WindowStyle::maximised, true, true};
 inline constexpr Sibling kStockFit{"\\rbk\\", "\\rbk\\KAKOU\\rbstockfit.exe", WindowStyle::hidden, false,
                                    true};
 

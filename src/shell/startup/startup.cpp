@@ -20,6 +20,7 @@
 #include "platform/system/system_error.h"
 #include "shell/calendar/new_era_function.h"
 #include "shell/preparation/preparation.h"
+#include "shell/startup/sibling_programs.h"
 #include "tally/selection.h"
 
 namespace rbt {
@@ -27,7 +28,6 @@ namespace rbt {
 namespace {
 
 constexpr std::string_view kAccumulationFile = "\\RBK\\DATA\\hozon.MDB";
-constexpr std::string_view kPlateSheetProgram = "\\RBK\\kakou\\rbplateprt.exe";
 
 /// The program that reads newer sites is looked for under one name and started under another.
 constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
@@ -142,9 +142,9 @@ void ProbeShapes() {
 }
 
 void ProbeCounters() {
-  RunState.HasWeldCounter = FamilyFileExists("\\rbk\\KAKOU\\rbweldcnt.exe");
-  RunState.HasJoinCounter = FamilyFileExists("\\rbk\\KAKOU\\rbjoincnt.exe");
-  RunState.HasPlateCounter = FamilyFileExists("\\rbk\\KAKOU\\rbplatecnt.exe");
+  RunState.HasWeldCounter = FamilyFileExists(kWeldCounterProgram);
+  RunState.HasJoinCounter = FamilyFileExists(kJoinCounterProgram);
+  RunState.HasPlateCounter = FamilyFileExists(kPlateCounterProgram);
 }
 
 void StampRun() {
