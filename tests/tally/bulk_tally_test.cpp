@@ -173,9 +173,11 @@ TEST(Jyuuryo_Syukei, DropsOnlyTheWeldsOfHoopsByTheSetting) {
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
   EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(27));
-  SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", "1");
-  Jyuuryo_Syukei();
-  EXPECT_EQ(TallyGrid.TotalWeldCount, 4);
+  for (const char* counted : {"1", "2", "-1"}) {
+    SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", counted);
+    Jyuuryo_Syukei();
+    EXPECT_EQ(TallyGrid.TotalWeldCount, 4) << counted << ": only 0 drops them";
+  }
 }
 
 TEST(Jyuuryo_Syukei, FaultsAtASettingThatIsNoNumber) {
@@ -254,6 +256,17 @@ TEST(Jyuuryo_Syukei, CapsTheInstalledWeightByTheSetting) {
   Settings.CapInstalledWeight = 1;
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(27));
+}
+
+TEST(Jyuuryo_Syukei, TurnsTheColumnAndTheCapOnBy1Alone) {
+  ScheduleSite site;
+  site.AddRow({{"伸定尺", Value{13.0}}});
+  site.AddRow({{"合計", Number(100)}});
+  Settings.Use13mColumn = 2;
+  Settings.CapInstalledWeight = 2;
+  Jyuuryo_Syukei();
+  EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(27));       // 2 bars of 6 m, none of 13 m
+  EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(675));  // 100 x 3 m x 2.25, not cut to the 27
 }
 
 TEST(Jyuuryo_Syukei, WarnsOfStockOf12p5AndPutsItsLengthIntoTheFirstColumn) {

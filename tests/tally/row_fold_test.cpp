@@ -156,6 +156,14 @@ TEST(FoldRow, DropsOnlyTheWeldsOfHoopsWhenTheyAreNotToBeCounted) {
   EXPECT_EQ(Folded(D19Hoop()).WeldCount[3], 4);
 }
 
+TEST(FoldRow, DropsTheWeldsOfHoopsAlsoWhenHoopsAloneAreTallied) {
+  RowRules rules = Bulk();
+  rules.hoop_mode = 2;
+  EXPECT_EQ(Folded(D19Hoop(), rules).WeldCount[3], 4);
+  rules.count_hoop_welds = false;
+  EXPECT_EQ(Folded(D19Hoop(), rules).WeldCount[3], 0);
+}
+
 TEST(FoldRow, CountsThreadsOfThreadedBarsOnly) {
   BarRow row = D19Row();
   row.threads = 5;

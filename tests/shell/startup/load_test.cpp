@@ -173,6 +173,13 @@ TEST_F(Load, EveryRegisteredNameStartsOutAsSelected) {
   EXPECT_THAT(Marks(), ElementsAre("1", "1", "0"));
 }
 
+TEST_F(Load, MarksTheRegisteredNamesBeforeItAsksTheMasterDatabase) {
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
+  site_.Execute(kMasterFile, "DELETE * FROM 工事テーブル");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("工事テーブル"));
+  EXPECT_THAT(Marks(), ElementsAre("1"));
+}
+
 TEST_F(Load, StartModes2And3LeaveTheRegisteredNamesAsTheyAre) {
   site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
   for (const std::int32_t mode : {2, 3}) {
@@ -209,6 +216,14 @@ TEST_F(Load, OpensTheFixedStockTableForTheRunWhenItIsUsed) {
   SetRegistryText("Kakou", "定尺", "テーブル有無", "1");
   Run();
   EXPECT_NE(SiteContext.FixedStockDatabase, nullptr);
+}
+
+TEST_F(Load, LeavesTheFixedStockTableShutForAnyOtherSetting) {
+  for (const char* setting : {"0", "2", "-1"}) {
+    SetRegistryText("Kakou", "定尺", "テーブル有無", setting);
+    Run();
+    EXPECT_EQ(SiteContext.FixedStockDatabase, nullptr) << setting;
+  }
 }
 
 TEST_F(Load, EndsAnAccumulationThatWasUnderWay) {
