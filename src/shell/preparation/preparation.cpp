@@ -14,6 +14,9 @@ namespace {
 constexpr std::string_view kSchedule = "加工テーブル";
 constexpr std::string_view kNames = "登録名";
 
+static_assert(kMarkSlitBars.find(kSlitNames[0]) != std::string_view::npos &&
+              kMarkSlitBars.find(kSlitNames[1]) != std::string_view::npos);
+
 bool HasField(Database& database, std::string_view table, std::string_view field) {
   const auto found = database.FindTable(table);
   return found && found->FindField(field) != nullptr;
