@@ -16,6 +16,7 @@ from decimal import Decimal
 from pathlib import Path
 
 import bulk_recount as bulk
+import group_recount as group
 
 SHAPES = [None, 0, 1, 1, 1, 2, 3, 11, 21, 87, 87, 138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 161, 162, 163,
           164, 166, 169, 170, 175, 176, 177, 178, 201, 250]
@@ -90,9 +91,17 @@ def write_spirals(path, rng):
 
 
 def write_settings(path, settings):
-    lines = ["[Kakou\\重量集計]", f"溶接フープの圧接数={settings['hoop_welds']}", f"定尺取付書換={settings['cap']}",
+    lines = ["[kakou\\定尺チェック]", f"定尺={settings['stock_check']}", "[Kakou\\プラス]", f"長さ={settings['plus']}",
+             "[Kakou\\定尺計算]", f"ロス優先={settings['loss_priority']}", "[Kakou\\重量集計]", f"溶接フープの圧接数={settings['hoop_welds']}", f"定尺取付書換={settings['cap']}",
              "[Jyuryo\\定尺]", f"定尺13有無={settings['use_13m']}"]
     Path(path).write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+
+def write_limits(path, text, limits):
+    """Stock limits before all other keys of their section: of equal keys the first counts."""
+    lines = "".join(f"D{d}最小値={low}\r\nD{d}最大値={high}\r\n" for d, (low, high) in limits.items())
+    text = text.replace("\r\n", "\n").replace("\n", "\r\n").replace("[加工帳]\r\n", "[加工帳]\r\n" + lines)
+    Path(path).write_bytes(text.encode("cp932"))
 
 
 def differences(expected, document):
@@ -124,6 +133,7 @@ def as_floats(value):
 class Round:
     def __init__(self, rbtally, root, rng):
         self.rbtally, self.root, self.rng = rbtally, Path(root), rng
+        self.steel = (self.root / "pristine.INI").read_text("cp932")
 
     def run(self):
         rng = self.rng
@@ -131,30 +141,59 @@ class Round:
         rows = [random_row(rng, n, tame) for n in range(rng.choice([1, 5, 40, 400]))]
         shutil.copy(self.root / "pristine.MDB", self.root / "DATA/GENBA001.MDB")
         write_rows(self.root / "DATA/GENBA001.MDB", rows)
-        if rng.random() < 0.1:
+        old_layout = rng.random() < 0.1
+        if old_layout:
             absent = ["ネジ数", "定着板数", "切断"]
             drop_columns(self.root / "DATA/GENBA001.MDB", absent)
             for row in rows:
                 for name in absent:
                     del row[name]
         spirals = write_spirals(self.root / "DATA/HIROI001.mdb", rng)
-        settings = {"hoop_welds": rng.choice([0, 1]), "cap": rng.choice([0, 0, 1]), "use_13m": rng.choice([0, 1])}
+        settings = {"hoop_welds": rng.choice([0, 1]), "cap": rng.choice([0, 0, 1]), "use_13m": rng.choice([0, 1]),
+                    "stock_check": rng.choice([0, 1]), "plus": rng.choice([0, 0, 10, 250]),
+                    "loss_priority": rng.choice([0, 1])}
         write_settings(self.root / "settings.ini", settings)
+        limits = {d: (rng.choice([3500, 3500, 4000, 4500]), rng.choice([12000, 12000, 9000, 11250]))
+                  for d in bulk.DEFORMED}
+        write_limits(self.root / "DATA/STEEL.INI", self.steel, limits)
         sel = {"kinds": rng.choice([15, 15, 8] + list(range(1, 16))), "forms": rng.choice([15, 15, 0] + list(range(1, 15))),
                "ulbon": rng.choice([0, 1, 1]), "calc": rng.choice([0, 1, 2, 2]), "hoops": rng.choice([0, 0, 1, 2]),
                "plates": rng.choice([0, 0, 1, 2]), "start_mode": rng.choice([-1, -1, 0, 1, 2, 3, 4])}
+        sel["shapes"] = tuple(sorted(rng.choice([(0, 250), (1, 200), (rng.randint(0, 200), rng.randint(0, 200))])))
+        ends = sorted(rng.choices(range(len(rows)), k=2))
+        sel["from"], sel["to"] = ((rows[n]["頁"], rows[n]["行"]) for n in ends)
         bulk.prepare(rows, sel["start_mode"])
-        return self.compare(rows, spirals, sel, settings)
+        return self.compare_kinds(rows, spirals, sel, settings, limits, old_layout)
 
-    def compare(self, rows, spirals, sel, settings):
-        command = [self.rbtally, "tally", "bulk", "--root", str(self.root), "--format", "json",
+    def compare_kinds(self, rows, spirals, sel, settings, limits, old_layout):
+        def engine(plus):
+            return group.Engine(limits, plus, settings["loss_priority"])
+
+        def range_of(first, last):
+            return ["--from", f"{first[0]}/{first[1]}", "--to", f"{last[0]}/{last[1]}"]
+
+        plus = settings["plus"]
+        # In a run that asks the engine nothing, the shape tally knows no allowance.
+        shape_plus = 0 if settings["stock_check"] else plus
+        found = self.compare("bulk", sel, [], lambda: bulk.recount(rows, spirals, sel, settings))
+        found = found or self.compare("page", sel, range_of(sel["from"], sel["to"]),
+                                      lambda: group.recount_page(rows, sel, settings))
+        if old_layout:
+            return found  # the group statements name the columns that old files lack
+        found = found or self.compare("shape", sel, ["--shapes", "{}-{}".format(*sel["shapes"])],
+                                      lambda: group.recount_shape(rows, sel, settings, engine(shape_plus)))
+        return found or self.compare("page-shape", sel, range_of(sel["from"], sel["to"]),
+                                     lambda: group.recount_page_shape(rows, sel, settings, engine(plus)))
+
+    def compare(self, kind, sel, more, recount):
+        command = [self.rbtally, "tally", kind, *more, "--root", str(self.root), "--format", "json",
                    "--start-mode", str(sel["start_mode"]), "--kinds", str(sel["kinds"]), "--forms", str(sel["forms"]),
                    "--ulbon", str(sel["ulbon"]), "--calc", str(sel["calc"]), "--hoops", str(sel["hoops"]),
                    "--plates", str(sel["plates"])]
         done = subprocess.run(command, capture_output=True, text=True, check=False,
                               env={**os.environ, "RBK_SETTINGS": str(self.root / "settings.ini")})
         try:
-            expected = bulk.recount(rows, spirals, sel, settings)
+            expected = recount()
         except bulk.RunTimeFault as fault:
             if done.returncode == 1 and str(fault) in done.stderr and not done.stdout:
                 return []
@@ -174,6 +213,7 @@ def main():
         subprocess.run([rbtally, "demo", str(root), "--rows", "50"], check=True, stdout=subprocess.DEVNULL,
                        env={**os.environ, "RBK_SETTINGS": str(Path(folder) / "settings.ini")})
         shutil.copy(root / "DATA/GENBA001.MDB", root / "pristine.MDB")
+        shutil.copy(root / "DATA/STEEL.INI", root / "pristine.INI")
         for number in range(rounds):
             found = Round(rbtally, root, random.Random(seed + number)).run()
             if found:
