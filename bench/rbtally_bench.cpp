@@ -14,10 +14,15 @@
 #include <benchmark/benchmark.h>
 
 #include "data/site_context.h"
+#include "platform/numbers/number_words.h"
 #include "platform/system/paths.h"
 #include "shell/startup/startup.h"
 #include "tally/bulk_tally.h"
+#include "tally/page_tally.h"
+#include "tally/schedule_positions.h"
 #include "tally/selection.h"
+#include "tally/shape_tally.h"
+#include "tally/stock_engine.h"
 #include "tally/tally_grid.h"
 #include "yardstick.h"
 
@@ -122,18 +127,66 @@ void ActivateAgain(benchmark::State& state) {
       state, SiteFile(root), [] {}, Activate);
 }
 
-void BulkTally(benchmark::State& state) {
+void Tally(benchmark::State& state, const std::function<void()>& tally) {
   const fs::path& root = DemoRoot(state.range(0));
   Bind(root);
   Load();
   Activate();
   Compare(
       state, SiteFile(root), [] {},
-      [] {
-        Jyuuryo_Syukei();
+      [&] {
+        tally();
         benchmark::DoNotOptimize(TallyGrid.TotalStockWeight);
       });
   CloseSite();
+}
+
+void BulkTally(benchmark::State& state) { Tally(state, Jyuuryo_Syukei); }
+
+void ShapeTally(benchmark::State& state) {
+  Tally(state, [] {
+    const ShapeRange shapes = WholeShapeRange(*SiteContext.WorkDatabase);
+    Selection.ShapeStart = shapes.first;
+    Selection.ShapeEnd = shapes.last;
+    Keijou_Jyuuryo_Syukei();
+  });
+}
+
+PositionRange WholeSite() { return WholePositionRange(*SiteContext.WorkDatabase).value(); }
+
+void PageTally(benchmark::State& state) {
+  Tally(state, [] {
+    const PositionRange range = WholeSite();
+    const auto narrow = [](std::int32_t number) { return ToInt16(number, "position"); };
+    PG_Jyuuryo_Syukei(narrow(range.first.page), narrow(range.first.line), narrow(range.last.page),
+                      narrow(range.last.line));
+  });
+}
+
+void PageShapeTally(benchmark::State& state) {
+  Tally(state, [] {
+    const PositionRange range = WholeSite();
+    PKeijou_Jyuuryo_Syukei(range.first.page, range.first.line, range.last.page, range.last.line);
+  });
+}
+
+/// Calls of the stock-length engine, its settings read anew at each as a call by itself reads them, and read
+/// once as within a tally.
+void EngineCalls(benchmark::State& state) {
+  Bind(DemoRoot(5000));
+  const bool reads_settings = state.range(0) == 1;
+  const EngineSettings settings = ReadEngineSettings();
+  std::int32_t cut = 0;
+  for (auto unused : state) {
+    cut = 300 + (cut + 37) % 11700;
+    if (reads_settings) {
+      Teijyaku_Keisan(cut, Currency::FromInteger(17), 19);
+    } else {
+      benchmark::DoNotOptimize(ComputeStock(cut, Currency::FromInteger(17), 19, settings));
+    }
+  }
+  state.counters["calls"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
 void Sizes(benchmark::internal::Benchmark* b) {
@@ -144,6 +197,10 @@ BENCHMARK(LoadFreshSite)->Apply(Sizes);
 BENCHMARK(LoadSiteAgain)->Apply(Sizes);
 BENCHMARK(ActivateAgain)->Apply(Sizes);
 BENCHMARK(BulkTally)->Apply(Sizes);
+BENCHMARK(ShapeTally)->Apply(Sizes);
+BENCHMARK(PageTally)->Apply(Sizes);
+BENCHMARK(PageShapeTally)->Apply(Sizes);
+BENCHMARK(EngineCalls)->ArgName("settings_read_anew")->Arg(0)->Arg(1);
 
 }  // namespace
 }  // namespace rbt::bench
