@@ -37,5 +37,8 @@ Action DefinePrepare(CLI::App& line);
 Action DefineTally(CLI::App& line);
 Action DefineStock(CLI::App& line);
 Action DefineReport(CLI::App& line);
+Action DefineImport(CLI::App& line);
+Action DefineCheck(CLI::App& line);
+Action DefineDump(CLI::App& line);
 
 }  // namespace rbt

@@ -78,6 +78,9 @@ std::span<const Command> Commands() {
       {"tally", "Tally a site", DefineTally},
       {"stock", "Choose the stock length for one group of equal pieces", DefineStock},
       {"report", "Print a report form of a tally to a PDF file", DefineReport},
+      {"import", "Take real Jet files into the store", DefineImport},
+      {"check", "Look whether a real Jet file is sound", DefineCheck},
+      {"dump", "Print the tables or rows of a real Jet file as CSV", DefineDump},
   };
   return kCommands;
 }

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// Real Jet files: import, check, dump.
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <system_error>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "cli/command.h"
+#include "cli/output.h"
+#include "data/import/import_folder.h"
+#include "platform/fault.h"
+#include "platform/jet/check.h"
+#include "platform/jet/csv_dump.h"
+#include "platform/jet/import/import_file.h"
+#include "platform/text/cp932.h"
+
+namespace rbt {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void ImportFolder(const fs::path& folder, const fs::path& root) {
+  const FolderReport report = ImportDataFolder(folder, root);
+  WriteResult(ReportText(report));
+  if (!report.failed.empty()) {
+    throw Fault(FaultKind::file,
+                fmt::format("{} of the databases could not be imported, see FAILED", report.failed.size()));
+  }
+}
+
+void Import(const fs::path& source, const fs::path& target) {
+  if (fs::is_directory(source)) {
+    ImportFolder(source, target);
+    return;
+  }
+  std::error_code not_there;
+  const bool in_place = fs::equivalent(source, target, not_there);
+  WriteResult(
+      jet::ReportText(in_place ? jet::ImportJetFileInPlace(source) : jet::ImportJetFile(source, target)));
+}
+
+void Check(const std::string& name) {
+  const auto file = jet::JetFile::Open(name);
+  const jet::CheckReport report = jet::CheckFile(*file);
+  std::string text;
+  for (const std::string& line : report.lines) text += line + "\n";
+  for (const std::string& warning : report.warnings) text += "warning: " + warning + "\n";
+  for (const std::string& damage : report.damages) text += "damage: " + damage + "\n";
+  WriteResult(text);
+  if (!report.damages.empty()) {
+    throw Fault(FaultKind::file, fmt::format("{}: {} damages found", name, report.damages.size()));
+  }
+}
+
+void Dump(const std::string& name, const std::string& table, bool cp932) {
+  const auto file = jet::JetFile::Open(name);
+  const jet::TextSink sink = [cp932](std::string_view text) { WriteResult(cp932 ? ToCp932(text) : text); };
+  std::string warning;
+  if (table.empty()) {
+    jet::DumpTables(*file, sink);
+  } else {
+    warning = jet::DumpRows(*file, table, sink);
+  }
+  if (!warning.empty()) ReportError(warning);
+}
+
+}  // namespace
+
+Action DefineImport(CLI::App& line) {
+  struct Options {
+    std::string source;
+    std::string target;
+  };
+  auto options = std::make_shared<Options>();
+  line.add_option("SOURCE", options->source, "a real Jet file, or a DATA folder of such files")->required();
+  line.add_option(
+          "TARGET", options->target,
+          "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
+          "replaced and kept as SOURCE.jet")
+      ->required();
+  return [options] { Import(options->source, options->target); };
+}
+
+Action DefineCheck(CLI::App& line) {
+  auto file = std::make_shared<std::string>();
+  line.add_option("FILE", *file, "a real Jet file")->required();
+  return [file] { Check(*file); };
+}
+
+Action DefineDump(CLI::App& line) {
+  struct Options {
+    std::string file;
+    std::string table;
+    bool cp932 = false;
+  };
+  auto options = std::make_shared<Options>();
+  line.add_option("FILE", options->file, "a real Jet file")->required();
+  line.add_option("TABLE", options->table, "the table whose rows to print; without it, the tables");
+  line.add_flag("--cp932", options->cp932, "in code page 932 in place of UTF-8");
+  return [options] { Dump(options->file, options->table, options->cp932); };
+}
+
+}  // namespace rbt
