@@ -56,15 +56,37 @@ void Check(const std::string& name) {
   }
 }
 
+/// Writes pieces of a text in larger ones.
+class ResultWriter {
+ public:
+  explicit ResultWriter(bool cp932) : cp932_(cp932) {}
+
+  void Write(std::string_view text) {
+    constexpr std::size_t kEnough = 1 << 16;
+    waiting_ += cp932_ ? ToCp932(text) : text;
+    if (waiting_.size() >= kEnough) Flush();
+  }
+  void Flush() {
+    WriteResult(waiting_);
+    waiting_.clear();
+  }
+
+ private:
+  bool cp932_;
+  std::string waiting_;
+};
+
 void Dump(const std::string& name, const std::string& table, bool cp932) {
   const auto file = jet::JetFile::Open(name);
-  const jet::TextSink sink = [cp932](std::string_view text) { WriteResult(cp932 ? ToCp932(text) : text); };
+  ResultWriter writer(cp932);
+  const jet::TextSink sink = [&writer](std::string_view text) { writer.Write(text); };
   std::string warning;
   if (table.empty()) {
     jet::DumpTables(*file, sink);
   } else {
     warning = jet::DumpRows(*file, table, sink);
   }
+  writer.Flush();
   if (!warning.empty()) ReportError(warning);
 }
 

@@ -21,6 +21,7 @@ ROW_DEFAULTS = {
     "合計": 1, "伸切寸": 6000, "伸定尺": 6.0, "伸本定": 1, "伸総計": 1, "圧接": 0, "圧接太さ": 0, "ネジ数": 0,
     "切断": 0,
 }
+SAMPLES = pathlib.Path(__file__).resolve().parent.parent / "data" / "jet"
 JET_FIRST_BYTES = b"\x00\x01\x00\x00Standard Jet DB\x00"
 NOBODY = 65534
 
@@ -47,6 +48,14 @@ def fields_of(words):
 
 def quoted(name):
     return '"' + name.replace('"', '""') + '"'
+
+
+def readable(output):
+    """Results are UTF-8, or code page 932 where that was asked for."""
+    try:
+        return output.decode("utf-8")
+    except UnicodeDecodeError:
+        return output.decode("cp932")
 
 
 class World:
@@ -141,6 +150,27 @@ class World:
         """jet FILE: a real Jet file stands under the name"""
         self.database(words[0]).write_bytes(JET_FIRST_BYTES + bytes(2048 - len(JET_FIRST_BYTES)))
 
+    def sample(self, words):
+        """sample NAME PATH: a real Jet file of tests/data/jet, below the folder above the root"""
+        target = self.folder / words[1]
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes((SAMPLES / words[0]).read_bytes())
+
+    def cut(self, words):
+        """cut PATH BYTES: only the first bytes of a file stay, below the folder above the root"""
+        os.truncate(self.folder / words[0], int(words[1]))
+
+    def as_jet(self, words):
+        """as-jet 3|4 FOLDER: the DATA folder once more beside the root, its databases as real Jet files"""
+        version, name = words
+        folder = self.folder / name
+        folder.mkdir()
+        for path in sorted((self.root / "DATA").iterdir()):
+            if path.suffix.lower() == ".mdb":
+                subprocess.run([self.program.parent / "store_to_jet", version, path, folder / path.name], check=True)
+            else:
+                shutil.copy(path, folder)
+
     def lock(self, _words):
         """read-only: nothing below the root may be written"""
         for path in [self.root, *self.root.rglob("*")]:
@@ -178,7 +208,7 @@ class World:
         done = subprocess.run([self.runnable(), *words[1:]], env=environment, cwd=self.folder, timeout=120,
                               stdout=output, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL,
                               user=self.user())
-        self.stdout = (done.stdout or b"").decode("utf-8")
+        self.stdout = readable(done.stdout or b"")
         self.stderr = done.stderr.decode("utf-8").replace(str(self.folder), "$tmp").splitlines()
         self.status = done.returncode
 
@@ -201,7 +231,8 @@ class World:
 DIRECTIVES = {
     "row": World.row, "spiral": World.spiral, "without": World.without, "sql": World.sql,
     "setting": World.setting, "file": World.file, "remove": World.remove, "rename": World.rename,
-    "folder": World.folder_at, "jet": World.jet, "read-only": World.lock,
+    "folder": World.folder_at, "jet": World.jet, "sample": World.sample, "as-jet": World.as_jet, "cut": World.cut,
+    "read-only": World.lock,
 }
 
 

@@ -267,7 +267,7 @@ DecodedText JetFile::TextOfBytes(std::span<const unsigned char> bytes) const {
 }
 
 void JetFile::Damaged(std::uint32_t page, const std::string& cause) const {
-  throw Fault(FaultKind::file, fmt::format("{}: page {} {}", name_, page, cause));
+  throw Fault(FaultKind::file, fmt::format("{}: page {}: {}", name_, page, cause));
 }
 
 bool IsJetFile(const std::filesystem::path& file) {

@@ -134,6 +134,11 @@ std::vector<CatalogEntry> ReadCatalog(JetFile& file) {
     }
     entries.push_back(std::move(entry));
   });
+  // A lost entry would be a table that nobody misses.
+  if (entries.empty() || (file.ClosedCleanly() && entries.size() < catalog.row_count)) {
+    file.Damaged(kCatalogPage, fmt::format("the catalog counts {} objects, {} are there", catalog.row_count,
+                                           entries.size()));
+  }
   return entries;
 }
 

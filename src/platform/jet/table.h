@@ -21,7 +21,8 @@ struct CatalogEntry {
   Bytes properties;  ///< as they stand, carried and not read
 };
 
-/// All objects of the file, in catalog order, system objects included.
+/// All objects of the file, in catalog order, system objects included. Fewer than a cleanly closed file
+/// counts are damage.
 std::vector<CatalogEntry> ReadCatalog(JetFile& file);
 
 /// Definition of a user table by its exact name; a name that the catalog lacks throws `file`.

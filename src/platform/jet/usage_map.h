@@ -14,7 +14,8 @@ inline constexpr RowPointer kNoUsageMap{0, 0};
 inline constexpr RowPointer kFreePages{1, 0};
 
 /// The page numbers that the usage map at a row names, ascending: an inline bitmap with its start page, or a
-/// list of bitmap pages. Pages behind the end of the file are left out. Damage throws `Fault` of kind `file`.
+/// list of bitmap pages. Damage throws `Fault` of kind `file`, and so does a page behind the end of the file,
+/// except in the map of free pages, where such pages are left out.
 std::vector<std::uint32_t> PagesOfUsageMap(JetFile& file, RowPointer map);
 
 /// The bitmap pages that a usage map of the second sort keeps, for the check of who owns which page.

@@ -50,7 +50,10 @@ void RequireDatabaseFile(const std::filesystem::path& file) {
   const std::string_view bytes(head.data(), static_cast<std::size_t>(in.gcount()));
   if (bytes.empty()) throw FileFault(file, "the file is empty, not a database");
   if (bytes.substr(std::min(kJetMarkAt, bytes.size())).starts_with(kJetMark)) {
-    throw FileFault(file, "a real Jet file (Standard Jet DB), which is neither read nor written here");
+    throw FileFault(file,
+                    fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
+                                "to take it over: rbtally import {0} {0}",
+                                file.string()));
   }
   if (!bytes.starts_with(kSqliteMark)) throw FileFault(file, "the file is not a database");
 }

@@ -20,6 +20,7 @@
 #include "platform/system/system_error.h"
 #include "shell/calendar/new_era_function.h"
 #include "shell/preparation/preparation.h"
+#include "shell/startup/offer_import.h"
 #include "shell/startup/sibling_programs.h"
 #include "tally/selection.h"
 
@@ -51,6 +52,11 @@ void PassOverFaults(Read read) {
   }
 }
 
+void OfferSharedImports() {
+  OfferImports({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
+                "\\RBK\\DATA\\JSyukeiORG.mdb"});
+}
+
 void OpenFixedStock() {
   ProvideFixedStockDatabase();
   SiteContext.FixedStockDatabase.reset();
@@ -69,6 +75,7 @@ void BindSite(const StartOptions& options) {
                                                         kSelectedDbNameKey.section, kSelectedDbNameKey.key));
   }
   SelectSite(name);
+  if (!options.command_line) OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
   OpenWorkDatabase();
 }
 
@@ -183,6 +190,7 @@ LoadResult LoadSite(const StartOptions& options) {
   Step(LoadGridColours);
   Selection.StartMode = options.start_mode;
   Step(LoadTallySettings);
+  if (!options.command_line) Step(OfferSharedImports);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
   Step(DropEmptyArchiveTables);
