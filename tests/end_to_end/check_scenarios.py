@@ -37,7 +37,7 @@ def listed(program):
     for command in re.findall(r"^  ([a-z-]+)", subcommands, re.MULTILINE):
         text = help_of(program, command)
         yield command, command
-        for option in re.findall(r"(?<![\w-])--[a-z-]+", text):
+        for option in re.findall(r"(?<![\w-])--[a-z0-9-]+", text):
             yield command, option
         for choices in re.findall(r"KIND[^{\n]*\{([^}]*)\}", text):
             yield from ((command, kind) for kind in choices.split(","))
