@@ -12,7 +12,6 @@ inline bool Press(QWidget& form, int key, Qt::KeyboardModifiers modifiers = Qt::
                   bool repeat = false) {
   const auto receiver = [&form] { return form.focusWidget() != nullptr ? form.focusWidget() : &form; };
   QKeyEvent press(QEvent::KeyPress, key, modifiers, QString(), repeat);
-  press.ignore();
   const bool taken = QApplication::sendEvent(receiver(), &press) && press.isAccepted();
   QKeyEvent release(QEvent::KeyRelease, key, modifiers, QString(), repeat);
   QApplication::sendEvent(receiver(), &release);

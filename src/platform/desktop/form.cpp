@@ -5,10 +5,15 @@
 #include <limits>
 
 #include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
+#include <QWindow>
 
 namespace rbt {
 
@@ -70,6 +75,31 @@ class ButtonArrows : public QObject {
   QWidget& form_;
 };
 
+/// Enter in a check box or an option: the next control, so that a form is filled in with Space and Enter.
+class EnterMovesOn : public QObject {
+ public:
+  explicit EnterMovesOn(QObject& form) : QObject(&form) {}
+
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& press = static_cast<const QKeyEvent&>(*event);
+    if (press.key() != Qt::Key_Return && press.key() != Qt::Key_Enter) return false;
+    // Held down it would run through to a button and press that.
+    if (!press.isAutoRepeat()) MoveFocusOn(*static_cast<QWidget*>(receiver));
+    return true;
+  }
+};
+
+/// Tab comes to the chosen option of a group, not to its first one.
+void LeadTabToTheChosen(QRadioButton& option) {
+  QObject::connect(&option, &QRadioButton::toggled, &option, [&option] {
+    if (option.group() == nullptr) return;
+    for (QAbstractButton* each : option.group()->buttons()) {
+      each->setFocusPolicy(each->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+  });
+}
+
 /// Ends the loop when the watched form goes out of sight.
 class HideWatcher : public QObject {
  public:
@@ -92,6 +122,12 @@ void PrepareForm(QWidget& form) {
     button->setAutoDefault(true);
     button->installEventFilter(arrows);
   }
+  auto* enter = new EnterMovesOn(form);
+  for (QCheckBox* box : form.findChildren<QCheckBox*>()) box->installEventFilter(enter);
+  for (QRadioButton* option : form.findChildren<QRadioButton*>()) {
+    option->installEventFilter(enter);
+    LeadTabToTheChosen(*option);
+  }
 }
 
 void Center_Form(QWidget& form) {
@@ -104,21 +140,25 @@ void Center_Form(QWidget& form) {
 void ShowModally(QWidget& form) {
   QEventLoop loop;
   const HideWatcher watcher(form, loop);
+  const QPointer<QWidget> below = QApplication::activeWindow();
   form.setWindowModality(Qt::ApplicationModal);
+  form.winId();  // makes the window that stays above the one below, wherever the user clicks
+  if (below) form.windowHandle()->setTransientParent(below->windowHandle());
   Center_Form(form);
   form.show();
   form.activateWindow();
   if (form.isVisible()) loop.exec();
+  if (below) below->activateWindow();
 }
 
 bool MoveFocusByArrow(QWidget& form, int arrow_key) {
   const auto* from = qobject_cast<QPushButton*>(QApplication::focusWidget());
   if (from == nullptr || !form.isAncestorOf(from)) return false;
   const QRect place = PlaceIn(form, *from);
-  QPushButton* nearest = nullptr;
+  QAbstractButton* nearest = nullptr;
   int shortest = std::numeric_limits<int>::max();
-  for (QPushButton* button : form.findChildren<QPushButton*>()) {
-    if (!button->isVisible() || !button->isEnabled()) continue;
+  for (QAbstractButton* button : form.findChildren<QAbstractButton*>()) {
+    if (!button->isVisible() || !button->isEnabled() || !(button->focusPolicy() & Qt::TabFocus)) continue;
     const int distance = ArrowDistance(place, PlaceIn(form, *button), arrow_key);
     if (distance >= shortest) continue;
     shortest = distance;
@@ -127,6 +167,11 @@ bool MoveFocusByArrow(QWidget& form, int arrow_key) {
   if (nearest == nullptr) return false;
   nearest->setFocus(Qt::TabFocusReason);
   return true;
+}
+
+void MoveFocusOn(QWidget& control) {
+  QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+  QApplication::sendEvent(&control, &tab);
 }
 
 }  // namespace rbt

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QLibraryInfo>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTranslator>
 
 #include "platform/desktop/message_box.h"
 #include "platform/desktop/pending_events.h"
@@ -25,6 +27,8 @@ QPushButton:hover { background: #f0f6fc; }
 QPushButton:focus { background: #fff8d9; border: 2px solid #1457a8; padding: 4px 11px; }
 QPushButton:pressed { background: #cfe0f1; }
 QPushButton:disabled { background: #e4e8ec; color: #6a7580; border-color: #b9c3cc; }
+QCheckBox, QRadioButton { border: 2px solid transparent; border-radius: 3px; padding: 1px 4px; }
+QCheckBox:focus, QRadioButton:focus { background: #fff8d9; border-color: #1457a8; }
 QGroupBox { border: 1px solid #9fb0bf; border-radius: 5px; margin-top: 0.7em; background: #e3ebf3; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 12px; }
 QFrame#statusLine { background: #ffffff; border: 1px solid #b4c1cd; border-radius: 3px; }
@@ -43,7 +47,17 @@ QPalette Colours() {
   colours.setColor(QPalette::ButtonText, text);
   colours.setColor(QPalette::Highlight, QColor("#1457a8"));
   colours.setColor(QPalette::HighlightedText, Qt::white);
+  colours.setColor(QPalette::Disabled, QPalette::Base, QColor("#e4e8ec"));
+  colours.setColor(QPalette::Disabled, QPalette::Text, QColor("#5a6570"));
   return colours;
+}
+
+/// The toolkit's own dialogs speak Japanese where its translation is installed, else English.
+void InstallTranslation() {
+  static QTranslator translator;
+  if (translator.load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&translator);
+  }
 }
 
 }  // namespace
@@ -60,6 +74,7 @@ void PrepareDesktop() {
   QApplication::setFont(font);
   QApplication::setPalette(Colours());
   qApp->setStyleSheet(kStyleSheet);
+  InstallTranslation();
   InstallMessageBox();
   InstallPendingEvents();
 }
