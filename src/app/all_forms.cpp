@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "app/all_forms.h"
 
+#include <iterator>
+
 #include "screens/screen_forms.h"
+#include "screens/selection_dialogs.h"
 #include "shell/menu/menu_forms.h"
+#include "shell/settings_forms/settings_forms.h"
 
 namespace rbt {
 
 std::vector<FormEntry> AllForms() {
-  std::vector<FormEntry> forms = MenuForms();
-  for (FormEntry& form : ScreenForms()) forms.push_back(std::move(form));
-  return forms;
+  std::vector<FormEntry> all;
+  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ScreenForms(), SelectionDialogs()}) {
+    std::move(forms.begin(), forms.end(), std::back_inserter(all));
+  }
+  return all;
 }
 
 }  // namespace rbt

@@ -75,11 +75,6 @@ std::string Place(std::string_view app, std::string_view section, std::string_vi
   return place.append(" \"").append(text).append("\"");
 }
 
-std::int32_t ReadColour(const IniKey& key) {
-  const std::string text = ReadSteelIni(key);
-  return ToInt32(LeadingNumber(text.empty() ? key.fallback : text), key.key);
-}
-
 }  // namespace
 
 std::string ReadIniText(std::string_view family_file, std::string_view section, std::string_view key,
@@ -91,6 +86,15 @@ std::string ReadIniText(std::string_view family_file, std::string_view section, 
 
 std::string ReadSteelIni(const IniKey& key) {
   return ReadIniText(kSteelIni, key.section, key.key, key.fallback);
+}
+
+std::int32_t ReadSteelIniColour(const IniKey& key) {
+  const std::string text = ReadSteelIni(key);
+  return ToInt32(LeadingNumber(text.empty() ? key.fallback : text), key.key);
+}
+
+void WriteSteelIni(const IniKey& key, std::string_view value) {
+  WriteProfileText(MapPath(kSteelIni), key.section, key.key, value);
 }
 
 std::string ReadSetting(std::string_view app, std::string_view section, std::string_view key,
@@ -138,8 +142,8 @@ void SaveSetting(const BooleanKey& key, bool value) {
 }
 
 void LoadGridColours() {
-  Settings.GridRowBackColor = ReadColour(kGridRowBackColorKey);
-  Settings.GridRowForeColor = ReadColour(kGridRowForeColorKey);
+  Settings.GridRowBackColor = ReadSteelIniColour(kGridRowBackColorKey);
+  Settings.GridRowForeColor = ReadSteelIniColour(kGridRowForeColorKey);
 }
 
 void LoadTallySettings() {

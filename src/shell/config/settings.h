@@ -34,6 +34,12 @@ void SaveSetting(const TextKey& key, std::string_view value);
 void SaveSetting(const BooleanKey& key, bool value);
 /// Reads a key of `STEEL.INI` with its own default.
 std::string ReadSteelIni(const IniKey& key);
+/// A colour of `STEEL.INI`, RGB with red in the low byte: an empty text is the default, any other its leading
+/// number.
+std::int32_t ReadSteelIniColour(const IniKey& key);
+/// Writes a key of `STEEL.INI`. Faults: `file`, which names the file; `type mismatch` for a text that code
+/// page 932 lacks.
+void WriteSteelIni(const IniKey& key, std::string_view value);
 
 inline constexpr std::string_view kSteelIni = "\\RBK\\DATA\\STEEL.INI";
 inline constexpr std::string_view kNextPrgIni = "\\RBK\\DATA\\NEXTPRG.INI";
@@ -74,7 +80,7 @@ struct SettingsData {
 
 extern SettingsData Settings;
 
-/// `GridRowBackColor` and `GridRowForeColor`; an empty text is the default, any other its leading number.
+/// `GridRowBackColor` and `GridRowForeColor`.
 void LoadGridColours();
 /// `UseFixedTable`, `AlternateRowColours`, `PrintEmptyDiameters`, `Use13mColumn`, `CapInstalledWeight`.
 void LoadTallySettings();

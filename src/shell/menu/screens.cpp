@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "screens/screen_forms.h"
+#include "shell/settings_forms/settings_forms.h"
 
 namespace rbt {
 
@@ -18,7 +19,7 @@ constexpr std::array<MenuScreen, 7> kMenuScreens{{
     {"PKEIJOJS", "形状別 頁行別集計"},
     {"KAIJS", "階別集計"},
     {"BUIJS", "部位別集計"},
-    {"SETJS", "年号等集計印刷設定"},
+    {"SETJS", "年号等集計印刷設定", MakeSETJS},
 }};
 
 }  // namespace

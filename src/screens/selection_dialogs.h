@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "platform/desktop/form_registry.h"
+
+namespace rbt {
+
+/// Shows `setZai` over the active form and returns when the kinds are chosen; the selection has them then.
+void ChooseKinds();
+/// Shows `setZairyou`; the selection has the forms then.
+void ChooseForms();
+/// Shows `setZaiKaiBui`: the kinds of the floor and part screens, or `UlbonOnly`.
+void ChooseKindsOfFloorsAndParts();
+
+/// The selection dialogs, for the walk through all forms and the pictures.
+std::vector<FormEntry> SelectionDialogs();
+
+}  // namespace rbt
