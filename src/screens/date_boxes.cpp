@@ -53,6 +53,11 @@ void DateBoxes::FillEmpty() {
   }
 }
 
+void DateBoxes::FillToday() {
+  for (QLineEdit* box : boxes_) box->clear();
+  FillEmpty();
+}
+
 void DateBoxes::SetEnabled(bool enabled) {
   for (QLineEdit* box : boxes_) box->setEnabled(enabled);
 }

@@ -33,6 +33,8 @@ class DateBoxes : public QObject {
 
   /// Fills the empty boxes with today.
   void FillEmpty();
+  /// Fills all boxes with today, whatever was typed.
+  void FillToday();
   void SetEnabled(bool enabled);
   /// Empties the year when it was written in the other style, and fills it anew.
   void FollowStyle();

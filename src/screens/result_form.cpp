@@ -5,24 +5,23 @@
 #include <string>
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPushButton>
 
 #include "data/grade_names.h"
 #include "data/reference.h"
 #include "data/run_state.h"
 #include "data/site_context.h"
-#include "platform/desktop/action.h"
 #include "platform/desktop/form.h"
-#include "platform/desktop/key_table.h"
 #include "platform/numbers/number_mask.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
-#include "platform/system/process.h"
+#include "screens/busy_notice.h"
 #include "screens/digit_box.h"
+#include "screens/page_range_panel.h"
+#include "screens/shape_range_panel.h"
+#include "screens/texts.h"
 #include "shell/config/setting_keys.h"
 #include "shell/config/settings.h"
-#include "tally/captions.h"
 #include "tally/result_grid.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
@@ -33,105 +32,45 @@ namespace rbt {
 namespace {
 
 constexpr int kAllMask = 15;
-constexpr std::array kModeCaptions{"含む", "含まず", "のみ"};
 constexpr const char* kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
 
 /// Half-width characters that a column shows; the first holds the grade name and the diameter.
 constexpr std::array<int, 6> kColumnCharacters{26, 18, 18, 16, 14, 14};
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// A colour as it stands in the settings: red in the low byte.
 QColor ColourOf(std::int32_t rgb) { return {rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16) & 0xFF}; }
-
-/// The start modes whose programs offer no filter on shapes.
-bool OffersShapeFilters() {
-  return Selection.StartMode != 1 && Selection.StartMode != 3 && Selection.StartMode != 4;
-}
 
 void SayNotReady(const char* what, std::string_view title) {
   MsgBox("「" + std::string(what) + "」は、まだご利用いただけません。", title);
 }
 
-}  // namespace
-
-struct ResultForm::Action {
-  QPushButton* Ui::ResultForm::*button;
-  int key;  ///< 0 when it has none
-  void (ResultForm::*handler)();
-};
-
-const std::vector<ResultForm::Action>& ResultForm::Actions() {
-  using F = ResultForm;
-  using U = Ui::ResultForm;
-  static const std::vector<Action> actions{
-      {&U::cmdPrint, Qt::Key_F1, &F::cmdPrint_Click},
-      {&U::cmdUSum, Qt::Key_F2, &F::cmdUSum_Click},
-      {&U::cmdurubon, Qt::Key_F3, &F::cmdurubon_Click},
-      {&U::cmdPrint2, 0, &F::cmdPrint2_Click},
-      {&U::CmdVReturn, 0, &F::CmdVReturn_Click},
-      {&U::cmdMeisai, Qt::Key_F5, &F::cmdMeisai_Click},
-      {&U::Command6, Qt::Key_F6, &F::Command6_Click},
-      {&U::cmdExit, Qt::Key_Escape, &F::cmdExit_Click},
-      {&U::Command1, 0, &F::Command1_Click},
-      {&U::Command2, 0, &F::Command2_Click},
-      {&U::Command3, 0, &F::Command3_Click},
-      {&U::cmdHoop, 0, &F::cmdHoop_Click},
-      {&U::cmdTei, 0, &F::cmdTei_Click},
-      {&U::btnA4Y, Qt::Key_F1, &F::btnA4Y_Click},
-      {&U::btnA4T, Qt::Key_F3, &F::btnA4T_Click},
-      {&U::btnB5Y, Qt::Key_F5, &F::btnB5Y_Click},
-      {&U::btnSettei, Qt::Key_F7, &F::btnSettei_Click},
-      {&U::btnReturn, Qt::Key_Escape, &F::btnReturn_Click},
-  };
-  return actions;
-}
-
-/// While a tally runs: filter buttons out of sight, the others out of reach, the wait panel shown. Everything
-/// comes back as it stood, the focus too, whatever ends the tally.
-class ResultForm::Busy {
+/// Calls a function when the scope is left, whatever ends it.
+class AtEnd {
  public:
-  explicit Busy(ResultForm& form) : ui_(*form.ui_), focus_(form.focusWidget()) {
-    for (std::size_t i = 0; i < kHidden.size(); ++i) {
-      shown_[i] = !(ui_.*kHidden[i])->isHidden();
-      (ui_.*kHidden[i])->hide();
-    }
-    for (QPushButton* Ui::ResultForm::*button : kDisabled) (ui_.*button)->setEnabled(false);
-    ui_.SSPanel4->show();
-    RunPendingEvents();
-  }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-  ~Busy() {
-    for (std::size_t i = 0; i < kHidden.size(); ++i) (ui_.*kHidden[i])->setVisible(shown_[i]);
-    for (QPushButton* Ui::ResultForm::*button : kDisabled) (ui_.*button)->setEnabled(true);
-    ui_.SSPanel4->hide();
-    if (focus_ != nullptr && focus_->isVisible()) focus_->setFocus();
-  }
+  explicit AtEnd(std::function<void()> call) : call_(std::move(call)) {}
+  AtEnd(const AtEnd&) = delete;
+  AtEnd& operator=(const AtEnd&) = delete;
+  ~AtEnd() { call_(); }
 
  private:
-  using Button = QPushButton* Ui::ResultForm::*;
-  static constexpr std::array<Button, 5> kHidden{&Ui::ResultForm::Command1, &Ui::ResultForm::Command2,
-                                                 &Ui::ResultForm::Command3, &Ui::ResultForm::cmdHoop,
-                                                 &Ui::ResultForm::cmdTei};
-  static constexpr std::array<Button, 6> kDisabled{&Ui::ResultForm::cmdPrint,  &Ui::ResultForm::cmdurubon,
-                                                   &Ui::ResultForm::cmdMeisai, &Ui::ResultForm::cmdExit,
-                                                   &Ui::ResultForm::cmdPrint2, &Ui::ResultForm::Command6};
-  Ui::ResultForm& ui_;
-  QWidget* focus_;
-  std::array<bool, 5> shown_{};
+  std::function<void()> call_;
 };
 
+}  // namespace
+
 ResultForm::ResultForm(const ResultScreen& screen, ResultParts parts)
-    : screen_(screen), parts_(std::move(parts)), ui_(std::make_unique<Ui::ResultForm>()) {
+    : screen_(screen),
+      parts_(std::move(parts)),
+      ui_(std::make_unique<Ui::ResultForm>()),
+      filters_(*ui_, screen_),
+      absent_(new QWidget(this)) {
   ui_->setupUi(this);
   setObjectName(Text(screen_.name));
   setWindowTitle(Text(screen_.title));
+  TakeControls();
+  PlaceRange();
   PrepareForm(*this);
-  dates_ =
-      new DateBoxes(*ui_->txtYear, *ui_->txtMonth, *ui_->txtDay, [] { return ReadSetting(kDateStyleKey); });
+  print_panel_ = std::make_unique<PrintPanel>(*ui_, [] { return ReadSetting(kDateStyleKey); });
   TakeDigitsOnly(*ui_->txtPercent, 6);
   ConnectControls();
   Load();
@@ -139,76 +78,56 @@ ResultForm::ResultForm(const ResultScreen& screen, ResultParts parts)
 
 ResultForm::~ResultForm() = default;
 
-std::vector<int> ResultForm::Keys() {
-  std::vector<int> keys;
-  for (const Action& action : Actions()) {
-    if (action.key != 0) keys.push_back(action.key);
-  }
-  return keys;
+void ResultForm::TakeControls() {
+  const auto control = [this](std::string_view name) { return findChild<QWidget*>(Text(name)); };
+  absent_->hide();
+  // Under a hidden parent no later rule brings a control back.
+  for (const std::string_view name : screen_.absent) control(name)->setParent(absent_);
+  for (const auto& [name, text] : screen_.captions) control(name)->setProperty("text", Text(text));
+  for (const auto& [name, own] : screen_.names) control(name)->setObjectName(Text(own));
 }
 
-void ResultForm::ConnectControls() {
-  for (const Action& action : Actions()) {
-    connect((*ui_).*action.button, &QPushButton::clicked, this,
-            [this, handler = action.handler] { RunAction(*this, [&] { (this->*handler)(); }); });
+void ResultForm::PlaceRange() {
+  if (screen_.range == RangeKind::none) return;
+  // Positions stand in the grid's place until the tally has run, shapes above the filters all the time.
+  QWidget* before = nullptr;
+  if (screen_.range == RangeKind::positions) {
+    before = ui_->cmdTei;
+    range_ = new PageRangePanel(this);
+    range_->setObjectName("SSPanel4");
+    ui_->formLayout->insertWidget(ui_->formLayout->indexOf(ui_->dbgJS), range_);
+  } else {
+    before = ui_->txtDay;
+    range_ = new ShapeRangePanel(this);
+    ui_->formLayout->insertWidget(ui_->formLayout->indexOf(ui_->filterPanel), range_, 0, Qt::AlignTop);
   }
-  connect(ui_->txtPercent, &QLineEdit::returnPressed, this,
-          [this] { RunAction(*this, [this] { txtPercent_Enter(); }); });
-  new KeyPreview(*this, [this](const QKeyEvent& press) { return AnswerPress(press); });
-}
-
-bool ResultForm::AnswerPress(const QKeyEvent& press) {
-  const bool panel_open = !ui_->SSPanel3->isHidden();
-  bool ours = false;
-  for (const Action& action : Actions()) {
-    if (action.key == 0 || !IsPress(press, action.key)) continue;
-    ours = true;
-    const QPushButton* button = (*ui_).*action.button;
-    if (panel_open != ui_->SSPanel3->isAncestorOf(button)) continue;
-    if (!IsRepeat(press) && button->isVisibleTo(this) && button->isEnabled()) (this->*action.handler)();
-    break;
+  for (QLineEdit* box : range_->Boxes()) {
+    setTabOrder(before, box);
+    before = box;
   }
-  return ours;
+  range_->OnTaken([this] { RunRange(); });
 }
 
 void ResultForm::Load() {
-  SetDefaults();
+  SetSelectionDefaults();
   SelectSite(ReadSteelIni(kSelectedDbNameKey));
   OpenWorkDatabase();
   if (!SiteContext.MasterDatabase) OpenMasterDatabase();
   ShowHead();
   LayOutGrid();
   for (QWidget* hidden :
-       std::initializer_list<QWidget*>{ui_->SSPanel3, ui_->SSPanel4, ui_->Command1, ui_->txtPercent,
-                                       ui_->lblUper, ui_->lblSubKojNa, ui_->txtSubKojNa}) {
+       std::initializer_list<QWidget*>{ui_->SSPanel4, ui_->Command1, ui_->txtPercent, ui_->lblUper}) {
     hidden->hide();
   }
-  dates_->SetEnabled(false);
-  Tally();
-  Fill();
-  ShowModeCaptions();
-  ui_->Label8->setText(Text(kAllKindsAtDesign));
-  ui_->Label9->setText(Text(FormCaption(Selection.MaterialFormMask)));
+  filters_.ShowForms();
   ui_->hozon->setVisible(RunState.AccumulateFlag != 0);
-  const bool plates = RunState.HasAnchorPlateRows && OffersShapeFilters();
-  const bool hoops = RunState.HasHoopRows && OffersShapeFilters();
-  for (QWidget* control : std::initializer_list<QWidget*>{ui_->cmdTei, ui_->Label5})
-    control->setVisible(plates);
-  for (QWidget* control : std::initializer_list<QWidget*>{ui_->cmdHoop, ui_->Label3, ui_->Label4}) {
-    control->setVisible(hoops);
+  if (range_ == nullptr) {
+    FirstRun();
+  } else {
+    range_->FillFromSchedule(*SiteContext.WorkDatabase);
+    ShowState();
   }
-  ui_->dbgJS->setFocus();
-}
-
-void ResultForm::SetDefaults() {
-  constexpr std::int16_t kHighStrengthWithOthers = 2;
-  Selection.MaterialKindMask = kAllMask;
-  Selection.MaterialFormMask = kAllMask;
-  Selection.PrevMaterialKindMask = kAllMask;
-  Selection.IncludeUlbon = 1;
-  if (RunState.AccumulateFlag == 0) Selection.MaterialCalcChoice = kHighStrengthWithOthers;
-  Selection.HoopMode = 0;
-  Selection.AnchorPlateMode = 0;
+  FocusWork();
 }
 
 void ResultForm::ShowHead() {
@@ -231,7 +150,70 @@ void ResultForm::LayOutGrid() {
   ui_->dbgJS->SetColumns(std::move(columns));
 }
 
-void ResultForm::Tally() { screen_.tally(); }
+void ResultForm::FirstRun() {
+  Tally();
+  Fill();
+  filters_.ShowModes();
+  filters_.OfferModes();
+}
+
+void ResultForm::TakeRange() {
+  if (range_ != nullptr) range_->TakeRange();
+}
+
+void ResultForm::RunRange() {
+  if (range_->GivesWay()) range_->hide();
+  Recalculate([this] {
+    if (screen_.range == RangeKind::shapes) ResetFilters();
+    if (screen_.before_first_run != nullptr) screen_.before_first_run();
+  });
+  filters_.OfferModes();
+  FocusWork();
+}
+
+void ResultForm::AskForRange() {
+  ResetFilters();
+  Selection.MaterialFormMask = kAllMask;
+  RunState.HasAnchorPlateRows = false;
+  tally_ran_ = false;
+  filters_.ShowForms();
+  ShowAvailability();
+  ShowState();
+  FocusWork();
+}
+
+void ResultForm::ResetFilters() {
+  Selection.MaterialKindMask = kAllMask;
+  Selection.AnchorPlateMode = 0;
+  Selection.HoopMode = 0;
+  filters_.ShowAllKinds();
+  filters_.ShowModes();
+}
+
+void ResultForm::ShowState() {
+  range_->setVisible(!tally_ran_ || !range_->GivesWay());
+  ui_->formLayout->setStretchFactor(range_, tally_ran_ ? 0 : 1);
+  for (QWidget* result : std::initializer_list<QWidget*>{ui_->filterPanel, ui_->dbgJS}) {
+    result->setVisible(tally_ran_);
+  }
+  for (QPushButton* button : {ui_->cmdurubon, ui_->cmdMeisai, ui_->cmdPGChange}) {
+    button->setEnabled(tally_ran_);
+  }
+}
+
+void ResultForm::FocusWork() {
+  if (range_ == nullptr || tally_ran_) {
+    ui_->dbgJS->setFocus();
+  } else if (!range_->FocusBox(0)) {
+    ui_->cmdExit->setFocus();
+  }
+}
+
+void ResultForm::Tally() {
+  tally_ran_ = false;
+  screen_.tally();
+  tally_ran_ = true;
+}
 
 double ResultForm::Percent() const { return Int(LeadingNumber(ui_->txtPercent->text().toStdString())); }
 
@@ -249,34 +231,27 @@ void ResultForm::ShowWarning() {
 }
 
 void ResultForm::Recalculate(const std::function<void()>& change) {
-  const Busy busy(*this);
+  const AtEnd show_state([this] {
+    if (range_ == nullptr) return;
+    if (tally_ran_) return ShowState();
+    AskForRange();  // a fault leaves nothing to look at
+  });
+  const BusyNotice busy(*ui_, *this, range_);
   change();
   ResetMeaninglessModes(Selection);
   Tally();
   Fill();
-  ShowKindCaption();
-  ui_->Label9->setText(Text(FormCaption(Selection.MaterialFormMask)));
-  ShowModeCaptions();
+  // The scoped screens name the kinds after a choice of kinds alone.
+  if (range_ == nullptr) filters_.ShowKinds();
+  filters_.ShowForms();
+  filters_.ShowModes();
   ShowAvailability();
   Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
 }
 
-void ResultForm::ShowKindCaption() {
-  const std::string_view caption = KindCaption(Selection.MaterialKindMask);
-  // After a recalculation the slit word goes in the full program too; the total row keeps it there.
-  const bool strips = Selection.StartMode == -1 || ShowsNoSlitWord(Selection.StartMode);
-  ui_->Label8->setText(strips ? Text(StripSlitWord(caption)) : Text(caption));
-}
-
-void ResultForm::ShowModeCaptions() {
-  constexpr int kOnly = 2;
-  ui_->cmdHoop->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.HoopMode)));
-  ui_->Label4->setText(Selection.HoopMode == kOnly ? "(形状No87)" : "(形状No87)を");
-  ui_->cmdTei->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.AnchorPlateMode)));
-}
-
 void ResultForm::ShowAvailability() {
   const bool whole = ShowsWholePicture(show_ulbon_only_);
+  if (range_ != nullptr) ui_->cmdurubon->setVisible(whole);  // prints there
   for (QPushButton* button : {ui_->Command6, ui_->cmdPrint, ui_->cmdPrint2}) button->setVisible(whole);
 }
 
@@ -296,6 +271,7 @@ void ResultForm::Command3_Click() {
   if (!parts_.choose_kinds) return SayNotReady("材質変更", screen_.title);
   parts_.choose_kinds();
   Command1_Click();
+  filters_.ShowKinds();
 }
 
 void ResultForm::cmdHoop_Click() {
@@ -318,6 +294,7 @@ void ResultForm::cmdUSum_Click() {
 }
 
 void ResultForm::cmdurubon_Click() {
+  if (range_ != nullptr) return PrintUlbon();
   ui_->lblUper->show();
   ui_->txtPercent->show();
   ui_->txtPercent->setEnabled(true);
@@ -345,6 +322,8 @@ void ResultForm::cmdMeisai_Click() {
   parts_.open_detail();
 }
 
+void ResultForm::cmdPGChange_Click() { AskForRange(); }
+
 void ResultForm::Command6_Click() {
   if (!parts_.toggle_accumulation) return SayNotReady("集計加算", screen_.title);
   parts_.toggle_accumulation();
@@ -356,42 +335,51 @@ void ResultForm::cmdPrint2_Click() { OpenPrintPanel(0); }
 
 void ResultForm::OpenPrintPanel(int report_body) {
   RunState.ReportBody = report_body;
-  ui_->SSPanel2->hide();
-  ui_->SSPanel3->show();
-  ui_->lblSubKojNa->show();
-  ui_->txtSubKojNa->show();
-  ui_->btnA4Y->setVisible(!show_ulbon_only_);
-  ui_->btnB5Y->setVisible(!show_ulbon_only_);
-  dates_->SetEnabled(true);
-  dates_->FillEmpty();
-  (show_ulbon_only_ ? ui_->btnA4T : ui_->btnA4Y)->setFocus();
+  if (range_ != nullptr) range_->setEnabled(false);
+  print_panel_->Open(PapersNow());
+}
+
+Papers ResultForm::PapersNow() const {
+  if (!tally_ran_) return Papers::none;
+  return show_ulbon_only_ ? Papers::ulbon : Papers::all;
 }
 
 void ResultForm::btnReturn_Click() {
-  ui_->SSPanel3->hide();
-  ui_->SSPanel2->show();
-  ui_->lblSubKojNa->hide();
-  ui_->txtSubKojNa->hide();
-  dates_->SetEnabled(false);
-  ui_->dbgJS->setFocus();
+  print_panel_->Close();
+  if (range_ != nullptr) range_->setEnabled(true);
+  FocusWork();
 }
 
-void ResultForm::btnA4Y_Click() { Print("btnA4Y"); }
-void ResultForm::btnA4T_Click() { Print("btnA4T"); }
-void ResultForm::btnB5Y_Click() { Print("btnB5Y"); }
+void ResultForm::btnA4Y_Click() { PrintPaper("btnA4Y"); }
+void ResultForm::btnA4T_Click() { PrintPaper("btnA4T"); }
+void ResultForm::btnB5Y_Click() { PrintPaper("btnB5Y"); }
 
-void ResultForm::Print(const char* button) {
-  if (!dates_->CheckYear()) return;
-  if (!parts_.print) return SayNotReady("印字", screen_.title);
-  parts_.print({button, show_ulbon_only_, dates_->Texts(), ui_->txtSubKojNa->text().trimmed().toStdString(),
-                Percent()});
-  btnReturn_Click();
+void ResultForm::PrintPaper(std::string_view button) {
+  if (!print_panel_->Dates().CheckYear()) return;
+  const bool printed = Print(print_panel_->Order(button, show_ulbon_only_, Percent()));
+  // The scoped screens stay in the panel, for another sheet.
+  if (printed && range_ == nullptr) btnReturn_Click();
+}
+
+bool ResultForm::Print(const PrintOrder& order) {
+  if (!parts_.print) {
+    SayNotReady("印字", screen_.title);
+    return false;
+  }
+  parts_.print(order);
+  return true;
+}
+
+void ResultForm::PrintUlbon() {
+  RunState.ReportBody = 1;
+  print_panel_->Dates().FillToday();
+  Print(print_panel_->Order("btnA4Y", true, Percent()));
 }
 
 void ResultForm::btnSettei_Click() {
   if (!parts_.open_settings) return SayNotReady("設定", screen_.title);
   parts_.open_settings();
-  dates_->FollowStyle();
+  print_panel_->Dates().FollowStyle();
   Fill();
 }
 

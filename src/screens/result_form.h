@@ -3,10 +3,13 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <QWidget>
 
+#include "screens/filter_panel.h"
+#include "screens/print_panel.h"
 #include "screens/result_screen.h"
 
 namespace Ui {
@@ -15,18 +18,24 @@ class ResultForm;
 
 namespace rbt {
 
+class RangePanel;
+
 /// A tally as a grid of diameters by weights. The user narrows it, raises the Ulbon rows by a percentage and
-/// passes on to printing, detail and accumulation. Keys work while their button can be pressed: those of the
-/// print panel when it is open, else those of the main buttons.
+/// passes on to printing, detail and accumulation. A scoped screen asks for its range first; grid and filters
+/// show once the tally has run. Keys work while their button can be pressed: those of the print panel when it
+/// is open, else those of the main buttons.
 class ResultForm : public QWidget {
  public:
-  /// Loads: binds the site, sets the selection's defaults, runs the tally and fills the grid. Throws what
-  /// keeps it from that.
+  /// Loads: binds the site, sets the selection's defaults, then runs the tally and fills the grid, or fills
+  /// the range in. Throws what keeps it from that.
   ResultForm(const ResultScreen& screen, ResultParts parts);
   ~ResultForm() override;
 
-  /// Every key of the form, of the Qt::Key enumeration.
-  static std::vector<int> Keys();
+  /// Every key of a screen, of the Qt::Key enumeration.
+  static std::vector<int> Keys(const ResultScreen& screen);
+
+  /// As Enter in the last box of a range; nothing on the bulk screen.
+  void TakeRange();
 
   void cmdPrint_Click();
   void cmdPrint2_Click();
@@ -34,6 +43,7 @@ class ResultForm : public QWidget {
   void cmdurubon_Click();
   void CmdVReturn_Click();
   void cmdMeisai_Click();
+  void cmdPGChange_Click();
   void Command1_Click();
   void Command2_Click();
   void Command3_Click();
@@ -52,34 +62,47 @@ class ResultForm : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  class Busy;
-  friend class Busy;
   struct Action;
   static const std::vector<Action>& Actions();
 
-  void Load();
-  void SetDefaults();
-  void ShowHead();
-  void LayOutGrid();
+  void TakeControls();
+  void PlaceRange();
   void ConnectControls();
   bool AnswerPress(const QKeyEvent& press);
+
+  void Load();
+  void ShowHead();
+  void LayOutGrid();
+
+  void FirstRun();
+  void RunRange();
+  void AskForRange();
+  void ResetFilters();
+  void ShowState();
+  void FocusWork();
 
   void Tally();
   void Fill();
   double Percent() const;
   void Recalculate(const std::function<void()>& change);
-  void ShowKindCaption();
-  void ShowModeCaptions();
   void ShowAvailability();
   void ShowWarning();
+
   void OpenPrintPanel(int report_body);
-  void Print(const char* button);
+  Papers PapersNow() const;
+  void PrintPaper(std::string_view button);
+  void PrintUlbon();
+  bool Print(const PrintOrder& order);
 
   ResultScreen screen_;
   ResultParts parts_;
   std::unique_ptr<Ui::ResultForm> ui_;
-  DateBoxes* dates_ = nullptr;
+  FilterPanel filters_;
+  QWidget* absent_;  ///< hidden parent of the controls that this screen does not have
+  std::unique_ptr<PrintPanel> print_panel_;
+  RangePanel* range_ = nullptr;  ///< null on the bulk screen
   bool show_ulbon_only_ = false;
+  bool tally_ran_ = false;
   bool ended_ = false;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/result_screen.h"
 
+#include "data/run_state.h"
 #include "tally/selection.h"
 
 namespace rbt {
@@ -11,6 +12,17 @@ constexpr int kAll = 15;
 constexpr int kHighStrengthBit = 4;
 
 }  // namespace
+
+void SetSelectionDefaults() {
+  constexpr std::int16_t kHighStrengthWithOthers = 2;
+  Selection.MaterialKindMask = kAll;
+  Selection.MaterialFormMask = kAll;
+  Selection.PrevMaterialKindMask = kAll;
+  Selection.IncludeUlbon = 1;
+  if (RunState.AccumulateFlag == 0) Selection.MaterialCalcChoice = kHighStrengthWithOthers;
+  Selection.HoopMode = 0;
+  Selection.AnchorPlateMode = 0;
+}
 
 bool ShowsWholePicture(bool ulbon_view) {
   const bool all_forms = Selection.MaterialFormMask == 0 || Selection.MaterialFormMask == kAll;

@@ -1,29 +1,50 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "screens/date_boxes.h"
 
-class QWidget;
-
 namespace rbt {
 
-/// What tells one result screen from another.
+/// The range that a tally asks for before it runs.
+enum class RangeKind { none, positions, shapes };
+
+/// A text that belongs to a control.
+struct ControlText {
+  std::string_view control;
+  std::string_view text;
+};
+
+/// What tells one result screen from another. Controls are named as in the layout that all share.
 struct ResultScreen {
   std::string_view name;  ///< object name of the form
   std::string_view title;
   void (*tally)();  ///< fills `TallyGrid` from the selection
+  RangeKind range = RangeKind::none;
+  std::span<const std::string_view> absent;             ///< controls that this screen does not have
+  std::span<const ControlText> captions = {};           ///< where they differ from the layout's
+  std::span<const ControlText> names = {};              ///< object names, likewise
+  std::string_view (*form_caption)(std::int32_t mask);  ///< of `MaterialFormMask`, for Label9
+  void (*before_first_run)() = nullptr;                 ///< of a range, the range standing in the selection
 };
 
-inline constexpr std::string_view kBulkTitle = "重量集計";
+extern const ResultScreen kBulkScreen;       ///< JS
+extern const ResultScreen kPageScreen;       ///< PGJS
+extern const ResultScreen kShapeScreen;      ///< KEIJOJS
+extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
+
+bool HasControl(const ResultScreen& screen, std::string_view control);
 
 /// A sheet that a paper button asks for.
 struct PrintOrder {
   std::string_view button;  ///< btnA4T, btnA4Y or btnB5Y
-  bool ulbon = false;       ///< the Ulbon report; else the comparison report of the setting 対比表項目
+  bool ulbon = false;  ///< the Ulbon report, A4 landscape whatever the button; else the comparison report of
+                       ///< the setting 対比表項目
   DateTexts date;
   std::string sub_project;
   double percent = 0.0;
@@ -38,6 +59,10 @@ struct ResultParts {
   std::function<void()> open_detail;          ///< ZAIMEI in place of the form
   std::function<void()> toggle_accumulation;  ///< of several sites
 };
+
+/// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are
+/// being added up.
+void SetSelectionDefaults();
 
 /// True for the whole picture: only that may be printed and added up across sites.
 bool ShowsWholePicture(bool ulbon_view);

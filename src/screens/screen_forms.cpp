@@ -4,14 +4,12 @@
 #include <QLineEdit>
 
 #include "screens/result_form.h"
-#include "tally/bulk_tally.h"
-#include "tally/tally_grid.h"
+#include "screens/selection_dialogs.h"
+#include "shell/settings_forms/settings_forms.h"
 
 namespace rbt {
 
 namespace {
-
-constexpr ResultScreen kBulkScreen{"JS", kBulkTitle, Jyuuryo_Syukei};
 
 ResultForm& ResultFormOf(QWidget& form) { return static_cast<ResultForm&>(form); }
 
@@ -32,16 +30,52 @@ std::vector<FormState> BulkStates() {
           {"hoops-left-out", [](QWidget& form) { ResultFormOf(form).cmdHoop_Click(); }}};
 }
 
+void RunTheRange(QWidget& form) { ResultFormOf(form).TakeRange(); }
+
+std::vector<FormState> ScopedStates() {
+  return {{"input", [](QWidget&) {}},
+          {"input-print-panel", [](QWidget& form) { ResultFormOf(form).cmdPrint_Click(); }},
+          {"result", RunTheRange},
+          {"print-panel",
+           [](QWidget& form) {
+             RunTheRange(form);
+             ResultFormOf(form).cmdPrint_Click();
+           }},
+          {"hoops-left-out", [](QWidget& form) {
+             RunTheRange(form);
+             ResultFormOf(form).cmdHoop_Click();
+           }}};
+}
+
+std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
+  ResultParts parts;
+  parts.choose_kinds = ChooseKinds;
+  parts.choose_forms = ChooseForms;
+  parts.open_settings = OpenSettings;
+  return std::make_unique<ResultForm>(screen, std::move(parts));
+}
+
+FormEntry Entry(const ResultScreen& screen, std::unique_ptr<QWidget> (*make)(), std::string first_focus,
+                std::vector<FormState> states) {
+  return {.name = std::string(screen.name),
+          .make = make,
+          .first_focus = std::move(first_focus),
+          .keys = ResultForm::Keys(screen),
+          .states = std::move(states)};
+}
+
 }  // namespace
 
-std::unique_ptr<QWidget> MakeJS() { return std::make_unique<ResultForm>(kBulkScreen, ResultParts()); }
+std::unique_ptr<QWidget> MakeJS() { return Make(kBulkScreen); }
+std::unique_ptr<QWidget> MakePGJS() { return Make(kPageScreen); }
+std::unique_ptr<QWidget> MakeKEIJOJS() { return Make(kShapeScreen); }
+std::unique_ptr<QWidget> MakePKEIJOJS() { return Make(kPageShapeScreen); }
 
 std::vector<FormEntry> ScreenForms() {
-  return {{.name = "JS",
-           .make = MakeJS,
-           .first_focus = "dbgJS",
-           .keys = ResultForm::Keys(),
-           .states = BulkStates()}};
+  return {Entry(kBulkScreen, MakeJS, "dbgJS", BulkStates()),
+          Entry(kPageScreen, MakePGJS, "txtStartPage", ScopedStates()),
+          Entry(kShapeScreen, MakeKEIJOJS, "txtStartKeijouNo", ScopedStates()),
+          Entry(kPageShapeScreen, MakePKEIJOJS, "txtStartPage", ScopedStates())};
 }
 
 }  // namespace rbt

@@ -8,8 +8,11 @@
 
 namespace rbt {
 
-/// The bulk result screen `JS`, made and loaded.
+/// The result screens, made and loaded: bulk, page and line, shape, shape by page and line.
 std::unique_ptr<QWidget> MakeJS();
+std::unique_ptr<QWidget> MakePGJS();
+std::unique_ptr<QWidget> MakeKEIJOJS();
+std::unique_ptr<QWidget> MakePKEIJOJS();
 
 /// The result screens, for the walk through all forms and the pictures.
 std::vector<FormEntry> ScreenForms();

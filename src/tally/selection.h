@@ -19,6 +19,10 @@ struct SelectionData {
   std::int32_t AnchorPlateMode = 0;  ///< anchor-plate shapes: 0 included, 1 left out, 2 only
   std::int32_t ShapeStart = 0;       ///< first and last 形状No of the shape tally
   std::int32_t ShapeEnd = 0;
+  std::int16_t StartPage = 0;  ///< first and last 頁 and 行 of the page tallies
+  std::int16_t StartLine = 0;
+  std::int16_t EndPage = 0;
+  std::int16_t EndLine = 0;
 };
 
 extern SelectionData Selection;

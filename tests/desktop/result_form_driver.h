@@ -13,7 +13,6 @@
 #include "screens/result_form.h"
 #include "shell/startup/startup.h"
 #include "support/site_fixture.h"
-#include "tally/bulk_tally.h"
 
 namespace rbt::test {
 
@@ -38,10 +37,10 @@ class ResultFormDriver {
             {"圧接", welds}};
   }
 
-  void Open() {
+  void Open(const ResultScreen& screen = kBulkScreen) {
     LoadSite(options_);
     ActivateMenu(options_);
-    form = std::make_unique<ResultForm>(ResultScreen{"JS", kBulkTitle, Jyuuryo_Syukei}, parts);
+    form = std::make_unique<ResultForm>(screen, parts);
     form->show();
     form->activateWindow();
     Settle();

@@ -305,7 +305,7 @@ TEST(BulkScreen, AnAccumulationUnderWayIsTold) {
   js.Open();
   RunState.AccumulateFlag = 1;
   Selection.MaterialCalcChoice = 1;
-  js.form = std::make_unique<ResultForm>(ResultScreen{"JS", kBulkTitle, Jyuuryo_Syukei}, js.parts);
+  js.form = std::make_unique<ResultForm>(kBulkScreen, js.parts);
   js.form->show();
   EXPECT_TRUE(js.Shows("hozon"));
   EXPECT_EQ(js.Label("hozon"), "集計累積保存中解除はＦ６を押す");
