@@ -53,6 +53,7 @@ bool RangePanel::Passes(std::size_t box) {
 }
 
 void RangePanel::TakeRange() {
+  if (boxes_.empty() || boxes_.front()->isHidden()) return;
   for (std::size_t box = 0; box < boxes_.size(); ++box) {
     if (!Passes(box)) return;
   }

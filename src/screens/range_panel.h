@@ -32,6 +32,7 @@ class RangePanel : public QFrame {
   /// Puts the focus on a box and selects it. False when the panel has none to fill in.
   bool FocusBox(std::size_t box);
   /// As Enter in the last box: all tests once more, since Tab and the mouse pass boxes by.
+  /// Nothing when there is no range to take.
   void TakeRange();
 
   bool eventFilter(QObject* receiver, QEvent* event) override;

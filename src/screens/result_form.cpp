@@ -253,6 +253,7 @@ void ResultForm::ShowAvailability() {
   const bool whole = ShowsWholePicture(show_ulbon_only_);
   if (range_ != nullptr) ui_->cmdurubon->setVisible(whole);  // prints there
   for (QPushButton* button : {ui_->Command6, ui_->cmdPrint, ui_->cmdPrint2}) button->setVisible(whole);
+  if (print_panel_->IsOpen()) print_panel_->OfferPapers(PapersNow());
 }
 
 void ResultForm::Command1_Click() {
@@ -340,7 +341,7 @@ void ResultForm::OpenPrintPanel(int report_body) {
 }
 
 Papers ResultForm::PapersNow() const {
-  if (!tally_ran_) return Papers::none;
+  if (!tally_ran_ || !ShowsWholePicture(false)) return Papers::none;
   return show_ulbon_only_ ? Papers::ulbon : Papers::all;
 }
 

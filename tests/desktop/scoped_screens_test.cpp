@@ -565,6 +565,22 @@ TEST(ScopedScreens, ANarrowedTallyCannotBePrintedUntilItIsWholeAgain) {
   }
 }
 
+TEST(ScopedScreens, ATallyNarrowedWhileThePanelIsOpenCannotBePrinted) {
+  Scoped js(kPageScreen);
+  int prints = 0;
+  js.parts.print = [&](const PrintOrder&) { ++prints; };
+  js.Start();
+  js.Run();
+  js.Key(Qt::Key_F1);
+  js.Click("cmdTei");
+  js.Key(Qt::Key_F1);
+  EXPECT_EQ(prints, 0);
+  js.Click("cmdTei");
+  js.Click("cmdTei");
+  js.Key(Qt::Key_F1);
+  EXPECT_EQ(prints, 1);
+}
+
 TEST(ScopedScreens, PrintFromThePanelAndStayThere) {
   for (const ResultScreen* screen : kScopedScreens) {
     Scoped js(*screen);
