@@ -162,6 +162,7 @@ TEST_F(SettingsForm, OpensOnStoredAndOnCachedValues) {
     EXPECT_TRUE(Option(option).isChecked()) << option;
   }
   EXPECT_FALSE(Hoops().isChecked());
+  EXPECT_FALSE(Button("cmdSetColor").isEnabled());
   EXPECT_EQ(Focused(), "optNenGou");
 }
 
