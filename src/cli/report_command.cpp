@@ -94,8 +94,9 @@ void UsePdfDevice(const ReportOptions& options) {
 #endif
   std::list<PrinterSurface> printers;
   printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
-                        [options](const PrintedDocument& document) {
-                          if (!options.trace.empty()) WriteFileAtomically(options.trace, TraceText(document));
+                        [options, trace = std::string()](const PrintedDocument& document) mutable {
+                          trace += TraceText(document);
+                          if (!options.trace.empty()) WriteFileAtomically(options.trace, trace);
                           if (!options.pdf.empty()) WritePdf(document, options.pdf);
                         });
   SetPrinters(PrinterList(std::move(printers)));
