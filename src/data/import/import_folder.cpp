@@ -114,15 +114,25 @@ class FolderInWork {
   fs::path root_;
 };
 
-/// The files of a folder by their names in lower case. Two names that differ in letter case only throw: to
+/// File names are the same without regard to the case of ASCII letters; full-width letters are themselves.
+struct NameLess {
+  static char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+  bool operator()(const std::string& a, const std::string& b) const {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return Fold(x) < Fold(y); });
+  }
+};
+using FilesByName = std::map<std::string, fs::path, NameLess>;
+
+/// The files of a folder. Two names that differ in letter case only throw: to
 /// the program they are one.
-std::map<std::string, fs::path> FilesOf(const fs::path& folder) {
-  std::map<std::string, fs::path> files;
+FilesByName FilesOf(const fs::path& folder) {
+  FilesByName files;
   std::error_code error;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
     if (!entry.is_regular_file()) continue;
     const std::string name = entry.path().filename().string();
-    const auto [other, fresh] = files.emplace(FoldIdentifier(name), entry.path());
+    const auto [other, fresh] = files.emplace(name, entry.path());
     if (!fresh) {
       throw FileFaultText(folder, fmt::format("{} and {} are one name to the program", name,
                                               other->second.filename().string()));
@@ -138,7 +148,7 @@ class FolderImport {
       : source_(data_folder), target_(root / "DATA"), files_(FilesOf(data_folder)), work_(root) {}
 
   FolderReport Run() {
-    for (const auto& [folded, file] : files_) Take(file);
+    for (const auto& [name, file] : files_) Take(file);
     for (const std::string_view name : kIniFiles) RequireIni(name);
     RequireCompanions();
     MakeFixedStock();
@@ -152,7 +162,7 @@ class FolderImport {
 
   /// The name as the folder spells it, or as it is given when the folder has none.
   std::string OwnName(std::string_view name) const {
-    const auto found = files_.find(FoldIdentifier(name));
+    const auto found = files_.find(std::string(name));
     return found == files_.end() ? std::string(name) : found->second.filename().string();
   }
 
@@ -226,8 +236,7 @@ class FolderImport {
   /// A site needs its companion; one made up would be one without spirals.
   void RequireCompanions() {
     if (!Has(kMaster)) throw FileFaultText(source_ / kMaster, "the master database is missing");
-    for (const auto& [folded, file] : files_) {
-      const std::string name = file.filename().string();
+    for (const auto& [name, file] : files_) {
       if (name.size() <= kSitePrefix.size() || KnownByName(name) == nullptr ||
           !EqualIgnoringCase(name.substr(0, kSitePrefix.size()), kSitePrefix)) {
         continue;
@@ -264,7 +273,7 @@ class FolderImport {
 
   fs::path source_;
   fs::path target_;
-  std::map<std::string, fs::path> files_;
+  FilesByName files_;
   FolderInWork work_;
   FolderReport report_;
 };

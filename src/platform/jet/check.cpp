@@ -147,8 +147,9 @@ class Checker {
       const PhysicalIndex& physical = table.physical_indexes[i];
       const std::string name = fmt::format("{}, index {}", what, IndexName(table, i));
       Guard(name, [&] {
-        const IndexWalk walk = CheckIndex(file_, table, physical, rows,
-                                          [&](const std::string& text) { Damage(name + ": " + text); });
+        const IndexWalk walk = CheckIndex(file_, table, physical, rows, [&](const std::string& text) {
+          Damage(fmt::format("{}: {}", name, text));
+        });
         for (const std::uint32_t page : walk.pages) owners_.Own(page, name);
         const std::vector<std::uint32_t> mapped = OwnPagesOf(physical.usage, name);
         for (const std::uint32_t page : walk.pages) {

@@ -95,7 +95,7 @@ constexpr Layout kJet4{.page_size = 4096,
 /// RC4 over part of the header, with the key that every file shares.
 void DecodeHeader(std::span<unsigned char> coded) {
   constexpr std::array<unsigned char, 4> kKey{0xC7, 0xDA, 0x39, 0x6B};
-  std::array<unsigned char, 256> state;
+  std::array<unsigned char, 256> state{};
   std::iota(state.begin(), state.end(), static_cast<unsigned char>(0));
   unsigned j = 0;
   for (unsigned i = 0; i < 256; ++i) {

@@ -59,7 +59,10 @@ struct RowPointer {
   std::uint32_t page = 0;
   std::uint8_t slot = 0;
 
-  friend auto operator<=>(const RowPointer&, const RowPointer&) = default;
+  friend bool operator==(const RowPointer&, const RowPointer&) = default;
+  friend bool operator<(const RowPointer& a, const RowPointer& b) {
+    return a.page != b.page ? a.page < b.page : a.slot < b.slot;
+  }
 };
 
 /// As it stands in usage-map references and long values: slot in the low byte, page above it.
