@@ -193,15 +193,13 @@ std::vector<Value> DecodeRow(JetFile& file, const TableDefinition& table, const 
   std::vector<Value> values;
   values.reserve(table.columns.size());
   for (const Column& column : table.columns) {
-    const bool there = column.number < shape.Columns();
-    const bool bit = there && shape.Bit(column.number);
+    // A row is null in columns that came later than itself.
+    const bool bit = column.number < shape.Columns() && shape.Bit(column.number);
     if (column.type == ColumnType::boolean) {
       values.emplace_back(std::in_place_type<std::int64_t>, bit ? -1 : 0);
-    } else if (!bit) {
-      values.emplace_back();
-    } else if (column.fixed) {
+    } else if (bit && column.fixed) {
       values.push_back(DecodeField(file, column, shape.Fixed(column.fixed_offset, FixedLength(column))));
-    } else if (shape.HasSlot(column.variable_slot)) {
+    } else if (bit && shape.HasSlot(column.variable_slot)) {
       values.push_back(DecodeField(file, column, shape.Variable(column.variable_slot)));
     } else {
       values.emplace_back();
