@@ -11,7 +11,7 @@ namespace rbt::jet {
 namespace {
 
 constexpr std::size_t kMostColumns = 255;
-constexpr std::size_t kMostIndexes = 32 * 8;
+constexpr std::size_t kMostIndexes = 256;
 constexpr std::uint8_t kFixed = 1;
 constexpr std::uint8_t kNullable = 2;
 constexpr std::uint8_t kAutonumber = 4;
@@ -118,7 +118,7 @@ class Reader {
       prefix = 2;
     }
     if (length == 0 || length > 128) view_.Damaged(fmt::format("a name of {} bytes", length));
-    const std::string name = file_.TextOfBytes(view_.Part(at_ + prefix, length).Bytes()).text;
+    std::string name = file_.TextOfBytes(view_.Part(at_ + prefix, length).Bytes()).text;
     at_ += prefix + length;
     return name;
   }
