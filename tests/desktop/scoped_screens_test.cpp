@@ -7,6 +7,7 @@
 #include "desktop/result_form_driver.h"
 #include "shell/config/setting_keys.h"
 #include "shell/config/settings.h"
+#include "shell/menu/screens.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -414,6 +415,17 @@ TEST(ShapeScreen, AnEmptyScheduleTalliesToZero) {
   EXPECT_EQ(js.Number("txtStartKeijouNo"), "0");
   js.Run();
   EXPECT_EQ(js.Row("総　　合　　計"), "0 kg|0 kg||||");
+}
+
+TEST(ScopedScreens, OpenFromTheMenuUnderTheirNames) {
+  const SiteFixture site;
+  int opened = 0;
+  for (const MenuScreen& row : MenuScreens()) {
+    if (!row.form.ends_with("JS") || row.make == nullptr) continue;
+    EXPECT_EQ(row.make()->objectName().toStdString(), row.form);
+    ++opened;
+  }
+  EXPECT_GE(opened, 4);
 }
 
 TEST(ScopedScreens, HaveTheirTitlesAndButtons) {
