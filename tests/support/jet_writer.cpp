@@ -22,8 +22,12 @@ using jet::RowPointer;
 
 constexpr std::size_t kNoOffset = 0;
 
+/// Little-endian; bytes beyond the eighth are zero.
 void Put(Bytes& bytes, std::uint64_t value, std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) bytes.push_back(static_cast<unsigned char>(value >> (8 * i)));
+  for (std::size_t i = 0; i < count; ++i) {
+    bytes.push_back(static_cast<unsigned char>(value));
+    value >>= 8;
+  }
 }
 
 void PutAt(Bytes& bytes, std::size_t at, std::uint64_t value, std::size_t count) {

@@ -80,8 +80,8 @@ std::vector<unsigned char> ReadLongValue(JetFile& file, const PageView& field) {
   const std::size_t length = field.U24(0);
   const std::uint8_t sort = field.U8(3);
   if ((sort & kInlineValue) != 0) {
-    const auto bytes = field.Part(kLongValueHead, field.size() - kLongValueHead).Bytes();
-    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(std::min(length, bytes.size()))};
+    const auto bytes = field.Part(kLongValueHead, length).Bytes();
+    return {bytes.begin(), bytes.end()};
   }
   std::vector<unsigned char> value;
   std::set<RowPointer> seen;
