@@ -36,6 +36,7 @@ std::int32_t PaperCodeOfKind(std::int32_t paper_kind) {
 }
 
 void Set_Printer(std::int32_t Orientation, std::int32_t PaperKind) {
+  RefreshPrinters();
   const PrinterSurface& before = Printers().Current();
   SavedPrinter.SavedDeviceName = before.DeviceName();
   SavedPrinter.SavedPaperSize = before.PaperSize;

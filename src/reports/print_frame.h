@@ -34,6 +34,8 @@ extern SavedPrinterData SavedPrinter;
 /// Makes the printer of the setting 集計用ドライバ名 current, for this program only, and sets orientation (1
 /// portrait, 2 landscape, others leave it) and paper. When no printer bears that name, the current one stays,
 /// paper and orientation untouched; only the PDF device answers to any name. `SavedPrinter` keeps what was.
+/// Printers that came or went since the last report are seen here, and nowhere between here and
+/// `Reset_Printer`.
 void Set_Printer(std::int32_t Orientation, std::int32_t PaperKind);
 /// Brings back the printer and its paper. The orientation is not put back: a printer that printed landscape
 /// stays so until the next `Set_Printer`.

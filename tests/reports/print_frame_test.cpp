@@ -136,6 +136,17 @@ TEST_F(PrintFrame, OfACustomPaperOnlyItsEmptySidesAreWrittenBack) {
   EXPECT_EQ(printer.PageWidth, 0);
 }
 
+TEST_F(PrintFrame, APrinterThatCameSinceTheStartAnswersToItsName) {
+  SetPrinterSource([this] { return PrinterList(Installed()); });
+  UsePdfAlone();
+  Settings.TallyPrinter = "乙";
+  Set_Printer(2, 2);
+  SetPrinterSource({});
+  EXPECT_EQ(SavedPrinter.SavedDeviceName, "甲");
+  EXPECT_EQ(Printers().Current().DeviceName(), "乙");
+  EXPECT_EQ(Printers().Current().Orientation, kLandscape);
+}
+
 TEST_F(PrintFrame, AReportThatFaultsPrintsNothingAndThePrinterIsPutBack) {
   Settings.TallyPrinter = "乙";
   const auto faulty = [](PrinterSurface& Printer) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <list>
 #include <string_view>
 
@@ -20,6 +20,10 @@ class PrinterList {
   PrinterSurface& Current() { return *current_; }
   /// Makes the first printer of that name current; false, and nothing changed, when there is none.
   bool MakeCurrent(std::string_view device_name);
+  /// Takes over which printers there are `now`, in their order. A printer that stays (name and kind) keeps
+  /// its paper, its pen and what is drawn on it; references to one that went are void. The current printer
+  /// stays current, unless it went or was the PDF device for want of any printer: then the first is.
+  void Update(PrinterList now);
 
  private:
   // A list, so that a printer stays where it is while the list moves.
@@ -32,5 +36,12 @@ class PrinterList {
 PrinterList& Printers();
 /// Returns the list that was in force.
 PrinterList SetPrinters(PrinterList printers);
+
+/// Tells which printers there are now.
+using PrinterSource = std::function<PrinterList()>;
+/// From where `RefreshPrinters` brings the list in force up to date. The source is not asked before, so that
+/// a start never waits for a print server. An empty source leaves the list as it is.
+void SetPrinterSource(PrinterSource source);
+void RefreshPrinters();
 
 }  // namespace rbt
