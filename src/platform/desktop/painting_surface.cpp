@@ -93,13 +93,6 @@ class PagePainter {
   QPainter& painter_;
 };
 
-QPageSize PageSizeOf(std::int32_t paper_code) {
-  for (const QtPaper& paper : kQtPapers) {
-    if (paper.code == paper_code) return QPageSize(paper.size);
-  }
-  return QPageSize(QPageSize::A4);
-}
-
 /// Fonts need an application; the command line has none until its first page.
 void RequireApplication() {
   if (QCoreApplication::instance() != nullptr) return;
@@ -120,19 +113,27 @@ void PaintPage(QPainter& painter, const PrintedPage& page) {
   for (const auto& operation : page) std::visit(page_painter, operation);
 }
 
+QPageSize PageSizeOf(std::int32_t paper_code) {
+  for (const QtPaper& paper : kQtPapers) {
+    if (paper.code == paper_code) return QPageSize(paper.size);
+  }
+  return QPageSize(QPageSize::A4);
+}
+
 void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document) {
   const auto orientation =
       document.orientation == kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait;
   device.setPageLayout(QPageLayout(PageSizeOf(document.paper_code), orientation, QMarginsF(0, 0, 0, 0)));
 }
 
-void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document) {
+void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin) {
   QPainter painter;
   if (!painter.begin(&device)) {
     throw Fault(FaultKind::file, document.device_name + ": the device cannot be painted on");
   }
   painter.scale(device.logicalDpiX() / static_cast<double>(kTwipsPerInch),
                 device.logicalDpiY() / static_cast<double>(kTwipsPerInch));
+  painter.translate(origin);
   bool first = true;
   for (const PrintedPage& page : document.pages) {
     if (!first && !device.newPage()) {

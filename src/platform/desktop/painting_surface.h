@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+
+#include <QPageSize>
+#include <QPointF>
 
 #include "platform/print/printed_document.h"
 
@@ -14,10 +18,13 @@ namespace rbt {
 /// character stands in its own cell of the fixed metrics, whatever font gives its shape.
 void PaintPage(QPainter& painter, const PrintedPage& page);
 
+/// The sheet of a paper code; A4 for a code that `kPapers` lacks.
+QPageSize PageSizeOf(std::int32_t paper_code);
 /// Sets paper and orientation of a printer or PDF writer, without margins of its own.
 void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document);
-/// Paints all pages on a device that is set up. A device that cannot be painted on throws `file`.
-void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document);
+/// Paints all pages on a device that is set up, their top left corner at `origin` (twips from the sheet's). A
+/// device that cannot be painted on throws `file`.
+void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin = {});
 
 /// Writes a PDF file, all of it or nothing; throws `file`. The sheet's corner is the origin. Needs no display
 /// and no running application: where there is none yet, one without windows is made.

@@ -2,6 +2,7 @@
 #include "platform/print/paper.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace rbt {
@@ -10,6 +11,15 @@ const PaperRow* FindPaper(std::int32_t code) {
   const auto* found =
       std::find_if(kPapers.begin(), kPapers.end(), [&](const PaperRow& row) { return row.code == code; });
   return found == kPapers.end() ? nullptr : found;
+}
+
+std::int32_t PaperCodeOfSheet(double width_mm, double height_mm) {
+  constexpr double kTolerance = 1.0;
+  const auto* found = std::find_if(kPapers.begin(), kPapers.end(), [&](const PaperRow& row) {
+    return std::abs(row.width_mm - width_mm) <= kTolerance &&
+           std::abs(row.height_mm - height_mm) <= kTolerance;
+  });
+  return found == kPapers.end() ? kCustomPaper : found->code;
 }
 
 SheetSize SheetOf(std::int32_t paper_code, std::int32_t orientation) {

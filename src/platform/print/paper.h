@@ -41,6 +41,9 @@ struct SheetSize {
 
 /// The row of a paper code, null for a code that the table lacks.
 const PaperRow* FindPaper(std::int32_t code);
+/// The code of a sheet of these sides, as it lies in portrait; systems round them in several ways, a
+/// millimetre is let pass. `kCustomPaper` for a sheet that the table lacks.
+std::int32_t PaperCodeOfSheet(double width_mm, double height_mm);
 /// The sheet as it is printed on: landscape lies on its long side. A code that the table lacks is taken as
 /// A4.
 SheetSize SheetOf(std::int32_t paper_code, std::int32_t orientation);

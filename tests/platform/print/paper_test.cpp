@@ -31,5 +31,17 @@ TEST(Paper, AnUnknownCodeIsTakenAsA4) {
   EXPECT_EQ(SheetOf(kCustomPaper, kPortrait).width, SheetOf(kPaperA4, kPortrait).width);
 }
 
+// Print systems reckon in whole points: 518 x 727 of them for B5.
+TEST(Paper, ASheetOfRoundedSidesHasItsCode) {
+  EXPECT_EQ(PaperCodeOfSheet(182, 257), kPaperB5);
+  EXPECT_EQ(PaperCodeOfSheet(518 * 25.4 / 72, 727 * 25.4 / 72), kPaperB5);
+  EXPECT_EQ(PaperCodeOfSheet(209.9, 297.04), kPaperA4);
+}
+
+TEST(Paper, TheB5OfOtherCountriesAndASheetOnItsSideAreCustomPaper) {
+  EXPECT_EQ(PaperCodeOfSheet(176, 250), kCustomPaper);
+  EXPECT_EQ(PaperCodeOfSheet(297, 210), kCustomPaper);
+}
+
 }  // namespace
 }  // namespace rbt
