@@ -87,19 +87,31 @@ std::optional<DateTexts> TypedDate(const std::string& date) {
                    date.substr(second + 1)};
 }
 
-/// A report goes to the PDF device, whatever printers there are.
-void UsePdfDevice(const ReportOptions& options) {
+using Documents = std::vector<PrintedDocument>;
+
+/// A report goes to the PDF device, whatever printers there are; returns where the documents that it ends
+/// come to stand.
+std::shared_ptr<const Documents> UsePdfDevice() {
+  auto ended = std::make_shared<Documents>();
 #ifdef RBTALLY_PAINTS_PDF
   SetPdfWriter(PaintPdf);
 #endif
   std::list<PrinterSurface> printers;
   printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
-                        [options, trace = std::string()](const PrintedDocument& document) mutable {
-                          trace += TraceText(document);
-                          if (!options.trace.empty()) WriteFileAtomically(options.trace, trace);
-                          if (!options.pdf.empty()) WritePdf(document, options.pdf);
-                        });
+                        [ended](const PrintedDocument& document) { ended->push_back(document); });
   SetPrinters(PrinterList(std::move(printers)));
+  return ended;
+}
+
+/// All documents of a report stand in one file, one after the other.
+void WriteDocuments(const Documents& documents, const ReportOptions& options) {
+  if (documents.empty()) return;
+  if (!options.trace.empty()) {
+    std::string trace;
+    for (const PrintedDocument& document : documents) trace += TraceText(document);
+    WriteFileAtomically(options.trace, trace);
+  }
+  if (!options.pdf.empty()) WritePdf(documents, options.pdf);
 }
 
 void RunReport(const ReportOptions& options) {
@@ -107,7 +119,7 @@ void RunReport(const ReportOptions& options) {
   if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
   FillTallyGrid(options.tally, options.common, options.selection);
   RunState.ReportBody = options.body;
-  UsePdfDevice(options);
+  const std::shared_ptr<const Documents> documents = UsePdfDevice();
 
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
   const ReportArguments arguments{options.sub_project, date.year,      date.month, date.day,
@@ -116,6 +128,7 @@ void RunReport(const ReportOptions& options) {
                                          [&](const ReportForm& row) { return row.name == options.name; });
   PrintReport(form.orientation, form.paper_kind,
               [&](PrinterSurface& Printer) { form.draw(Printer, arguments); });
+  WriteDocuments(*documents, options);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 #include <QBuffer>
@@ -93,6 +94,43 @@ class PagePainter {
   QPainter& painter_;
 };
 
+/// Paints one page after the other on a device; the sheet of the first is set up before.
+class DevicePainter {
+ public:
+  /// The pages' corner at `origin`, in twips from the sheet's.
+  DevicePainter(QPagedPaintDevice& device, std::string name, const QPointF& origin = {})
+      : device_(device), name_(std::move(name)), origin_(origin) {}
+
+  void Paint(const PrintedPage& page) {
+    if (!painter_.isActive()) {
+      Begin();
+    } else if (!device_.newPage()) {
+      throw Fault(FaultKind::file, name_ + ": no further page can be started");
+    }
+    PaintPage(painter_, page);
+  }
+  void End() {
+    if (painter_.isActive() && !painter_.end()) {
+      throw Fault(FaultKind::file, name_ + ": the document cannot be ended");
+    }
+  }
+
+ private:
+  void Begin() {
+    if (!painter_.begin(&device_)) {
+      throw Fault(FaultKind::file, name_ + ": the device cannot be painted on");
+    }
+    painter_.scale(device_.logicalDpiX() / static_cast<double>(kTwipsPerInch),
+                   device_.logicalDpiY() / static_cast<double>(kTwipsPerInch));
+    painter_.translate(origin_);
+  }
+
+  QPagedPaintDevice& device_;
+  std::string name_;
+  QPointF origin_;
+  QPainter painter_;
+};
+
 /// Fonts need an application; the command line has none until its first page.
 void RequireApplication() {
   if (QCoreApplication::instance() != nullptr) return;
@@ -127,25 +165,12 @@ void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document) {
 }
 
 void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin) {
-  QPainter painter;
-  if (!painter.begin(&device)) {
-    throw Fault(FaultKind::file, document.device_name + ": the device cannot be painted on");
-  }
-  painter.scale(device.logicalDpiX() / static_cast<double>(kTwipsPerInch),
-                device.logicalDpiY() / static_cast<double>(kTwipsPerInch));
-  painter.translate(origin);
-  bool first = true;
-  for (const PrintedPage& page : document.pages) {
-    if (!first && !device.newPage()) {
-      throw Fault(FaultKind::file, document.device_name + ": no further page can be started");
-    }
-    first = false;
-    PaintPage(painter, page);
-  }
-  if (!painter.end()) throw Fault(FaultKind::file, document.device_name + ": the document cannot be ended");
+  DevicePainter painter(device, document.device_name, origin);
+  for (const PrintedPage& page : document.pages) painter.Paint(page);
+  painter.End();
 }
 
-void PaintPdf(const PrintedDocument& document, const std::filesystem::path& file) {
+void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file) {
   RequireApplication();
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
@@ -153,9 +178,15 @@ void PaintPdf(const PrintedDocument& document, const std::filesystem::path& file
     QPdfWriter writer(&bytes);
     writer.setCreator(QStringLiteral("rbtally"));
     writer.setResolution(kTwipsPerInch);
-    SetUpSheet(writer, document);
-    PaintDocument(writer, document);
+    DevicePainter painter(writer, file.string());
+    for (const PrintedDocument& document : documents) {
+      // A writer takes a new sheet with the page that comes next.
+      SetUpSheet(writer, document);
+      for (const PrintedPage& page : document.pages) painter.Paint(page);
+    }
+    painter.End();
   }
+  if (bytes.size() == 0) throw Fault(FaultKind::file, file.string() + ": there is no page to write");
   WriteFileAtomically(file,
                       std::string_view(bytes.data().constData(), static_cast<std::size_t>(bytes.size())));
 }

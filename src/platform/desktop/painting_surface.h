@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <span>
 
 #include <QPageSize>
 #include <QPointF>
@@ -26,8 +27,9 @@ void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document);
 /// device that cannot be painted on throws `file`.
 void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin = {});
 
-/// Writes a PDF file, all of it or nothing; throws `file`. The sheet's corner is the origin. Needs no display
+/// Writes the pages of all documents into one PDF file, each on its own document's paper, all of it or
+/// nothing; throws `file`, also where there is no page. The sheet's corner is the origin. Needs no display
 /// and no running application: where there is none yet, one without windows is made.
-void PaintPdf(const PrintedDocument& document, const std::filesystem::path& file);
+void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file);
 
 }  // namespace rbt

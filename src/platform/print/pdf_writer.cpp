@@ -20,11 +20,11 @@ void SetPdfWriter(PdfWriter writer) { Writer() = std::move(writer); }
 
 bool CanWritePdf() { return static_cast<bool>(Writer()); }
 
-void WritePdf(const PrintedDocument& document, const std::filesystem::path& file) {
+void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file) {
   if (!CanWritePdf()) {
     throw Fault(FaultKind::file, file.string() + ": PDF is not available, this program was built without it");
   }
-  Writer()(document, file);
+  Writer()(documents, file);
 }
 
 }  // namespace rbt

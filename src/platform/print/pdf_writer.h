@@ -3,18 +3,21 @@
 
 #include <filesystem>
 #include <functional>
+#include <span>
 
 #include "platform/print/printed_document.h"
 
 namespace rbt {
 
-/// Paints a document into a PDF file: all of it, or the file stays as it was. Throws `file`.
-using PdfWriter = std::function<void(const PrintedDocument& document, const std::filesystem::path& file)>;
+/// Paints documents into one PDF file, each on its own paper: all of it, or the file stays as it was. Throws
+/// `file`.
+using PdfWriter =
+    std::function<void(std::span<const PrintedDocument> documents, const std::filesystem::path& file)>;
 
 /// What `WritePdf` calls: the desktop library paints, the core only knows that it can be done.
 void SetPdfWriter(PdfWriter writer);
 bool CanWritePdf();
 /// Throws `file` where nothing can paint.
-void WritePdf(const PrintedDocument& document, const std::filesystem::path& file);
+void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file);
 
 }  // namespace rbt
