@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/text/characters.h"
+#include "platform/text/csv.h"
 
 namespace rbt {
 namespace {
@@ -34,11 +35,6 @@ std::string WithoutThousandsSeparators(std::string_view cell) {
   return text;
 }
 
-std::string CsvCell(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  return '"' + ReplaceAll(text, "\"", "\"\"") + '"';
-}
-
 template <typename Cells, typename CellText>
 void AppendRecord(std::string& csv, const Cells& cells, CellText cell_text) {
   bool first = true;
@@ -47,7 +43,7 @@ void AppendRecord(std::string& csv, const Cells& cells, CellText cell_text) {
     csv += CsvCell(cell_text(cell));
     first = false;
   }
-  csv += "\r\n";
+  csv += kCsvRecordEnd;
 }
 
 }  // namespace

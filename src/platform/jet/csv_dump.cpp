@@ -6,18 +6,14 @@
 
 #include <fmt/format.h>
 
+#include "platform/text/csv.h"
+
 namespace rbt::jet {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-
-std::string Quoted(std::string_view text) {
-  if (!text.empty() && text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  std::string quoted = "\"";
-  for (const char c : text) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return quoted + "\"";
-}
+/// The empty text is told from null.
+std::string TextCell(const std::string& text) { return text.empty() ? "\"\"" : CsvCell(text); }
 
 /// Day 0 is 1899-12-30; the fraction of a day before it counts forward all the same.
 std::string DateText(double days) {
@@ -48,27 +44,28 @@ std::string Cell(const Column& column, const Value& value) {
   if (column.type == ColumnType::date_time) return DateText(std::get<double>(value));
   if (column.type == ColumnType::single)
     return fmt::format("{}", static_cast<float>(std::get<double>(value)));
-  return Quoted(TextOf(value));
+  return TextCell(TextOf(value));
 }
 
 }  // namespace
 
 void DumpTables(JetFile& file, const TextSink& sink) {
   sink("table,rows,columns");
-  sink(kLineEnd);
+  sink(kCsvRecordEnd);
   for (const CatalogEntry& entry : ReadCatalog(file)) {
     if (entry.kind != CatalogEntry::Kind::table || entry.system) continue;
     const TableDefinition table = ReadTableDefinition(file, entry.id & 0xFFFFFF);
-    sink(fmt::format("{},{},{}{}", Quoted(entry.name), table.row_count, table.columns.size(), kLineEnd));
+    sink(
+        fmt::format("{},{},{}{}", CsvCell(entry.name), table.row_count, table.columns.size(), kCsvRecordEnd));
   }
 }
 
 std::string DumpRows(JetFile& file, std::string_view name, const TextSink& sink) {
   const TableDefinition table = FindTable(file, name);
   std::string line;
-  for (const Column& column : table.columns) line += (line.empty() ? "" : ",") + Quoted(column.name);
+  for (const Column& column : table.columns) line += (line.empty() ? "" : ",") + CsvCell(column.name);
   sink(line);
-  sink(kLineEnd);
+  sink(kCsvRecordEnd);
   return ScanTable(file, table,
                    [&](RowPointer, std::vector<Value>& fields) {
                      line.clear();
@@ -76,7 +73,7 @@ std::string DumpRows(JetFile& file, std::string_view name, const TextSink& sink)
                        if (i > 0) line += ',';
                        line += Cell(table.columns[i], fields[i]);
                      }
-                     line += kLineEnd;
+                     line += kCsvRecordEnd;
                      sink(line);
                    })
       .warning;

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/system/file_descriptor.h"
+#include "platform/system/file_sync.h"
 #include "platform/system/paths.h"
 #include "platform/system/system_error.h"
 
@@ -25,11 +26,6 @@ fs::path Target(const fs::path& file) {
   fs::path target = fs::weakly_canonical(file, error);
   if (error) throw FileFault(file, "cannot follow the link", error.value());
   return target;
-}
-
-fs::path FolderOf(const fs::path& file) {
-  const fs::path folder = file.parent_path();
-  return folder.empty() ? fs::path(".") : folder;
 }
 
 /// A new file beside the one to be replaced; removed again unless it was renamed.
@@ -95,14 +91,6 @@ void WriteAll(int descriptor, std::string_view bytes, const fs::path& file) {
     if (written < 0) throw FileFault(file, "cannot be written");
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-}
-
-/// Makes a rename in the folder last beyond a power cut.
-void SyncFolder(const fs::path& folder) {
-  const FileDescriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!descriptor.IsOpen()) throw FileFault(folder, "cannot be synced");
-  // Some network file systems do not sync folders and say so with EINVAL.
-  if (::fsync(descriptor.Number()) != 0 && errno != EINVAL) throw FileFault(folder, "cannot be synced");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "platform/fault.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
+#include "platform/text/csv.h"
 
 namespace rbt {
 namespace {
@@ -153,6 +154,14 @@ TEST(Characters, ReplaceAllDoesNotReadItsOwnReplacements) {
   EXPECT_EQ(ReplaceAll("a.b.c", ".", ".."), "a..b..c");
   EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
   EXPECT_EQ(ReplaceAll("abc", "abc", ""), "");
+}
+
+TEST(Csv, QuotesACellOnlyWhereItMust) {
+  EXPECT_EQ(CsvCell("柱 1.5"), "柱 1.5");
+  EXPECT_EQ(CsvCell(""), "");
+  EXPECT_EQ(CsvCell("1,200"), "\"1,200\"");
+  EXPECT_EQ(CsvCell("D\"10\""), "\"D\"\"10\"\"\"");
+  EXPECT_EQ(CsvCell("上\r\n下"), "\"上\r\n下\"");
 }
 
 TEST(Characters, WidthsAndForms) {
