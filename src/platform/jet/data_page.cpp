@@ -16,8 +16,10 @@ constexpr std::uint16_t kMoved = 0x4000;
 constexpr std::uint16_t kBody = 0x8000;
 constexpr std::size_t kOwnerAt = 4;
 constexpr std::size_t kLongValueHead = 12;
-constexpr std::uint8_t kInlineValue = 0x80;
-constexpr std::uint8_t kOnePageValue = 0x40;
+// The two highest bits of a long value's length tell where it stands; neither: in a chain.
+constexpr std::uint32_t kInlineValue = 0x80000000;
+constexpr std::uint32_t kOnePageValue = 0x40000000;
+constexpr std::uint32_t kLengthMask = 0x3FFFFFFF;
 
 std::size_t RowCount(const JetFile& file, const PageView& page) {
   const std::size_t at = file.layout().data_row_count;
@@ -77,8 +79,9 @@ std::vector<unsigned char> ReadRowBytes(JetFile& file, RowPointer row) {
 }
 
 std::vector<unsigned char> ReadLongValue(JetFile& file, const PageView& field) {
-  const std::size_t length = field.U24(0);
-  const std::uint8_t sort = field.U8(3);
+  if (field.size() == 0) return {};
+  const std::uint32_t sort = field.U32(0) & ~kLengthMask;
+  const std::size_t length = field.U32(0) & kLengthMask;
   if ((sort & kInlineValue) != 0) {
     const auto bytes = field.Part(kLongValueHead, length).Bytes();
     return {bytes.begin(), bytes.end()};

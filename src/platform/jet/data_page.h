@@ -27,8 +27,8 @@ Slot SlotOf(const JetFile& file, const PageView& page, std::uint8_t slot);
 /// The bytes of a live row, wherever it has moved to. A deleted slot is damage here: something points to it.
 std::vector<unsigned char> ReadRowBytes(JetFile& file, RowPointer row);
 
-/// A memo or OLE value from the field of its row: inline, on one page, or a chain. `length` of the field's
-/// head bounds what is gathered.
+/// A memo or OLE value from the field of its row: nothing at all (an empty value), inline, on one page, or a
+/// chain. The length in the field's head bounds what is gathered.
 std::vector<unsigned char> ReadLongValue(JetFile& file, const PageView& field);
 
 }  // namespace rbt::jet

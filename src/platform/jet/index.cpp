@@ -67,9 +67,8 @@ class Walker {
     const PageView page = file_.Page(number);
     const auto type = static_cast<PageType>(page.U8(0));
     if (type == PageType::index_branch) {
-      const std::vector<RawEntry> entries = EntriesOf(file_, page, true);
       const std::uint32_t tail = page.U32(file_.layout().index_previous + 8);
-      for (const RawEntry& entry : entries) Visit(entry.child, depth + 1);
+      for (const std::uint32_t child : ChildrenOf(page)) Visit(child, depth + 1);
       // The newest leaf of a growing index hangs at the tail and is not named by an entry yet.
       if (tail != 0 && seen_.count(tail) == 0) Visit(tail, depth + 1);
     } else if (type == PageType::index_leaf) {
@@ -85,6 +84,12 @@ class Walker {
   IndexWalk Result() { return std::move(walk_); }
 
  private:
+  std::vector<std::uint32_t> ChildrenOf(const PageView& branch) const {
+    std::vector<std::uint32_t> children;
+    for (const RawEntry& entry : EntriesOf(file_, branch, true)) children.push_back(entry.child);
+    return children;
+  }
+
   JetFile& file_;
   const std::function<void(const IndexEntry&)>& handle_;
   std::set<std::uint32_t> seen_;

@@ -197,6 +197,9 @@ void JetFile::ReadHeader() {
   if (HasPassword(header, version_))
     Refuse(name_, "it has a password; open it in its own program and remove it");
   code_page_ = header.U16(kCodePageAt);
+  if (version_ == JetVersion::jet3 && !KnowsCodePage(code_page_)) {
+    Refuse(name_, fmt::format("page 0: its code page {} is not known on this machine", code_page_));
+  }
   const std::size_t commits = version_ == JetVersion::jet3 ? 0x600 : 0xE00;
   for (std::size_t at = commits; at < commits + 512; at += 2) {
     // A user's pair counts his commits from 0x100 on and is zero while one is under way.

@@ -15,7 +15,7 @@ namespace {
 /// Where the parts of one row lie.
 class RowShape {
  public:
-  RowShape(const PageView& row, JetVersion version, bool has_variable_columns) : row_(row) {
+  RowShape(const PageView& row, JetVersion version, const TableDefinition& table) : row_(row) {
     head_ = version == JetVersion::jet3 ? 1 : 2;
     columns_ = version == JetVersion::jet3 ? row.U8(0) : row.U16(0);
     const std::size_t mask = (columns_ + 7U) / 8U;
@@ -23,7 +23,7 @@ class RowShape {
       row.Damaged(fmt::format("a row of {} columns in {} bytes", columns_, row.size()));
     mask_at_ = row.size() - mask;
     fixed_end_ = mask_at_;
-    if (!has_variable_columns) return;
+    if (!HasVariableColumns(table)) return;
     if (version == JetVersion::jet3) {
       ReadJet3Offsets();
     } else {
@@ -49,6 +49,13 @@ class RowShape {
   }
 
  private:
+  /// A row that is older than every variable column may stand without offsets.
+  bool HasVariableColumns(const TableDefinition& table) const {
+    return std::any_of(table.columns.begin(), table.columns.end(), [&](const Column& column) {
+      return !column.fixed && column.type != ColumnType::boolean && column.number < columns_;
+    });
+  }
+
   void ReadJet4Offsets() {
     if (mask_at_ < head_ + 2) row_.Damaged("a row without room for its offsets");
     const std::size_t count = row_.U16(mask_at_ - 2);
@@ -189,7 +196,7 @@ std::size_t FixedLength(const Column& column) {
 }  // namespace
 
 std::vector<Value> DecodeRow(JetFile& file, const TableDefinition& table, const PageView& row) {
-  const RowShape shape(row, file.Version(), table.variable_columns > 0);
+  const RowShape shape(row, file.Version(), table);
   std::vector<Value> values;
   values.reserve(table.columns.size());
   for (const Column& column : table.columns) {

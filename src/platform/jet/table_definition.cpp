@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::size_t kMostColumns = 255;
 constexpr std::size_t kMostIndexes = 256;
+/// Twice what as many columns and indexes with the longest names take in the smaller pages.
+constexpr std::size_t kMostPages = 128;
 constexpr std::uint8_t kFixed = 1;
 constexpr std::uint8_t kNullable = 2;
 constexpr std::uint8_t kAutonumber = 4;
@@ -29,6 +31,7 @@ DefinitionBytes Gather(JetFile& file, std::uint32_t first) {
   std::set<std::uint32_t> seen;
   for (std::uint32_t page = first; page != 0;) {
     if (!seen.insert(page).second) file.Damaged(page, "a table definition runs in a circle");
+    if (seen.size() > kMostPages) file.Damaged(page, "a table definition runs over too many pages");
     const PageView view = file.Page(page, PageType::table_definition);
     const auto bytes = view.Bytes();
     all.bytes.insert(all.bytes.end(), bytes.begin() + (all.pages.empty() ? 0 : 8), bytes.end());

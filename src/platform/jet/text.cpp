@@ -133,6 +133,15 @@ DecodedText TextOfJet4(std::span<const unsigned char> bytes) {
   return writer.Result();
 }
 
+bool KnowsCodePage(std::uint16_t code_page) {
+  try {
+    const Conversion conversion(code_page);
+    return true;
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
 DecodedText TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t code_page) {
   const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
   if (code_page == 932) {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/jet/data_page.h"
 #include "platform/jet/samples.h"
 #include "platform/jet/table.h"
 #include "support/temporary_folder.h"
@@ -196,6 +197,84 @@ TEST(JetReader, PropertiesOfObjectsAreCarried) {
   ASSERT_NE(table, entries.end());
   ASSERT_GT(table->properties.size(), 4U);
   EXPECT_EQ(std::string(table->properties.begin(), table->properties.begin() + 3), "MR2");
+}
+
+/// Decodes a row of a file of no importance.
+std::vector<Value> Decoded(const TableDefinition& table, const Bytes& row) {
+  const auto file = JetFile::Open(Sample("jet4/emptyJet4.mdb"));
+  return DecodeRow(*file, table, PageView(row, &file->Name(), 9));
+}
+
+Column NumberedColumn(std::uint16_t number, ColumnType type, bool fixed) {
+  Column column;
+  column.name = std::to_string(number);
+  column.number = number;
+  column.type = type;
+  column.fixed = fixed;
+  return column;
+}
+
+TEST(JetReader, ARowOlderThanItsTablesFirstVariableColumnMayStandWithoutOffsets) {
+  TableDefinition table;
+  table.variable_columns = 1;
+  table.columns = {NumberedColumn(0, ColumnType::integer32, true),
+                   NumberedColumn(1, ColumnType::boolean, true), NumberedColumn(2, ColumnType::text, false)};
+  EXPECT_THAT(Decoded(table, {2, 0, 0x0D, 0, 0, 0, 3}), ElementsAre(Whole(13), Whole(-1), Value{}));
+  // Written since then, with the text "A" from 6 to 8.
+  EXPECT_THAT(Decoded(table, {3, 0, 0x0D, 0, 0, 0, 'A', 0, 8, 0, 6, 0, 1, 0, 5}),
+              ElementsAre(Whole(13), Whole(0), Words("A")));
+}
+
+TEST(JetReader, ALongValueWithoutAHeadIsEmpty) {
+  TableDefinition table;
+  table.variable_columns = 2;
+  table.columns = {NumberedColumn(0, ColumnType::memo, false), NumberedColumn(1, ColumnType::ole, false)};
+  table.columns[1].variable_slot = 1;
+  EXPECT_THAT(Decoded(table, {2, 0, 2, 0, 2, 0, 2, 0, 2, 0, 3}), ElementsAre(Words(""), Value{Bytes{}}));
+}
+
+TEST(JetReader, ALongValueOfMoreThan16MegabytesIsNeverCutShort) {
+  auto bytes = test::BytesOf(Sample("jet4/emptyJet4.mdb"));
+  const std::size_t page = bytes.size() / 4096;
+  const std::vector<unsigned char> piece{0, 0, 0, 0, 'A', 0};  // the last of its chain
+  bytes.resize(bytes.size() + 4096);
+  const auto at = bytes.end() - 4096;
+  at[0] = 1;
+  std::copy_n("LVAL", 4, at + 4);
+  at[12] = 1;
+  at[14] = static_cast<unsigned char>((4096 - piece.size()) & 0xFF);
+  at[15] = static_cast<unsigned char>((4096 - piece.size()) >> 8);
+  std::copy(piece.begin(), piece.end(), bytes.end() - static_cast<std::ptrdiff_t>(piece.size()));
+  const auto file = JetFile::FromBytes(std::move(bytes), "GENBA001.MDB");
+  const auto field = [&](unsigned char high) {
+    return Bytes{2, 0, 0, high, 0, static_cast<unsigned char>(page), 0, 0, 0, 0, 0, 0};
+  };
+  const Bytes two = field(0);
+  EXPECT_EQ(ReadLongValue(*file, PageView(two, &file->Name(), 9)), (Bytes{'A', 0}));
+  const Bytes many = field(1);
+  EXPECT_EQ(FaultOf([&] { ReadLongValue(*file, PageView(many, &file->Name(), 9)); }),
+            "GENBA001.MDB: page 9: a long value has 2 bytes of 16777218");
+}
+
+TEST(JetReader, ADefinitionThatRunsOnAndOnIsDamage) {
+  auto bytes = test::BytesOf(Sample("jet4/emptyJet4.mdb"));
+  const std::size_t first = bytes.size() / 4096;
+  const auto continue_at = [&](std::size_t page, std::size_t next) {
+    bytes[page * 4096] = 2;
+    bytes[page * 4096 + 4] = static_cast<unsigned char>(next & 0xFF);
+    bytes[page * 4096 + 5] = static_cast<unsigned char>(next >> 8);
+  };
+  bytes.resize(bytes.size() + 1000 * 4096);
+  continue_at(2, first);
+  for (std::size_t page = first; page + 1 < first + 1000; ++page) continue_at(page, page + 1);
+  const auto file = JetFile::FromBytes(std::move(bytes), "GENBA001.MDB");
+  EXPECT_THAT(FaultOf([&] { ReadCatalog(*file); }), HasSubstr("a table definition runs over too many pages"));
+}
+
+TEST(JetReader, AnUnknownCodePageOfJet3IsRefused) {
+  auto bytes = test::BytesOf(Sample("jet3/testV1997.mdb"));
+  bytes[0x3D] ^= 0xF0;  // 1252 becomes a number that is no code page
+  EXPECT_THAT(RefusalOf(std::move(bytes)), HasSubstr("GENBA001.MDB: page 0: its code page "));
 }
 
 TEST(JetReader, AFileNotClosedCleanlyIsReadByThePagesOwnPointers) {
