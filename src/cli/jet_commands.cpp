@@ -23,9 +23,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Steel that was not taken is told where a script that reads no report meets it.
+void TellRefused(const jet::ImportReport& report) {
+  if (report.Refused() == 0) return;
+  ReportError(fmt::format("{}: {} rows were refused, see REFUSED", report.source.string(), report.Refused()));
+}
+
 void ImportFolder(const fs::path& folder, const fs::path& root) {
   const FolderReport report = ImportDataFolder(folder, root);
   WriteResult(ReportText(report));
+  for (const jet::ImportReport& file : report.files) TellRefused(file);
   if (!report.failed.empty()) {
     throw Fault(FaultKind::file,
                 fmt::format("{} of the databases could not be imported, see FAILED", report.failed.size()));
@@ -39,8 +46,10 @@ void Import(const fs::path& source, const fs::path& target) {
   }
   std::error_code not_there;
   const bool in_place = fs::equivalent(source, target, not_there);
-  WriteResult(
-      jet::ReportText(in_place ? jet::ImportJetFileInPlace(source) : jet::ImportJetFile(source, target)));
+  const jet::ImportReport report =
+      in_place ? jet::ImportJetFileInPlace(source) : jet::ImportJetFile(source, target);
+  WriteResult(jet::ReportText(report));
+  TellRefused(report);
 }
 
 void Check(const std::string& name) {

@@ -3,17 +3,19 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <string_view>
 #include <system_error>
-#include <unistd.h>
 
 #include <fmt/format.h>
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/jet/import/import_file.h"
+#include "platform/jet/import/work_place.h"
 #include "platform/jet/jet_file.h"
 #include "platform/store/database.h"
+#include "platform/system/file_sync.h"
 #include "platform/system/paths.h"
 #include "platform/system/system_error.h"
 #include "platform/text/characters.h"
@@ -41,6 +43,7 @@ constexpr KnownDatabase kKnownDatabases[] = {
     {"JSyukeiORG", nullptr},
 };
 constexpr std::string_view kSitePrefix = "GENBA";
+constexpr std::size_t kSiteDigits = 3;
 constexpr std::string_view kCompanionPrefix = "HIROI";
 constexpr std::string_view kMaster = "SORANO.MDB";
 constexpr std::string_view kFixedStock = "MTTeijyaku.mdb";
@@ -78,23 +81,35 @@ void MakeFolder(const fs::path& folder) {
   if (error) throw FileFault(folder, "cannot be made", error.value());
 }
 
+/// A root folder, which goes again with the object when it was made and is still empty.
+class RootInWork {
+ public:
+  explicit RootInWork(const fs::path& root) : path_(root), made_(!fs::exists(root)) { MakeFolder(root); }
+  RootInWork(const RootInWork&) = delete;
+  RootInWork& operator=(const RootInWork&) = delete;
+  ~RootInWork() {
+    std::error_code not_empty;
+    if (made_) fs::remove(path_, not_empty);
+  }
+
+ private:
+  fs::path path_;
+  bool made_;
+};
+
 /// A folder beside the one it is to become; it goes with the object unless it was put in place.
 class FolderInWork {
  public:
-  explicit FolderInWork(const fs::path& root)
-      : path_(root / fmt::format(".rbk-import-{}", ::getpid())), made_root_(!fs::exists(root)), root_(root) {
-    MakeFolder(root);
+  explicit FolderInWork(const fs::path& root) : root_(root), place_(root), path_(place_.NewName()) {
     std::error_code error;
-    if (!fs::create_directory(path_, error)) throw FileFault(path_, "cannot be made", error.value());
+    fs::create_directory(path_, error);
+    if (error) throw FileFault(path_, "cannot be made", error.value());
   }
   FolderInWork(const FolderInWork&) = delete;
   FolderInWork& operator=(const FolderInWork&) = delete;
   ~FolderInWork() {
     std::error_code error;
-    if (!path_.empty()) {
-      fs::remove_all(path_, error);
-      if (made_root_) fs::remove(root_, error);
-    }
+    if (!path_.empty()) fs::remove_all(path_, error);
   }
 
   fs::path operator/(std::string_view name) const { return path_ / name; }
@@ -103,15 +118,17 @@ class FolderInWork {
   /// An empty folder may stand there already.
   void PutInPlace(const fs::path& target) {
     std::error_code error;
+    SyncFolder(path_);
     fs::rename(path_, target, error);
     if (error) throw FileFault(target, "cannot be put in place", error.value());
     path_.clear();
+    SyncFolder(FolderOf(target));
   }
 
  private:
+  RootInWork root_;
+  jet::WorkPlace place_;
   fs::path path_;
-  bool made_root_;
-  fs::path root_;
 };
 
 /// File names are the same without regard to the case of ASCII letters; full-width letters are themselves.
@@ -142,22 +159,53 @@ FilesByName FilesOf(const fs::path& folder) {
   return files;
 }
 
+/// The DATA folder of a root, as it is spelled where there is one: to the program letter case is nothing.
+fs::path DataFolderOf(const fs::path& root) {
+  constexpr std::string_view kName = "DATA";
+  std::error_code no_root;
+  for (const fs::directory_entry& entry : fs::directory_iterator(root, no_root)) {
+    if (EqualIgnoringCase(entry.path().filename().string(), kName)) return entry.path();
+  }
+  return root / kName;
+}
+
+/// The same, which holds nothing yet or is not there.
+fs::path FreeDataFolderOf(const fs::path& root) {
+  fs::path folder = DataFolderOf(root);
+  std::error_code error;
+  if (!fs::exists(fs::symlink_status(folder))) return folder;
+  if (!fs::is_directory(folder, error) || !fs::is_empty(folder, error)) {
+    throw FileFaultText(folder, "is there already and is not overwritten");
+  }
+  return folder;
+}
+
 class FolderImport {
  public:
   FolderImport(const fs::path& data_folder, const fs::path& root)
-      : source_(data_folder), target_(root / "DATA"), files_(FilesOf(data_folder)), work_(root) {}
+      : source_(data_folder), target_(FreeDataFolderOf(root)), files_(FilesOf(data_folder)), work_(root) {}
 
   FolderReport Run() {
+    const std::string in_work = work_.Path().string();
+    try {
+      TakeAll();
+    } catch (const Fault& fault) {
+      // The folder in work is gone when the message is read.
+      throw Fault(fault.Kind(), ReplaceAll(fault.Where(), in_work, target_.string()));
+    }
+    return std::move(report_);
+  }
+
+ private:
+  void TakeAll() {
     for (const auto& [name, file] : files_) Take(file);
     for (const std::string_view name : kIniFiles) RequireIni(name);
     RequireCompanions();
     MakeFixedStock();
     MakeTemplate();
     work_.PutInPlace(target_);
-    return std::move(report_);
   }
 
- private:
   bool Has(std::string_view name) const { return fs::exists(work_ / OwnName(name)); }
 
   /// The name as the folder spells it, or as it is given when the folder has none.
@@ -173,20 +221,20 @@ class FolderImport {
     if (const KnownDatabase* known = KnownByName(name)) {
       TakeDatabase(file, *known);
     } else if (ini) {
-      Copy(file);
+      WriteCopy(name, ReadFileBytes(file));
     } else {
       report_.not_taken.push_back(name);
     }
   }
 
-  void Copy(const fs::path& file) {
-    const std::string name = file.filename().string();
-    WriteFileAtomically(work_ / name, ReadFileBytes(file));
+  void WriteCopy(const std::string& name, std::string_view bytes) {
+    WriteFileAtomically(work_ / name, bytes);
     report_.copied.push_back(name);
   }
 
   void TakeDatabase(const fs::path& file, const KnownDatabase& known) {
     const std::string name = file.filename().string();
+    std::optional<std::string> bytes_of_store;
     try {
       if (jet::IsJetFile(file)) {
         jet::ImportReport report = jet::ImportJetFile(file, work_ / name);
@@ -194,13 +242,16 @@ class FolderImport {
         report_.files.push_back(std::move(report));
       } else {
         Database::OpenReadOnly(file);  // one of the store's, or a fault
-        Copy(file);
+        bytes_of_store = ReadFileBytes(file);
       }
+    } catch (const jet::TargetFault&) {
+      throw;  // a full disk is no reason to leave out one file and go on
     } catch (const Fault& fault) {
       if (EqualIgnoringCase(name, kMaster)) throw;
       report_.failed.emplace_back(fault.what());
       return;
     }
+    if (bytes_of_store) WriteCopy(name, *bytes_of_store);
     if (known.layout != nullptr) NoteMissingTables(name, known.layout());
   }
 
@@ -241,7 +292,7 @@ class FolderImport {
           !EqualIgnoringCase(name.substr(0, kSitePrefix.size()), kSitePrefix)) {
         continue;
       }
-      const std::string number = file.stem().string().substr(kSitePrefix.size());
+      const std::string number = file.stem().string().substr(kSitePrefix.size(), kSiteDigits);
       const std::string companion = fmt::format("{}{}.mdb", kCompanionPrefix, number);
       if (!Has(companion))
         report_.warnings.push_back(fmt::format("{}: its companion {} is missing", name, companion));
@@ -278,19 +329,10 @@ class FolderImport {
   FolderReport report_;
 };
 
-void RequireEmpty(const fs::path& target) {
-  std::error_code error;
-  if (!fs::exists(fs::symlink_status(target))) return;
-  if (!fs::is_directory(target, error) || !fs::is_empty(target, error)) {
-    throw FileFaultText(target, "is there already and is not overwritten");
-  }
-}
-
 }  // namespace
 
 FolderReport ImportDataFolder(const fs::path& data_folder, const fs::path& root) {
   if (!fs::is_directory(data_folder)) throw FileFaultText(data_folder, "is no folder");
-  RequireEmpty(root / "DATA");
   return FolderImport(data_folder, root).Run();
 }
 

@@ -85,6 +85,10 @@ Fault StoreFault(sqlite3* connection, int code, std::string_view statement) {
     if (rest.starts_with(": ")) rest.remove_prefix(2);
     return {*kind, rest.empty() ? where : fmt::format("{}: {}", rest, where)};
   }
+  if ((code & 0xFF) == SQLITE_IOERR && sqlite3_system_errno(connection) != 0) {
+    const std::string cause = std::generic_category().message(sqlite3_system_errno(connection));
+    return {FaultKind::database, fmt::format("{} ({}): {}", message, cause, where)};
+  }
   return {FaultKind::database, fmt::format("{}: {}", message, where)};
 }
 

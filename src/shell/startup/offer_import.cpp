@@ -23,11 +23,11 @@ std::string Question(const fs::path& file) {
       file.filename().string(), jet::KeptJetFile(file).filename().string());
 }
 
-void TellWhatIsMissing(const jet::ImportReport& report, const fs::path& report_file) {
+void TellWhatIsMissing(const jet::ImportReport& report) {
   if (report.Refused() == 0 && report.warnings.empty()) return;
   MsgBox(fmt::format("{}：取り込めなかった行 {} 行、注意 {} 件\n\n詳しくは {} を見て下さい。",
                      report.target.filename().string(), report.Refused(), report.warnings.size(),
-                     report_file.string()),
+                     jet::ReportFile(report.target).string()),
          kTitle);
 }
 
@@ -37,10 +37,7 @@ bool OfferImport(const fs::path& file) {
   if (!jet::IsJetFile(file)) return false;
   if (MsgBox(Question(file), kTitle, MessageButtons::yes_no) != MessageAnswer::yes) return false;
   const jet::ImportReport report = jet::ImportJetFileInPlace(file);
-  fs::path report_file = jet::KeptJetFile(file);
-  report_file += ".txt";
-  WriteFileAtomically(report_file, jet::ReportText(report));
-  TellWhatIsMissing(report, report_file);
+  TellWhatIsMissing(report);
   return true;
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "data/import/import_folder.h"
 
+#include <csignal>
 #include <functional>
+#include <sys/resource.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,6 +12,7 @@
 #include "platform/fault.h"
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
+#include "support/child_process.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
@@ -196,6 +199,73 @@ TEST_F(ImportFolder, AFullWidthNameIsAnotherName) {
   PutWholeFolder();
   WriteFileAtomically(data_ / "ＳＴＥＥＬ.INI", "x");
   EXPECT_THAT(Take().not_taken, ElementsAre("ＳＴＥＥＬ.INI"));
+}
+
+TEST_F(ImportFolder, ADataFolderOfAnotherLetterCaseIsTheSame) {
+  PutWholeFolder();
+  fs::create_directories(root_ / "Data");
+  WriteFileAtomically(root_ / "Data" / "mine.txt", "mine");
+  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("Data: is there already and is not overwritten"));
+  fs::remove(root_ / "Data" / "mine.txt");
+  Take();
+  EXPECT_THAT(NamesIn(root_), ElementsAre("Data"));
+}
+
+TEST_F(ImportFolder, TheCompanionIsFoundByTheThreeDigitsOfTheSite) {
+  PutWholeFolder();
+  Put("GENBA001A.MDB", ScheduleFileTables());
+  EXPECT_THAT(Take().warnings, IsEmpty());
+}
+
+TEST_F(ImportFolder, KilledAtAnyMomentLeavesNoDataFolderOrAWholeOneAndTheNextOneSucceeds) {
+  // Sites without an archive, so that there are not too many moments.
+  Put("GENBA001.MDB", {ScheduleFileTables()[0]});
+  Put("HIROI001.mdb", CompanionFileTables());
+  Put("SORANO.MDB", MasterFileTables());
+  Put("MTTeijyaku.mdb", FixedStockFileTables());
+  WriteFileAtomically(data_ / "STEEL.INI", kIni);
+  WriteFileAtomically(data_ / "NEXTPRG.INI", kIni);
+  const auto whole = UnorderedElementsAre("GENBA001.MDB", "HIROI001.mdb", "SORANO.MDB", "MTTeijyaku.mdb",
+                                          "MTTeijyaku_ORG.mdb", "JSyukeiORG.mdb", "STEEL.INI", "NEXTPRG.INI");
+  const auto import = [&] { Take(); };
+  int absent = 0;
+  int complete = 0;
+  const auto survives = [&](int n) {
+    SCOPED_TRACE(n);
+    if (!KilledBeforeChange(n, import)) return false;
+    if (fs::exists(root_ / "DATA")) {
+      ++complete;
+    } else {
+      ++absent;
+      Take();
+      EXPECT_THAT(NamesIn(root_), ElementsAre("DATA"));
+    }
+    EXPECT_THAT(NamesIn(root_ / "DATA"), whole);
+    EXPECT_NE(Database::Open(root_ / "DATA" / "GENBA001.MDB").FindTable("加工テーブル"), nullptr);
+    fs::remove_all(root_);
+    return true;
+  };
+  // Every eighth moment up to the end, and every one of the last.
+  int n = 1;
+  while (survives(n)) n += 8;
+  fs::remove_all(root_);
+  for (n -= 7; survives(n);) ++n;
+  EXPECT_THAT(NamesIn(root_ / "DATA"), whole);
+  EXPECT_GT(absent, 20);
+  EXPECT_GT(complete, 0);
+}
+
+TEST_F(ImportFolder, WithoutRoomNamesTheFileAndTheCauseAndLeavesNothing) {
+  PutWholeFolder();
+  EXPECT_TRUE(InChild([&] {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{8192, 8192};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
+    EXPECT_THAT(FaultOf([&] { Take(); }),
+                AllOf(HasSubstr((root_ / "DATA" / "GENBA001.MDB").string()), HasSubstr("disk I/O error")));
+    return !HasFailure();
+  }));
+  EXPECT_FALSE(fs::exists(root_));
 }
 
 TEST_F(ImportFolder, WhatIsNoFolderIsNamed) {

@@ -7,6 +7,7 @@
 #include "platform/store/database.h"
 #include "platform/store/plain_file.h"
 #include "platform/system/paths.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/store/plain_file.h"
 
-#include <exception>
 #include <fstream>
 #include <stdexcept>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <sqlite3.h>
 
@@ -54,22 +51,6 @@ void ExpectFault(FaultKind kind, const std::string& words, const std::function<v
     return;
   }
   ADD_FAILURE() << "no fault; expected: " << words;
-}
-
-bool InChild(const std::function<bool()>& action) {
-  const pid_t child = fork();
-  if (child == 0) {
-    bool good = false;
-    try {
-      good = action();
-    } catch (const std::exception& failure) {
-      std::fprintf(stderr, "child: %s\n", failure.what());
-    }
-    _exit(good ? 0 : 1);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 }  // namespace rbt::test

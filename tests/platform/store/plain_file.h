@@ -22,7 +22,4 @@ void WriteBytes(const std::filesystem::path& file, const std::string& bytes);
 /// Runs what must fault, of that kind, with those words in its text.
 void ExpectFault(FaultKind kind, const std::string& words, const std::function<void()>& action);
 
-/// Runs in a child process, so that it can lose rights or be killed; true when it returned true.
-bool InChild(const std::function<bool()>& action);
-
 }  // namespace rbt::test

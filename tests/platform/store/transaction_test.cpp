@@ -14,6 +14,7 @@
 #include "platform/store/database.h"
 #include "platform/store/database_impl.h"
 #include "platform/store/plain_file.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {

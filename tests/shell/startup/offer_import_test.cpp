@@ -9,6 +9,7 @@
 #include "platform/jet/jet_file.h"
 #include "platform/system/paths.h"
 #include "shell/startup/startup.h"
+#include "support/child_process.h"
 #include "support/jet_writer.h"
 #include "support/site_fixture.h"
 
@@ -101,6 +102,29 @@ TEST_F(OfferedImport, TheLoadOffersEveryFileThatItOpens) {
     questions += message.buttons == MessageButtons::yes_no ? 1 : 0;
   EXPECT_EQ(questions, 5U);
   EXPECT_EQ(site_.Rows(kScheduleFile, "SELECT 太さ FROM 加工テーブル").size(), 1U);
+}
+
+TEST_F(OfferedImport, KilledAtAnyMomentTheNextStartWorks) {
+  site_.AddRow({{"太さ", Value{std::int64_t{19}}}});
+  MakeJet(kScheduleFile);
+  const fs::path file = site_.Data(kScheduleFile);
+  const std::string before = ReadFileBytes(file);
+  const auto offer = [&] { OfferImport(file); };
+  int asked_again = 0;
+  int taken_over = 0;
+  for (int n = 1; KilledBeforeChange(n, offer); ++n) {
+    SCOPED_TRACE(n);
+    const std::size_t messages = site_.Messages().size();
+    offer();
+    (site_.Messages().size() > messages ? asked_again : taken_over) += 1;
+    EXPECT_EQ(site_.Rows(kScheduleFile, "SELECT 太さ FROM 加工テーブル").size(), 1U);
+    EXPECT_EQ(ReadFileBytes(site_.Data("GENBA001.MDB.jet")), before);
+    fs::remove(site_.Data("GENBA001.MDB.jet"));
+    fs::remove(site_.Data("GENBA001.MDB.jet.txt"));
+    WriteFileAtomically(file, before);
+  }
+  EXPECT_GT(asked_again, 10);
+  EXPECT_GT(taken_over, 0);
 }
 
 TEST_F(OfferedImport, TheCommandLineIsToldTheCommandInstead) {

@@ -3,6 +3,7 @@
 
 #include <string_view>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <fmt/format.h>
 
@@ -11,6 +12,7 @@
 #include "platform/jet/import/swap_in.h"
 #include "platform/jet/lock_file.h"
 #include "platform/system/system_error.h"
+#include "platform/text/characters.h"
 
 namespace rbt::jet {
 
@@ -60,8 +62,20 @@ bool IsUserTable(const CatalogEntry& entry) {
   return entry.kind == CatalogEntry::Kind::table && !entry.system && !entry.name.starts_with("~");
 }
 
-void CopyTables(JetFile& file, const fs::path& target, ImportReport& report) {
-  Database database = Database::CreateDatabase(target);
+/// Runs a step that writes the target, whose faults name the target in place of the file in work.
+template <typename Step>
+auto OnTarget(const FileInWork& work, const fs::path& target, Step step) {
+  const std::string in_work = work.Path().string();
+  try {
+    return step();
+  } catch (const Fault& fault) {
+    throw TargetFault(FaultKind::file, ReplaceAll(fault.what(), in_work, target.string()));
+  }
+}
+
+void CopyTables(JetFile& file, const FileInWork& work, ImportReport& report) {
+  const auto on_target = [&](auto step) { return OnTarget(work, report.target, step); };
+  Database database = on_target([&] { return Database::CreateDatabase(work.Path()); });
   Transaction transaction(database);
   for (const CatalogEntry& entry : ReadCatalog(file)) {
     if (!IsUserTable(entry)) {
@@ -69,11 +83,15 @@ void CopyTables(JetFile& file, const fs::path& target, ImportReport& report) {
       continue;
     }
     const TableMapping mapping = MapTable(file, entry);
-    database.CreateTable(mapping.target);
-    report.tables.push_back(CopyRows(file, mapping, database, report.warnings));
+    report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
+    database.CreateTable(mapping.target);
+    RowCopy copy(file, mapping, database, report.warnings);
+    while (copy.ReadNext()) on_target([&] { copy.Append(); });
+    on_target([&] { copy.Finish(); });
+    report.tables.push_back(copy.Result());
   }
-  transaction.Commit();
+  on_target([&] { transaction.Commit(); });
 }
 
 /// Writes everything into `work`; the report names `target`, where it will stand.
@@ -87,7 +105,7 @@ ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path
   }
   const FileState before(source);
   const auto file = JetFile::Open(source);
-  CopyTables(*file, work.Path(), report);
+  CopyTables(*file, work, report);
   if (!(FileState(source) == before)) {
     throw FileFaultText(source, "was changed by another program while it was read; nothing was imported");
   }
@@ -107,7 +125,7 @@ ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
   RequireFree(target);
   FileInWork work(target);
   ImportReport report = Copy(source, work, target);
-  work.PutInPlace(target);
+  OnTarget(work, target, [&] { work.PutInPlace(target); });
   return report;
 }
 
@@ -117,14 +135,36 @@ fs::path KeptJetFile(const fs::path& file) {
   return kept;
 }
 
+fs::path ReportFile(const fs::path& file) {
+  fs::path report = KeptJetFile(file);
+  report += ".txt";
+  return report;
+}
+
 ImportReport ImportJetFileInPlace(const fs::path& name) {
   // A link stays, and what it leads to is replaced.
   const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
   const fs::path kept = KeptJetFile(file);
-  RequireFree(kept);
+  RequireKeepable(file, kept);
   FileInWork work(file);
   ImportReport report = Copy(file, work, file);
-  work.PutInPlaceOf(file, kept);
+  const bool kept_now = KeepUnder(file, kept);
+  try {
+    // Before the swap: what was refused is not to be forgotten, whatever happens behind it.
+    FileInWork text(ReportFile(file));
+    OnTarget(text, ReportFile(file), [&] {
+      text.Write(ReportText(report));
+      text.PutInPlaceOf(ReportFile(file));
+    });
+    OnTarget(work, file, [&] { work.PutInPlaceOf(file); });
+  } catch (const Fault&) {
+    // Behind the swap the Jet file stands under its second name alone.
+    if (IsJetFile(file)) {
+      ::unlink(ReportFile(file).c_str());
+      if (kept_now) ::unlink(kept.c_str());
+    }
+    throw;
+  }
   return report;
 }
 

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "platform/fault.h"
 #include "platform/jet/properties.h"
 #include "platform/text/characters.h"
 
@@ -40,11 +41,17 @@ std::optional<std::string> QuotedText(std::string_view literal) {
 
 class Mapper {
  public:
-  Mapper(JetFile& file, const CatalogEntry& entry)
-      : file_(file), properties_(ReadProperties(file, entry.properties)) {
+  Mapper(JetFile& file, const CatalogEntry& entry) : file_(file) {
     mapping_.source = ReadTableDefinition(file, entry.id & 0xFFFFFF);
     mapping_.source.name = entry.name;
     mapping_.target.name = entry.name;
+    // Default values and rules are no reason to leave a table's rows where they are.
+    try {
+      properties_ = ReadProperties(file, entry.properties);
+    } catch (const Fault& fault) {
+      mapping_.warnings.push_back(
+          fmt::format("table {}: default values and rules cannot be read: {}", entry.name, fault.what()));
+    }
   }
 
   TableMapping Map() {

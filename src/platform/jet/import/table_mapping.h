@@ -16,6 +16,7 @@ struct TableMapping {
   TableDef target;
   std::optional<std::size_t> key;      ///< physical index of the primary key
   std::vector<std::string> not_taken;  ///< indexes that are no keys, rules, defaults that are no literals
+  std::vector<std::string> warnings;
 };
 
 /// Columns with their types, sizes and literal default values, the primary key and the unique indexes.

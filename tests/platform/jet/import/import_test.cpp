@@ -16,6 +16,7 @@
 #include "platform/jet/lock_file.h"
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
+#include "support/child_process.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
@@ -69,6 +70,12 @@ class Import : public ::testing::TestWithParam<JetVersion> {
       for (int i = 0; i < rows.FieldCount(); ++i) row.push_back(rows.Get(FieldHandle{i}));
     }
     return all;
+  }
+
+  static bool IsJet3() { return GetParam() == JetVersion::jet3; }
+  static std::size_t PageAt(std::size_t page) { return page * (IsJet3() ? 2048U : 4096U); }
+  void PutSource(const Bytes& image) const {
+    WriteFileAtomically(source_, {reinterpret_cast<const char*>(image.data()), image.size()});
   }
 
   std::vector<std::string> NamesInFolder() const {
@@ -148,6 +155,89 @@ TEST_P(Import, AnAutonumberGoesOnBehindItsRows) {
   }
   Recordset rows = database.OpenSnapshot("SELECT 登録AN FROM 登録名 WHERE 登録名 = '床'");
   EXPECT_EQ(rows.Get("登録AN"), Whole(42));
+}
+
+TEST_P(Import, AnAutonumberGoesOnBehindTheLastNumberGivenThoughItsRowIsGone) {
+  JetTable table{"登録名",
+                 {Field("登録AN", FieldType::integer32), Field("登録名", FieldType::text, 50)},
+                 {{Whole(7), Words("柱")}},
+                 {"登録AN"}};
+  table.fields[0].autonumber = true;
+  Bytes image = test::JetImage(GetParam(), {table});
+  image.at(PageAt(3) + (IsJet3() ? 16 : 20)) = 50;
+  PutSource(image);
+  ImportJetFile(source_, target_);
+  Database database = Database::Open(target_);
+  {
+    Recordset rows = database.OpenDynaset("SELECT * FROM 登録名");
+    rows.AddNew();
+    rows.Set("登録名", Words("床"));
+    rows.Update();
+  }
+  Recordset rows = database.OpenSnapshot("SELECT 登録AN FROM 登録名 WHERE 登録名 = '床'");
+  EXPECT_EQ(rows.Get("登録AN"), Whole(51));
+}
+
+TEST_P(Import, AKeyThatStandsTwiceIsRefusedByName) {
+  const ImportReport report =
+      Take({{"表", {Field("番号", FieldType::integer32)}, {{Whole(1)}, {Whole(1)}}, {"番号"}}});
+  EXPECT_THAT(report.tables.at(0).refused_rows,
+              ElementsAre("row 2, 番号 1: UNIQUE constraint failed: 表.番号"));
+  EXPECT_EQ(Rows("表").size(), 1U);
+}
+
+TEST_P(Import, AnIndexOutOfOrderIsWarnedOfAndRowsStandAsTheyLie) {
+  Bytes image = test::JetImage(
+      GetParam(), {{"表", {Field("番号", FieldType::integer32)}, {{Whole(2)}, {Whole(1)}}, {"番号"}}});
+  // Page 5 is the index; each of its two entries takes nine bytes.
+  const auto entries = image.begin() + static_cast<std::ptrdiff_t>(PageAt(5) + (IsJet3() ? 0xF8 : 0x1E0));
+  std::swap_ranges(entries, entries + 9, entries + 9);
+  PutSource(image);
+  EXPECT_THAT(ImportJetFile(source_, target_).warnings,
+              ElementsAre(AllOf(HasSubstr("the primary key of 表 is damaged"), HasSubstr("out of order"))));
+  EXPECT_THAT(Rows("表"), ElementsAre(ElementsAre(Whole(2)), ElementsAre(Whole(1))));
+}
+
+TEST_P(Import, PropertiesThatCannotBeReadAreWarnedOfAndTheRowsTaken) {
+  JetTable table{"表", {Field("番号", FieldType::integer32)}, {{Whole(1)}}};
+  table.properties = Bytes{'X', 'X', 'X', 0, 1, 2};
+  EXPECT_THAT(Take({table}).warnings,
+              ElementsAre(HasSubstr("table 表: default values and rules cannot be read: ")));
+  EXPECT_EQ(Rows("表"), table.rows);
+}
+
+TEST_P(Import, InPlaceWhoCouldWorkWithTheJetFileCanWorkWithTheStore) {
+  test::WriteJetFile(source_, GetParam(), {});
+  fs::permissions(source_, static_cast<fs::perms>(0464));
+  ImportJetFileInPlace(source_);
+  EXPECT_EQ(fs::status(source_).permissions(), static_cast<fs::perms>(0664));
+  EXPECT_EQ(fs::status(folder_ / "old.mdb.jet").permissions(), static_cast<fs::perms>(0464));
+}
+
+TEST_P(Import, InPlaceWithoutSecondNamesOfFilesTheJetFileIsCopied) {
+  test::WriteJetFile(source_, GetParam(), {{"表", {Field("番号", FieldType::integer32)}, {{Whole(1)}}}});
+  const std::string before = ReadFileBytes(source_);
+  const auto time = fs::last_write_time(source_);
+  EXPECT_TRUE(test::InChild([&] {
+    test::ForbidHardLinks();
+    ImportJetFileInPlace(source_);
+    return true;
+  }));
+  EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), before);
+  EXPECT_EQ(fs::last_write_time(folder_ / "old.mdb.jet"), time);
+  EXPECT_NE(Database::Open(source_).FindTable("表"), nullptr);
+  EXPECT_THAT(NamesInFolder(), ::testing::UnorderedElementsAre("old.mdb", "old.mdb.jet", "old.mdb.jet.txt"));
+}
+
+TEST_P(Import, WithoutSecondNamesOfFilesTheTargetIsRenamed) {
+  test::WriteJetFile(source_, GetParam(), {});
+  EXPECT_TRUE(test::InChild([&] {
+    test::ForbidHardLinks();
+    ImportJetFile(source_, target_);
+    return true;
+  }));
+  EXPECT_NO_THROW(Database::Open(target_));
+  EXPECT_THAT(NamesInFolder(), ::testing::UnorderedElementsAre("old.mdb", "GENBA001.MDB"));
 }
 
 TEST_P(Import, AnAutonumberThatIsNoKeyTakesNoLongerThanAnyOther) {
@@ -244,7 +334,8 @@ TEST_P(Import, InPlaceTheJetFileIsKeptUnderAnotherName) {
   ImportJetFileInPlace(source_);
   EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), before);
   EXPECT_NE(Database::Open(source_).FindTable("表"), nullptr);
-  EXPECT_THAT(NamesInFolder(), ::testing::UnorderedElementsAre("old.mdb", "old.mdb.jet"));
+  EXPECT_THAT(NamesInFolder(), ::testing::UnorderedElementsAre("old.mdb", "old.mdb.jet", "old.mdb.jet.txt"));
+  EXPECT_THAT(ReadFileBytes(folder_ / "old.mdb.jet.txt"), HasSubstr("table 表: 1 rows"));
 }
 
 TEST_P(Import, InPlaceNothingHappensWhenTheOtherNameIsTaken) {

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+#include "platform/system/file_descriptor.h"
+
+namespace rbt::jet {
+
+/// The folder in which an import has its files in work, under names of its own that no program of the family
+/// looks for. What an import that was killed has left there goes first, unless another import is at work in
+/// the folder.
+class WorkPlace {
+ public:
+  /// A folder that does not exist or that the file system cannot lock is left as it is.
+  explicit WorkPlace(std::filesystem::path folder);
+
+  /// A name in the folder that nothing stands under.
+  std::filesystem::path NewName() const;
+
+ private:
+  std::filesystem::path folder_;
+  FileDescriptor lock_;  ///< shared by all imports that are at work in the folder, held until the end
+};
+
+}  // namespace rbt::jet

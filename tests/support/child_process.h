@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+namespace rbt::test {
+
+/// Runs in a child process, so that it can lose rights or be killed; true when it returned true.
+bool InChild(const std::function<bool()>& action);
+
+/// Runs an action in a child process that is killed right before its `n`th system call, from 1 on, that
+/// changes a file or a folder. False when the action came to its end before: it makes fewer. What a kill at
+/// any moment may leave is met by counting `n` up until then.
+bool KilledBeforeChange(int n, const std::function<void()>& action);
+
+/// From now on the file system of this process, which is to be a child, gives no file a second name: as where
+/// it knows none, or where the file is another user's.
+void ForbidHardLinks();
+
+}  // namespace rbt::test
