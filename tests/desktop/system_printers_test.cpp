@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/system_printers.h"
+
+#include <list>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QByteArray>
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+
+namespace rbt {
+namespace {
+
+/// A machine on which no print server answers. What an answering one leads to is tested end to end.
+class WithoutPrintServer : public ::testing::Test {
+ protected:
+  WithoutPrintServer() : before_(SetPrinters(Alone())) {
+    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    UseSystemPrinters([this](const PrintedDocument& document) { documents_.push_back(document); });
+  }
+  ~WithoutPrintServer() override {
+    SetPrinterSource({});
+    SetPrinters(std::move(before_));
+  }
+
+  static PrinterList Alone() {
+    std::list<PrinterSurface> printers;
+    printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf, [](const PrintedDocument&) {});
+    return PrinterList(std::move(printers));
+  }
+
+  std::vector<PrintedDocument> documents_;
+  PrinterList before_;
+};
+
+TEST_F(WithoutPrintServer, PdfAloneIsThereAndHasItsDelivery) {
+  RefreshPrinters();
+  ASSERT_EQ(Printers().Installed().size(), 1U);
+  PrinterSurface& printer = Printers().Current();
+  EXPECT_EQ(printer.DeviceName(), "PDF");
+  EXPECT_EQ(printer.Kind(), DeviceKind::pdf);
+  printer.Print({"一"});
+  printer.EndDoc();
+  EXPECT_EQ(documents_.size(), 1U);
+}
+
+TEST_F(WithoutPrintServer, ADocumentForAPrinterThatWentIsAFaultThatNamesThePrinter) {
+  const PrintedDocument document{
+      "甲", kPaperA4, kPortrait, {{PrintedText{0, 0, "一", "IPAGothic", 10, false}}}};
+  try {
+    PrintDocument("甲", document);
+    FAIL() << "no fault";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::file);
+    EXPECT_EQ(std::string(fault.what()).rfind("甲: ", 0), 0U) << fault.what();
+  }
+}
+
+}  // namespace
+}  // namespace rbt
