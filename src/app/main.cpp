@@ -10,8 +10,8 @@
 #include "app/arguments.h"
 #include "platform/desktop/action.h"
 #include "platform/desktop/look.h"
+#include "platform/desktop/preview_form.h"
 #include "platform/desktop/system_printers.h"
-#include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/menu/captions.h"
@@ -63,11 +63,6 @@ bool UseRoot(const Arguments& arguments) {
   return true;
 }
 
-void PreviewDocument(const PrintedDocument& document) {
-  throw Fault(FaultKind::file,
-              document.device_name + ": this version has no preview; print on an installed printer");
-}
-
 int RunMenu(const Arguments& arguments) {
   bool root_known = false;
   StartOptions options;
@@ -76,7 +71,7 @@ int RunMenu(const Arguments& arguments) {
     options.start_mode = ParseStartMode(arguments.command_line);
   });
   if (!ready || !root_known) return EXIT_FAILURE;
-  UseSystemPrinters(PreviewDocument);
+  UseSystemPrinters([](const PrintedDocument& document) { ShowPreview({document}); });
   JSMENU menu(MenuPartsFor(options));
   QTimer::singleShot(0, [&menu] { menu.Open(); });
   return QApplication::exec();
