@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -16,6 +17,7 @@
 #include "platform/jet/csv_dump.h"
 #include "platform/jet/import/import_file.h"
 #include "platform/text/cp932.h"
+#include "platform/text/csv.h"
 
 namespace rbt {
 
@@ -68,11 +70,13 @@ void Check(const std::string& name) {
 /// Writes pieces of a text in larger ones.
 class ResultWriter {
  public:
-  explicit ResultWriter(bool cp932) : cp932_(cp932) {}
+  /// `name` stands for what is written, in faults.
+  ResultWriter(bool cp932, std::string name) : cp932_(cp932), name_(std::move(name)) {}
 
   void Write(std::string_view text) {
     constexpr std::size_t kEnough = 1 << 16;
-    waiting_ += cp932_ ? ToCp932(text) : text;
+    waiting_ += cp932_ ? InCp932(text) : text;
+    if (text.ends_with(kCsvRecordEnd)) ++records_;
     if (waiting_.size() >= kEnough) Flush();
   }
   void Flush() {
@@ -81,13 +85,24 @@ class ResultWriter {
   }
 
  private:
+  std::string InCp932(std::string_view text) const {
+    try {
+      return ToCp932(text);
+    } catch (const Fault& fault) {
+      // Behind the header line the number of the record is that of the row.
+      throw Fault(fault.Kind(), fmt::format("{}: row {}: {}", name_, records_, fault.Where()));
+    }
+  }
+
   bool cp932_;
+  std::string name_;
+  std::size_t records_ = 0;
   std::string waiting_;
 };
 
 void Dump(const std::string& name, const std::string& table, bool cp932) {
   const auto file = jet::JetFile::Open(name);
-  ResultWriter writer(cp932);
+  ResultWriter writer(cp932, table.empty() ? name : fmt::format("{}: {}", name, table));
   const jet::TextSink sink = [&writer](std::string_view text) { writer.Write(text); };
   std::string warning;
   if (table.empty()) {

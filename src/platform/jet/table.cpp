@@ -8,6 +8,7 @@
 #include "platform/fault.h"
 #include "platform/jet/data_page.h"
 #include "platform/jet/usage_map.h"
+#include "platform/text/characters.h"
 
 namespace rbt::jet {
 
@@ -144,7 +145,8 @@ std::vector<CatalogEntry> ReadCatalog(JetFile& file) {
 
 TableDefinition FindTable(JetFile& file, std::string_view name) {
   for (const CatalogEntry& entry : ReadCatalog(file)) {
-    if (entry.kind != CatalogEntry::Kind::table || entry.name != name) continue;
+    if (entry.kind != CatalogEntry::Kind::table || FoldIdentifier(entry.name) != FoldIdentifier(name))
+      continue;
     TableDefinition table = ReadTableDefinition(file, entry.id & 0xFFFFFF);
     table.name = entry.name;
     return table;

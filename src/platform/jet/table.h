@@ -25,7 +25,8 @@ struct CatalogEntry {
 /// counts are damage.
 std::vector<CatalogEntry> ReadCatalog(JetFile& file);
 
-/// Definition of a user table by its exact name; a name that the catalog lacks throws `file`.
+/// Definition of a table by its name, letter case and the width of ASCII letters and digits ignored; a name
+/// that the catalog lacks throws `file`.
 TableDefinition FindTable(JetFile& file, std::string_view name);
 
 /// What a walk over a table met.

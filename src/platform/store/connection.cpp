@@ -14,6 +14,7 @@
 #include <fmt/format.h>
 
 #include "platform/store/dialect/functions.h"
+#include "platform/text/characters.h"
 
 namespace rbt {
 namespace {
@@ -29,6 +30,12 @@ std::string Utf8Of(const std::filesystem::path& file) {
 
 Fault FileFault(const std::filesystem::path& file, std::string_view cause) {
   return {FaultKind::file, fmt::format("{}: {}", Utf8Of(file), cause)};
+}
+
+/// A word that a shell hands on as it is; plain paths are left alone.
+std::string ShellWord(const std::string& word) {
+  if (word.find_first_of(" \t\n'\"$&()*;<>?[]`{|}~!#\\") == std::string::npos) return word;
+  return "'" + ReplaceAll(word, "'", "'\\''") + "'";
 }
 
 /// Tells by the first bytes what stands under the name, before anything is opened: a Jet file must never
@@ -53,7 +60,7 @@ void RequireDatabaseFile(const std::filesystem::path& file) {
     throw FileFault(file,
                     fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
                                 "to take it over: rbtally import {0} {0}",
-                                file.string()));
+                                ShellWord(file.string())));
   }
   if (!bytes.starts_with(kSqliteMark)) throw FileFault(file, "the file is not a database");
 }

@@ -335,6 +335,11 @@ TEST(JetReader, DamageNamesFilePageAndCause) {
   EXPECT_EQ(FaultOf([&] { ReadCatalog(*file); }), "GENBA001.MDB: page 2: is of type 0 where type 2 is due");
 }
 
+TEST(JetReader, ATableIsFoundWhateverTheLetterCaseAndWidth) {
+  const auto file = JetFile::Open(Sample("jet3/testV1997.mdb"));
+  EXPECT_EQ(FindTable(*file, "ｔＡＢＬＥ1").name, "Table1");
+}
+
 TEST(JetReader, ATableThatIsNotThereIsNamed) {
   const auto file = JetFile::Open(Sample("jet4/delTestV2000.mdb"));
   EXPECT_THAT(FaultOf([&] { FindTable(*file, "加工テーブル"); }), HasSubstr("no table 加工テーブル"));

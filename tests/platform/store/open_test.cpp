@@ -40,6 +40,13 @@ TEST_F(OpeningAFile, that_is_a_jet_file_names_it_as_one_and_leaves_every_byte) {
   EXPECT_EQ(ReadFileBytes(file_), jet);
 }
 
+TEST_F(OpeningAFile, that_is_a_jet_file_tells_a_command_that_a_shell_takes) {
+  const std::filesystem::path file = folder_ / "bob's site.MDB";
+  test::WriteBytes(file, std::string("\x00\x01\x00\x00Standard Jet DB\x00", 20));
+  const std::string word = "'" + (folder_ / "bob'\\''s site.MDB").string() + "'";
+  ExpectFault(FaultKind::file, "rbtally import " + word + " " + word, [&] { Database::Open(file); });
+}
+
 TEST_F(OpeningAFile, that_is_empty_is_refused) {
   test::WriteBytes(file_, "");
   ExpectFault(FaultKind::file, "is empty", [&] { Database::Open(file_); });
