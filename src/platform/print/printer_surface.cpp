@@ -11,6 +11,11 @@ namespace {
 
 constexpr float kTwipsPerPoint = 20.0F;
 
+Diversion& DiversionInPlace() {
+  static Diversion diversion;
+  return diversion;
+}
+
 }  // namespace
 
 float LineHeight(float font_size) { return font_size * kTwipsPerPoint; }
@@ -50,7 +55,10 @@ void PrinterSurface::NewPage() {
 void PrinterSurface::EndDoc() {
   PrintedDocument finished = std::exchange(document_, {});
   KillDoc();
-  if (!finished.pages.empty()) deliver_(finished);
+  if (finished.pages.empty()) return;
+  const Diversion& diversion = DiversionInPlace();
+  if (diversion && diversion(kind_, finished)) return;
+  deliver_(finished);
 }
 
 void PrinterSurface::KillDoc() {
@@ -69,6 +77,10 @@ PrintedPage& PrinterSurface::Page() {
   if (at_new_page_) document_.pages.emplace_back();
   at_new_page_ = false;
   return document_.pages.back();
+}
+
+Diversion SetDiversion(Diversion diversion) {
+  return std::exchange(DiversionInPlace(), std::move(diversion));
 }
 
 }  // namespace rbt

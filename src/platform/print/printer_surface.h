@@ -80,4 +80,10 @@ class PrinterSurface {
   bool at_new_page_ = true;
 };
 
+/// Sees every finished document before its device delivers it; true when it has taken it, and the device does
+/// not get it.
+using Diversion = std::function<bool(DeviceKind from, const PrintedDocument& document)>;
+/// An empty one lets all documents pass. Returns the one that was in place.
+Diversion SetDiversion(Diversion diversion);
+
 }  // namespace rbt

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "platform/print/diverted_deliveries.h"
+
+namespace rbt {
+
+DivertedDeliveries::DivertedDeliveries(From from)
+    : from_(from), outer_(SetDiversion([this](DeviceKind kind, const PrintedDocument& document) {
+        return Keep(kind, document);
+      })) {}
+
+DivertedDeliveries::~DivertedDeliveries() { SetDiversion(std::move(outer_)); }
+
+bool DivertedDeliveries::Keep(DeviceKind kind, const PrintedDocument& document) {
+  if (from_ == From::pdf_device && kind != DeviceKind::pdf) return outer_ && outer_(kind, document);
+  documents_.push_back(document);
+  return true;
+}
+
+}  // namespace rbt
