@@ -8,36 +8,27 @@
 
 #include "platform/numbers/number_words.h"
 #include "platform/system/clock.h"
-#include "platform/text/characters.h"
 #include "screens/digit_box.h"
-#include "shell/calendar/new_era_function.h"
+#include "shell/config/settings.h"
 
 namespace rbt {
 
 namespace {
 
-constexpr int kWesternYear = 1;
 constexpr int kEraYear = 2;
 constexpr double kFirstYearRefused = 32.0;
 
-}  // namespace
+/// Read each time: the settings form may have saved another one.
+int DateStyle() { return ReadSetting(kDateStyleKey); }
 
-DateTexts TodayForBoxes(int date_style) {
-  const DateTime today = Now();
-  DateTexts texts;
-  texts.day = FormatDate(today, "dd");
-  texts.month = FormatDate(today, "mm");
-  texts.year = date_style == kWesternYear ? FormatDate(today, "yyyy")
-                                          : std::string(Right("0" + FormatDate(today, "e"), 2));
-  return texts;
-}
+}  // namespace
 
 bool YearPasses(const std::string& year, int date_style) {
   return date_style != kEraYear || LeadingNumber(year) < kFirstYearRefused;
 }
 
-DateBoxes::DateBoxes(QLineEdit& year, QLineEdit& month, QLineEdit& day, std::function<int()> date_style)
-    : QObject(&year), boxes_{&year, &month, &day}, date_style_(std::move(date_style)) {
+DateBoxes::DateBoxes(QLineEdit& year, QLineEdit& month, QLineEdit& day)
+    : QObject(&year), boxes_{&year, &month, &day} {
   TakeDigitsOnly(year, 4);
   TakeDigitsOnly(month, 2);
   TakeDigitsOnly(day, 2);
@@ -45,8 +36,8 @@ DateBoxes::DateBoxes(QLineEdit& year, QLineEdit& month, QLineEdit& day, std::fun
 }
 
 void DateBoxes::FillEmpty() {
-  filled_style_ = date_style_();
-  const DateTexts today = TodayForBoxes(filled_style_);
+  filled_style_ = DateStyle();
+  const DateTexts today = DefaultDateTexts(Now());
   const std::array<const std::string*, 3> texts{&today.year, &today.month, &today.day};
   for (std::size_t i = 0; i < boxes_.size(); ++i) {
     if (boxes_[i]->text().isEmpty()) boxes_[i]->setText(QString::fromStdString(*texts[i]));
@@ -63,17 +54,16 @@ void DateBoxes::SetEnabled(bool enabled) {
 }
 
 void DateBoxes::FollowStyle() {
-  if (date_style_() != filled_style_) boxes_[0]->clear();
+  if (DateStyle() != filled_style_) boxes_[0]->clear();
   FillEmpty();
 }
 
 DateTexts DateBoxes::Texts() const {
-  const auto text = [](const QLineEdit* box) { return box->text().trimmed().toStdString(); };
-  return {text(boxes_[0]), text(boxes_[1]), text(boxes_[2])};
+  return {boxes_[0]->text().toStdString(), boxes_[1]->text().toStdString(), boxes_[2]->text().toStdString()};
 }
 
 bool DateBoxes::CheckYear() {
-  if (YearPasses(boxes_[0]->text().toStdString(), date_style_())) return true;
+  if (YearPasses(boxes_[0]->text().toStdString(), DateStyle())) return true;
   boxes_[0]->setFocus();
   boxes_[0]->selectAll();
   return false;

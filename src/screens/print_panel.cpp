@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "screens/print_panel.h"
 
+#include <initializer_list>
+
+#include <QCheckBox>
 #include <QPushButton>
 
 #include "ui_result_form.h"
 
 namespace rbt {
 
-PrintPanel::PrintPanel(Ui::ResultForm& ui, std::function<int()> date_style)
-    : ui_(ui), dates_(new DateBoxes(*ui.txtYear, *ui.txtMonth, *ui.txtDay, std::move(date_style))) {
+PrintPanel::PrintPanel(Ui::ResultForm& ui)
+    : ui_(ui), dates_(new DateBoxes(*ui.txtYear, *ui.txtMonth, *ui.txtDay)) {
   Close();
 }
 
@@ -16,8 +19,9 @@ bool PrintPanel::IsOpen() const { return !ui_.SSPanel3->isHidden(); }
 
 void PrintPanel::OfferPapers(Papers papers) {
   for (QPushButton* button : {ui_.btnA4Y, ui_.btnB5Y}) button->setVisible(papers != Papers::ulbon);
-  for (QPushButton* button : {ui_.btnA4Y, ui_.btnA4T, ui_.btnB5Y}) {
-    button->setEnabled(papers != Papers::none);
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{ui_.btnA4Y, ui_.btnA4T, ui_.btnB5Y, ui_.chkPreview}) {
+    control->setEnabled(papers != Papers::none);
   }
 }
 
@@ -41,8 +45,13 @@ void PrintPanel::Close() {
   dates_->SetEnabled(false);
 }
 
-PrintOrder PrintPanel::Order(std::string_view button, bool ulbon, double percent) const {
-  return {button, ulbon, dates_->Texts(), ui_.txtSubKojNa->text().trimmed().toStdString(), percent};
+PrintOrder PrintPanel::Order(std::string_view button, bool ulbon, std::int32_t percent) const {
+  return {.button = button,
+          .ulbon = ulbon,
+          .date = dates_->Texts(),
+          .sub_project = ui_.txtSubKojNa->text().toStdString(),
+          .percent = percent,
+          .preview = ui_.chkPreview->isChecked()};
 }
 
 }  // namespace rbt

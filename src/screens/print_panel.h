@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
+#include <cstdint>
 #include <string_view>
 
-#include "screens/result_screen.h"
+#include "screens/date_boxes.h"
+#include "screens/print_order.h"
 
 namespace Ui {
 class ResultForm;
@@ -21,10 +20,11 @@ enum class Papers {
   none    ///< nothing was tallied: settings and return alone
 };
 
-/// The print buttons in place of the main ones, with the date boxes and the memo line of the head.
+/// The print buttons in place of the main ones, with the date boxes and the memo line of the head, and the
+/// choice to look at a sheet before it is printed.
 class PrintPanel {
  public:
-  PrintPanel(Ui::ResultForm& ui, std::function<int()> date_style);
+  explicit PrintPanel(Ui::ResultForm& ui);
 
   bool IsOpen() const;
   void Open(Papers papers);
@@ -33,7 +33,7 @@ class PrintPanel {
 
   DateBoxes& Dates() { return *dates_; }
   /// What a paper button asks for, as the boxes stand.
-  PrintOrder Order(std::string_view button, bool ulbon, double percent) const;
+  PrintOrder Order(std::string_view button, bool ulbon, std::int32_t percent) const;
 
  private:
   Ui::ResultForm& ui_;

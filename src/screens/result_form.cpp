@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QPushButton>
 
@@ -11,6 +12,7 @@
 #include "data/reference.h"
 #include "data/run_state.h"
 #include "data/site_context.h"
+#include "platform/desktop/colour.h"
 #include "platform/desktop/form.h"
 #include "platform/numbers/number_mask.h"
 #include "platform/numbers/number_words.h"
@@ -32,13 +34,11 @@ namespace rbt {
 namespace {
 
 constexpr int kAllMask = 15;
+constexpr int kPercentDigits = 6;
 constexpr const char* kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
 
 /// Half-width characters that a column shows; the first holds the grade name and the diameter.
 constexpr std::array<int, 6> kColumnCharacters{26, 18, 18, 16, 14, 14};
-
-/// A colour as it stands in the settings: red in the low byte.
-QColor ColourOf(std::int32_t rgb) { return {rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16) & 0xFF}; }
 
 void SayNotReady(const char* what, std::string_view title) {
   MsgBox("「" + std::string(what) + "」は、まだご利用いただけません。", title);
@@ -70,8 +70,8 @@ ResultForm::ResultForm(const ResultScreen& screen, ResultParts parts)
   TakeControls();
   PlaceRange();
   PrepareForm(*this);
-  print_panel_ = std::make_unique<PrintPanel>(*ui_, [] { return ReadSetting(kDateStyleKey); });
-  TakeDigitsOnly(*ui_->txtPercent, 6);
+  print_panel_ = std::make_unique<PrintPanel>(*ui_);
+  TakeDigitsOnly(*ui_->txtPercent, kPercentDigits);
   ConnectControls();
   Load();
 }
@@ -215,13 +215,13 @@ void ResultForm::Tally() {
   tally_ran_ = true;
 }
 
-double ResultForm::Percent() const { return Int(LeadingNumber(ui_->txtPercent->text().toStdString())); }
-
 void ResultForm::Fill() {
-  ui_->dbgJS->SetRows(ShowTally(TallyGrid, Selection, {show_ulbon_only_, Percent(), DiameterGradeNames()}));
+  shown_percent_ = static_cast<std::int32_t>(LeadingNumber(ui_->txtPercent->text().toStdString()));
+  const auto percent = static_cast<double>(shown_percent_);
+  ui_->dbgJS->SetRows(ShowTally(TallyGrid, Selection, {show_ulbon_only_, percent, DiameterGradeNames()}));
   const bool alternate = Settings.AlternateRowColours == 1;
-  ui_->dbgJS->SetAlternateColours(alternate ? ColourOf(Settings.GridRowBackColor) : QColor(),
-                                  alternate ? ColourOf(Settings.GridRowForeColor) : QColor());
+  ui_->dbgJS->SetAlternateColours(alternate ? ColourOfRgb(Settings.GridRowBackColor) : QColor(),
+                                  alternate ? ColourOfRgb(Settings.GridRowForeColor) : QColor());
   ShowWarning();
 }
 
@@ -357,7 +357,7 @@ void ResultForm::btnB5Y_Click() { PrintPaper("btnB5Y"); }
 
 void ResultForm::PrintPaper(std::string_view button) {
   if (!print_panel_->Dates().CheckYear()) return;
-  const bool printed = Print(print_panel_->Order(button, show_ulbon_only_, Percent()));
+  const bool printed = Print(print_panel_->Order(button, show_ulbon_only_, shown_percent_));
   // The scoped screens stay in the panel, for another sheet.
   if (printed && range_ == nullptr) btnReturn_Click();
 }
@@ -374,7 +374,7 @@ bool ResultForm::Print(const PrintOrder& order) {
 void ResultForm::PrintUlbon() {
   RunState.ReportBody = 1;
   print_panel_->Dates().FillToday();
-  Print(print_panel_->Order("btnA4Y", true, Percent()));
+  Print(print_panel_->Order("btnA4Y", true, shown_percent_));
 }
 
 void ResultForm::btnSettei_Click() {
@@ -383,6 +383,9 @@ void ResultForm::btnSettei_Click() {
   print_panel_->Dates().FollowStyle();
   Fill();
 }
+
+// A key presses it; the mouse and the blank turn it over without help.
+void ResultForm::chkPreview_Press() { ui_->chkPreview->toggle(); }
 
 void ResultForm::cmdExit_Click() { close(); }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -56,6 +57,7 @@ class ResultForm : public QWidget {
   void btnB5Y_Click();
   void btnSettei_Click();
   void btnReturn_Click();
+  void chkPreview_Press();
   void txtPercent_Enter();
 
  protected:
@@ -83,7 +85,6 @@ class ResultForm : public QWidget {
 
   void Tally();
   void Fill();
-  double Percent() const;
   void Recalculate(const std::function<void()>& change);
   void ShowAvailability();
   void ShowWarning();
@@ -102,6 +103,7 @@ class ResultForm : public QWidget {
   std::unique_ptr<PrintPanel> print_panel_;
   RangePanel* range_ = nullptr;  ///< null on the bulk screen
   bool show_ulbon_only_ = false;
+  std::int32_t shown_percent_ = 0;  ///< the uplift that the grid shows
   bool tally_ran_ = false;
   bool ended_ = false;
 };

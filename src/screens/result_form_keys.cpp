@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The buttons and keys of the result form, and what they call.
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -36,6 +37,7 @@ const std::vector<ResultForm::Action>& ResultForm::Actions() {
       {"btnA4Y", Qt::Key_F1, &F::btnA4Y_Click},
       {"btnA4T", Qt::Key_F3, &F::btnA4T_Click},
       {"btnB5Y", Qt::Key_F5, &F::btnB5Y_Click},
+      {"chkPreview", Qt::Key_F8, &F::chkPreview_Press},
       {"btnSettei", Qt::Key_F7, &F::btnSettei_Click},
       {"btnReturn", Qt::Key_Escape, &F::btnReturn_Click},
   };
@@ -52,7 +54,9 @@ std::vector<int> ResultForm::Keys(const ResultScreen& screen) {
 
 void ResultForm::ConnectControls() {
   for (const Action& action : Actions()) {
-    connect(findChild<QPushButton*>(action.button), &QPushButton::clicked, this,
+    const auto* button = findChild<QPushButton*>(action.button);
+    if (button == nullptr) continue;  // a check box turns over by itself
+    connect(button, &QPushButton::clicked, this,
             [this, handler = action.handler] { RunAction(*this, [&] { (this->*handler)(); }); });
   }
   connect(ui_->txtPercent, &QLineEdit::returnPressed, this,
@@ -65,7 +69,7 @@ bool ResultForm::AnswerPress(const QKeyEvent& press) {
   for (const Action& action : Actions()) {
     if (action.key == 0 || !IsPress(press, action.key) || !HasControl(screen_, action.button)) continue;
     ours = true;
-    const auto* button = findChild<QPushButton*>(action.button);
+    const auto* button = findChild<QAbstractButton*>(action.button);
     if (print_panel_->IsOpen() != ui_->SSPanel3->isAncestorOf(button)) continue;
     if (!IsRepeat(press) && button->isVisibleTo(this) && button->isEnabled()) (this->*action.handler)();
     break;

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "screens/date_boxes.h"
+#include "screens/print_order.h"
 
 namespace rbt {
 
@@ -39,16 +39,6 @@ extern const ResultScreen kShapeScreen;      ///< KEIJOJS
 extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
 
 bool HasControl(const ResultScreen& screen, std::string_view control);
-
-/// A sheet that a paper button asks for.
-struct PrintOrder {
-  std::string_view button;  ///< btnA4T, btnA4Y or btnB5Y
-  bool ulbon = false;  ///< the Ulbon report, A4 landscape whatever the button; else the comparison report of
-                       ///< the setting 対比表項目
-  DateTexts date;
-  std::string sub_project;
-  double percent = 0.0;
-};
 
 /// What a result form leans on beside the tally. An empty one is not ready yet: its button says so.
 struct ResultParts {

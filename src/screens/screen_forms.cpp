@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 
+#include "platform/desktop/preview_form.h"
 #include "screens/result_form.h"
 #include "screens/selection_dialogs.h"
 #include "shell/settings_forms/settings_forms.h"
@@ -52,6 +53,7 @@ std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
   parts.choose_kinds = ChooseKinds;
   parts.choose_forms = ChooseForms;
   parts.open_settings = OpenSettings;
+  parts.print = [](const PrintOrder& order) { CarryOut(order, ShowPreview); };
   return std::make_unique<ResultForm>(screen, std::move(parts));
 }
 
