@@ -113,7 +113,7 @@ void DrawBrokenName(PrinterSurface& Printer, const HeadLayout& layout, const Row
   };
   Printer.FontSize = kNameSize;
   print_above(layout.margin, 3.5, layout.labels.broken_name);
-  Printer.FontSize = kLineSize;
+  Printer.FontSize = layout.broken_name_size;
   const CutName name = CutAtBreak(site.long_name, site.koji_break);
   const std::int32_t bytes = Get_ByteLen(LongerPiece(name));
   ShrinkToFit(Printer, layout, bytes);

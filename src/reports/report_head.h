@@ -41,7 +41,8 @@ struct HeadLayout {
   float line_gap;    ///< what a row has beside the height of its text
   float margin;      ///< X of the lines' left end
   float short_name_x;
-  float name_indent;  ///< from the margin to a long name
+  float name_indent;       ///< from the margin to a long name
+  float broken_name_size;  ///< points from which a long name on two lines shrinks; one on one line from 12
   ProjectLabels labels;
   std::int32_t rule_width_without_client;  ///< DrawWidth under the project's name; with a client line it is 2
   float project_rule_to;                   ///< 0: the rule under the project name is as long as the name

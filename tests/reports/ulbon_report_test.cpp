@@ -104,6 +104,15 @@ TEST_F(UlbonReport, ASubProjectTextStandsInSize12ForAsLongAsItStaysClearOfTheBlo
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 7);
 }
 
+// 19 characters take 960 + 38 x 120 = 5520; 13 points would fit too.
+TEST_F(UlbonReport, ALongNameShrinksFrom12OnTwoLinesToo) {
+  site_.long_name = "見本町三丁目地区市街地再開発事業業務棟駐車場棟";
+  site_.koji_break = 19;
+  Draw();
+  EXPECT_EQ(page_.TextOf("見本町三丁目地区市街地再開発事業業務棟").font_size, 12);
+  EXPECT_EQ(page_.TextOf("駐車場棟").y, Y(0) + 360 * 3.5F - 240);
+}
+
 TEST_F(UlbonReport, TheOwnCompanyStandsAt10000And2300) {
   root_.SetIni(test::kSteelFile, "自社名", "会社名", "鉄筋");
   Draw();
