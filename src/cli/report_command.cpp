@@ -122,8 +122,8 @@ void RunReport(const ReportOptions& options) {
   const std::shared_ptr<const Documents> documents = UsePdfDevice();
 
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
-  const ReportArguments arguments{options.sub_project, date.year,      date.month, date.day,
-                                  RunState.ReportBody, options.percent};
+  const ReportArguments arguments =
+      Trimmed({options.sub_project, date.year, date.month, date.day, RunState.ReportBody, options.percent});
   const ReportForm& form = *std::find_if(kReportForms.begin(), kReportForms.end(),
                                          [&](const ReportForm& row) { return row.name == options.name; });
   PrintReport(form.orientation, form.paper_kind,

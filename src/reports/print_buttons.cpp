@@ -2,24 +2,14 @@
 #include "reports/print_buttons.h"
 
 #include <algorithm>
-#include <string>
 
 #include "platform/fault.h"
-#include "platform/text/characters.h"
 #include "reports/ulbon_report.h"
 #include "shell/config/settings.h"
 
 namespace rbt {
 
 namespace {
-
-ReportArguments Trimmed(const ReportArguments& arguments) {
-  ReportArguments trimmed = arguments;
-  for (std::string* text : {&trimmed.SubProject, &trimmed.Year, &trimmed.Month, &trimmed.Day}) {
-    *text = std::string(Trim(*text));
-  }
-  return trimmed;
-}
 
 auto ReportOf(const PrintButton& button, std::int32_t comparison_kind) {
   switch (comparison_kind) {

@@ -16,6 +16,14 @@ bool WesternDates() { return ReadSetting(kDateStyleKey) == 1; }
 
 }  // namespace
 
+ReportArguments Trimmed(const ReportArguments& arguments) {
+  ReportArguments trimmed = arguments;
+  for (std::string* text : {&trimmed.SubProject, &trimmed.Year, &trimmed.Month, &trimmed.Day}) {
+    *text = std::string(Trim(*text));
+  }
+  return trimmed;
+}
+
 DateTexts DefaultDateTexts(const DateTime& date) {
   const std::string year =
       WesternDates() ? FormatDate(date, "yyyy") : std::string(Right("0" + FormatDate(date, "e"), 2));

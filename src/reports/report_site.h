@@ -8,7 +8,7 @@
 
 namespace rbt {
 
-/// What a screen hands to a report routine, texts as typed and trimmed.
+/// What a screen or a command hands to a report routine.
 struct ReportArguments {
   std::string SubProject;
   std::string Year;
@@ -17,6 +17,9 @@ struct ReportArguments {
   std::int32_t UlbonFlag = 1;  ///< not 0: the Ulbon and spiral rows are wanted
   std::int32_t Percent = 0;    ///< the screen's uplift of the Ulbon weights
 };
+
+/// The same with its texts, as they were typed, trimmed: blanks alone are no sub-project text.
+ReportArguments Trimmed(const ReportArguments& arguments);
 
 /// The date boxes for a date where nothing was typed: the Western year, or, with era dates, the year of the
 /// era with two digits; month and day with two digits.
