@@ -83,7 +83,12 @@ class PagePainter {
 
  private:
   void UseFont(const PrintedText& text) {
-    QFont font(FamilyOf(text.font_name));
+    // Looking through all fonts takes longer than drawing a text.
+    if (family_.isEmpty() || text.font_name != font_name_) {
+      family_ = FamilyOf(text.font_name);
+      font_name_ = text.font_name;
+    }
+    QFont font(family_);
     font.setPixelSize(qRound(LineHeight(text.font_size)));
     font.setBold(text.font_bold);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -92,6 +97,8 @@ class PagePainter {
   }
 
   QPainter& painter_;
+  std::string font_name_;
+  QString family_;  ///< of `font_name_`
 };
 
 /// Paints one page after the other on a device; the sheet of the first is set up before.

@@ -147,7 +147,10 @@ void PreviewForm::ShowPage(std::size_t page) {
 }
 
 void PreviewForm::ShowZoom() {
-  ui_->lblZoom->setText(QStringLiteral("%1 %").arg(qRound(ui_->picSheet->Percent())));
+  constexpr std::array kFits{"", "全体 ", "頁幅 "};
+  const char* fit = kFits.at(static_cast<std::size_t>(ui_->picSheet->FitMode()));
+  ui_->lblZoom->setText(
+      QStringLiteral("%1%2 %").arg(QString::fromUtf8(fit)).arg(qRound(ui_->picSheet->Percent())));
 }
 
 void PreviewForm::cmdPrev_Click() {

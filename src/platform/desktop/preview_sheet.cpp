@@ -52,7 +52,6 @@ double OnDevicePixel(double place, double ratio) { return std::round(place * rat
 
 PreviewSheet::PreviewSheet(QWidget* parent) : QAbstractScrollArea(parent) {
   setFocusPolicy(Qt::StrongFocus);
-  setFrameShape(QFrame::NoFrame);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) bar->setSingleStep(kScrollStep);
 }
