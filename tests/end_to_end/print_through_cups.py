@@ -8,6 +8,7 @@ usage: print_through_cups.py RBTALLY PRINT_SHEET
 """
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -105,12 +106,18 @@ def check_list(desk):
 
 
 def check_named_printer(desk):
-    """The printer of the setting gets orientation and paper of each button, whatever the default printer is."""
+    """The printer of the setting gets orientation and paper of each button, whatever the default printer is. Without
+    margins a sheet is the one that is written as PDF."""
     desk.name_printer("甲")
     sheets = desk.print(*BUTTONS)
     assert len(sheets) == len(BUTTONS), sheets
     for (handed, came_out), (paper, landscape) in zip(sheets, BUTTONS.values()):
         check_sheet(handed, came_out, paper, landscape)
+    for (handed, _), button in zip(sheets, BUTTONS):
+        file = desk.world.folder / f"{button}.pdf"
+        desk.world.run(f"rbtally report taihi-a-{button[3:].lower()} --date 2026/11/21 -o {file}")
+        assert desk.world.status == 0, desk.world.stderr
+        check_shift(file, handed, 0, 0)
     return sheets
 
 
@@ -161,7 +168,7 @@ def check_no_server(desk):
 
 def main():
     if os.geteuid() != 0:
-        # The PDF printer of CUPS runs as root only.
+        assert shutil.which("sudo"), "the PDF printer of CUPS works for root only, and there is no sudo"
         os.execvp("sudo", ["sudo", "-n", "--", sys.executable, "-B", *sys.argv])
     with tempfile.TemporaryDirectory(prefix="rbtally-") as folder, PrintServer() as server:
         world = scenario.World(sys.argv[1], folder)
