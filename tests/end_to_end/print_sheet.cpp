@@ -1,24 +1,46 @@
 // SPDX-License-Identifier: MIT
-// The print buttons of the bulk tally without their window: prints the sheets of the named buttons, one after
-// the other in one process, on the printers of the system, dated 2026/11/21; `list` tells what printers there
-// are.
+// The bulk result screen without a display: opens it on $RBK_ROOT and prints the sheets of the named buttons
+// by their keys, one after the other, on the printers of the system. `list` tells what printers there are. A
+// message of the screen is a line on standard error.
+#include <array>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QWidget>
 
+#include "desktop/key_press.h"
+#include "platform/desktop/look.h"
 #include "platform/desktop/system_printers.h"
 #include "platform/fault.h"
 #include "platform/print/printer_list.h"
-#include "reports/print_buttons.h"
+#include "platform/system/message.h"
+#include "screens/screen_forms.h"
 #include "shell/startup/startup.h"
-#include "tally/bulk_tally.h"
 
 namespace rbt {
 
 namespace {
+
+constexpr Qt::Key kPrintPanelKey = Qt::Key_F1;
+
+struct PaperKey {
+  std::string_view button;
+  Qt::Key key;
+};
+constexpr std::array kPaperKeys{PaperKey{"btnA4T", Qt::Key_F3}, PaperKey{"btnA4Y", Qt::Key_F1},
+                                PaperKey{"btnB5Y", Qt::Key_F5}};
+
+Qt::Key KeyOf(std::string_view button) {
+  for (const PaperKey& paper : kPaperKeys) {
+    if (paper.button == button) return paper.key;
+  }
+  throw Fault(FaultKind::subscript_out_of_range, "print button " + std::string(button));
+}
 
 /// A line for each printer: name, paper code, orientation, sides of a custom sheet in twips.
 void TellPrinters() {
@@ -34,16 +56,21 @@ void PrintSheets(std::span<char*> buttons) {
   options.command_line = true;
   LoadSite(options);
   ActivateMenu(options);
-  Jyuuryo_Syukei();
+  const std::unique_ptr<QWidget> screen = MakeJS();
+  screen->show();
+  test::Settle();
   for (const std::string_view button : buttons) {
-    PrintComparison(FindPrintButton(button), {"", "2026", "11", "21", 1, 0});
+    test::Press(*screen, kPrintPanelKey);
+    test::Settle();
+    test::Press(*screen, KeyOf(button));
+    test::Settle();
   }
 }
 
 int Run(std::span<char*> words) {
   try {
     UseSystemPrinters([](const PrintedDocument& document) {
-      throw Fault(FaultKind::file, document.device_name + ": this program prints on installed printers only");
+      throw Fault(FaultKind::file, document.device_name + ": a preview has nobody to look at it here");
     });
     if (words.size() == 1 && std::string_view(words[0]) == "list") {
       TellPrinters();
@@ -64,6 +91,8 @@ int Run(std::span<char*> words) {
 int main(int argc, char** argv) {
   const std::span<char*> words(argv, static_cast<std::size_t>(argc));
   int own_name_only = 1;
-  const QGuiApplication application(own_name_only, argv);
+  const QApplication application(own_name_only, argv);
+  rbt::PrepareDesktop();
+  rbt::SetMessageHandler({});
   return rbt::Run(words.subspan(1));
 }

@@ -29,14 +29,15 @@ SAME, OTHER = 0.9, 0.7  # likeness of two pictures of one page, and more than di
 
 
 class Desk:
-    """The print buttons, at work on one site."""
+    """The bulk result screen and its print buttons, at work on one site."""
 
     def __init__(self, world, program, server):
         self.world, self.program, self.server = world, program, server
 
     def run(self, *words):
         environment = self.world.environment | self.server.environment() | {
-            "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": str(self.world.folder)}
+            "QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false",
+            "XDG_RUNTIME_DIR": str(self.world.folder)}
         return subprocess.run([self.program, *words], env=environment, capture_output=True, text=True,
                               timeout=self.server.patience)
 
@@ -146,13 +147,13 @@ def check_unknown_name(desk):
 
 
 def check_refusal(desk):
-    """A printer that takes no jobs is a fault that names it."""
+    """Of a printer that takes no jobs the screen says so, with its name."""
     desk.name_printer("甲")
     desk.server.run("cupsreject", "甲")
 
     def press():
         done = desk.run("btnA4T")
-        assert done.returncode == 1 and "甲" in done.stderr and "not accepting" in done.stderr, done
+        assert "甲" in done.stderr and "not accepting" in done.stderr, done
 
     assert desk.server.printed_by(press) == []
 
