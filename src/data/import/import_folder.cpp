@@ -147,7 +147,9 @@ FilesByName FilesOf(const fs::path& folder) {
   FilesByName files;
   std::error_code error;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    if (!entry.is_regular_file()) continue;
+    // A link that leads nowhere is a file that cannot be read.
+    std::error_code nowhere;
+    if (!entry.is_regular_file(nowhere) && (!entry.is_symlink() || entry.is_directory(nowhere))) continue;
     const std::string name = entry.path().filename().string();
     const auto [other, fresh] = files.emplace(name, entry.path());
     if (!fresh) {

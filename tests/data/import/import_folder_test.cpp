@@ -156,6 +156,13 @@ TEST_F(ImportFolder, LeavesOutASiteThatCannotBeReadAndNamesIt) {
   EXPECT_TRUE(fs::exists(root_ / "DATA" / "GENBA001.MDB"));
 }
 
+TEST_F(ImportFolder, ALinkThatLeadsNowhereIsAFileThatCannotBeRead) {
+  PutWholeFolder();
+  fs::create_symlink("gone.MDB", data_ / "GENBA009.MDB");
+  fs::create_symlink("HIROI009.mdb", data_ / "HIROI009.mdb");
+  EXPECT_THAT(Take().failed, UnorderedElementsAre(HasSubstr("GENBA009.MDB"), HasSubstr("HIROI009.mdb")));
+}
+
 TEST_F(ImportFolder, WithoutAReadableMasterDatabaseLeavesNothing) {
   PutWholeFolder();
   fs::resize_file(data_ / "SORANO.MDB", 5000);
