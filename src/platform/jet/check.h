@@ -16,8 +16,8 @@ struct CheckReport {
 };
 
 /// Looks at the whole file: every page owned once, usage maps agree with the pages, row counts agree, each
-/// index sorted, complete, resolving to live rows, and unique where it says so. Damage is collected, never
-/// thrown.
+/// index sorted, complete, resolving to live rows, with their keys as far as those are numbers, and unique
+/// where it says so. Damage is collected, never thrown.
 CheckReport CheckFile(JetFile& file);
 
 }  // namespace rbt::jet

@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "platform/jet/table.h"
+
 namespace rbt::jet {
 
 namespace {
@@ -21,11 +23,13 @@ class IndexCheck {
     }
   }
 
-  void Visit(const IndexEntry& entry) {
+  /// False when the entry stands for no row.
+  bool Visit(const IndexEntry& entry) {
     CheckOrder(entry);
     const auto row = std::lower_bound(rows_.begin(), rows_.end(), entry.row,
                                       [](const RowNulls& r, RowPointer place) { return r.place < place; });
-    if (row == rows_.end() || row->place != entry.row) {
+    const bool found = row != rows_.end() && row->place == entry.row;
+    if (!found) {
       tell_(fmt::format("an entry points to row {}, which is not there", PlaceText(entry.row)));
     } else {
       const auto at = static_cast<std::size_t>(row - rows_.begin());
@@ -38,6 +42,25 @@ class IndexCheck {
     }
     last_ = entry;
     started_ = true;
+    return found;
+  }
+
+  /// A key that is not its row's leads searches astray, in whatever order the keys stand.
+  void CheckKey(const IndexEntry& entry, const std::vector<unsigned char>& known) const {
+    if (known.size() > entry.key.size() || !std::equal(known.begin(), known.end(), entry.key.begin())) {
+      tell_(fmt::format("the entry of row {} has not its key", PlaceText(entry.row)));
+    }
+  }
+
+  void CheckNeighbours(const std::vector<IndexLeaf>& leaves) const {
+    for (std::size_t i = 0; i < leaves.size(); ++i) {
+      const std::uint32_t previous = i == 0 ? 0 : leaves[i - 1].page;
+      const std::uint32_t next = i + 1 == leaves.size() ? 0 : leaves[i + 1].page;
+      if (leaves[i].previous != previous || leaves[i].next != next) {
+        tell_(fmt::format("page {} names {} and {} as its neighbours, which are {} and {}", leaves[i].page,
+                          leaves[i].previous, leaves[i].next, previous, next));
+      }
+    }
   }
 
   void CheckComplete() const {
@@ -74,7 +97,13 @@ class IndexCheck {
 IndexWalk CheckIndex(JetFile& file, const TableDefinition& table, const PhysicalIndex& index,
                      const std::vector<RowNulls>& rows, const std::function<void(const std::string&)>& tell) {
   IndexCheck check(table, index, rows, tell);
-  IndexWalk walk = WalkIndex(file, index, [&](const IndexEntry& entry) { check.Visit(entry); });
+  const bool known = KnowsKeysOf(table, index);
+  IndexWalk walk = WalkIndex(file, index, [&](const IndexEntry& entry) {
+    const bool row_is_there = check.Visit(entry);
+    if (row_is_there && known)
+      check.CheckKey(entry, KnownKeyOf(table, index, ReadRow(file, table, entry.row)));
+  });
+  check.CheckNeighbours(walk.leaves);
   check.CheckComplete();
   return walk;
 }

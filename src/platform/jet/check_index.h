@@ -16,8 +16,8 @@ struct RowNulls {
 };
 
 /// Walks an index and tells what does not agree with the table's live rows (ascending by place): entries out
-/// of order, twice, without a row; rows without an entry; equal keys where it is unique. A tree that cannot
-/// be walked throws `Fault` of kind `file`.
+/// of order, twice, without a row or with the key of another; rows without an entry; equal keys where it is
+/// unique; leaves that name the wrong neighbours. A tree that cannot be walked throws `Fault` of kind `file`.
 IndexWalk CheckIndex(JetFile& file, const TableDefinition& table, const PhysicalIndex& index,
                      const std::vector<RowNulls>& rows, const std::function<void(const std::string&)>& tell);
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/jet/index.h"
 
+#include <algorithm>
+#include <bit>
+#include <iterator>
 #include <set>
 
 #include <fmt/format.h>
@@ -72,6 +75,8 @@ class Walker {
       // The newest leaf of a growing index hangs at the tail and is not named by an entry yet.
       if (tail != 0 && seen_.count(tail) == 0) Visit(tail, depth + 1);
     } else if (type == PageType::index_leaf) {
+      const std::size_t links = file_.layout().index_previous;
+      walk_.leaves.push_back({number, page.U32(links), page.U32(links + 4)});
       for (const RawEntry& entry : EntriesOf(file_, page, false)) {
         ++walk_.entries;
         handle_(entry.entry);
@@ -97,6 +102,74 @@ class Walker {
 };
 
 }  // namespace
+
+namespace {
+
+/// Bytes of a number, the highest first, so that they sort as the numbers do.
+std::vector<unsigned char> BigEndian(std::uint64_t number, std::size_t count) {
+  std::vector<unsigned char> bytes;
+  for (std::size_t i = count; i-- > 0;) bytes.push_back(static_cast<unsigned char>(number >> (8 * i)));
+  return bytes;
+}
+
+/// The part of a key that stands for a value of a known type.
+std::vector<unsigned char> KeyPartOf(ColumnType type, const Value& value) {
+  const auto signed_number = [](std::int64_t number, std::size_t count) {
+    return BigEndian(static_cast<std::uint64_t>(number) ^ (std::uint64_t{1} << (8 * count - 1)), count);
+  };
+  switch (type) {
+    case ColumnType::byte:
+      return BigEndian(static_cast<std::uint64_t>(std::get<std::int64_t>(value)), 1);
+    case ColumnType::integer16:
+      return signed_number(std::get<std::int64_t>(value), 2);
+    case ColumnType::integer32:
+      return signed_number(std::get<std::int64_t>(value), 4);
+    case ColumnType::currency:
+      return signed_number(std::get<Currency>(value).TenThousandths(), 8);
+    case ColumnType::real:
+    case ColumnType::date_time: {
+      const auto bits = std::bit_cast<std::uint64_t>(std::get<double>(value));
+      const bool negative = (bits >> 63) != 0;
+      return BigEndian(negative ? ~bits : bits | (std::uint64_t{1} << 63), 8);
+    }
+    default:
+      return {};
+  }
+}
+
+constexpr ColumnType kKnownTypes[] = {ColumnType::byte,     ColumnType::integer16, ColumnType::integer32,
+                                      ColumnType::currency, ColumnType::real,      ColumnType::date_time};
+
+bool Knows(ColumnType type) {
+  return std::find(std::begin(kKnownTypes), std::end(kKnownTypes), type) != std::end(kKnownTypes);
+}
+
+}  // namespace
+
+bool KnowsKeysOf(const TableDefinition& table, const PhysicalIndex& index) {
+  return !index.columns.empty() && Knows(table.FindNumber(index.columns.front().number)->type);
+}
+
+std::vector<unsigned char> KnownKeyOf(const TableDefinition& table, const PhysicalIndex& index,
+                                      const std::vector<Value>& values) {
+  constexpr unsigned char kNull = 0;
+  constexpr unsigned char kValue = 0x7F;
+  std::vector<unsigned char> key;
+  for (const IndexColumn& column : index.columns) {
+    const Column* const field = table.FindNumber(column.number);
+    if (!Knows(field->type)) break;
+    const Value& value = values[static_cast<std::size_t>(field - table.columns.data())];
+    std::vector<unsigned char> part{kNull};
+    if (!IsNull(value)) {
+      part = KeyPartOf(field->type, value);
+      part.insert(part.begin(), kValue);
+    }
+    for (const unsigned char byte : part) {
+      key.push_back(column.descending ? static_cast<unsigned char>(~byte) : byte);
+    }
+  }
+  return key;
+}
 
 IndexWalk WalkIndex(JetFile& file, const PhysicalIndex& index,
                     const std::function<void(const IndexEntry&)>& handle) {

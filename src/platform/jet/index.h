@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/jet/table_definition.h"
+#include "platform/numbers/value.h"
 
 namespace rbt::jet {
 
@@ -14,9 +15,17 @@ struct IndexEntry {
   RowPointer row;
 };
 
-/// What a walk over a B-tree met: its pages, branches included.
+/// A leaf and the leaves that it names as its neighbours; 0 is none.
+struct IndexLeaf {
+  std::uint32_t page = 0;
+  std::uint32_t previous = 0;
+  std::uint32_t next = 0;
+};
+
+/// What a walk over a B-tree met: its pages, branches included, and its leaves in their order.
 struct IndexWalk {
   std::vector<std::uint32_t> pages;
+  std::vector<IndexLeaf> leaves;
   std::size_t entries = 0;
 };
 
@@ -24,5 +33,12 @@ struct IndexWalk {
 /// broken entries throw `Fault` of kind `file`.
 IndexWalk WalkIndex(JetFile& file, const PhysicalIndex& index,
                     const std::function<void(const IndexEntry&)>& handle);
+
+/// What the key of a row begins with: its parts up to the first column whose keys are not known here (texts,
+/// which are sorted by language, and others). `values` are parallel to the columns of the table.
+std::vector<unsigned char> KnownKeyOf(const TableDefinition& table, const PhysicalIndex& index,
+                                      const std::vector<Value>& values);
+/// True when the keys of its first column are known.
+bool KnowsKeysOf(const TableDefinition& table, const PhysicalIndex& index);
 
 }  // namespace rbt::jet

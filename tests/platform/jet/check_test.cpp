@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/jet/index.h"
 #include "platform/jet/table.h"
 #include "support/jet_writer.h"
 
@@ -126,8 +127,7 @@ TEST(JetCheck, ARowCountThatIsOffIsTold) {
 TEST(JetCheck, EntriesOutOfOrderAreTold) {
   OneTable file;
   file.EntryByte(0, 4) = 9;
-  EXPECT_THAT(file.Damages(),
-              ElementsAre("table 表, index PrimaryKey: the entry of row 4:1 is out of order"));
+  EXPECT_THAT(file.Damages(), Contains("table 表, index PrimaryKey: the entry of row 4:1 is out of order"));
 }
 
 TEST(JetCheck, AnEntryWithoutARowAndARowWithoutAnEntryAreTold) {
@@ -142,13 +142,53 @@ TEST(JetCheck, ARowOfTwoEntriesIsTold) {
   OneTable file;
   file.EntryByte(2, 8) = 1;
   EXPECT_THAT(file.Damages(), ElementsAre("table 表, index PrimaryKey: row 4:1 has two entries",
+                                          "table 表, index PrimaryKey: the entry of row 4:1 has not its key",
                                           "table 表, index PrimaryKey: row 4:2 has no entry"));
 }
 
 TEST(JetCheck, EqualKeysOfAUniqueIndexAreTold) {
   OneTable file;
   file.EntryByte(1, 4) = 1;
-  EXPECT_THAT(file.Damages(), ElementsAre("table 表, index PrimaryKey: rows 4:0 and 4:1 have the same key"));
+  EXPECT_THAT(file.Damages(), Contains("table 表, index PrimaryKey: rows 4:0 and 4:1 have the same key"));
+}
+
+TEST(JetCheck, AnEntryWithTheKeyOfAnotherRowIsTold) {
+  OneTable file;
+  file.At(4, 4096 - 7 + 2) = 9;  // the first row's number; its entry still has 1
+  EXPECT_THAT(file.Damages(),
+              ElementsAre("table 表, index PrimaryKey: the entry of row 4:0 has not its key"));
+}
+
+TEST(JetCheck, ALeafThatNamesAWrongNeighbourIsTold) {
+  OneTable file;
+  file.Put32(5, 0x10, 4);
+  EXPECT_THAT(file.Damages(), ElementsAre("table 表, index PrimaryKey: page 5 names 0 and 4 as its "
+                                          "neighbours, which are 0 and 0"));
+}
+
+TEST(JetCheck, KeysOfNumbersAreKnownAscendingAndDescending) {
+  TableDefinition table;
+  const auto column = [&](std::uint16_t number, ColumnType type) {
+    table.columns.emplace_back().type = type;
+    table.columns.back().number = number;
+  };
+  column(0, ColumnType::integer16);
+  column(1, ColumnType::real);
+  column(2, ColumnType::text);
+  column(3, ColumnType::currency);
+  PhysicalIndex index;
+  index.columns = {{0, false}, {1, true}, {3, false}, {2, false}, {0, false}};
+  const Value minus_one{std::int64_t{-1}};
+  EXPECT_EQ(KnownKeyOf(table, index, {minus_one, Value{1.0}, Value{"柱"}, {}}),
+            (std::vector<unsigned char>{0x7F, 0x7F, 0xFF, 0x80, 0x40, 0x0F, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
+                                        0xFF, 0}));
+  index.columns = {{1, false}, {3, true}};
+  EXPECT_EQ(KnownKeyOf(table, index, {minus_one, Value{-1.0}, {}, Value{Currency::FromTenThousandths(1)}}),
+            (std::vector<unsigned char>{0x7F, 0x40, 0x0F, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x80, 0x7F,
+                                        0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFE}));
+  index.columns = {{2, false}, {0, false}};
+  EXPECT_FALSE(KnowsKeysOf(table, index));
+  EXPECT_TRUE(KnownKeyOf(table, index, {minus_one, {}, {}, {}}).empty());
 }
 
 TEST(JetCheck, AFileNotClosedCleanlyIsAWarning) {
