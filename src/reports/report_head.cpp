@@ -144,6 +144,12 @@ void DrawProject(PrinterSurface& Printer, const HeadLayout& layout, const RowGri
   }
 }
 
+/// "重量対比表 見本町集合住宅": the title without the blanks that spread it over the page, and the site.
+std::string DocumentTitle(const HeadLayout& layout, const ReportSite& site) {
+  const std::string title = ReplaceAll(ReplaceAll(layout.title, " ", ""), "　", "");
+  return site.short_name.empty() ? title : title + " " + site.short_name;
+}
+
 }  // namespace
 
 void PrintRuled(PrinterSurface& Printer, const RuledText& place, float y,
@@ -154,6 +160,7 @@ void PrintRuled(PrinterSurface& Printer, const RuledText& place, float y,
 
 RowGrid DrawHead(PrinterSurface& Printer, const HeadLayout& layout, const ReportSite& site,
                  const ReportArguments& arguments) {
+  Printer.DocumentTitle = DocumentTitle(layout, site);
   const float y = DrawTitle(Printer, layout);
   const RowGrid grid = DrawClient(Printer, layout, site.client, y);
   DrawProject(Printer, layout, grid, site, arguments.SubProject);

@@ -15,6 +15,7 @@ namespace rbt::test {
 
 namespace {
 
+using testing::ContainsRegex;
 using testing::HasSubstr;
 
 /// A page with one text of 10 points, its corner one inch from the left and two from the top.
@@ -63,11 +64,13 @@ std::vector<Word> Words(const std::filesystem::path& file) {
 TEST(PaintedPdf, HoldsSeveralDocumentsEachOnItsOwnPaper) {
   const TemporaryFolder folder;
   const std::filesystem::path file = folder / "a.pdf";
-  const std::vector<PrintedDocument> documents{
+  std::vector<PrintedDocument> documents{
       Document(kPaperA4, kPortrait, {"alpha", "beta"}), Document(kPaperB5, kLandscape, {"gamma"}),
       Document(kPaperA3, kLandscape, {"delta"}), Document(kPaperA4, kPortrait, {"omega"})};
+  documents.front().title = "重量対比表 見本町";
   PaintPdf(documents, file);
-  const std::string sheets = Said("pdfinfo -f 1 -l 9 '" + file.string() + "'");
+  const std::string sheets = Said("pdfinfo -enc UTF-8 -f 1 -l 9 '" + file.string() + "'");
+  EXPECT_THAT(sheets, ContainsRegex("Title: +重量対比表 見本町\n"));
   EXPECT_THAT(sheets, HasSubstr("Pages:           5"));
   // Points, to the tenth or so: A4 210 x 297 mm, the Japanese B5 182 x 257 mm, A3 297 x 420 mm.
   EXPECT_THAT(sheets, HasSubstr("Page    1 size:  595 x 842"));

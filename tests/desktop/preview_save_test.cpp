@@ -16,6 +16,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "platform/text/characters.h"
 #include "support/environment_variable.h"
 #include "support/temporary_folder.h"
 
@@ -41,19 +42,23 @@ class SavedPreview : public testing::Test {
             })) {
     fs::create_directory(documents);
     SetClock(DateTime{.year = 2026, .month = 11, .day = 21});
+    Open("");
+  }
+  ~SavedPreview() override {
+    SetMessageHandler(old_messages_);
+    SetClock(std::nullopt);
+  }
+
+  void Open(const std::string& document_title) {
     PreviewParts parts;
     parts.ask_file = [this](QWidget&, const fs::path& offered) { return Ask(offered); };
-    PrintedDocument document{"PDF", kPaperA4, kPortrait, {}};
+    PrintedDocument document{"PDF", kPaperA4, kPortrait, {}, document_title};
     document.pages = {
         {PrintedText{.x = 1440, .y = 1440, .text = "鉄筋", .font_name = "ＭＳ ゴシック", .font_size = 10}}};
     form = std::make_unique<PreviewForm>(std::vector{document, document}, std::move(parts));
     form->show();
     form->activateWindow();
     Settle();
-  }
-  ~SavedPreview() override {
-    SetMessageHandler(old_messages_);
-    SetClock(std::nullopt);
   }
 
   /// The user's next answer: a file, or what was offered where it is empty; turns back when none is left.
@@ -105,6 +110,19 @@ TEST_F(SavedPreview, OffersANameThatIsNotThereYet) {
   EXPECT_THAT(offers, ElementsAre(documents / "集計表-20261121-3.pdf"));
   EXPECT_TRUE(IsPdf(documents / "集計表-20261121-3.pdf"));
   EXPECT_EQ(ReadFileBytes(documents / "集計表-20261121.pdf"), "old");
+}
+
+TEST_F(SavedPreview, OffersTheDocumentsTitleAsItsName) {
+  Open("重量対比表 見本町集合住宅");
+  Save();
+  EXPECT_THAT(offers, ElementsAre(documents / "重量対比表 見本町集合住宅-20261121.pdf"));
+}
+
+TEST_F(SavedPreview, OffersNoCharacterThatAFileNameCannotHold) {
+  EXPECT_EQ(OfferedPdfFile("../A\\B:C*D?\"<E>|\n"), documents / "_._A_B_C_D___E___-20261121.pdf");
+  const fs::path longest = OfferedPdfFile(ReplaceAll(std::string(300, 'x'), "x", "鉄"));
+  EXPECT_EQ(longest.parent_path(), documents);
+  EXPECT_LE(longest.filename().string().size(), 255U);
 }
 
 TEST_F(SavedPreview, AddsTheExtensionWhereItIsMissing) {

@@ -47,6 +47,14 @@ TEST_F(ReportHead, TheTitleStandsBoldInSize18OverItsRule) {
   EXPECT_EQ(page_.RuleAt(1360, 3600).draw_width, 4);
 }
 
+TEST_F(ReportHead, NamesTheDocumentAfterTheReportAndTheSite) {
+  Draw();
+  EXPECT_EQ(page_.documents.back().title, "重量対比表 見本町住宅");
+  site_.short_name.clear();
+  Draw();
+  EXPECT_EQ(page_.documents.back().title, "重量対比表");
+}
+
 // Title at 1000, two lines of 360 below, two rows of 13 points (260) and 100.
 TEST_F(ReportHead, AClientMovesTheRowsDownByTwo) {
   const RowGrid grid = Draw();

@@ -184,6 +184,7 @@ void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem:
   {
     QPdfWriter writer(&bytes);
     writer.setCreator(QStringLiteral("rbtally"));
+    if (!documents.empty()) writer.setTitle(Text(documents.front().title));
     writer.setResolution(kTwipsPerInch);
     DevicePainter painter(writer, file.string());
     for (const PrintedDocument& document : documents) {

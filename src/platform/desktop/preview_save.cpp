@@ -11,6 +11,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "platform/text/characters.h"
 
 namespace rbt {
 
@@ -19,11 +20,25 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kExtension = ".pdf";
+constexpr const char* kNameWithoutTitle = "集計表";
 
 fs::path WithExtension(fs::path file) {
   const std::string extension = QString::fromStdString(file.extension().string()).toLower().toStdString();
   if (extension != kExtension) file += kExtension;
   return file;
+}
+
+std::string FileNameOf(std::string_view title) {
+  constexpr std::u32string_view kForbidden = U"/\\:*?\"<>|";
+  constexpr std::size_t kCharacters = 60;  // 180 bytes; a file name may have 255
+  constexpr char32_t kFirstPrintable = U' ';
+  std::string name;
+  for (const char32_t character : CharactersOf(Left(Trim(title), kCharacters))) {
+    const bool fits = character >= kFirstPrintable && kForbidden.find(character) == std::u32string_view::npos;
+    name += fits ? Utf8Of(character) : "_";
+  }
+  if (name.starts_with('.')) name.front() = '_';  // no hidden file
+  return name.empty() ? kNameWithoutTitle : name;
 }
 
 bool IsThere(const fs::path& file) {
@@ -73,9 +88,10 @@ std::optional<fs::path> AskPdfFile(QWidget& form, const fs::path& offered) {
   return fs::path(dialog.selectedFiles().constFirst().toStdString());
 }
 
-fs::path OfferedPdfFile() {
+fs::path OfferedPdfFile(std::string_view title) {
   const DateTime today = Now();
-  const std::string stem = fmt::format("集計表-{:04}{:02}{:02}", today.year, today.month, today.day);
+  const std::string stem =
+      fmt::format("{}-{:04}{:02}{:02}", FileNameOf(title), today.year, today.month, today.day);
   fs::path file = DocumentsFolder() / (stem + kExtension);
   for (int copy = 2; IsThere(file); ++copy) {
     file = DocumentsFolder() / fmt::format("{}-{}{}", stem, copy, kExtension);
@@ -86,7 +102,7 @@ fs::path OfferedPdfFile() {
 bool SaveAsPdf(QWidget& form, std::span<const PrintedDocument> documents,
                const std::function<std::optional<fs::path>(QWidget&, const fs::path&)>& ask) {
   const std::string title = form.windowTitle().toStdString();
-  fs::path offered = OfferedPdfFile();
+  fs::path offered = OfferedPdfFile(documents.empty() ? "" : documents.front().title);
   while (const std::optional<fs::path> named = ask(form, offered)) {
     const fs::path file = WithExtension(*named);
     offered = file;

@@ -58,7 +58,7 @@ QPointF PrintableCorner(QPageLayout layout) {
 }
 
 void SetUpPrinter(QPrinter& printer, const QPageSize& own_paper, const PrintedDocument& document) {
-  printer.setDocName(QString::fromUtf8(kDocumentName));
+  printer.setDocName(QString::fromStdString(document.title.empty() ? kDocumentName : document.title));
   printer.setCreator(QStringLiteral("rbtally"));
   printer.setResolution(kTwipsPerInch);
   printer.setCopyCount(1);

@@ -40,6 +40,7 @@ struct PrintedDocument {
   std::int32_t paper_code = 0;   ///< see `platform/print/paper.h`
   std::int32_t orientation = 0;  ///< 1 portrait, 2 landscape
   std::vector<PrintedPage> pages;
+  std::string title = {};  ///< what a print queue and a file call it, without a date; empty when nobody said
 };
 
 }  // namespace rbt

@@ -54,6 +54,7 @@ void PrinterSurface::NewPage() {
 
 void PrinterSurface::EndDoc() {
   PrintedDocument finished = std::exchange(document_, {});
+  finished.title = DocumentTitle;
   KillDoc();
   if (finished.pages.empty()) return;
   const Diversion& diversion = DiversionInPlace();
@@ -63,6 +64,7 @@ void PrinterSurface::EndDoc() {
 
 void PrinterSurface::KillDoc() {
   document_ = {};
+  DocumentTitle.clear();
   at_new_page_ = true;
   CurrentX = 0.0F;
   CurrentY = 0.0F;

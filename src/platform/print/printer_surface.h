@@ -52,6 +52,9 @@ class PrinterSurface {
   float PageHeight = 0.0F;
   float PageWidth = 0.0F;
 
+  /// The title of the document that is being drawn; it goes with it.
+  std::string DocumentTitle;
+
   const std::string& DeviceName() const { return device_name_; }
   DeviceKind Kind() const { return kind_; }
 

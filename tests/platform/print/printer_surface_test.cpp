@@ -101,6 +101,22 @@ TEST_F(PrinterSurfaceTest, NoEmptyPageFollowsTheLastAndAnEmptyOneMayStandBetween
   EXPECT_EQ(Text(2, 0).text, "三");
 }
 
+TEST_F(PrinterSurfaceTest, ATitleGoesWithTheDocumentThatIsDrawn) {
+  Printer.DocumentTitle = "甲";
+  Printer.Print({"一"});
+  Printer.KillDoc();
+  Printer.Print({"二"});
+  Printer.EndDoc();
+  EXPECT_EQ(documents_.back().title, "") << "the title of one that was forgotten";
+  Printer.Print({"三"});
+  Printer.DocumentTitle = "乙";
+  Printer.EndDoc();
+  EXPECT_EQ(documents_.back().title, "乙");
+  Printer.Print({"四"});
+  Printer.EndDoc();
+  EXPECT_EQ(documents_.back().title, "");
+}
+
 TEST_F(PrinterSurfaceTest, KillDocForgetsTheDocument) {
   Printer.Print({"一"});
   Printer.KillDoc();
