@@ -28,6 +28,7 @@ QPushButton:focus { background: #fff8d9; border: 2px solid #1457a8; padding: 4px
 QPushButton:pressed { background: #cfe0f1; }
 QPushButton:disabled { background: #e4e8ec; color: #6a7580; border-color: #b9c3cc; }
 QCheckBox, QRadioButton { border: 2px solid transparent; border-radius: 3px; padding: 1px 4px; }
+QCheckBox:disabled, QRadioButton:disabled { color: #6a7580; }
 QCheckBox:focus, QRadioButton:focus { background: #fff8d9; border-color: #1457a8; }
 QGroupBox { border: 1px solid #9fb0bf; border-radius: 5px; margin-top: 0.7em; background: #e3ebf3; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 12px; }
