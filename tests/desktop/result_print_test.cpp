@@ -104,6 +104,18 @@ TEST(ResultPrinting, EveryPaperAndKindPrintsTheFiguresOfTheGrid) {
   EXPECT_EQ(js.printed.size(), 9U);
 }
 
+TEST(ResultPrinting, TheSettingsChosenInThePanelHoldForTheNextSheet) {
+  PrintDriver js;
+  js.parts.open_settings = [] {
+    SaveSetting(kComparisonKindKey, 3);
+    SaveSetting(kDateStyleKey, 2);
+  };
+  js.Start();
+  js.Keys({kOpen, Qt::Key_F7, kA4Landscape});
+  ExpectFiguresOfTheGrid(js, 3);
+  EXPECT_TRUE(js.LastPrinted().Has("令和 08 年 11 月 21 日"));
+}
+
 TEST(ResultPrinting, TheHeadHasTheMemoAndTheDateOfTheBoxes) {
   PrintDriver js;
   js.Start();
