@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/stock_engine.h"
 
+#include <limits>
 #include <optional>
 #include <random>
 #include <string>
@@ -146,6 +147,20 @@ TEST(StockEngine, GoesOnWithoutTheFixedTableWhenItHasNoStock) {
   }
 }
 
+TEST(StockEngine, RoundsTheFullBarsOfAFixedStockDown) {
+  EngineSettings settings = Usual();
+  settings.fixed_stock = [](std::int32_t, std::int32_t) { return 7500; };
+  // -7 / 2 is -3.5: -4 full bars and one for the piece left over; cut off it would be -3 and one
+  EXPECT_EQ(Stock(2716, -7, settings), (StockResult{-3, 2, 7.5}));
+}
+
+TEST(StockEngine, FaultsAtTheSmallestCountAndAFixedStockOfMinusOnePiece) {
+  EngineSettings settings = Usual();
+  settings.fixed_stock = [](std::int32_t, std::int32_t) { return 4000; };
+  // 2147483648 bars leave 32 bits; the remainder alone must not end the program
+  EXPECT_EQ(FaultOf(-4000, std::numeric_limits<std::int32_t>::min(), 10, settings), FaultKind::overflow);
+}
+
 TEST(StockEngine, FaultsAtAFixedStockShorterThanTheCut) {
   EngineSettings settings = Usual();
   settings.fixed_stock = [](std::int32_t, std::int32_t) { return 5000; };
@@ -158,6 +173,10 @@ TEST(StockEngine, FaultsAtADiameterOutside6To51) {
   }
 }
 
+TEST(StockEngine, FaultsAtATotalBeyond32BitsBeforeItLooksAtTheDiameter) {
+  EXPECT_EQ(FaultOf(3500, 2147483647, 5, Usual()), FaultKind::overflow);
+}
+
 TEST(StockEngine, FaultsAtADiameterWithoutStockUnlessTheCutIsAMultipleOf500) {
   for (const int code : {8, 14}) {
     EXPECT_EQ(ComputeStock(4000, Currency::FromInteger(3), code, Usual()), (StockResult{3, 1, 4.0}));
@@ -165,7 +184,16 @@ TEST(StockEngine, FaultsAtADiameterWithoutStockUnlessTheCutIsAMultipleOf500) {
   }
 }
 
-TEST(StockEngine, FaultsAtACutOf0) { EXPECT_EQ(FaultOf(0, 5, 10, Usual()), FaultKind::division_by_zero); }
+TEST(StockEngine, FaultsAtACutOf0) {
+  EXPECT_EQ(FaultOf(0, 5, 10, Usual()), FaultKind::division_by_zero);
+  const Currency beyond_32_bits = Currency::FromInteger(3'000'000'000);
+  try {
+    ComputeStock(0, beyond_32_bits, 10, Usual());
+    FAIL() << "no fault";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::division_by_zero);
+  }
+}
 
 TEST(StockEngine, FaultsWhenTheTotalLengthLeaves32Bits) {
   EXPECT_EQ(FaultOf(11000, 200000, 10, Usual()), FaultKind::overflow);
@@ -194,6 +222,7 @@ TEST(PiecesOfGivenStock, RoundsTheUsableLengthAndDividesWholeNumbers) {
   EXPECT_EQ(PiecesOfGivenStock(6.0, 2001, 3), 3);
   EXPECT_EQ(PiecesOfGivenStock(0.0, 2000, 0), 0);
   EXPECT_THROW(PiecesOfGivenStock(6.0, 0, 0), Fault);
+  EXPECT_THROW(PiecesOfGivenStock(-2147483.648, -1, 0), Fault);  // 2147483648 pieces leave 32 bits
 }
 
 TEST(Get_KiriHonsu, IsTheTextOfTheWholePieces) {
