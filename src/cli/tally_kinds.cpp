@@ -40,6 +40,8 @@ void FillShapes(const SelectionOptions& selection) {
 
 /// The positions asked for; a bound that is not given is that of the schedule.
 PositionRange PositionsOf(const SelectionOptions& selection) {
+  // Two bounds ask for no default: a first or last row without a position then stands in nobody's way.
+  if (selection.from && selection.to) return {*selection.from, *selection.to};
   const PositionRange whole = WholePositionRange(*SiteContext.WorkDatabase).value_or(PositionRange());
   return {selection.from.value_or(whole.first), selection.to.value_or(whole.last)};
 }
