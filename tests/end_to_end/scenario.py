@@ -124,8 +124,11 @@ class World:
     def setting(self, words):
         """setting APPLICATION SECTION KEY=VALUE"""
         application, section, assignment = words
-        with self.settings.open("a", encoding="utf-8") as file:
-            file.write(f"[{application}\\{section}]\n{assignment}\n")
+        heading = f"[{application}\\{section}]\n"
+        text = self.settings.read_text(encoding="utf-8") if self.settings.exists() else ""
+        if heading not in text:
+            text += heading  # a section stands once: what a second one holds is not read
+        self.settings.write_text(text.replace(heading, f"{heading}{assignment}\n"), encoding="utf-8")
 
     def file(self, words):
         """file PATH TEXT: a file below the root, in code page 932; \\r, \\n and \\xHH are what they are in C."""
