@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Random sites, companies, names and dates, their report forms drawn by the command line and by a second road.
+
+usage: redraw_test.py RBTALLY [ROUNDS [SEED]]
+"""
+import difflib
+import json
+import random
+import shlex
+import sys
+import tempfile
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
+import scenario  # noqa: E402
+from report_redraw import Sheet, redraw  # noqa: E402
+
+COMPARISONS = [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")]
+GRADES = ["", "SD295A", "SD295B", "SD345", "SD390", "SD490", "SD590", "SD685", "SR235", "SR295", "SD785", ""]
+DIAMETERS = ["SD10", "SD13", "SD16", "SD19", "SD22", "SD25", "SD29", "SD32", "SD35", "SD38", "SD41", "SD51"]
+COMPANY = ["会社名", "名称1", "名称2", "住所1", "住所2", "住所3", "TEL1", "TEL2", "TEL3", "FAX1", "FAX2", "郵便番号1",
+           "郵便番号2", "MAIL1", "MAIL2"]
+MESSAGE = "全角で２文字以上"
+
+
+def words(rng, length):
+    wide, narrow = "見本町再開発業務棟及び駐車場新築工事（仮称）第一工区みほん鉄筋ＡＢ１２", "ABCabc0123-.ｶﾅ"
+    return "".join(rng.choice(wide if rng.random() < 0.8 else narrow) for _ in range(length))
+
+
+def random_company(rng):
+    texts = {}
+    for key in COMPANY:
+        kind = rng.random()
+        if kind < 0.3:
+            continue
+        length = 1 if kind < 0.36 else rng.randint(2, 24)
+        if key.startswith(("会社名", "名称", "住所")):
+            texts[key] = words(rng, length if key[0] != "名" else rng.randint(1, 12))
+        else:
+            texts[key] = "".join(rng.choice("0123456789-") for _ in range(length))
+    return texts
+
+
+class Round:
+    def __init__(self, program, folder, rng, number):
+        self.rng, self.world = rng, scenario.World(program, folder)
+        self.forms = ["ulbon", *(COMPARISONS[(number * 3 + i) % len(COMPARISONS)] for i in range(3))]
+
+    def schedule(self):
+        rng = self.rng
+        for _ in range(rng.choice([0, 1, 3, 8, 8])):
+            ulbon = rng.random() < 0.3
+            diameter = rng.choice([6, 7, 9, 11, 12, 16] if ulbon else [10, 13, 16, 19, 22, 25, 29, 32, 35, 38, 41, 51])
+            bars = rng.choice([1, 7, 120, 3456, 23456])
+            self.world.row([f"太さ={diameter}", f"予備2={2 if ulbon else 1}", f"本数={bars}", f"合計={bars}",
+                            f"伸総計={bars}", f"伸切寸={rng.randint(300, 8100)}", f"圧接={rng.choice([0, 3, 1234567])}",
+                            f"伸定尺={0 if ulbon else rng.choice([4.0, 6.0, 8.0, 12.0])}",
+                            f"切断={rng.randint(0, 99)}"])
+        for material, diameter in ((1, 10), (2, 9), (3, 13)):
+            if rng.random() < 0.4:
+                self.world.spiral([f"材質={material}", f"径={diameter}", f"全重量={rng.uniform(0.1, 900):.4f}"])
+
+    def site(self):
+        rng, world = self.rng, self.world
+        codes = [rng.randint(0, 11) for _ in DIAMETERS]
+        sheet = Sheet(
+            client=rng.choice(["", words(rng, rng.randint(1, 16))]), short_name=words(rng, rng.randint(1, 24)),
+            long_name=rng.choice(["", words(rng, rng.randint(1, 60)), words(rng, rng.randint(18, 40))]),
+            name_break=rng.choice([50, rng.randint(0, 40), rng.randint(10, 20)]), grades=[GRADES[code] for code in codes],
+            company=random_company(rng), name_whole=rng.random() < 0.4, address2_whole=rng.random() < 0.4,
+            western=rng.random() < 0.5, tally={})
+        sheet.sub_project = rng.choice(["", words(rng, rng.randint(1, 45)), words(rng, 22), words(rng, 23)])
+        sheet.body, sheet.percent = rng.choice([0, 1, 1]), rng.choice([0, 0, 5, 250])
+        sheet.date = (rng.choice(["2026", "26"] if sheet.western else ["8", "08", "30", "31"]), str(rng.randint(1, 12)),
+                      rng.choice(["1", "01", "30"]))
+        world.execute("SORANO.MDB", "UPDATE T_取引先 SET 会社名=? WHERE 会社コード=1", (sheet.client,))
+        columns = ["取引先コード", "工事名", "長い工事名", "工事名区切り文字数", *DIAMETERS]
+        world.execute("SORANO.MDB", "UPDATE 工事テーブル SET " + ", ".join(f"{name}=?" for name in columns),
+                      (1 if sheet.client else 0, sheet.short_name, sheet.long_name or rng.choice(["", None]),
+                       None if sheet.name_break == 50 and rng.random() < 0.5 else sheet.name_break, *codes))
+        world.file(["DATA/STEEL.INI", r"[データ]\r\n選択ＤＢ名=GENBA001.MDB\r\n[自社名]\r\n"
+                    + "".join(rf"{key}={text}\r\n" for key, text in sheet.company.items())])
+        for section, setting in (("重量集計", f"日付表記={1 if sheet.western else rng.choice([0, 2])}"),
+                                 ("自社名登録", f"自社名印刷={int(sheet.name_whole)}"),
+                                 ("自社名登録", f"住所２印刷={int(sheet.address2_whole)}")):
+            world.setting(["Kakou", section, setting])
+        return sheet
+
+    def command(self, *parts):
+        self.world.run(shlex.join(["rbtally", *parts]))
+        if self.world.status != 0:
+            raise scenario.Mismatch(f"{shlex.join(parts)} ends with {self.world.stderr}")
+
+    def run(self):
+        self.schedule()
+        sheet = self.site()
+        start_mode = self.rng.choice([-1, -1, 1, 3, 4])
+        sheet.hides_cuts = start_mode in (1, 3)
+        self.command("tally", "bulk", "--format", "json", "--start-mode", str(start_mode))
+        sheet.tally = json.loads(self.world.stdout)
+        for form in self.forms:
+            file = self.world.folder / "trace"
+            self.command("report", form, "--start-mode", str(start_mode), "--subproject", sheet.sub_project, "--date",
+                         "/".join(sheet.date), "--body", str(sheet.body), "--percent", str(sheet.percent), "--trace",
+                         str(file))
+            page = redraw(form, sheet)
+            told = sum(MESSAGE in line for line in self.world.stderr)
+            if told != page.pen.messages:
+                yield f"{form}: {told} messages of short texts, {page.pen.messages} by the second road"
+            yield from difflib.unified_diff(page.lines(), file.read_text(encoding="utf-8").splitlines(),
+                                            f"{form}, second road", f"{form}, rbtally", n=0, lineterm="")
+
+
+def main():
+    program, *numbers = sys.argv[1:]
+    rounds, seed = [int(number) for number in numbers] + [30, 20261121][len(numbers):]
+    for number in range(rounds):
+        with tempfile.TemporaryDirectory(prefix="rbtally-") as folder:
+            found = list(Round(program, folder, random.Random(seed + number), number).run())
+        if found:
+            print(f"site {seed + number} differs:", *found, sep="\n  ")
+            return 1
+    print(f"{rounds} sites agree")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
