@@ -104,6 +104,26 @@ TEST(ResultPrinting, EveryPaperAndKindPrintsTheFiguresOfTheGrid) {
   EXPECT_EQ(js.printed.size(), 9U);
 }
 
+TEST(ResultPrinting, SpiralsHaveTheirRowAndTheInstalledTotalIsTheGrandTotalOfTheGrid) {
+  PrintDriver js;
+  const auto spiral = [&js](std::int64_t material, std::int64_t diameter, double weight) {
+    js.site.Add(kCompanionFile, "スパイラル",
+                {{"材質", material}, {"径", diameter}, {"全重量", Currency::FromDouble(weight)}});
+  };
+  spiral(1, 10, 100.0);
+  spiral(2, 9, 20.0);
+  js.Start();
+  SaveSetting(kComparisonKindKey, 3);
+  for (const int paper : kPaperKeys) {
+    js.Keys({kOpen, paper});
+    const Sheet sheet = js.LastPrinted();
+    EXPECT_THAT(sheet.Row("スパイラル合計"), ElementsAre("120"));
+    EXPECT_THAT(sheet.Row("ウルボン合計"), ElementsAre("50", "3"));
+    EXPECT_EQ(js.Cell("スパイラル合計", 2), "120");
+    EXPECT_EQ(NumberIn(sheet.Find("総重量").text), js.Cell("総合計", 2));
+  }
+}
+
 TEST(ResultPrinting, TheSettingsChosenInThePanelHoldForTheNextSheet) {
   PrintDriver js;
   js.parts.open_settings = [] {
