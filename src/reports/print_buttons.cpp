@@ -2,6 +2,7 @@
 #include "reports/print_buttons.h"
 
 #include <algorithm>
+#include <string>
 
 #include "platform/fault.h"
 #include "reports/ulbon_report.h"
