@@ -151,6 +151,33 @@ TEST_P(WrittenFile, LongRowsKeepEveryField) {
   EXPECT_EQ(printed.rows.back()[6], std::get<std::string>(table.rows.back()[6]));
 }
 
+TEST_P(WrittenFile, RowsOfEveryLengthAroundAJumpAreReadAsByTheCTools) {
+  JetTable table{"長さ",
+                 {Field("前", FieldType::text, 255), Field("無", FieldType::text, 255),
+                  Field("後", FieldType::text, 255), Field("文", FieldType::memo)},
+                 {}};
+  for (const std::size_t jump : {256U, 512U}) {
+    for (std::size_t length = jump - 40; length < jump + 20; ++length) {
+      const std::size_t half = length / 2;
+      table.rows.push_back({Words(std::string(half, 'a')), {}, {}, Words(std::string(length - half, 'm'))});
+      if (half < 250)
+        table.rows.push_back({Words(std::string(length - half, 'a')), {}, Words(std::string(half, 'b')), {}});
+      table.rows.push_back({{}, {}, {}, Words(std::string(length, 'm'))});
+    }
+  }
+  const auto file = Write({table});
+  EXPECT_EQ(RowsOf(*file, table.name), table.rows);
+  const test::PrintedTable printed = test::TableByCTools(path_, table.name, "CP932");
+  ASSERT_EQ(printed.rows.size(), table.rows.size());
+  for (std::size_t r = 0; r < table.rows.size(); ++r) {
+    for (std::size_t c = 0; c < table.fields.size(); ++c) {
+      const Value& value = table.rows[r][c];
+      EXPECT_EQ(printed.rows[r][c], IsNull(value) ? std::nullopt : std::optional(TextOf(value)))
+          << r << " " << c;
+    }
+  }
+}
+
 TEST_P(WrittenFile, ManyPagesAreFoundByUsageMapsOfTheSecondSort) {
   JetTable table{
       "多数", {Field("番号", FieldType::integer32), Field("名称", FieldType::text, 200)}, {}, {"番号"}};

@@ -63,13 +63,13 @@ bool IsUserTable(const CatalogEntry& entry) {
 }
 
 /// Runs a step that writes the target, whose faults name the target in place of the file in work.
-template <typename Step>
+template <typename Thrown = TargetFault, typename Step>
 auto OnTarget(const FileInWork& work, const fs::path& target, Step step) {
   const std::string in_work = work.Path().string();
   try {
     return step();
   } catch (const Fault& fault) {
-    throw TargetFault(FaultKind::file, ReplaceAll(fault.what(), in_work, target.string()));
+    throw Thrown(FaultKind::file, ReplaceAll(fault.what(), in_work, target.string()));
   }
 }
 
@@ -85,7 +85,8 @@ void CopyTables(JetFile& file, const FileInWork& work, ImportReport& report) {
     const TableMapping mapping = MapTable(file, entry);
     report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
-    database.CreateTable(mapping.target);
+    // A table that the store does not take is the Jet file's own matter.
+    OnTarget<Fault>(work, report.target, [&] { database.CreateTable(mapping.target); });
     RowCopy copy(file, mapping, database, report.warnings);
     while (copy.ReadNext()) on_target([&] { copy.Append(); });
     on_target([&] { copy.Finish(); });

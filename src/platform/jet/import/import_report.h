@@ -13,7 +13,7 @@ struct ImportedTable {
   std::string name;
   std::size_t rows = 0;                   ///< taken
   std::size_t refused = 0;                ///< rows with a value that the store cannot hold
-  std::vector<std::string> refused_rows;  ///< the first hundred of them, each with its cause
+  std::vector<std::string> refused_rows;  ///< the first ten thousand of them, each with its cause
 };
 
 /// What was taken from a Jet file and what was not.

@@ -18,7 +18,7 @@ namespace rbt::jet {
 
 namespace {
 
-constexpr std::size_t kMostNamedRefusals = 100;
+constexpr std::size_t kMostNamedRefusals = 10000;
 
 /// The live rows in the order of the key; what the key's index lacks comes behind.
 std::vector<RowPointer> InKeyOrder(JetFile& file, const TableMapping& mapping, std::vector<RowPointer> places,

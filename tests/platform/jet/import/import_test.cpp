@@ -186,6 +186,15 @@ TEST_P(Import, AKeyThatStandsTwiceIsRefusedByName) {
   EXPECT_EQ(Rows("表").size(), 1U);
 }
 
+TEST_P(Import, ATableThatTheStoreDoesNotTakeEndsTheImportByItsName) {
+  const std::string fault = FaultOf([&] {
+    Take({{"表", {Field("SD", FieldType::integer32), Field("ＳＤ", FieldType::integer32)}, {}}});
+  });
+  EXPECT_THAT(fault, AllOf(HasSubstr("table 表 has two fields ＳＤ"), HasSubstr(target_.string())));
+  EXPECT_THAT(fault, ::testing::Not(HasSubstr(".rbk-import")));
+  EXPECT_THAT(NamesInFolder(), ElementsAre("old.mdb"));
+}
+
 TEST_P(Import, AnIndexOutOfOrderIsWarnedOfAndRowsStandAsTheyLie) {
   Bytes image = test::JetImage(
       GetParam(), {{"表", {Field("番号", FieldType::integer32)}, {{Whole(2)}, {Whole(1)}}, {"番号"}}});
