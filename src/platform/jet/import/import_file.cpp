@@ -146,6 +146,8 @@ ImportReport ImportJetFileInPlace(const fs::path& name) {
   // A link stays, and what it leads to is replaced.
   const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
   const fs::path kept = KeptJetFile(file);
+  // What the other program saves later would go into the Jet file that nobody reads any more.
+  if (IsOpenElsewhere(file)) throw FileFaultText(file, "is open in another program; close it there first");
   RequireKeepable(file, kept);
   FileInWork work(file);
   ImportReport report = Copy(file, work, file);

@@ -13,6 +13,7 @@
 #include "platform/fault.h"
 #include "platform/jet/import/import_file.h"
 #include "platform/jet/import/table_mapping.h"
+#include "platform/jet/jet_file.h"
 #include "platform/jet/lock_file.h"
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
@@ -404,6 +405,20 @@ TEST_P(Import, AFileThatSomebodyHasOpenIsWarnedOf) {
   const LockHolder holder(folder_ / "OLD.LDB");
   const ImportReport report = Take({});
   EXPECT_THAT(report.warnings, ElementsAre(HasSubstr("old.mdb is open in another program")));
+}
+
+TEST_P(Import, InPlaceAFileThatSomebodyHasOpenIsRefused) {
+  test::WriteJetFile(source_, GetParam(), {});
+  const std::string before = ReadFileBytes(source_);
+  {
+    const LockHolder holder(folder_ / "old.ldb");
+    EXPECT_THAT(FaultOf([&] { ImportJetFileInPlace(source_); }),
+                HasSubstr("old.mdb: is open in another program; close it there first"));
+  }
+  EXPECT_EQ(ReadFileBytes(source_), before);
+  EXPECT_THAT(NamesInFolder(), ::testing::UnorderedElementsAre("old.mdb", "old.ldb"));
+  ImportJetFileInPlace(source_);
+  EXPECT_FALSE(IsJetFile(source_));
 }
 
 TEST_P(Import, ALockFileThatNobodyHoldsIsNothing) {
