@@ -79,6 +79,22 @@ TEST(StockEngine, TakesNoStockBelowTheShortestForAnExactMultiple) {
 
 TEST(StockEngine, TakesAStockLengthAsItIsThoughAllPiecesWouldFitOneBar) {
   EXPECT_EQ(Stock(4000, 3, Usual()), (StockResult{3, 1, 4.0}));
+  EXPECT_EQ(Stock(3500, 2, Usual()), (StockResult{2, 1, 3.5}));  // the shortest itself too, not one of 7.0 m
+}
+
+TEST(StockEngine, ComparesTheShortestStockInFullWithTheHalfMetresOfACut) {
+  // 3.6 m is 7.2 half metres, more than the 7 of the cut: no stock of 3.5 m, one bar of the shortest
+  EXPECT_EQ(Stock(3500, 1, WithLimits(3600, 12000)), (StockResult{1, 1, 3.6}));
+}
+
+TEST(StockEngine, BuysOneBarForPiecesThatFillItToItsEnd) {
+  EXPECT_EQ(Stock(1800, 2, WithLimits(3600, 12000)), (StockResult{1, 2, 3.6}));  // 3600 of the shortest
+  EXPECT_EQ(Stock(2000, 6, Usual()), (StockResult{1, 6, 12.0}));                 // 12000 of the longest
+}
+
+TEST(StockEngine, TakesTheNextHalfMetreForOneMillimetre) {
+  EXPECT_EQ(Stock(3501, 1, Usual()), (StockResult{1, 1, 4.0}));
+  EXPECT_EQ(Stock(1167, 3, Usual()), (StockResult{1, 3, 4.0}));  // 3501 end to end
 }
 
 TEST(StockEngine, CountsPlusAsLengthOfEveryBar) {
@@ -108,6 +124,51 @@ TEST(StockEngine, RunsOnTo12MetresWhenTheStepsMissTheLongestStock) {
   // 3500, 4000, ... never is 10800, so 11.0 m is tried too: 11.0 m leaves 200 mm of three pieces of 3600
   EXPECT_EQ(Stock(3600, 9, WithLimits(3500, 10800)), (StockResult{3, 3, 11.0}));
   EXPECT_EQ(Stock(3600, 9, WithLimits(3500, 10500)).StockLengthM, 7.5);  // 300 mm at 7.5 m
+}
+
+TEST(StockEngine, RunsOnPastALongestStockThatLiesBetweenTwoSteps) {
+  // 9.5 m and 10.0 m miss 9800; 11.0 m leaves 200 mm where 7.5 m leaves 300
+  EXPECT_EQ(Stock(3600, 9, WithLimits(3500, 9800)), (StockResult{3, 3, 11.0}));
+}
+
+TEST(StockEngine, NeverTries12AndAHalfMetres) {
+  // two pieces would fill 12.5 m; 6.5 m leaves 250 mm, the least of the lengths that are tried
+  EXPECT_EQ(Stock(6250, 4, WithLimits(3500, 12500)), (StockResult{4, 1, 6.5}));
+}
+
+TEST(StockEngine, LetsLengthsThatWereNotTriedTakePartWithALossOf5Metres) {
+  // 10.5 m alone is tried and leaves 5100 of 5400: every other length counts as 5000, 12.5 m is the last
+  EXPECT_EQ(Stock(5400, 3, WithLimits(10500, 10500)), (StockResult{2, 2, 12.5}));
+  EXPECT_EQ(Stock(5300, 3, WithLimits(10100, 10100)).StockLengthM, 10.0);  // 4800 is less: place 14, 10.0 m
+}
+
+TEST(StockEngine, TakesAStockWhoseRemainderIsTheTolerance) {
+  EngineSettings settings = Usual();
+  settings.plus = 10;
+  EXPECT_EQ(Stock(2000, 99, settings), (StockResult{50, 2, 4.0}));  // 4010 leaves 10
+}
+
+TEST(StockEngine, FaultsWhereAToleranceBelow0LeavesTheStockOfACutWithoutAPiece) {
+  for (const std::int32_t loss_priority : {0, 1}) {
+    EngineSettings settings = WithLimits(3600, 3600);
+    settings.plus = -10;
+    settings.loss_priority = loss_priority;
+    EXPECT_EQ(FaultOf(3600, 2, 10, settings), FaultKind::division_by_zero) << loss_priority;
+  }
+}
+
+TEST(StockEngine, AllowsTheToleranceToACutLongerThanAnyStock) {
+  EngineSettings settings = WithLimits(3500, 8000);
+  settings.plus = 10;
+  EXPECT_EQ(Stock(9010, 2, settings), (StockResult{2, 1, 9.0}));
+  EXPECT_EQ(Stock(9011, 2, settings), (StockResult{2, 1, 9.5}));
+}
+
+TEST(StockEngine, BeginsTheSearchAtTheNearestPlaceAndAnswersInPlaces) {
+  // 3300 stands at the place of 3.5 m, so 9800, which leaves 50 of 3250, at that of 10.0 m
+  EXPECT_EQ(Stock(3250, 99, WithLimits(3300, 12300)), (StockResult{33, 3, 10.0}));
+  // 3250 is half way and goes to the even place, 3.0 m: 10250, which leaves 50 of 1700, is at that of 10.0 m
+  EXPECT_EQ(Stock(1700, 99, WithLimits(3250, 12250)), (StockResult{20, 5, 10.0}));
 }
 
 TEST(StockEngine, TakesTheStockThatLosesLeast) {
