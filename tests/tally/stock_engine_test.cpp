@@ -186,6 +186,12 @@ TEST(StockEngine, TakesTheLongerOfTwoStocksThatWasteTheSame) {
   EXPECT_EQ(Stock(2000, 7, Usual(1)), (StockResult{2, 4, 8.0}));  // one piece of 2000 at 4.0 m and at 8.0 m
 }
 
+TEST(StockEngine, LeavesTheRemainderOfTheLastBarOutOfTheWaste) {
+  // 4.5 m: six bars lose 300 each, the seventh one piece of 2100: 3900. 10.5 m: the third loses two pieces:
+  // 4200. With the seventh bar's 300 both would be 4200 and the longer would win.
+  EXPECT_EQ(Stock(2100, 13, Usual(1)), (StockResult{7, 2, 4.5}));
+}
+
 TEST(StockEngine, AsksTheFixedTableFirstAndReturnsItsStockAsItStands) {
   EngineSettings settings = Usual();
   settings.plus = 500;

@@ -45,10 +45,14 @@ TEST(GetStockLengthLimits, TakeTheNumberThatATextBeginsWith) {
   const ScheduleSite site;
   PutSteelIni(
       site,
-      "D10最小値=4000mm\r\nD13最小値=なし\r\nD16最大値=1000.5\r\nD51最大値=11000\r\n１の位まるめ=5\r\n");
+      "D10最小値=4000mm\r\nD10最大値=9000\r\nD13最小値=なし\r\nD16最大値=1000.5\r\nD51最大値=11000\r\n"
+      "１の位まるめ=5\r\n");
   const StockLengthLimits limits = GetStockLengthLimits();
   EXPECT_EQ(limits.Min(10), 4000);
-  EXPECT_EQ(limits.Min(6), 4000);  // the thin ones follow D10
+  for (const int thin : {6, 7, 9, 11, 12}) {  // the thin ones follow D10
+    EXPECT_EQ(limits.Min(thin), 4000) << thin;
+    EXPECT_EQ(limits.Max(thin), 9000) << thin;
+  }
   EXPECT_EQ(limits.Min(13), 0);
   EXPECT_EQ(limits.Max(16), 1000);  // halves to even
   EXPECT_EQ(limits.Max(51), 11000);
