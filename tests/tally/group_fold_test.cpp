@@ -143,6 +143,9 @@ TEST(GroupFold, DropsTheWeldsOfHoopsByTheSetting) {
   EXPECT_EQ(Folded({hoop}).WeldCount[3], 4);
   EXPECT_EQ(Folded({hoop}, rules).WeldCount[3], 0);
   EXPECT_EQ(Folded({hoop}, rules).BarCount[3][5], 2);
+  BarGroup bent = hoop;
+  bent.shape = 2;
+  EXPECT_EQ(Folded({hoop, bent}, rules).WeldCount[3], 4);  // no other shape's
 }
 
 TEST(GroupFold, CountsThreadsAndPlatesOfEveryGroup) {
@@ -223,6 +226,18 @@ TEST(FoldUlbonGroup, AddsMetresWeightAndCountsAndNoStock) {
   expected.UlbonThreadCount[14] = 2;
   expected.UlbonPlateCount[14] = 3;
   EXPECT_EQ(table, expected);
+}
+
+TEST(FoldUlbonGroup, WeighsAllMetresOfADiameterAtOnce) {
+  BarGroup three = WithPieces(U9Group(), 3);
+  BarGroup two = WithPieces(U9Group(), 2);
+  three.diameter_code = two.diameter_code = 11;
+  three.cut_length_mm = 1002;
+  two.cut_length_mm = 2001;
+  TallyTable table;
+  FoldUlbonGroup(table, three, true);
+  FoldUlbonGroup(table, two, true);
+  EXPECT_EQ(table.UlbonWeight[15], 4.97568);  // 7.008 m x 0.71; 2.13426 + 2.84142 ends in ...0005
 }
 
 TEST(FoldUlbonGroup, CountsAWeldAtTheThickerUlbonDiameter) {

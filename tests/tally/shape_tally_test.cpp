@@ -333,6 +333,17 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesTheLinesBetweenTwoPositions) {
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
 }
 
+TEST(PKeijou_Jyuuryo_Syukei, LeavesOutUlbonWithoutPiecesOrBars) {
+  ScheduleSite site;
+  site.AddRow(kUlbon);
+  site.AddRow(With(kUlbon, {{"合計", Number(-3)}}));
+  site.AddRow(With(kUlbon, {{"本数", Number(0)}}));
+  TallyLines(3);
+  EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
+  TallyShapes();  // the tally over all lines does not look at 本数
+  EXPECT_EQ(TallyGrid.UlbonLengthM[14], 30.0);
+}
+
 TEST(PKeijou_Jyuuryo_Syukei, OfPositionsThatDoNotExistIsZero) {
   ScheduleSite site;
   site.AddRow(kSevenOf2m);
