@@ -7,6 +7,7 @@
 
 #include "data/run_state.h"
 #include "platform/fault.h"
+#include "platform/text/cp932.h"
 #include "shell/config/settings.h"
 #include "tally/schedule_site.h"
 #include "tally/selection.h"
@@ -111,6 +112,16 @@ TEST(Keijou_Jyuuryo_Syukei, TakesThePlusThatWasLastReadForTheScheduleStock) {
   EXPECT_EQ(TallyGrid.BarCount[3][5], 4);  // not read yet: one piece a bar
   ReadPlus();
   TallyShapes();
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, ReadsTheStockLimitsEvenWhereTheScheduleStockStands) {
+  ScheduleSite site;
+  site.AddRow();
+  site.Folder().Put("DATA/STEEL.INI", ToCp932("[加工帳]\r\nD51最大値=99999999999\r\n"));
+  Settings.StockCheck = 1;
+  EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::overflow);
+  TallyLines(1);  // the tally over lines leaves them to the engine, which nobody asks here
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
 }
 
