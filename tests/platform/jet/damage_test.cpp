@@ -2,7 +2,7 @@
 // Damaged copies of every sample: reading them and checking them ends, with a message or without, never with
 // a crash. Each sample is damaged in memory.
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -19,7 +19,10 @@ namespace {
 
 using Image = std::vector<unsigned char>;
 
-constexpr auto kLongest = std::chrono::seconds(5);  // a sound sample takes milliseconds
+/// Seconds of the processor, whatever else the machine does; a sound sample takes milliseconds.
+constexpr double kLongest = 5;
+
+double ProcessorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 /// Reads all there is; how many faults ended a part of it.
 int ReadAll(JetFile& file) {
@@ -50,7 +53,7 @@ int ReadAll(JetFile& file) {
 
 /// Opens, reads and checks a copy. True when the damage was noticed anywhere.
 bool Notices(Image image) {
-  const auto start = std::chrono::steady_clock::now();
+  const double start = ProcessorSeconds();
   bool noticed = false;
   try {
     const auto file = JetFile::FromBytes(std::move(image), "copy.mdb");
@@ -62,7 +65,7 @@ bool Notices(Image image) {
     EXPECT_EQ(std::string(fault.what()).find("copy.mdb: "), 0U) << fault.what();
     noticed = true;
   }
-  EXPECT_LT(std::chrono::steady_clock::now() - start, kLongest);
+  EXPECT_LT(ProcessorSeconds() - start, kLongest);
   return noticed;
 }
 
