@@ -2,6 +2,8 @@
 #include "platform/jet/table.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -144,14 +146,17 @@ std::vector<CatalogEntry> ReadCatalog(JetFile& file) {
 }
 
 TableDefinition FindTable(JetFile& file, std::string_view name) {
-  for (const CatalogEntry& entry : ReadCatalog(file)) {
+  std::optional<CatalogEntry> found;
+  for (CatalogEntry& entry : ReadCatalog(file)) {
     if (entry.kind != CatalogEntry::Kind::table || FoldIdentifier(entry.name) != FoldIdentifier(name))
       continue;
-    TableDefinition table = ReadTableDefinition(file, entry.id & 0xFFFFFF);
-    table.name = entry.name;
-    return table;
+    // Of several the one that is spelled so.
+    if (!found || entry.name == name) found = std::move(entry);
   }
-  throw Fault(FaultKind::file, fmt::format("{}: no table {}", file.Name(), name));
+  if (!found) throw Fault(FaultKind::file, fmt::format("{}: no table {}", file.Name(), name));
+  TableDefinition table = ReadTableDefinition(file, found->id & 0xFFFFFF);
+  table.name = found->name;
+  return table;
 }
 
 }  // namespace rbt::jet

@@ -178,6 +178,14 @@ TEST_P(WrittenFile, RowsOfEveryLengthAroundAJumpAreReadAsByTheCTools) {
   }
 }
 
+TEST_P(WrittenFile, OfTablesWhoseNamesDifferInWidthTheOneSpelledSoIsFound) {
+  const auto file = Write({{"SD", {Field("番号", FieldType::integer32)}, {{Whole(1)}}},
+                           {"ＳＤ", {Field("番号", FieldType::integer32)}, {{Whole(2)}}}});
+  EXPECT_THAT(RowsOf(*file, "SD"), ElementsAre(ElementsAre(Whole(1))));
+  EXPECT_THAT(RowsOf(*file, "ＳＤ"), ElementsAre(ElementsAre(Whole(2))));
+  EXPECT_THAT(RowsOf(*file, "sd"), ElementsAre(ElementsAre(Whole(1))));
+}
+
 TEST_P(WrittenFile, ManyPagesAreFoundByUsageMapsOfTheSecondSort) {
   JetTable table{
       "多数", {Field("番号", FieldType::integer32), Field("名称", FieldType::text, 200)}, {}, {"番号"}};
