@@ -145,6 +145,15 @@ bool KilledBeforeChange(int n, const std::function<void()>& action) {
   return true;
 }
 
+void MeddleBeforeChange(int n, const std::function<void()>& action, const std::function<void()>& meddle) {
+  TracedChild child(action);
+  for (int change = 0; change < n; ++change) {
+    if (!child.GoToChange()) throw std::runtime_error("a child made fewer changes");
+  }
+  meddle();
+  while (child.GoToChange()) continue;
+}
+
 void ForbidHardLinks() {
   constexpr auto kNumber = static_cast<std::uint32_t>(offsetof(seccomp_data, nr));
   constexpr std::uint32_t kRefuse = SECCOMP_RET_ERRNO | EPERM;

@@ -13,6 +13,10 @@ bool InChild(const std::function<bool()>& action);
 /// any moment may leave is met by counting `n` up until then.
 bool KilledBeforeChange(int n, const std::function<void()>& action);
 
+/// Runs an action in a child process; before its `n`th such call `meddle` happens here, as if another program
+/// did it. Throws when the action makes fewer, or does not come to its end.
+void MeddleBeforeChange(int n, const std::function<void()>& action, const std::function<void()>& meddle);
+
 /// From now on the file system of this process, which is to be a child, gives no file a second name: as where
 /// it knows none, or where the file is another user's.
 void ForbidHardLinks();

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
+#include <stdexcept>
 #include <sys/resource.h>
 
 #include <gmock/gmock.h>
@@ -156,6 +157,17 @@ std::string FaultOf(const std::function<void()>& action) {
   }
   ADD_FAILURE() << "no fault";
   return "";
+}
+
+TEST_F(StoppedImport, AFileThatAnotherProgramChangesMeanwhileIsNotImported) {
+  const auto import = [&] {
+    const std::string fault = FaultOf([&] { ImportJetFile(source_, target_); });
+    if (fault.find("old.mdb: was changed by another program while it was read") == std::string::npos)
+      throw std::runtime_error(fault);
+  };
+  test::MeddleBeforeChange(3, import,
+                           [&] { fs::last_write_time(source_, fs::file_time_type::clock::now()); });
+  EXPECT_THAT(Names(), ElementsAre("old.mdb"));
 }
 
 /// Runs where no file may grow beyond a size.
