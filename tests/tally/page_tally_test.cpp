@@ -161,6 +161,78 @@ TEST(PG_Jyuuryo_Syukei, FollowsTheSelectionForUlbonWithAColumn) {
   EXPECT_EQ(TallyGrid.UlbonWeight[14], 0.0);
 }
 
+TEST(PG_Jyuuryo_Syukei, AddsTheWeightOfUlbonWithoutAColumnRowByRow) {
+  ScheduleSite site;
+  const auto add = [&](int cut_mm, int pieces, double stock_m) {
+    site.AddRow({{"太さ", Number(11)},
+                 {"予備2", Number(2)},
+                 {"伸切寸", Number(cut_mm)},
+                 {"合計", Number(pieces)},
+                 {"伸定尺", Value{stock_m}}});
+  };
+  add(1002, 3, 0.0);
+  add(2001, 2, 12.5);
+  PG_Jyuuryo_Syukei(1, 1, 1, 2);
+  EXPECT_EQ(TallyGrid.UlbonWeight[15], 4.9756800000000005);  // 2.13426 + 2.84142, rounded as they add up
+  add(1000, 1, 6.0);                                         // a row with a column weighs all 8.008 m anew
+  PG_Jyuuryo_Syukei(1, 1, 1, 3);
+  EXPECT_EQ(TallyGrid.UlbonWeight[15], 8.008 * 0.71);
+}
+
+TEST(PG_Jyuuryo_Syukei, EndsAtACutWhoseWeldIsAtNoDeformedDiameter) {
+  ScheduleSite site;
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(14)}, {"切断", kNull}});
+  TallyLines(1, 1);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 0);
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(14)}, {"切断", Number(1)}});
+  try {
+    TallyLines(1, 2);
+    FAIL() << "no fault";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::subscript_out_of_range);
+  }
+}
+
+TEST(PG_Jyuuryo_Syukei, TakesTheFormsOfTheSelection) {
+  ScheduleSite site;
+  for (int form = 0; form <= 4; ++form) {  // 1, 2, 4, 8 and 16 bars: the sum tells which rows came in
+    site.AddRow({{"予備3", Number(form)}, {"伸総計", Number(form == 0 ? 16 : 1 << (form - 1))}});
+  }
+  for (std::int16_t mask = 1; mask <= 14; ++mask) {
+    Selection.MaterialFormMask = mask;
+    TallyLines(1, 5);
+    EXPECT_EQ(TallyGrid.BarCount[3][5], mask);
+  }
+  for (const std::int16_t all : {std::int16_t{0}, std::int16_t{15}}) {
+    Selection.MaterialFormMask = all;
+    TallyLines(1, 5);
+    EXPECT_EQ(TallyGrid.BarCount[3][5], 31) << all;
+  }
+}
+
+TEST(PG_Jyuuryo_Syukei, TakesTheKindsOfTheSelection) {
+  ScheduleSite site;
+  const Value kinds[] = {kNull, Number(1), Number(4), Number(3), Number(5)};
+  for (int i = 0; i < 5; ++i) {
+    site.AddRow({{"予備2", kinds[i]}, {"伸総計", Number(i == 0 ? 16 : 1 << (i - 1))}});
+  }
+  for (int mask = 1; mask <= 15; ++mask) {
+    Selection.MaterialKindMask = mask;
+    TallyLines(1, 5);
+    EXPECT_EQ(TallyGrid.BarCount[3][5], mask % 2 != 0 ? mask + 16 : mask);  // no kind is deformed
+  }
+}
+
+TEST(PG_Jyuuryo_Syukei, DropsTheWeldsOfHoopsByTheSetting) {
+  ScheduleSite site;
+  site.AddRow(kHoop);
+  site.AddRow({{"圧接", Number(2)}});
+  SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", "0");
+  TallyLines(1, 2);
+  EXPECT_EQ(TallyGrid.WeldCount[3], 2);
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
+}
+
 TEST(PG_Jyuuryo_Syukei, DoesNotLookAtTheMaterialChoice) {
   ScheduleSite site;
   site.AddRow({{"伸定尺", Value{0.0}}, {"切断", Number(7)}});

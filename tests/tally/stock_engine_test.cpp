@@ -142,6 +142,14 @@ TEST(StockEngine, LetsLengthsThatWereNotTriedTakePartWithALossOf5Metres) {
   EXPECT_EQ(Stock(5300, 3, WithLimits(10100, 10100)).StockLengthM, 10.0);  // 4800 is less: place 14, 10.0 m
 }
 
+TEST(StockEngine, HasPlacesFrom3MetresTo13MetresToBeginAt) {
+  EXPECT_EQ(Stock(5400, 3, WithLimits(13000, 13000)), (StockResult{2, 2, 12.5}));  // 13.0 m takes no part
+  EXPECT_EQ(FaultOf(5400, 3, 10, WithLimits(13500, 13500)), FaultKind::subscript_out_of_range);
+  EXPECT_EQ(Stock(2900, 9, WithLimits(3000, 3000)),
+            (StockResult{3, 4, 12.5}));  // nor does 3.0 m, which loses 100
+  EXPECT_EQ(FaultOf(2400, 9, 10, WithLimits(2500, 2500)), FaultKind::subscript_out_of_range);
+}
+
 TEST(StockEngine, TakesAStockWhoseRemainderIsTheTolerance) {
   EngineSettings settings = Usual();
   settings.plus = 10;
@@ -288,6 +296,7 @@ TEST(PiecesOfGivenStock, RoundsTheUsableLengthAndDividesWholeNumbers) {
   EXPECT_EQ(PiecesOfGivenStock(6.0, 2001, 0), 2);
   EXPECT_EQ(PiecesOfGivenStock(6.0, 2001, 3), 3);
   EXPECT_EQ(PiecesOfGivenStock(0.0, 2000, 0), 0);
+  EXPECT_EQ(PiecesOfGivenStock(5.9996, 2000, 0), 3);
   EXPECT_THROW(PiecesOfGivenStock(6.0, 0, 0), Fault);
   EXPECT_THROW(PiecesOfGivenStock(-2147483.648, -1, 0), Fault);  // 2147483648 pieces leave 32 bits
 }
