@@ -139,6 +139,14 @@ TEST(PG_Jyuuryo_Syukei, ShowsStockWithoutColumnInTheWeightsAndInNoCell) {
   EXPECT_EQ(TallyGrid.StockWarningText, " 1頁の2行目の定尺を確認");
 }
 
+TEST(PG_Jyuuryo_Syukei, AddsUpTheLengthsWithoutColumn) {
+  ScheduleSite site;
+  for (int i = 0; i < 2; ++i) site.AddRow({{"伸定尺", Value{12.5}}});  // 12 m each
+  TallyLines(1, 2);
+  EXPECT_EQ(TallyGrid.InstalledWeightByDia[3], Kg(54));  // 24 m x 2.25
+  EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(54));
+}
+
 TEST(PG_Jyuuryo_Syukei, NeverSumsThe13MetreColumnAndNeverCaps) {
   ScheduleSite site;
   site.AddRow({{"伸定尺", Value{13.0}}});

@@ -161,6 +161,32 @@ TEST(Keijou_Jyuuryo_Syukei, TakesUlbonForEveryKindAndSelection) {
   EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
 }
 
+/// A row of each kind whose threads are the kind's bit, and 16 threads of no kind.
+void AddRowOfEachKind(ScheduleSite& site) {
+  const Value kinds[] = {Number(1), Number(4), Number(3), Number(5), kNull};
+  for (int i = 0; i < 5; ++i) site.AddRow({{"予備2", kinds[i]}, {"ネジ数", Number(1 << i)}});
+}
+
+TEST(Keijou_Jyuuryo_Syukei, TakesTheKindsOfEveryMask) {
+  ScheduleSite site;
+  AddRowOfEachKind(site);
+  for (int mask = 1; mask <= 15; ++mask) {
+    Selection.MaterialKindMask = mask;
+    TallyShapes();
+    EXPECT_EQ(TallyGrid.TotalThreadCount, mask);
+  }
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, TakesTheKindsOfEveryMaskBut11) {
+  ScheduleSite site;
+  AddRowOfEachKind(site);
+  for (int mask = 1; mask <= 15; ++mask) {
+    Selection.MaterialKindMask = mask;
+    TallyLines(5);
+    EXPECT_EQ(TallyGrid.TotalThreadCount, mask == 11 ? 13 : mask);
+  }
+}
+
 TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesHoopsOutAndHoopsOnly) {
   ScheduleSite site;
   site.AddRow(With(kSevenOf2m, {{"圧接", Number(1)}}));
