@@ -233,11 +233,15 @@ TEST(FoldUlbonGroup, WeighsAllMetresOfADiameterAtOnce) {
   BarGroup two = WithPieces(U9Group(), 2);
   three.diameter_code = two.diameter_code = 11;
   three.cut_length_mm = 1002;
+  three.threads = two.threads = 2;
+  three.plates = two.plates = 5;
   two.cut_length_mm = 2001;
   TallyTable table;
   FoldUlbonGroup(table, three, true);
   FoldUlbonGroup(table, two, true);
   EXPECT_EQ(table.UlbonWeight[15], 4.97568);  // 7.008 m x 0.71; 2.13426 + 2.84142 ends in ...0005
+  EXPECT_EQ(table.UlbonThreadCount[15], 4);
+  EXPECT_EQ(table.UlbonPlateCount[15], 10);
 }
 
 TEST(FoldUlbonGroup, CountsAWeldAtTheThickerUlbonDiameter) {

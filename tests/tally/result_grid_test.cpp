@@ -45,6 +45,16 @@ TEST(ShowTally, ShowsADiameterWithItsGradeItsWholeWeightsAndTheUnroundedDifferen
   EXPECT_THAT(rows[11], ElementsAre("        D51", "0 ", "0 ", "0 ", "0", "0"));
 }
 
+TEST(ShowTally, RoundsTheDifferenceOnlyAfterItIsTaken) {
+  TallyTable table;
+  table.StockWeightByDia[0] = Kg(100);
+  table.InstalledWeightByDia[0] = Kg(98.5);  // shown as 99, but 1.5 less than 100
+  table.InstalledWeightByDia[1] = Kg(-1.2);  // -0.7 with the half added, which is cut off towards 0
+  const GridRows rows = ShowTally(table, {}, {});
+  EXPECT_THAT(rows[0], ElementsAre("        D10", "100 ", "99 ", "2 ", "0", "0"));
+  EXPECT_THAT(rows[1], ElementsAre("        D13", "0 ", "0 ", "1 ", "0", "0"));
+}
+
 TEST(ShowTally, ShowsTheTotalsUnderTheLabelOfTheKinds) {
   SelectionData selection;
   EXPECT_THAT(ShowTally(Sample(), selection, {})[12],
