@@ -87,8 +87,11 @@ TEST_F(Classification, ARowThatLacksANeededColumnValueStaysUnclassified) {
   AddBar({}, 7000, 1);
   AddBar(1, {}, 1);
   AddBar(1, 7000, {});
-  Classify();
-  EXPECT_THAT(Forms(), Each("0"));
+  AddBar(2, 7000, {});
+  for (const std::int32_t mode : {kNoMode, kPlainMode}) {
+    Classify(mode);
+    EXPECT_THAT(Forms(), Each("0"));
+  }
 }
 
 TEST_F(Classification, OfNoStockLengthThePiecesPerBarDoNotMatter) {
