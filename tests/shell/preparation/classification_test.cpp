@@ -123,18 +123,23 @@ TEST_F(Classification, JoinsTheDimensionsEachFollowedByAComma) {
 }
 
 TEST_F(Classification, AnUnmarkedThreadedRowEndsAsThreaded) {
-  AddBar(138, 7000, 1, {});
+  for (const int shape : {138, 143, 162, 166, 177}) AddBar(shape, 7000, 1, {});
   AddBar(163, 7000, 1, 0);
   AddBar(177, 7000, 1, 1);
-  AddBar(165, 7000, 1, {});  // anchored but without thread
   Classify();
-  EXPECT_THAT(Kinds(), ElementsAre("4", "4", "4", "1"));
+  EXPECT_THAT(Kinds(), Each("4"));
+}
+
+TEST_F(Classification, AShapeBesideTheThreadedOnesIsNotThreaded) {
+  for (const int shape : {137, 144, 161, 164, 165, 178}) AddBar(shape, 7000, 1, {});
+  Classify();
+  EXPECT_THAT(Kinds(), Each("1"));
 }
 
 TEST_F(Classification, AThinBarOfAThreadedShapeEndsAsUlbon) {
-  site_.AddRow({{"太さ", 6}, {"形状No", 139}});
+  for (const int diameter : {6, 7, 9, 11, 12}) site_.AddRow({{"太さ", diameter}, {"形状No", 139}});
   Classify();
-  EXPECT_THAT(Kinds(), ElementsAre("2"));
+  EXPECT_THAT(Kinds(), Each("2"));
 }
 
 TEST_F(Classification, NullAndZeroKindsBecomeDeformedAndOthersStay) {
