@@ -187,6 +187,48 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesTheKindsOfEveryMaskBut11) {
   }
 }
 
+TEST(Keijou_Jyuuryo_Syukei, LeavesOutRowsWithoutDiameterShapePiecesOrStockAsTheTallyOverLinesDoes) {
+  ScheduleSite site;
+  const Fields lacks[] = {
+      {},
+      {{"合計", Number(0)}},
+      {{"合計", Number(-3)}},
+      {{"合計", kNull}},
+      {{"伸定尺", kNull}},
+      {{"形状No", kNull}},
+      {{"太さ", Number(0)}},
+      {{"太さ", kNull}},
+  };
+  for (const Fields& lack : lacks) {
+    site.AddRow(With({{"ネジ数", Number(1)}, {"切断", Number(1)}, {"部位", Number(5)}}, lack));
+  }
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalThreadCount, 1);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 1);
+  TallyLines(8);
+  EXPECT_EQ(TallyGrid.TotalThreadCount, 1);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 1);
+}
+
+TEST(PKeijou_Jyuuryo_Syukei, LeavesOutThePlateShapesAloneWhenPlatesAreOut) {
+  ScheduleSite site;
+  int others = 0;
+  for (int shape = 136; shape <= 179; ++shape) {
+    const bool plate = shape == 138 || shape == 140 || (shape >= 143 && shape <= 147) || shape == 161 ||
+                       (shape >= 164 && shape <= 169) || shape == 175 || shape == 176;
+    if (!plate) ++others;
+    site.AddRow({{"形状No", Number(shape)}, {"ネジ数", Number(1)}});
+  }
+  Selection.AnchorPlateMode = 1;
+  TallyLines(44);
+  EXPECT_EQ(TallyGrid.TotalThreadCount, others);
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalThreadCount, others);
+  Selection.AnchorPlateMode = 2;
+  TallyLines(44);
+  EXPECT_EQ(TallyGrid.TotalThreadCount, 44 - others);
+}
+
 TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesHoopsOutAndHoopsOnly) {
   ScheduleSite site;
   site.AddRow(With(kSevenOf2m, {{"圧接", Number(1)}}));
