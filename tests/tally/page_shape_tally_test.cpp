@@ -4,6 +4,7 @@
 #include "data/run_state.h"
 #include "platform/fault.h"
 #include "shell/config/settings.h"
+#include "support/fault_of.h"
 #include "tally/schedule_site.h"
 #include "tally/selection.h"
 #include "tally/shape_samples.h"

@@ -3,10 +3,7 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <optional>
 
-#include "platform/fault.h"
 #include "platform/numbers/currency.h"
 #include "tally/schedule_site.h"
 #include "tally/selection.h"
@@ -24,15 +21,6 @@ inline void TallyShapes(std::int32_t first = 1, std::int32_t last = 200) {
 
 /// Page 1, from line 1 on.
 inline void TallyLines(std::int32_t last = 99) { PKeijou_Jyuuryo_Syukei(1, 1, 1, last); }
-
-inline std::optional<FaultKind> FaultOf(const std::function<void()>& tally) {
-  try {
-    tally();
-  } catch (const Fault& fault) {
-    return fault.Kind();
-  }
-  return std::nullopt;
-}
 
 /// 7 pieces of 2.0 m: 4 bars of 4.0 m by the engine.
 inline const Fields kSevenOf2m = {{"伸切寸", Number(2000)}, {"合計", Number(7)}};

@@ -7,6 +7,7 @@
 #include "platform/fault.h"
 #include "platform/text/cp932.h"
 #include "shell/config/settings.h"
+#include "support/fault_of.h"
 #include "tally/schedule_site.h"
 #include "tally/selection.h"
 #include "tally/shape_samples.h"

@@ -5,6 +5,7 @@
 #include "platform/fault.h"
 #include "platform/text/cp932.h"
 #include "shell/config/settings.h"
+#include "support/fault_of.h"
 #include "tally/schedule_site.h"
 #include "tally/stock_chooser.h"
 #include "tally/stock_engine.h"
@@ -12,19 +13,11 @@
 namespace rbt {
 namespace {
 
+using test::FaultOf;
 using test::ScheduleSite;
 
 void PutSteelIni(const ScheduleSite& site, const std::string& lines) {
   site.Folder().Put("DATA/STEEL.INI", ToCp932("[加工帳]\r\n" + lines));
-}
-
-std::optional<FaultKind> FaultOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault.Kind();
-  }
-  return std::nullopt;
 }
 
 TEST(GetStockLengthLimits, GiveTheDefaultsWithoutTheFile) {

@@ -13,6 +13,7 @@
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
 #include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
@@ -32,16 +33,6 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename().string());
   return names;
-}
-
-std::string FaultOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault.what();
-  }
-  ADD_FAILURE() << "no fault";
-  return "";
 }
 
 class ImportFolder : public ::testing::Test {
@@ -166,10 +157,10 @@ TEST_F(ImportFolder, ALinkThatLeadsNowhereIsAFileThatCannotBeRead) {
 TEST_F(ImportFolder, WithoutAReadableMasterDatabaseLeavesNothing) {
   PutWholeFolder();
   fs::resize_file(data_ / "SORANO.MDB", 5000);
-  EXPECT_THAT(FaultOf([&] { Take(); }), AllOf(HasSubstr("SORANO.MDB"), HasSubstr("cut off")));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), AllOf(HasSubstr("SORANO.MDB"), HasSubstr("cut off")));
   EXPECT_FALSE(fs::exists(root_));
   fs::remove(data_ / "SORANO.MDB");
-  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("the master database is missing"));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), HasSubstr("the master database is missing"));
   EXPECT_FALSE(fs::exists(root_));
 }
 
@@ -177,7 +168,7 @@ TEST_F(ImportFolder, AnExistingDataFolderIsLeftAlone) {
   PutWholeFolder();
   fs::create_directories(root_ / "DATA");
   WriteFileAtomically(root_ / "DATA" / "mine.txt", "mine");
-  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("is there already and is not overwritten"));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), HasSubstr("is there already and is not overwritten"));
   EXPECT_THAT(NamesIn(root_ / "DATA"), ElementsAre("mine.txt"));
   fs::remove(root_ / "DATA" / "mine.txt");
   Take();  // an empty one is no loss
@@ -198,7 +189,7 @@ TEST_F(ImportFolder, FilesOfTheStoreAreCopiedAndOthersNotTaken) {
 TEST_F(ImportFolder, NamesThatDifferInLetterCaseOnlyAreRefused) {
   PutWholeFolder();
   Put("genba001.mdb", ScheduleFileTables());
-  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("are one name to the program"));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), HasSubstr("are one name to the program"));
   EXPECT_FALSE(fs::exists(root_));
 }
 
@@ -212,7 +203,7 @@ TEST_F(ImportFolder, ADataFolderOfAnotherLetterCaseIsTheSame) {
   PutWholeFolder();
   fs::create_directories(root_ / "Data");
   WriteFileAtomically(root_ / "Data" / "mine.txt", "mine");
-  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("Data: is there already and is not overwritten"));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), HasSubstr("Data: is there already and is not overwritten"));
   fs::remove(root_ / "Data" / "mine.txt");
   Take();
   EXPECT_THAT(NamesIn(root_), ElementsAre("Data"));
@@ -268,7 +259,7 @@ TEST_F(ImportFolder, WithoutRoomNamesTheFileAndTheCauseAndLeavesNothing) {
     signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{8192, 8192};
     if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-    EXPECT_THAT(FaultOf([&] { Take(); }),
+    EXPECT_THAT(FaultTextOf([&] { Take(); }),
                 AllOf(HasSubstr((root_ / "DATA" / "GENBA001.MDB").string()), HasSubstr("disk I/O error")));
     return !HasFailure();
   }));
@@ -277,7 +268,7 @@ TEST_F(ImportFolder, WithoutRoomNamesTheFileAndTheCauseAndLeavesNothing) {
 
 TEST_F(ImportFolder, WhatIsNoFolderIsNamed) {
   fs::remove(data_);
-  EXPECT_THAT(FaultOf([&] { Take(); }), HasSubstr("windows: is no folder"));
+  EXPECT_THAT(FaultTextOf([&] { Take(); }), HasSubstr("windows: is no folder"));
 }
 
 }  // namespace

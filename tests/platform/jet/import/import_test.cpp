@@ -18,6 +18,7 @@
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
 #include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
@@ -45,16 +46,6 @@ FieldDef Field(std::string name, FieldType type, int size = 0, int scale = 0) {
 Value Words(std::string text) { return Value{std::move(text)}; }
 Value Whole(std::int64_t number) { return Value{number}; }
 
-std::string FaultOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault.what();
-  }
-  ADD_FAILURE() << "no fault";
-  return "";
-}
-
 class Import : public ::testing::TestWithParam<JetVersion> {
  protected:
   ImportReport Take(const std::vector<JetTable>& tables) {
@@ -71,6 +62,19 @@ class Import : public ::testing::TestWithParam<JetVersion> {
       for (int i = 0; i < rows.FieldCount(); ++i) row.push_back(rows.Get(FieldHandle{i}));
     }
     return all;
+  }
+
+  /// The number that the store gives to the next row of 登録名.
+  Value NumberOfNewRow() const {
+    Database database = Database::Open(target_);
+    {
+      Recordset rows = database.OpenDynaset("SELECT * FROM 登録名");
+      rows.AddNew();
+      rows.Set("登録名", Words("床"));
+      rows.Update();
+    }
+    Recordset rows = database.OpenSnapshot("SELECT 登録AN FROM 登録名 WHERE 登録名 = '床'");
+    return rows.Get("登録AN");
   }
 
   static bool IsJet3() { return GetParam() == JetVersion::jet3; }
@@ -147,15 +151,7 @@ TEST_P(Import, AnAutonumberGoesOnBehindItsRows) {
                  {"登録AN"}};
   table.fields[0].autonumber = true;
   Take({table});
-  Database database = Database::Open(target_);
-  {
-    Recordset rows = database.OpenDynaset("SELECT * FROM 登録名");
-    rows.AddNew();
-    rows.Set("登録名", Words("床"));
-    rows.Update();
-  }
-  Recordset rows = database.OpenSnapshot("SELECT 登録AN FROM 登録名 WHERE 登録名 = '床'");
-  EXPECT_EQ(rows.Get("登録AN"), Whole(42));
+  EXPECT_EQ(NumberOfNewRow(), Whole(42));
 }
 
 TEST_P(Import, AnAutonumberGoesOnBehindTheLastNumberGivenThoughItsRowIsGone) {
@@ -168,15 +164,7 @@ TEST_P(Import, AnAutonumberGoesOnBehindTheLastNumberGivenThoughItsRowIsGone) {
   image.at(PageAt(3) + (IsJet3() ? 16 : 20)) = 50;
   PutSource(image);
   ImportJetFile(source_, target_);
-  Database database = Database::Open(target_);
-  {
-    Recordset rows = database.OpenDynaset("SELECT * FROM 登録名");
-    rows.AddNew();
-    rows.Set("登録名", Words("床"));
-    rows.Update();
-  }
-  Recordset rows = database.OpenSnapshot("SELECT 登録AN FROM 登録名 WHERE 登録名 = '床'");
-  EXPECT_EQ(rows.Get("登録AN"), Whole(51));
+  EXPECT_EQ(NumberOfNewRow(), Whole(51));
 }
 
 TEST_P(Import, AKeyThatStandsTwiceIsRefusedByName) {
@@ -188,7 +176,7 @@ TEST_P(Import, AKeyThatStandsTwiceIsRefusedByName) {
 }
 
 TEST_P(Import, ATableThatTheStoreDoesNotTakeEndsTheImportByItsName) {
-  const std::string fault = FaultOf([&] {
+  const std::string fault = test::FaultTextOf([&] {
     Take({{"表", {Field("SD", FieldType::integer32), Field("ＳＤ", FieldType::integer32)}, {}}});
   });
   EXPECT_THAT(fault, AllOf(HasSubstr("table 表 has two fields ＳＤ"), HasSubstr(target_.string())));
@@ -304,7 +292,7 @@ TEST_P(Import, LiteralDefaultsAreKept) {
 
 TEST_P(Import, AnExistingTargetIsLeftAlone) {
   WriteFileAtomically(target_, "mine");
-  EXPECT_THAT(FaultOf([&] { Take({}); }), HasSubstr("is there already and is not overwritten"));
+  EXPECT_THAT(test::FaultTextOf([&] { Take({}); }), HasSubstr("is there already and is not overwritten"));
   EXPECT_EQ(ReadFileBytes(target_), "mine");
 }
 
@@ -324,7 +312,7 @@ TEST_P(Import, ADamagedFileLeavesNothingBehind) {
   const std::ptrdiff_t page_size = GetParam() == JetVersion::jet3 ? 2048 : 4096;
   image.erase(image.end() - page_size, image.end());  // the catalog's rows
   WriteFileAtomically(source_, {reinterpret_cast<const char*>(image.data()), image.size()});
-  EXPECT_THAT(FaultOf([&] { ImportJetFile(source_, target_); }), HasSubstr("old.mdb: page "));
+  EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }), HasSubstr("old.mdb: page "));
   EXPECT_THAT(NamesInFolder(), ElementsAre("old.mdb"));
 }
 
@@ -335,7 +323,8 @@ TEST_P(Import, FewerRowsThanTheFileCountsAreDamage) {
   const bool jet3 = GetParam() == JetVersion::jet3;
   image.at(3 * (jet3 ? 2048U : 4096U) + (jet3 ? 12U : 16U)) = 3;
   WriteFileAtomically(source_, {reinterpret_cast<const char*>(image.data()), image.size()});
-  EXPECT_THAT(FaultOf([&] { ImportJetFile(source_, target_); }), HasSubstr("counts 3 rows, 2 are there"));
+  EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
+              HasSubstr("counts 3 rows, 2 are there"));
 }
 
 TEST_P(Import, InPlaceTheJetFileIsKeptUnderAnotherName) {
@@ -352,7 +341,8 @@ TEST_P(Import, InPlaceNothingHappensWhenTheOtherNameIsTaken) {
   test::WriteJetFile(source_, GetParam(), {});
   const std::string before = ReadFileBytes(source_);
   WriteFileAtomically(folder_ / "old.mdb.jet", "an older one");
-  EXPECT_THAT(FaultOf([&] { ImportJetFileInPlace(source_); }), HasSubstr("old.mdb.jet: is there already"));
+  EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
+              HasSubstr("old.mdb.jet: is there already"));
   EXPECT_EQ(ReadFileBytes(source_), before);
   EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), "an older one");
 }
@@ -412,7 +402,7 @@ TEST_P(Import, InPlaceAFileThatSomebodyHasOpenIsRefused) {
   const std::string before = ReadFileBytes(source_);
   {
     const LockHolder holder(folder_ / "old.ldb");
-    EXPECT_THAT(FaultOf([&] { ImportJetFileInPlace(source_); }),
+    EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
                 HasSubstr("old.mdb: is open in another program; close it there first"));
   }
   EXPECT_EQ(ReadFileBytes(source_), before);

@@ -17,6 +17,7 @@
 #include "platform/store/database.h"
 #include "platform/system/paths.h"
 #include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
@@ -149,19 +150,9 @@ TEST_F(StoppedImport, ACopyOfTheJetFileUnderTheOtherNameIsNothingToRefuse) {
   EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), jet_);
 }
 
-std::string FaultOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault.what();
-  }
-  ADD_FAILURE() << "no fault";
-  return "";
-}
-
 TEST_F(StoppedImport, AFileThatAnotherProgramChangesMeanwhileIsNotImported) {
   const auto import = [&] {
-    const std::string fault = FaultOf([&] { ImportJetFile(source_, target_); });
+    const std::string fault = test::FaultTextOf([&] { ImportJetFile(source_, target_); });
     if (fault.find("old.mdb: was changed by another program while it was read") == std::string::npos)
       throw std::runtime_error(fault);
   };
@@ -183,7 +174,7 @@ bool WithFilesOfAtMost(rlim_t bytes, const std::function<void()>& action) {
 
 TEST_F(StoppedImport, WithoutRoomNamesTheTargetAndTheCauseAndLeavesNothing) {
   EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
-    EXPECT_THAT(FaultOf([&] { ImportJetFile(source_, target_); }),
+    EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
                 AllOf(HasSubstr(target_.string()), HasSubstr("disk I/O error")));
   }));
   EXPECT_THAT(Names(), ElementsAre("old.mdb"));
@@ -191,7 +182,7 @@ TEST_F(StoppedImport, WithoutRoomNamesTheTargetAndTheCauseAndLeavesNothing) {
 
 TEST_F(StoppedImport, WithoutRoomInPlaceChangesNothing) {
   EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
-    EXPECT_THAT(FaultOf([&] { ImportJetFileInPlace(source_); }),
+    EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
                 AllOf(HasSubstr(source_.string()), HasSubstr("disk I/O error")));
   }));
   EXPECT_THAT(Names(), ElementsAre("old.mdb"));
@@ -204,7 +195,7 @@ TEST_F(StoppedImport, WithoutRoomInTheMidstOfTheRowsEndsTheImport) {
   test::WriteJetFile(large, JetVersion::jet4, {Table("加工テーブル", 25000, 1800)});
   EXPECT_TRUE(WithFilesOfAtMost(1 << 20, [&] {
     EXPECT_THAT(
-        FaultOf([&] { ImportJetFile(large, target_); }),
+        test::FaultTextOf([&] { ImportJetFile(large, target_); }),
         AllOf(HasSubstr(target_.string()), HasSubstr("File too large"), HasSubstr("a row of 加工テーブル")));
   }));
   EXPECT_THAT(Names(), ElementsAre("large.mdb", "old.mdb"));
