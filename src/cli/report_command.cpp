@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <list>
 #include <memory>
 #include <optional>
@@ -114,9 +115,19 @@ void WriteDocuments(const Documents& documents, const ReportOptions& options) {
   if (!options.pdf.empty()) WritePdf(documents, options.pdf);
 }
 
+/// The two files are told apart, however their names are written.
+void RequireFiles(const ReportOptions& options) {
+  namespace fs = std::filesystem;
+  if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
+  if (options.pdf.empty() || options.trace.empty()) return;
+  if (fs::absolute(options.pdf).lexically_normal() == fs::absolute(options.trace).lexically_normal()) {
+    throw UsageError("-o and --trace name the same file " + options.pdf);
+  }
+}
+
 void RunReport(const ReportOptions& options) {
   const std::optional<DateTexts> typed = TypedDate(options.date);
-  if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
+  RequireFiles(options);
   FillTallyGrid(options.tally, options.common, options.selection);
   RunState.ReportBody = options.body;
   const std::shared_ptr<const Documents> documents = UsePdfDevice();
