@@ -29,8 +29,6 @@ namespace rbt {
 
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
-
 struct QtPaper {
   std::int32_t code;
   QPageSize::PageSizeId size;

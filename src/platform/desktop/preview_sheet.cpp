@@ -15,7 +15,6 @@ namespace rbt {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440.0;
 constexpr double kWholePercent = 100.0;
 constexpr std::array kZoomSteps = {25.0,  33.0,  50.0,  67.0,  75.0,  90.0,
                                    100.0, 125.0, 150.0, 200.0, 300.0, 400.0};
@@ -59,7 +58,7 @@ PreviewSheet::PreviewSheet(QWidget* parent) : QAbstractScrollArea(parent) {
 int PreviewSheet::Margin() { return kMargin; }
 
 double PreviewSheet::ScaleAt(double percent) const {
-  return logicalDpiX() / kTwipsPerInch * percent / kWholePercent;
+  return logicalDpiX() / static_cast<double>(kTwipsPerInch) * percent / kWholePercent;
 }
 
 void PreviewSheet::ShowPage(const PrintedPage& page, const SheetSize& sheet) {

@@ -21,7 +21,6 @@ namespace rbt {
 
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20.0;
 /// How a document is called in the print queue.
 constexpr const char* kDocumentName = "重量集計";

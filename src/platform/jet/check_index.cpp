@@ -100,8 +100,8 @@ IndexWalk CheckIndex(JetFile& file, const TableDefinition& table, const Physical
   const bool known = KnowsKeysOf(table, index);
   IndexWalk walk = WalkIndex(file, index, [&](const IndexEntry& entry) {
     const bool row_is_there = check.Visit(entry);
-    if (row_is_there && known)
-      check.CheckKey(entry, KnownKeyOf(table, index, ReadRow(file, table, entry.row)));
+    if (!row_is_there || !known) return;
+    check.CheckKey(entry, KnownKeyOf(table, index, ReadRow(file, table, entry.row)));
   });
   check.CheckNeighbours(walk.leaves);
   check.CheckComplete();

@@ -101,10 +101,6 @@ class Walker {
   IndexWalk walk_;
 };
 
-}  // namespace
-
-namespace {
-
 /// Bytes of a number, the highest first, so that they sort as the numbers do.
 std::vector<unsigned char> BigEndian(std::uint64_t number, std::size_t count) {
   std::vector<unsigned char> bytes;

@@ -6,8 +6,9 @@
 
 namespace rbt {
 
-/// Twips, 1440 to the inch: the unit of every coordinate on paper.
-inline constexpr double kTwipsPerMillimetre = 1440.0 / 25.4;
+/// The twip is the unit of every coordinate on paper.
+inline constexpr int kTwipsPerInch = 1440;
+inline constexpr double kTwipsPerMillimetre = kTwipsPerInch / 25.4;
 
 /// Printer paper codes.
 inline constexpr std::int32_t kPaperA3 = 8;

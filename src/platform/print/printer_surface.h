@@ -19,7 +19,7 @@ float LineHeight(float font_size);
 float TextWidthAt(float font_size, std::string_view text);
 
 /// A `DrawWidth` of 1 is 1/360 inch.
-inline constexpr double kTwipsPerDrawWidth = 1440.0 / 360.0;
+inline constexpr double kTwipsPerDrawWidth = kTwipsPerInch / 360.0;
 
 /// Whether a device is a printer of the system or this program's own PDF device.
 enum class DeviceKind { installed_printer, pdf };
