@@ -13,16 +13,16 @@
 
 #include <benchmark/benchmark.h>
 
-#include "data/site_context.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/paths.h"
-#include "shell/startup/startup.h"
-#include "tally/bulk_tally.h"
-#include "tally/page_tally.h"
+#include "session/startup/startup.h"
+#include "shell/context/site_context.h"
+#include "tally/engine/stock_engine.h"
+#include "tally/groups/shape_tally.h"
+#include "tally/rows/bulk_tally.h"
+#include "tally/rows/page_tally.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
-#include "tally/shape_tally.h"
-#include "tally/stock_engine.h"
 #include "tally/tally_grid.h"
 #include "yardstick.h"
 

@@ -17,3 +17,7 @@ if(RBTALLY_SANITIZE)
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(rbtally_options INTERFACE -fsanitize=${RBTALLY_SANITIZE})
 endif()
+if(RBTALLY_FUZZ)
+  # Coverage of the code under test, not only of the fuzzers themselves.
+  target_compile_options(rbtally_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -9,8 +9,8 @@
 #include <sqlite3.h>
 
 #include "platform/fault.h"
-#include "platform/store/dialect/functions.h"
-#include "platform/store/dialect/translate.h"
+#include "store/dialect/functions.h"
+#include "store/dialect/translate.h"
 
 /// Whatever the bytes, a statement is refused by a fault or translated, and what is translated SQLite takes:
 /// on an empty table no statement may fail for another reason than its size.

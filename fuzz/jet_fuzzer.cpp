@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "jet/check.h"
+#include "jet/csv_dump.h"
+#include "jet/import/table_mapping.h"
 #include "platform/fault.h"
-#include "platform/jet/check.h"
-#include "platform/jet/csv_dump.h"
-#include "platform/jet/import/table_mapping.h"
 
 namespace {
 

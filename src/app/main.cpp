@@ -8,14 +8,14 @@
 #include <QTimer>
 
 #include "app/arguments.h"
-#include "platform/desktop/action.h"
-#include "platform/desktop/look.h"
-#include "platform/desktop/preview_form.h"
-#include "platform/desktop/system_printers.h"
+#include "desktop/action.h"
+#include "desktop/look.h"
+#include "desktop/preview_form.h"
+#include "desktop/system_printers.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
-#include "shell/menu/captions.h"
-#include "shell/menu/jsmenu.h"
+#include "screens/menu/jsmenu.h"
+#include "session/menu/captions.h"
 
 namespace rbt {
 

@@ -6,8 +6,8 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
-#include "cli/demo/write_demo.h"
 #include "cli/options.h"
+#include "demo/write_demo.h"
 
 namespace rbt {
 

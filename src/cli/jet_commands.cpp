@@ -11,13 +11,13 @@
 
 #include "cli/command.h"
 #include "cli/output.h"
-#include "data/import/import_folder.h"
+#include "jet/check.h"
+#include "jet/csv_dump.h"
+#include "jet/import/import_file.h"
 #include "platform/fault.h"
-#include "platform/jet/check.h"
-#include "platform/jet/csv_dump.h"
-#include "platform/jet/import/import_file.h"
 #include "platform/text/cp932.h"
 #include "platform/text/csv.h"
+#include "shell/import/import_folder.h"
 
 namespace rbt {
 

@@ -10,6 +10,10 @@
 
 #include "cli/command.h"
 #include "cli/output.h"
+#ifdef RBTALLY_PAINTS_PDF
+#include "desktop/painting_surface.h"
+#include "platform/print/pdf_writer.h"
+#endif
 
 namespace rbt {
 
@@ -90,5 +94,8 @@ std::span<const Command> Commands() {
 int main(int argc, char** argv) {
   // A closed pipe is then reported as a failed write.
   std::signal(SIGPIPE, SIG_IGN);
+#ifdef RBTALLY_PAINTS_PDF
+  rbt::SetPdfWriter(rbt::PaintPdf);
+#endif
   return rbt::ExitStatusOf(argc, argv);
 }

@@ -16,19 +16,16 @@
 #include "cli/command.h"
 #include "cli/options.h"
 #include "cli/tally_kinds.h"
-#include "data/run_state.h"
 #include "platform/print/pdf_writer.h"
 #include "platform/print/print_trace.h"
 #include "platform/print/printer_list.h"
 #include "platform/system/clock.h"
 #include "platform/system/paths.h"
-#include "reports/print_frame.h"
-#include "reports/report_site.h"
-#include "reports/taihi.h"
-#include "reports/ulbon_report.h"
-#ifdef RBTALLY_PAINTS_PDF
-#include "platform/desktop/painting_surface.h"
-#endif
+#include "reports/comparison/taihi.h"
+#include "reports/frame/print_frame.h"
+#include "reports/frame/report_site.h"
+#include "reports/ulbon/ulbon_report.h"
+#include "shell/context/run_state.h"
 
 namespace rbt {
 
@@ -94,9 +91,6 @@ using Documents = std::vector<PrintedDocument>;
 /// come to stand.
 std::shared_ptr<const Documents> UsePdfDevice() {
   auto ended = std::make_shared<Documents>();
-#ifdef RBTALLY_PAINTS_PDF
-  SetPdfWriter(PaintPdf);
-#endif
   std::list<PrinterSurface> printers;
   printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
                         [ended](const PrintedDocument& document) { ended->push_back(document); });

@@ -6,7 +6,7 @@
 #include "cli/command.h"
 #include "platform/fault.h"
 #include "platform/system/paths.h"
-#include "shell/startup/startup.h"
+#include "session/startup/startup.h"
 
 namespace rbt {
 

@@ -9,12 +9,12 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/session.h"
-#include "data/fixed_stock.h"
 #include "shell/config/settings.h"
-#include "tally/grid_text.h"
-#include "tally/result_grid.h"
-#include "tally/stock_engine.h"
-#include "tally/tally_json.h"
+#include "shell/context/fixed_stock.h"
+#include "tally/engine/stock_engine.h"
+#include "tally/views/grid_text.h"
+#include "tally/views/result_grid.h"
+#include "tally/views/tally_json.h"
 
 namespace rbt {
 

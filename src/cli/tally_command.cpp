@@ -8,13 +8,13 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/tally_kinds.h"
-#include "data/grade_names.h"
-#include "data/run_state.h"
-#include "tally/grid_text.h"
-#include "tally/result_grid.h"
+#include "shell/context/reference_names.h"
+#include "shell/context/run_state.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
-#include "tally/tally_json.h"
+#include "tally/views/grid_text.h"
+#include "tally/views/result_grid.h"
+#include "tally/views/tally_json.h"
 
 namespace rbt {
 

@@ -6,15 +6,15 @@
 
 #include "cli/command.h"
 #include "cli/session.h"
-#include "data/site_context.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
-#include "tally/bulk_tally.h"
-#include "tally/page_tally.h"
+#include "shell/context/site_context.h"
+#include "tally/groups/shape_tally.h"
+#include "tally/rows/bulk_tally.h"
+#include "tally/rows/page_tally.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
-#include "tally/shape_tally.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {

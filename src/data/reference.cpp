@@ -2,18 +2,14 @@
 #include "data/reference.h"
 
 #include "data/quoted_text.h"
-#include "data/site_context.h"
 #include "platform/fault.h"
 #include "platform/system/message.h"
-#include "platform/system/paths.h"
 #include "platform/text/characters.h"
-#include "shell/config/settings.h"
 
 namespace rbt {
 
 namespace {
 
-constexpr std::string_view kMasterDatabase = "\\RBK\\DATA\\SORANO.MDB";
 constexpr std::int32_t kDefaultWidth = 50;
 constexpr std::int32_t kGradeCount = 10;
 
@@ -33,11 +29,6 @@ void RequireSite(const Recordset& rows, std::string_view file_name) {
 }
 
 }  // namespace
-
-void OpenMasterDatabase() {
-  SiteContext.MasterDatabase.reset();
-  SiteContext.MasterDatabase = std::make_unique<Database>(Database::Open(MapPath(kMasterDatabase)));
-}
 
 std::string SiteHeadStatement(std::string_view file_name) {
   return "SELECT [番号], [工事名], [データパス], [取引先コード] FROM 工事テーブル WHERE データパス = " +
@@ -123,13 +114,6 @@ std::string PartName(Database& master, std::int32_t part, PartNaming naming) {
   Recordset rows = master.OpenSnapshot("SELECT [番号], [部位名], [記号] FROM " + std::string(table) +
                                        " WHERE 番号 = " + std::to_string(part));
   return rows.Eof() ? std::string() : TextOrEmpty(rows, rows.Field("部位名"));
-}
-
-std::string Get_BuiNa(std::int32_t part) {
-  constexpr std::int32_t kSecondNaming = 2;
-  if (!SiteContext.MasterDatabase) throw Fault(FaultKind::database, "SORANO.MDB is not open");
-  const PartNaming naming = Settings.ShippingDate == kSecondNaming ? PartNaming::second : PartNaming::first;
-  return PartName(*SiteContext.MasterDatabase, part, naming);
 }
 
 }  // namespace rbt

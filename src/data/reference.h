@@ -7,12 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/store/database.h"
+#include "store/database.h"
 
 namespace rbt {
-
-/// Opens `\RBK\DATA\SORANO.MDB` for the run, into `SiteContext`.
-void OpenMasterDatabase();
 
 /// A site's row of `工事テーブル`.
 struct SiteHead {
@@ -54,7 +51,5 @@ std::array<std::string, 11> ReadGradeNames(Database& master);
 enum class PartNaming { first, second };  ///< 部位名テーブル, 部位名２テーブル
 /// 部位名 of a part, empty when it is null or the code has no row.
 std::string PartName(Database& master, std::int32_t part, PartNaming naming);
-/// The same from the open master database, in the naming that the setting `出荷日` selects (2: the second).
-std::string Get_BuiNa(std::int32_t part);
 
 }  // namespace rbt

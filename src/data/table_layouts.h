@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/store/schema.h"
+#include "store/schema/schema.h"
 
 namespace rbt {
 

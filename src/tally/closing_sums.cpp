@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tally/closing_sums.h"
 
+#include "data/bar_tables.h"
 #include "platform/numbers/number_words.h"
-#include "tally/bar_tables.h"
 
 namespace rbt {
 namespace {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/numbers/checked_array.h"
 #include "platform/numbers/number_words.h"
-#include "tally/checked_array.h"
 
 namespace rbt {
 

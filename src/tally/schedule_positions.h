@@ -7,8 +7,7 @@
 #include <string_view>
 
 #include "data/shapes.h"
-#include "platform/store/database.h"
-#include "tally/group_statements.h"
+#include "store/database.h"
 
 namespace rbt {
 
@@ -25,6 +24,12 @@ struct PositionRange {
   SchedulePosition last;
 
   friend bool operator==(const PositionRange&, const PositionRange&) = default;
+};
+
+/// Running line numbers, column 行No, both included; crossed ones hold nothing.
+struct LineRange {
+  std::int32_t first = 0;
+  std::int32_t last = 0;
 };
 
 /// 行No of the last row at a position, 0 when there is none. Faults: `invalid use of null` for a row without

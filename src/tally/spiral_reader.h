@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/store/database.h"
+#include "store/database.h"
 #include "tally/spirals.h"
 
 namespace rbt {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/spirals.h"
 
-#include "tally/bar_tables.h"
+#include "data/bar_tables.h"
 
 namespace rbt {
 namespace {

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/numbers/checked_array.h"
 #include "platform/numbers/currency.h"
-#include "tally/checked_array.h"
 
 namespace rbt {
 

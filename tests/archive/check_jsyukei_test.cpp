@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "archive/store/check_jsyukei.h"
+#include "archive/check_jsyukei.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "data/site_context.h"
 #include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/system/paths.h"
+#include "shell/context/site_context.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {

@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "data/site_context.h"
 #include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
-#include "shell/config/settings.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -35,16 +33,12 @@ class MasterDatabase : public testing::Test {
     for (const char* table : {"部位名テーブル", "部位名２テーブル"}) {
       database.CreateTable({table, {Whole("番号"), Words("部位名", 20), Words("記号", 10)}, {}});
     }
-    OpenMasterDatabase();
-  }
-  ~MasterDatabase() override {
-    SiteContext = SiteContextData{};
-    Settings = SettingsData{};
+    master_.emplace(std::move(database));
   }
 
-  Database& Master() const { return *SiteContext.MasterDatabase; }
-  void Run(const std::string& statement) const { Master().Execute(statement); }
-  Value Get(const std::string& select) const {
+  Database& Master() { return *master_; }
+  void Run(const std::string& statement) { Master().Execute(statement); }
+  Value Get(const std::string& select) {
     Recordset rows = Master().OpenSnapshot(select);
     return rows.Get(FieldHandle{0});
   }
@@ -52,13 +46,10 @@ class MasterDatabase : public testing::Test {
   static constexpr const char* kDiameters[] = {"10", "13", "16", "19", "22", "25",
                                                "29", "32", "35", "38", "41", "51"};
   test::RootFolder root;
-};
 
-TEST_F(MasterDatabase, ThatIsMissingFaults) {
-  SiteContext.MasterDatabase.reset();
-  std::filesystem::remove(root.Data("SORANO.MDB"));
-  EXPECT_THROW(OpenMasterDatabase(), Fault);
-}
+ private:
+  std::optional<Database> master_;
+};
 
 TEST_F(MasterDatabase, GivesTheHeadOfASite) {
   Run("INSERT INTO 工事テーブル (番号, 工事名, データパス, 取引先コード) VALUES (12, '駅前ビル', "
@@ -191,20 +182,6 @@ TEST_F(MasterDatabase, TrimsGradeNamesAndTellsOfEachMissingOne) {
   EXPECT_EQ(names,
             (std::array<std::string, 11>{"", "SD1", "SD2", "", "SD4", "SD5", "SD6", "SD7", "SD8", "", ""}));
   EXPECT_EQ(messages, (std::vector<std::string>(2, "ＳＤ名が登録されていません。")));
-}
-
-TEST_F(MasterDatabase, NamesPartsByTheTableThatTheShippingDateSelects) {
-  Run("INSERT INTO 部位名テーブル (番号, 部位名) VALUES (1, '柱')");
-  Run("INSERT INTO 部位名２テーブル (番号, 部位名) VALUES (1, '柱主筋')");
-  Run("INSERT INTO 部位名２テーブル (番号) VALUES (2)");
-  for (const int setting : {0, 1, 3}) {
-    Settings.ShippingDate = setting;
-    EXPECT_EQ(Get_BuiNa(1), "柱") << setting;
-  }
-  Settings.ShippingDate = 2;
-  EXPECT_EQ(Get_BuiNa(1), "柱主筋");
-  EXPECT_EQ(Get_BuiNa(2), "") << "a null name";
-  EXPECT_EQ(Get_BuiNa(11), "") << "no row";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/action.h"
+#include "desktop/action.h"
 
 #include <QWidget>
 #include <gtest/gtest.h>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/form.h"
+#include "desktop/form.h"
 
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/grid_control.h"
+#include "desktop/grid_control.h"
 
 #include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/message_box.h"
+#include "desktop/message_box.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
 #include "platform/system/message.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

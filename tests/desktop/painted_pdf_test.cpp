@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/desktop/painting_surface.h"
+#include "desktop/painting_surface.h"
 #include "platform/fault.h"
 #include "platform/print/paper.h"
 #include "platform/system/paths.h"

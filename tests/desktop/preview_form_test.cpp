@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/preview_form.h"
+#include "desktop/preview_form.h"
 
 #include <chrono>
 
@@ -10,11 +10,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
-#include "platform/desktop/preview_sheet.h"
+#include "desktop/preview_sheet.h"
 #include "platform/fault.h"
 #include "platform/print/paper.h"
 #include "platform/system/message.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/preview_save.h"
+#include "desktop/preview_save.h"
 
 #include <deque>
 #include <fstream>
@@ -10,13 +10,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
-#include "platform/desktop/preview_form.h"
+#include "desktop/preview_form.h"
 #include "platform/print/paper.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
+#include "support/desktop/key_press.h"
 #include "support/environment_variable.h"
 #include "support/temporary_folder.h"
 

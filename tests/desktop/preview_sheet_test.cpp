@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/preview_sheet.h"
+#include "desktop/preview_sheet.h"
 
 #include <cmath>
 
@@ -8,7 +8,7 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/printer_choice.h"
+#include "desktop/printer_choice.h"
 
 #include <initializer_list>
 
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desktop/key_press.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt::test {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/desktop/system_printers.h"
+#include "desktop/system_printers.h"
 
 #include <list>
 #include <string>

@@ -13,14 +13,14 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "desktop/key_press.h"
-#include "platform/desktop/look.h"
-#include "platform/desktop/system_printers.h"
+#include "desktop/look.h"
+#include "desktop/system_printers.h"
 #include "platform/fault.h"
 #include "platform/print/printer_list.h"
 #include "platform/system/message.h"
-#include "screens/screen_forms.h"
-#include "shell/startup/startup.h"
+#include "screens/result/result_forms.h"
+#include "session/startup/startup.h"
+#include "support/desktop/key_press.h"
 
 namespace rbt {
 

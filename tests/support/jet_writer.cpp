@@ -7,7 +7,7 @@
 #include <numeric>
 #include <stdexcept>
 
-#include "platform/jet/table_definition.h"
+#include "jet/table_definition.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"

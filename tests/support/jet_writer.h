@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/jet/jet_file.h"
-#include "platform/store/database.h"
-#include "platform/store/schema.h"
+#include "jet/jet_file.h"
+#include "store/database.h"
+#include "store/schema/schema.h"
 
 namespace rbt::test {
 

@@ -4,15 +4,15 @@
 #include <algorithm>
 #include <fstream>
 
-#include "data/run_state.h"
-#include "data/site_context.h"
 #include "data/table_layouts.h"
 #include "platform/profile/ini_file.h"
 #include "platform/system/clock.h"
 #include "platform/text/cp932.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "tally/engine/stock_engine.h"
 #include "tally/selection.h"
-#include "tally/stock_engine.h"
 #include "tally/tally_grid.h"
 
 namespace rbt::test {

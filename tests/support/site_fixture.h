@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "platform/numbers/value.h"
-#include "platform/store/database.h"
 #include "platform/system/message.h"
 #include "platform/system/process.h"
+#include "store/database.h"
 #include "support/root_folder.h"
 
 namespace rbt::test {

@@ -7,18 +7,18 @@
 
 #include <gtest/gtest.h>
 
-#include "data/run_state.h"
-#include "data/site_context.h"
+#include "data/bar_tables.h"
 #include "shell/config/settings.h"
-#include "tally/bar_tables.h"
-#include "tally/bulk_tally.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "support/schedule_site.h"
 #include "tally/closing_sums.h"
-#include "tally/page_tally.h"
-#include "tally/row_fold.h"
+#include "tally/groups/shape_tally.h"
+#include "tally/rows/bulk_tally.h"
+#include "tally/rows/page_tally.h"
+#include "tally/rows/row_fold.h"
 #include "tally/schedule_positions.h"
-#include "tally/schedule_site.h"
 #include "tally/selection.h"
-#include "tally/shape_tally.h"
 
 namespace rbt {
 namespace {

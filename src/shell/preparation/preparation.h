@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/store/database.h"
+#include "store/database.h"
 
 namespace rbt {
 

@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: MIT
+cmake_minimum_required(VERSION 3.25)
+# Fails at a file that includes from a room which its own room does not use, or Qt below the desktop; and at tests that
+# do not mirror the house. HOUSE has a line per room: its folder, its floor, qt or -, the rooms that it uses.
+file(STRINGS ${HOUSE} house)
+set(rooms "")
+foreach(line IN LISTS house)
+  string(REGEX MATCH "^([^ ]+) ([0-9]+) ([^ ]+) ?(.*)$" matched "${line}")
+  set(room ${CMAKE_MATCH_1})
+  list(APPEND rooms ${room})
+  set(qt_${room} ${CMAKE_MATCH_3})
+  string(REPLACE " " ";" uses_${room} "${CMAKE_MATCH_4}")
+endforeach()
+
+set(faults "")
+
+function(check_file file room)
+  file(STRINGS ${file} lines REGEX "^ *# *include")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "include *\"([^\"]+)\"")
+      set(header ${CMAKE_MATCH_1})
+      get_filename_component(used ${header} DIRECTORY)
+      if(header MATCHES "^ui_" OR used STREQUAL room OR used IN_LIST uses_${room})
+        continue()
+      endif()
+      list(APPEND faults "${file}: ${room} does not use the room of ${header}")
+    elseif(line MATCHES "include *<Q" AND NOT qt_${room} STREQUAL "qt")
+      list(APPEND faults "${file}: only rooms above the rules may include Qt")
+    endif()
+  endforeach()
+  set(faults "${faults}" PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/src/*.h ${ROOT}/src/*.cpp ${ROOT}/demo/*.h ${ROOT}/demo/*.cpp
+     ${ROOT}/showroom/*.h ${ROOT}/showroom/*.cpp)
+foreach(file IN LISTS files)
+  get_filename_component(room ${file} DIRECTORY)
+  string(REGEX REPLACE "^src/" "" room ${room})
+  if(NOT room IN_LIST rooms)
+    list(APPEND faults "${file}: its folder is no room of the house")
+    continue()
+  endif()
+  # A program's main hands down what lower floors need from above.
+  if(NOT file MATCHES "/main\\.cpp$")
+    check_file(${ROOT}/${file} ${room})
+  endif()
+endforeach()
+
+# Tests stand where the room stands that they test.
+set(beside_the_house support support/desktop data end_to_end golden)
+file(GLOB_RECURSE tests RELATIVE ${ROOT}/tests ${ROOT}/tests/*_test.cpp)
+foreach(test IN LISTS tests)
+  get_filename_component(room ${test} DIRECTORY)
+  if(NOT room IN_LIST rooms AND NOT room IN_LIST beside_the_house)
+    list(APPEND faults "tests/${test}: there is no room ${room}")
+  endif()
+endforeach()
+
+if(faults)
+  list(JOIN faults "\n  " text)
+  message(FATAL_ERROR "The house does not stand:\n  ${text}")
+endif()

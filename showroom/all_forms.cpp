@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "showroom/all_forms.h"
+
+#include <iterator>
+
+#include "showroom/menu_forms.h"
+#include "showroom/preview_forms.h"
+#include "showroom/result_forms.h"
+#include "showroom/selection_forms.h"
+#include "showroom/settings_forms.h"
+
+namespace rbt {
+
+std::vector<FormEntry> AllForms() {
+  std::vector<FormEntry> all;
+  for (std::vector<FormEntry> forms :
+       {MenuForms(), SettingsForms(), ResultForms(), SelectionForms(), PreviewForms()}) {
+    std::move(forms.begin(), forms.end(), std::back_inserter(all));
+  }
+  return all;
+}
+
+}  // namespace rbt

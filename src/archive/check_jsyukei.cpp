@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "archive/check_jsyukei.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "platform/fault.h"
+#include "platform/system/message.h"
+#include "platform/system/paths.h"
+#include "shell/context/site_context.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kTemplate = "\\RBK\\DATA\\JSyukeiORG.mdb";
+constexpr std::string_view kNoTemplateTitle = "ファイル無し";
+constexpr std::string_view kNoTemplateText = "ひな形ファイル[JSyukeiORG.mdb]が無いため、集計保存が出来ません";
+
+struct PrimaryKey {
+  std::string_view table;
+  std::string_view fields;  ///< in key order
+};
+
+constexpr std::array<PrimaryKey, 6> kPrimaryKeys{{
+    {"重量集計名称", "作成日,作成時間"},
+    {"重量集計", "太さ,ＳＤ,メーカー,階,部位,材質,作成日,作成時間"},
+    {"階部位重量集計", "階,部位,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
+    {"階別重量集計", "階,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
+    {"部位別重量集計", "太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
+    {"部位別本重集計", "部位,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
+}};
+
+/// A table that is dropped when it has no rows, with the statements that find out and do it.
+struct Leftover {
+  std::string_view table;
+  std::string_view select;
+  std::string_view drop;
+};
+
+constexpr std::array<Leftover, 2> kLeftovers{{
+    {"重量集計", "SELECT *  FROM 重量集計", "DROP TABLE 重量集計"},
+    {"重量集計名称", "SELECT *  FROM 重量集計名称", "DROP TABLE 重量集計名称"},
+}};
+
+Database& OpenSite() {
+  if (!SiteContext.WorkDatabase) throw Fault(FaultKind::database, "no site database is open");
+  return *SiteContext.WorkDatabase;
+}
+
+TableDef SiteTable(std::string_view name) {
+  const auto table = OpenSite().FindTable(name);
+  if (!table) throw Fault(FaultKind::database, fmt::format("{}: the site has no such table", name));
+  return *table;
+}
+
+/// What a field of a site's table takes from the template: name, type and size, and the default without which
+/// rows saved before could not come under the key.
+FieldDef AppendedField(const FieldDef& wanted) {
+  FieldDef field;
+  field.name = wanted.name;
+  field.type = wanted.type;
+  field.size = wanted.size;
+  field.scale = wanted.scale;
+  field.default_value = wanted.default_value;
+  return field;
+}
+
+/// True when a field was missing.
+bool AppendMissingFields(const TableDef& wanted) {
+  const TableDef table = SiteTable(wanted.name);
+  bool appended = false;
+  for (const FieldDef& field : wanted.fields) {
+    if (table.FindField(field.name) != nullptr) continue;
+    OpenSite().AppendField(wanted.name, AppendedField(field));
+    appended = true;
+  }
+  return appended;
+}
+
+void BringUpToDate(const TableDef& wanted) {
+  Transaction transaction(OpenSite());
+  if (!Table_Exists(wanted.name, OpenSite())) {
+    OpenSite().CreateTable(wanted);
+  } else if (AppendMissingFields(wanted)) {
+    Drop_Indexes(wanted.name);
+    Add_PrimaryKey(wanted.name);
+  }
+  transaction.Commit();
+}
+
+void CheckAgainstTemplate() {
+  if (!SiteContext.WorkDatabase) OpenWorkDatabase();
+  Database wanted = Database::OpenReadOnly(MapPath(kTemplate));
+  for (const TableDef& table : wanted.TableDefs()) BringUpToDate(table);
+}
+
+/// The check's error trap: tallies can be run on a site whose archive is not up to date, only saving fails.
+template <typename Check>
+void EndWithoutMessageOnFault(Check check) {
+  try {
+    check();
+  } catch (const Fault&) {
+    return;
+  }
+}
+
+}  // namespace
+
+bool Table_Exists(std::string_view TableName, Database& database) {
+  const auto tables = database.TableDefs();
+  return std::any_of(tables.begin(), tables.end(),
+                     [&](const TableDef& table) { return table.name == TableName; });
+}
+
+void Drop_Indexes(std::string_view TableName) {
+  const TableDef table = SiteTable(TableName);
+  for (const IndexDef& index : table.indexes) {
+    if (index.primary) OpenSite().Execute(fmt::format("DROP INDEX {} ON {}", index.name, TableName));
+  }
+}
+
+void Add_PrimaryKey(std::string_view TableName) {
+  const auto* key = std::find_if(kPrimaryKeys.begin(), kPrimaryKeys.end(),
+                                 [&](const PrimaryKey& candidate) { return candidate.table == TableName; });
+  if (key == kPrimaryKeys.end()) {
+    throw Fault(FaultKind::database, fmt::format("{}: no table of saved tallies", TableName));
+  }
+  OpenSite().Execute(
+      fmt::format("ALTER TABLE {0} ADD CONSTRAINT {0}_pkey PRIMARY KEY({1})", TableName, key->fields));
+}
+
+void DropEmptyArchiveTables() {
+  for (const Leftover& leftover : kLeftovers) {
+    Database& site = OpenSite();
+    if (Table_Exists(leftover.table, site) && !site.HasRows(leftover.select)) site.Execute(leftover.drop);
+    OpenWorkDatabase();
+  }
+}
+
+void Check_JSyukei() {
+  if (!FamilyFileExists(kTemplate)) {
+    MsgBox(kNoTemplateText, kNoTemplateTitle);
+    return;
+  }
+  EndWithoutMessageOnFault(CheckAgainstTemplate);
+}
+
+}  // namespace rbt

@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "data/run_state.h"
-
-namespace rbt {
-
-RunStateData RunState;
-
-}  // namespace rbt

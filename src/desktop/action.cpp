@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/action.h"
+
+#include <exception>
+#include <string>
+
+#include <QWidget>
+
+#include "platform/system/message.h"
+
+namespace rbt {
+
+namespace {
+
+int& RunningActions() {
+  static int running = 0;
+  return running;
+}
+
+class Running {
+ public:
+  Running() { ++RunningActions(); }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+  ~Running() { --RunningActions(); }
+};
+
+}  // namespace
+
+bool RunAction(std::string_view title, const std::function<void()>& action) {
+  const Running running;
+  try {
+    action();
+    return true;
+  } catch (const std::exception& fault) {
+    // Faults, and what the libraries throw: nothing may pass through the event loop.
+    MsgBox(fault.what(), title);
+    return false;
+  }
+}
+
+bool RunAction(const QWidget& form, const std::function<void()>& action) {
+  // The form may go with its action; its title is read before.
+  const std::string title = form.window()->windowTitle().toStdString();
+  return RunAction(title, action);
+}
+
+bool ActionRunning() { return RunningActions() > 0; }
+
+}  // namespace rbt

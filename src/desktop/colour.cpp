@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/colour.h"
+
+#include <utility>
+
+#include <QColorDialog>
+
+namespace rbt {
+
+namespace {
+
+constexpr std::int32_t kByte = 0xFF;
+constexpr int kGreenShift = 8;
+constexpr int kBlueShift = 16;
+
+ColourHandler& Handler() {
+  static ColourHandler handler;
+  return handler;
+}
+
+}  // namespace
+
+QColor ColourOfRgb(std::int32_t rgb) {
+  return {rgb & kByte, (rgb >> kGreenShift) & kByte, (rgb >> kBlueShift) & kByte};
+}
+
+std::int32_t RgbOfColour(const QColor& colour) {
+  return colour.red() | (colour.green() << kGreenShift) | (colour.blue() << kBlueShift);
+}
+
+std::optional<std::int32_t> AskColour(QWidget& form, std::string_view title, std::int32_t rgb) {
+  if (Handler()) return Handler()(title, rgb);
+  QColorDialog dialog(ColourOfRgb(rgb), &form);
+  dialog.setObjectName("cdgcolor");
+  dialog.setWindowTitle(QString::fromUtf8(title));
+  // One dialog everywhere: the desktop's own may know neither the title nor Esc.
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return RgbOfColour(dialog.currentColor());
+}
+
+ColourHandler SetColourHandler(ColourHandler handler) { return std::exchange(Handler(), std::move(handler)); }
+
+}  // namespace rbt

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/grid_control.h"
+
+#include <algorithm>
+
+#include <QAbstractTableModel>
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+namespace rbt {
+
+/// Texts and how they show. A row that is shorter than the columns has empty cells at its end.
+class GridControl::Model : public QAbstractTableModel {
+ public:
+  using QAbstractTableModel::QAbstractTableModel;
+
+  int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  }
+  int columnCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+  }
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    switch (role) {
+      case Qt::DisplayRole:
+      case Qt::EditRole:
+        return QString::fromStdString(Text(index.row(), index.column()));
+      case Qt::TextAlignmentRole:
+        return QVariant::fromValue(ColumnAt(index.column()).alignment | Qt::AlignVCenter);
+      case Qt::BackgroundRole:
+        return Alternate(index.row()) && back_.isValid() ? QVariant(back_) : QVariant();
+      case Qt::ForegroundRole:
+        return Alternate(index.row()) && fore_.isValid() ? QVariant(fore_) : QVariant();
+      default:
+        return {};
+    }
+  }
+
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::DisplayRole) return QString::fromStdString(ColumnAt(section).caption);
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+    return {};
+  }
+
+  Qt::ItemFlags flags(const QModelIndex& index) const override {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    const bool open =
+        !ColumnAt(index.column()).locked && (!before_edit || before_edit(index.row(), index.column()));
+    return open ? flags | Qt::ItemIsEditable : flags;
+  }
+
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override {
+    if (role != Qt::EditRole) return false;
+    std::string text = value.toString().toStdString();
+    if (before_update && !before_update(index.row(), index.column(), text)) return false;
+    SetText(index.row(), index.column(), std::move(text));
+    if (after_edit) after_edit(index.row(), index.column());
+    return true;
+  }
+
+  void SetColumns(std::vector<GridColumn> columns) {
+    beginResetModel();
+    columns_ = std::move(columns);
+    endResetModel();
+  }
+
+  void SetRows(std::vector<std::vector<std::string>> rows) {
+    const int before = rowCount();
+    const int after = static_cast<int>(rows.size());
+    // Rows are added and taken at the end, so that the current cell and the scroll position stay.
+    if (after < before) {
+      beginRemoveRows({}, after, before - 1);
+      rows_.resize(rows.size());
+      endRemoveRows();
+    } else if (after > before) {
+      beginInsertRows({}, before, after - 1);
+      rows_.resize(rows.size());
+      endInsertRows();
+    }
+    rows_ = std::move(rows);
+    Refresh();
+  }
+
+  std::string Text(int row, int column) const {
+    const auto& cells = rows_.at(static_cast<std::size_t>(row));
+    const auto at = static_cast<std::size_t>(column);
+    return at < cells.size() ? cells[at] : std::string();
+  }
+
+  void SetText(int row, int column, std::string text) {
+    auto& cells = rows_.at(static_cast<std::size_t>(row));
+    const auto at = static_cast<std::size_t>(column);
+    if (at >= cells.size()) cells.resize(at + 1);
+    cells[at] = std::move(text);
+    emit dataChanged(index(row, column), index(row, column));
+  }
+
+  void SetColours(const QColor& back, const QColor& fore) {
+    back_ = back;
+    fore_ = fore;
+    Refresh();
+  }
+
+  const GridColumn& ColumnAt(int column) const { return columns_.at(static_cast<std::size_t>(column)); }
+
+  BeforeEdit before_edit;
+  BeforeUpdate before_update;
+  AfterEdit after_edit;
+
+ private:
+  static bool Alternate(int row) { return row % 2 == 1; }
+  void Refresh() {
+    if (rowCount() > 0 && columnCount() > 0)
+      emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+  }
+
+  std::vector<GridColumn> columns_;
+  std::vector<std::vector<std::string>> rows_;
+  QColor back_;
+  QColor fore_;
+};
+
+GridControl::GridControl(QWidget* parent) : QTableView(parent), model_(new Model(this)) {
+  setModel(model_);
+  setSelectionMode(QAbstractItemView::ContiguousSelection);
+  setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                  QAbstractItemView::AnyKeyPressed);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(false);
+}
+
+GridControl::~GridControl() = default;
+
+void GridControl::SetColumns(std::vector<GridColumn> columns) {
+  model_->SetColumns(std::move(columns));
+  LayOutColumns();
+}
+
+void GridControl::LayOutColumns() {
+  const QFontMetrics metrics(font());
+  const int half_width = metrics.horizontalAdvance(QLatin1Char('0'));
+  constexpr int kPadding = 14;
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const GridColumn& description = model_->ColumnAt(column);
+    const int caption = metrics.horizontalAdvance(QString::fromStdString(description.caption));
+    setColumnWidth(column, std::max(description.characters * half_width, caption) + kPadding);
+    setColumnHidden(column, !description.visible);
+  }
+  verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
+}
+
+void GridControl::SetRows(std::vector<std::vector<std::string>> rows) {
+  const int scrolled = verticalScrollBar()->value();
+  model_->SetRows(std::move(rows));
+  if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
+  verticalScrollBar()->setValue(scrolled);
+}
+
+int GridControl::RowCount() const { return model_->rowCount(); }
+
+std::string GridControl::Cell(int row, int column) const { return model_->Text(row, column); }
+
+void GridControl::SetCell(int row, int column, std::string text) {
+  model_->SetText(row, column, std::move(text));
+}
+
+void GridControl::SetAlternateColours(const QColor& back, const QColor& fore) {
+  model_->SetColours(back, fore);
+}
+
+void GridControl::OnBeforeEdit(BeforeEdit handler) { model_->before_edit = std::move(handler); }
+
+void GridControl::OnBeforeUpdate(BeforeUpdate handler) { model_->before_update = std::move(handler); }
+
+void GridControl::OnAfterEdit(AfterEdit handler) { model_->after_edit = std::move(handler); }
+
+QString GridControl::SelectedText() const {
+  QModelIndexList cells = selectionModel()->selectedIndexes();
+  // One cell stands for its row: a row is what people paste into a letter.
+  if (cells.size() <= 1 && currentIndex().isValid()) {
+    cells.clear();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+      if (!isColumnHidden(column)) cells.append(model_->index(currentIndex().row(), column));
+    }
+  }
+  std::sort(cells.begin(), cells.end());
+  QString text;
+  int row = -1;
+  for (const QModelIndex& cell : cells) {
+    if (row >= 0) text += cell.row() == row ? '\t' : '\n';
+    row = cell.row();
+    text += cell.data().toString().trimmed();
+  }
+  return text;
+}
+
+QSize GridControl::sizeHint() const {
+  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  for (int column = 0; column < model_->columnCount(); ++column) width += columnWidth(column);
+  const int rows = 26;
+  const int height = 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
+                     rows * verticalHeader()->defaultSectionSize();
+  return {width, height};
+}
+
+void GridControl::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    QGuiApplication::clipboard()->setText(SelectedText());
+    event->accept();
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+void GridControl::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) LayOutColumns();
+}
+
+}  // namespace rbt

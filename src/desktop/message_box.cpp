@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/message_box.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string_view>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+
+#include "platform/system/message.h"
+
+namespace rbt {
+
+namespace {
+
+struct Answer {
+  MessageAnswer answer;
+  QMessageBox::ButtonRole role;
+  const char* caption;
+};
+
+constexpr Answer kOk{MessageAnswer::ok, QMessageBox::AcceptRole, "OK"};
+constexpr Answer kCancel{MessageAnswer::cancel, QMessageBox::RejectRole, "キャンセル"};
+constexpr Answer kYes{MessageAnswer::yes, QMessageBox::YesRole, "はい(&Y)"};
+constexpr Answer kNo{MessageAnswer::no, QMessageBox::NoRole, "いいえ(&N)"};
+
+constexpr std::array kOkOnly{kOk};
+constexpr std::array kOkCancel{kOk, kCancel};
+constexpr std::array kYesNo{kYes, kNo};
+constexpr std::array kYesNoCancel{kYes, kNo, kCancel};
+
+/// The last answer of each set is the cautious one.
+std::span<const Answer> Answers(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::ok_cancel:
+      return kOkCancel;
+    case MessageButtons::yes_no:
+      return kYesNo;
+    case MessageButtons::yes_no_cancel:
+      return kYesNoCancel;
+    case MessageButtons::ok:
+      break;
+  }
+  return kOkOnly;
+}
+
+QString PlainText(std::string_view text) {
+  QString plain = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  plain.replace("\r\n", "\n").replace('\r', '\n');
+  return plain;
+}
+
+/// Lines are broken where the message says so; only one wider than most of the screen wraps.
+void KeepLines(QMessageBox& box) {
+  constexpr int kPercentOfScreen = 60;
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  if (label == nullptr) return;
+  const int widest = box.screen()->availableGeometry().width() * kPercentOfScreen / 100;
+  const int text = label->fontMetrics().size(0, box.text()).width();
+  label->setMinimumWidth(std::min(text, widest));
+}
+
+MessageAnswer ShowMessage(std::string_view text, std::string_view title, MessageButtons buttons) {
+  const QPointer<QWidget> below = QApplication::activeWindow();
+  QMessageBox box(below);
+  const std::span<const Answer> answers = Answers(buttons);
+  box.setIcon(answers.size() == 1 ? QMessageBox::Information : QMessageBox::Question);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(PlainText(text));
+  box.setWindowTitle(title.empty() ? QApplication::applicationDisplayName() : PlainText(title));
+  QAbstractButton* cautious = nullptr;
+  for (const Answer& answer : answers) {
+    QPushButton* button = box.addButton(QString::fromUtf8(answer.caption), answer.role);
+    button->setObjectName(QString::fromUtf8(answer.caption));
+    if (cautious == nullptr) box.setDefaultButton(button);
+    cautious = button;
+  }
+  box.setEscapeButton(cautious);
+  KeepLines(box);
+  box.exec();
+  if (below) below->activateWindow();
+  for (const Answer& answer : answers) {
+    if (box.clickedButton()->objectName() == QString::fromUtf8(answer.caption)) return answer.answer;
+  }
+  return answers.back().answer;
+}
+
+}  // namespace
+
+void InstallMessageBox() { SetMessageHandler(ShowMessage); }
+
+bool MessageBoxOpen() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; }
+
+}  // namespace rbt

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/preview_save.h"
+
+#include <string>
+
+#include <QFileDialog>
+#include <fmt/format.h>
+
+#include "desktop/painting_surface.h"
+#include "platform/fault.h"
+#include "platform/system/clock.h"
+#include "platform/system/message.h"
+#include "platform/system/paths.h"
+#include "platform/text/characters.h"
+
+namespace rbt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kExtension = ".pdf";
+constexpr const char* kNameWithoutTitle = "集計表";
+
+fs::path WithExtension(fs::path file) {
+  const std::string extension = QString::fromStdString(file.extension().string()).toLower().toStdString();
+  if (extension != kExtension) file += kExtension;
+  return file;
+}
+
+std::string FileNameOf(std::string_view title) {
+  constexpr std::u32string_view kForbidden = U"/\\:*?\"<>|";
+  constexpr std::size_t kCharacters = 60;  // 180 bytes; a file name may have 255
+  constexpr char32_t kFirstPrintable = U' ';
+  std::string name;
+  for (const char32_t character : CharactersOf(Left(Trim(title), kCharacters))) {
+    const bool fits = character >= kFirstPrintable && kForbidden.find(character) == std::u32string_view::npos;
+    name += fits ? Utf8Of(character) : "_";
+  }
+  if (name.starts_with('.')) name.front() = '_';  // no hidden file
+  return name.empty() ? kNameWithoutTitle : name;
+}
+
+bool IsThere(const fs::path& file) {
+  std::error_code error;
+  return fs::symlink_status(file, error).type() != fs::file_type::not_found;
+}
+
+bool MayReplace(const fs::path& file, const std::string& title) {
+  if (!IsThere(file)) return true;
+  return MsgBox("「" + file.string() + "」は既にあります。\r\n置き換えますか？", title,
+                MessageButtons::yes_no) == MessageAnswer::yes;
+}
+
+/// False, after a message, when the file cannot be written.
+bool Write(std::span<const PrintedDocument> documents, const fs::path& file, const std::string& title) {
+  try {
+    PaintPdf(documents, file);
+    return true;
+  } catch (const Fault& fault) {
+    if (fault.Kind() != FaultKind::file) throw;
+    MsgBox("「" + file.string() + "」に保存できません。\r\n" + fault.what(), title);
+    return false;
+  }
+}
+
+}  // namespace
+
+std::optional<fs::path> AskPdfFile(QWidget& form, const fs::path& offered) {
+  QFileDialog dialog(&form, QStringLiteral("ＰＤＦ保存"));
+  dialog.setObjectName("cdgPdf");
+  // One dialog everywhere: the desktop's own may know neither the title nor Esc.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  // Whoever asked for the name asks that too.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setNameFilter(QStringLiteral("ＰＤＦ (*.pdf)"));
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.setDirectory(QString::fromStdString(offered.parent_path().string()));
+  dialog.selectFile(QString::fromStdString(offered.filename().string()));
+  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
+  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名："));
+  dialog.setLabelText(QFileDialog::FileType, QStringLiteral("種類："));
+  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("保存"));
+  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return fs::path(dialog.selectedFiles().constFirst().toStdString());
+}
+
+fs::path OfferedPdfFile(std::string_view title) {
+  const DateTime today = Now();
+  const std::string stem =
+      fmt::format("{}-{:04}{:02}{:02}", FileNameOf(title), today.year, today.month, today.day);
+  fs::path file = DocumentsFolder() / (stem + kExtension);
+  for (int copy = 2; IsThere(file); ++copy) {
+    file = DocumentsFolder() / fmt::format("{}-{}{}", stem, copy, kExtension);
+  }
+  return file;
+}
+
+bool SaveAsPdf(QWidget& form, std::span<const PrintedDocument> documents,
+               const std::function<std::optional<fs::path>(QWidget&, const fs::path&)>& ask) {
+  const std::string title = form.windowTitle().toStdString();
+  fs::path offered = OfferedPdfFile(documents.empty() ? "" : documents.front().title);
+  while (const std::optional<fs::path> named = ask(form, offered)) {
+    const fs::path file = WithExtension(*named);
+    offered = file;
+    if (!MayReplace(file, title) || !Write(documents, file, title)) continue;
+    MsgBox("「" + file.string() + "」に保存しました。", title);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace rbt

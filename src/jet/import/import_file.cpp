@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "jet/import/import_file.h"
+
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fmt/format.h>
+
+#include "jet/import/row_copy.h"
+#include "jet/import/swap_in.h"
+#include "jet/lock_file.h"
+#include "platform/fault.h"
+#include "platform/system/system_error.h"
+#include "platform/text/characters.h"
+
+namespace rbt::jet {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct KindName {
+  CatalogEntry::Kind kind;
+  std::string_view name;
+};
+constexpr KindName kNotTaken[] = {
+    {CatalogEntry::Kind::query, "query"},
+    {CatalogEntry::Kind::form, "form"},
+    {CatalogEntry::Kind::report, "report"},
+    {CatalogEntry::Kind::macro, "macro"},
+    {CatalogEntry::Kind::module, "module"},
+    {CatalogEntry::Kind::link, "link"},
+    {CatalogEntry::Kind::relationship, "relationship"},
+};
+
+/// How a file stands, to see whether somebody wrote it.
+class FileState {
+ public:
+  explicit FileState(const fs::path& file) {
+    if (::stat(file.c_str(), &state_) != 0) throw FileFault(file, "cannot be read");
+  }
+  bool operator==(const FileState& other) const {
+    return state_.st_size == other.state_.st_size && state_.st_mtim.tv_sec == other.state_.st_mtim.tv_sec &&
+           state_.st_mtim.tv_nsec == other.state_.st_mtim.tv_nsec && state_.st_ino == other.state_.st_ino;
+  }
+
+ private:
+  struct stat state_ {};
+};
+
+void NoteNotTaken(const CatalogEntry& entry, ImportReport& report) {
+  for (const KindName& kind : kNotTaken) {
+    // The queries behind forms and the relationships of the system tables are nobody's.
+    if (kind.kind == entry.kind && !entry.name.starts_with("~") && !entry.name.starts_with("MSys")) {
+      report.not_taken.push_back(fmt::format("{} {}", kind.name, entry.name));
+    }
+  }
+}
+
+bool IsUserTable(const CatalogEntry& entry) {
+  return entry.kind == CatalogEntry::Kind::table && !entry.system && !entry.name.starts_with("~");
+}
+
+/// Runs a step that writes the target, whose faults name the target in place of the file in work.
+template <typename Thrown = TargetFault, typename Step>
+auto OnTarget(const FileInWork& work, const fs::path& target, Step step) {
+  const std::string in_work = work.Path().string();
+  try {
+    return step();
+  } catch (const Fault& fault) {
+    throw Thrown(FaultKind::file, ReplaceAll(fault.what(), in_work, target.string()));
+  }
+}
+
+void CopyTables(JetFile& file, const FileInWork& work, ImportReport& report) {
+  const auto on_target = [&](auto step) { return OnTarget(work, report.target, step); };
+  Database database = on_target([&] { return Database::CreateDatabase(work.Path()); });
+  Transaction transaction(database);
+  for (const CatalogEntry& entry : ReadCatalog(file)) {
+    if (!IsUserTable(entry)) {
+      NoteNotTaken(entry, report);
+      continue;
+    }
+    const TableMapping mapping = MapTable(file, entry);
+    report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
+    report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
+    // A table that the store does not take is the Jet file's own matter.
+    OnTarget<Fault>(work, report.target, [&] { database.CreateTable(mapping.target); });
+    RowCopy copy(file, mapping, database, report.warnings);
+    while (copy.ReadNext()) on_target([&] { copy.Append(); });
+    on_target([&] { copy.Finish(); });
+    report.tables.push_back(copy.Result());
+  }
+  on_target([&] { transaction.Commit(); });
+}
+
+/// Writes everything into `work`; the report names `target`, where it will stand.
+ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target) {
+  ImportReport report;
+  report.source = source;
+  report.target = target;
+  if (IsOpenElsewhere(source)) {
+    report.warnings.push_back(fmt::format(
+        "{} is open in another program; what has not been saved there is missing here", source.string()));
+  }
+  const FileState before(source);
+  const auto file = JetFile::Open(source);
+  CopyTables(*file, work, report);
+  if (!(FileState(source) == before)) {
+    throw FileFaultText(source, "was changed by another program while it was read; nothing was imported");
+  }
+  return report;
+}
+
+void RequireFree(const fs::path& target) {
+  std::error_code error;
+  if (fs::exists(fs::symlink_status(target, error))) {
+    throw FileFaultText(target, "is there already and is not overwritten");
+  }
+}
+
+}  // namespace
+
+ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
+  RequireFree(target);
+  FileInWork work(target);
+  ImportReport report = Copy(source, work, target);
+  OnTarget(work, target, [&] { work.PutInPlace(target); });
+  return report;
+}
+
+fs::path KeptJetFile(const fs::path& file) {
+  fs::path kept = file;
+  kept += ".jet";
+  return kept;
+}
+
+fs::path ReportFile(const fs::path& file) {
+  fs::path report = KeptJetFile(file);
+  report += ".txt";
+  return report;
+}
+
+ImportReport ImportJetFileInPlace(const fs::path& name) {
+  // A link stays, and what it leads to is replaced.
+  const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
+  const fs::path kept = KeptJetFile(file);
+  // What the other program saves later would go into the Jet file that nobody reads any more.
+  if (IsOpenElsewhere(file)) throw FileFaultText(file, "is open in another program; close it there first");
+  RequireKeepable(file, kept);
+  FileInWork work(file);
+  ImportReport report = Copy(file, work, file);
+  const bool kept_now = KeepUnder(file, kept);
+  try {
+    // Before the swap: what was refused is not to be forgotten, whatever happens behind it.
+    FileInWork text(ReportFile(file));
+    OnTarget(text, ReportFile(file), [&] {
+      text.Write(ReportText(report));
+      text.PutInPlaceOf(ReportFile(file));
+    });
+    OnTarget(work, file, [&] { work.PutInPlaceOf(file); });
+  } catch (const Fault&) {
+    // Behind the swap the Jet file stands under its second name alone.
+    if (IsJetFile(file)) {
+      ::unlink(ReportFile(file).c_str());
+      if (kept_now) ::unlink(kept.c_str());
+    }
+    throw;
+  }
+  return report;
+}
+
+}  // namespace rbt::jet

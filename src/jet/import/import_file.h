@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+#include "jet/import/import_report.h"
+#include "platform/fault.h"
+
+namespace rbt::jet {
+
+/// Not the Jet file is at fault but the place of the new one: a full disk, a folder that cannot be written.
+class TargetFault : public Fault {
+ public:
+  using Fault::Fault;
+};
+
+/// Takes a real Jet file into a new file of the store: user tables with their columns, sizes, literal
+/// defaults, primary keys and unique indexes, rows in key order. The Jet file is only read. `target` must not
+/// exist; it appears when it is complete. A Jet file that cannot be read, or that changes meanwhile, throws
+/// `Fault` of kind `file`, and so does, as `TargetFault`, a target that cannot be written; no `target` is
+/// left then.
+ImportReport ImportJetFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// Puts a store file with the contents of a real Jet file under the Jet file's own name. The Jet file stays
+/// as `NAME.MDB.jet` beside it, where nothing else may stand yet, and the report as `NAME.MDB.jet.txt`. At
+/// every moment a whole file stands under the name; after a fault nothing has changed. A file that another
+/// program has open throws `file`, too.
+ImportReport ImportJetFileInPlace(const std::filesystem::path& file);
+/// Where the Jet file is kept then.
+std::filesystem::path KeptJetFile(const std::filesystem::path& file);
+/// Where the report stands then.
+std::filesystem::path ReportFile(const std::filesystem::path& file);
+
+}  // namespace rbt::jet

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "jet/import/import_report.h"
+#include "jet/import/table_mapping.h"
+#include "store/database.h"
+
+namespace rbt::jet {
+
+/// Copies the rows of a table into the store's table of its mapping, which is there and empty: in the order
+/// of the primary key, or as they lie when there is none. Reading and writing are steps of their own, so that
+/// damage of the Jet file and a full disk can be told apart.
+class RowCopy {
+ public:
+  /// `warnings` gets why the rows were looked for otherwise than by the file's own maps, and a row count that
+  /// is off. Fewer rows than a cleanly closed file counts throw `Fault` of kind `file`.
+  RowCopy(JetFile& file, const TableMapping& mapping, Database& target, std::vector<std::string>& warnings);
+  RowCopy(const RowCopy&) = delete;
+  RowCopy& operator=(const RowCopy&) = delete;
+  ~RowCopy();
+
+  /// Reads a row; false behind the last one.
+  bool ReadNext();
+  /// Appends the row that was read. One with a value that the store cannot hold, or with a key that is there
+  /// already, is refused and named; what the file to write is not able to take throws.
+  void Append();
+  /// An autonumber goes on behind the last number that the Jet file has given, its row gone or not.
+  void Finish();
+  const ImportedTable& Result() const { return imported_; }
+
+ private:
+  class Writer;
+
+  JetFile& file_;
+  const TableMapping& mapping_;
+  std::vector<RowPointer> places_;
+  std::size_t next_ = 0;
+  std::vector<Value> values_;
+  std::unique_ptr<Writer> writer_;
+  ImportedTable imported_;
+};
+
+}  // namespace rbt::jet

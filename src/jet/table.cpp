@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "jet/table.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "jet/data_page.h"
+#include "jet/usage_map.h"
+#include "platform/fault.h"
+#include "platform/text/characters.h"
+
+namespace rbt::jet {
+
+namespace {
+
+constexpr std::uint32_t kCatalogPage = 2;
+constexpr std::uint32_t kSystemFlags = 0x80000002;
+
+CatalogEntry::Kind KindOf(std::int64_t type) {
+  switch (type) {
+    case 1:
+      return CatalogEntry::Kind::table;
+    case 4:
+    case 6:
+      return CatalogEntry::Kind::link;
+    case 5:
+      return CatalogEntry::Kind::query;
+    case 8:
+      return CatalogEntry::Kind::relationship;
+    case -32768:
+      return CatalogEntry::Kind::form;
+    case -32764:
+      return CatalogEntry::Kind::report;
+    case -32766:
+      return CatalogEntry::Kind::macro;
+    case -32761:
+      return CatalogEntry::Kind::module;
+    default:
+      return CatalogEntry::Kind::other;
+  }
+}
+
+bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
+  return std::binary_search(ascending.begin(), ascending.end(), page);
+}
+
+/// The pages of a usage map, none and the cause when it cannot be read.
+std::vector<std::uint32_t> PagesOrCause(JetFile& file, RowPointer map, std::string& cause) {
+  try {
+    return PagesOfUsageMap(file, map);
+  } catch (const Fault& fault) {
+    cause = fault.what();
+    return {};
+  }
+}
+
+std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& table,
+                       std::string_view name) {
+  const Column* column = table.Find(name);
+  if (column == nullptr) return 0;
+  const auto at = static_cast<std::size_t>(column - table.columns.data());
+  const auto* value = std::get_if<std::int64_t>(&fields[at]);
+  return value == nullptr ? 0 : *value;
+}
+
+}  // namespace
+
+std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& table, std::string& warning) {
+  std::string cause;
+  std::vector<std::uint32_t> owned = PagesOrCause(file, table.owned_pages, cause);
+  std::erase_if(owned, [&](std::uint32_t page) {
+    return std::find(table.definition_pages.begin(), table.definition_pages.end(), page) !=
+           table.definition_pages.end();
+  });
+  std::string free_pages_unknown;
+  const std::vector<std::uint32_t> free = PagesOrCause(file, kFreePages, free_pages_unknown);
+  // A freed page keeps its pointer and its rows.
+  std::vector<std::uint32_t> pointing;
+  for (const std::uint32_t page : file.DataPagesPointingTo(table.page)) {
+    if (Lists(owned, page) || !Lists(free, page)) pointing.push_back(page);
+  }
+  if (!file.ClosedCleanly()) {
+    warning = fmt::format("{} was not closed cleanly; all data pages were looked through", file.Name());
+  } else if (!cause.empty() || pointing != owned) {
+    warning = fmt::format("the usage map of {} {}; all data pages were looked through", table.name,
+                          cause.empty() ? "does not agree with the pages" : "is of no use (" + cause + ")");
+  }
+  return pointing;
+}
+
+std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning) {
+  std::vector<RowPointer> places;
+  for (const std::uint32_t number : DataPagesOf(file, table, warning)) {
+    const std::vector<Slot> slots = SlotsOf(file, file.Page(number, PageType::data));
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+      if (!slots[i].deleted && !slots[i].body) places.push_back({number, static_cast<std::uint8_t>(i)});
+    }
+  }
+  return places;
+}
+
+std::vector<Value> ReadRow(JetFile& file, const TableDefinition& table, RowPointer place) {
+  const std::vector<unsigned char> bytes = ReadRowBytes(file, place);
+  return DecodeRow(file, table, PageView(bytes, &file.Name(), place.page));
+}
+
+ScanReport ScanTable(JetFile& file, const TableDefinition& table, const RowHandler& handle) {
+  ScanReport report;
+  for (const RowPointer place : PlacesOfRows(file, table, report.warning)) {
+    std::vector<Value> fields = ReadRow(file, table, place);
+    ++report.rows;
+    handle(place, fields);
+  }
+  return report;
+}
+
+std::vector<CatalogEntry> ReadCatalog(JetFile& file) {
+  TableDefinition catalog = ReadTableDefinition(file, kCatalogPage);
+  catalog.name = "MSysObjects";
+  const Column* name = catalog.Find("Name");
+  const Column* properties = catalog.Find("LvProp");
+  if (name == nullptr) file.Damaged(kCatalogPage, "is no catalog: it has no column Name");
+  std::vector<CatalogEntry> entries;
+  ScanTable(file, catalog, [&](RowPointer, std::vector<Value>& fields) {
+    CatalogEntry entry;
+    entry.id = static_cast<std::uint32_t>(IntegerAt(fields, catalog, "Id"));
+    entry.parent = static_cast<std::uint32_t>(IntegerAt(fields, catalog, "ParentId"));
+    entry.name = TextOf(fields[static_cast<std::size_t>(name - catalog.columns.data())]);
+    entry.kind = KindOf(IntegerAt(fields, catalog, "Type"));
+    entry.system = (static_cast<std::uint32_t>(IntegerAt(fields, catalog, "Flags")) & kSystemFlags) != 0;
+    if (properties != nullptr) {
+      Value& value = fields[static_cast<std::size_t>(properties - catalog.columns.data())];
+      if (auto* bytes = std::get_if<Bytes>(&value)) entry.properties = std::move(*bytes);
+    }
+    entries.push_back(std::move(entry));
+  });
+  // A lost entry would be a table that nobody misses.
+  if (entries.empty() || (file.ClosedCleanly() && entries.size() < catalog.row_count)) {
+    file.Damaged(kCatalogPage, fmt::format("the catalog counts {} objects, {} are there", catalog.row_count,
+                                           entries.size()));
+  }
+  return entries;
+}
+
+TableDefinition FindTable(JetFile& file, std::string_view name) {
+  std::optional<CatalogEntry> found;
+  for (CatalogEntry& entry : ReadCatalog(file)) {
+    if (entry.kind != CatalogEntry::Kind::table || FoldIdentifier(entry.name) != FoldIdentifier(name))
+      continue;
+    // Of several the one that is spelled so.
+    if (!found || entry.name == name) found = std::move(entry);
+  }
+  if (!found) throw Fault(FaultKind::file, fmt::format("{}: no table {}", file.Name(), name));
+  TableDefinition table = ReadTableDefinition(file, found->id & 0xFFFFFF);
+  table.name = found->name;
+  return table;
+}
+
+}  // namespace rbt::jet

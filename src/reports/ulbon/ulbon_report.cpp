@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "reports/ulbon/ulbon_report.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "data/bar_tables.h"
+#include "platform/numbers/number_mask.h"
+#include "reports/frame/letter_spacing.h"
+#include "reports/frame/print_frame.h"
+#include "reports/frame/print_jisya.h"
+#include "reports/frame/report_head.h"
+#include "reports/frame/report_text.h"
+#include "reports/ulbon/ulbon_sums.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr HeadLayout kHead{.title = "ウ ル ボ ン 重 量 表",
+                           .title_place = {5900, 5700, 9400},
+                           .title_drop = 500,
+                           .line_gap = 100,
+                           .margin = 1800,
+                           .short_name_x = 2760,
+                           .name_indent = 960,
+                           .broken_name_size = 12,
+                           .labels = {"工事名　", "工事名　", "工事名　"},
+                           .rule_width_without_client = 2,
+                           .project_rule_to = 9300,
+                           .long_sub_project_size = 12,
+                           .sub_project_end = 9900,
+                           .date_drop = 1300,
+                           .western_date = {11800, 11700, 14100},
+                           .era_date = {11600, 11500, 14300}};
+constexpr RuledText kTotalLine{1900, 1800, 5100};
+
+constexpr std::array<float, 6> kRules{1800, 3800, 6800, 9800, 12800, 14300};
+/// The frame has room for the twelve deformed diameters too.
+constexpr int kFirstRow = 7;
+constexpr int kLastRow = 21;
+constexpr int kFirstUlbonRow = kFirstRow + 1;
+constexpr int kTotalRow = kFirstUlbonRow + (kDiameterRows - kDeformedRows);
+
+struct Heading {
+  float x;
+  std::string_view text;
+};
+/// Only the installed weight of this material is known: the columns of stock and difference stay empty.
+constexpr Heading kHeadings[] = {{2100, "太　　　さ"},
+                                 {4250, "定   尺   重   量"},
+                                 {7250, "取   付   重   量"},
+                                 {10350, "差            引"},
+                                 {13050, "圧　　接"}};
+constexpr std::string_view kLabels[] = {"U  6", "U  7", "U  9", "U 11", "U 12", "U 16"};
+constexpr float kLabelX = 2000;
+constexpr float kWeightX = 7900;
+constexpr std::size_t kWeightCharacters = 11;
+constexpr float kWeldX = 13100;
+constexpr std::size_t kWeldCharacters = 7;
+
+constexpr float kTextSize = 12;
+constexpr std::int32_t kFrameWidth = 5;
+constexpr float kOwnCompanyX = 10000;
+constexpr float kOwnCompanyY = 2300;
+
+void DrawFrame(PrinterSurface& Printer, const RowGrid& grid) {
+  Printer.DrawWidth = kFrameWidth;
+  for (const float x : kRules) Printer.Line(x, grid.Y(kFirstRow), x, grid.Y(kLastRow));
+  for (int row = kFirstRow; row <= kLastRow; ++row) {
+    Printer.Line(kRules.front(), grid.Y(row), kRules.back(), grid.Y(row));
+  }
+}
+
+template <typename Number>
+void DrawRow(PrinterSurface& Printer, float y, std::string_view label, Number weight, std::int32_t welds) {
+  PrintAt(Printer, kLabelX, y, {label});
+  PrintAt(Printer, kWeightX, y, {RightAligned(FormatNumber(weight, kCellMask), kWeightCharacters), " Kg"});
+  PrintAt(Printer, kWeldX, y, {RightAligned(FormatNumber(std::int64_t{welds}, kCellMask), kWeldCharacters)});
+}
+
+void DrawTable(PrinterSurface& Printer, const RowGrid& grid, const TallyTable& table, std::int32_t percent,
+               double total) {
+  DrawFrame(Printer, grid);
+  Printer.FontName = ReportFont;
+  Printer.FontSize = kTextSize;
+  Printer.FontBold = false;
+  const auto text_y = [&](int row) { return grid.Y(row) + kTextDrop; };
+  for (const Heading& heading : kHeadings) PrintAt(Printer, heading.x, text_y(kFirstRow), {heading.text});
+  for (int d = kDeformedRows; d < kDiameterRows; ++d) {
+    const int row = d - kDeformedRows;
+    DrawRow(Printer, text_y(kFirstUlbonRow + row), kLabels[row], UlbonRowWeight(table, d, percent),
+            table.UlbonWeldCount[d]);
+  }
+  DrawRow(Printer, text_y(kTotalRow), "合　　　計", total, UlbonWeldSum(table));
+}
+
+/// Without a client line the table starts higher: a block of many lines that would run into it moves up.
+float OwnCompanyTop(const RowGrid& grid) {
+  const float bottom = OwnCompanyBottom(ReadOwnCompany(), kOwnCompanyY, kReportLineGap);
+  return kOwnCompanyY - std::max(0.0F, bottom - grid.Y(kFirstRow));
+}
+
+}  // namespace
+
+Currency UlbonRowWeight(const TallyTable& table, int d, std::int32_t percent) {
+  const Currency weight = Currency::FromDouble(table.UlbonWeight[d]) + table.SpiralUlbonByDia[d];
+  const Currency uplift = Currency::FromDouble(weight.ToDouble() * percent / 100.0);
+  return WholeKilograms(weight + uplift);
+}
+
+void DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
+                     const TallyTable& table) {
+  const double total = UlbonWeightSum(table, 0);
+  const RowGrid grid = DrawHead(Printer, kHead, site, arguments);
+  DrawTotalLine(Printer, kTotalLine, grid, total);
+  DrawDate(Printer, kHead, grid, site, arguments);
+  DrawTable(Printer, grid, table, arguments.Percent, total);
+  PrintOwnCompany(Printer, kOwnCompanyX, OwnCompanyTop(grid));
+  Printer.EndDoc();
+}
+
+void Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments) {
+  DrawUlbonReport(Printer, ReadReportSite(), arguments, TallyGrid);
+}
+
+}  // namespace rbt

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "screens/result/filter_panel.h"
+
+#include <array>
+#include <initializer_list>
+
+#include <QPushButton>
+
+#include "desktop/texts.h"
+#include "shell/context/run_state.h"
+#include "tally/captions.h"
+#include "tally/selection.h"
+#include "ui_result_form.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::array kModeCaptions{"含む", "含まず", "のみ"};
+constexpr const char* kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
+
+/// The start modes whose programs offer no filter on shapes.
+bool OffersShapeFilters() {
+  return Selection.StartMode != 1 && Selection.StartMode != 3 && Selection.StartMode != 4;
+}
+
+}  // namespace
+
+void FilterPanel::ShowKinds() {
+  const std::string_view caption = KindCaption(Selection.MaterialKindMask);
+  // On the bulk screen the slit word goes in the full program too; the total row keeps it there.
+  const bool strips =
+      (screen_.range == RangeKind::none && Selection.StartMode == -1) || ShowsNoSlitWord(Selection.StartMode);
+  ui_.Label8->setText(strips ? Text(StripSlitWord(caption)) : Text(caption));
+}
+
+void FilterPanel::ShowAllKinds() { ui_.Label8->setText(kAllKindsAfterReset); }
+
+void FilterPanel::ShowForms() { ui_.Label9->setText(Text(screen_.form_caption(Selection.MaterialFormMask))); }
+
+void FilterPanel::ShowModes() {
+  constexpr int kOnly = 2;
+  ui_.cmdHoop->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.HoopMode)));
+  ui_.Label4->setText(Selection.HoopMode == kOnly ? "(形状No87)" : "(形状No87)を");
+  ui_.cmdTei->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.AnchorPlateMode)));
+}
+
+void FilterPanel::OfferModes() {
+  const bool plates = RunState.HasAnchorPlateRows && OffersShapeFilters();
+  const bool hoops = RunState.HasHoopRows && OffersShapeFilters();
+  for (QWidget* control : std::initializer_list<QWidget*>{ui_.cmdTei, ui_.Label5}) {
+    control->setVisible(plates);
+  }
+  for (QWidget* control : std::initializer_list<QWidget*>{ui_.cmdHoop, ui_.Label3, ui_.Label4}) {
+    control->setVisible(hoops);
+  }
+}
+
+}  // namespace rbt

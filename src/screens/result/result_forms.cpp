@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "screens/result/result_forms.h"
+
+#include "desktop/preview_form.h"
+#include "screens/result/result_form.h"
+#include "screens/selection/selection_dialogs.h"
+#include "screens/settings/settings_forms.h"
+
+namespace rbt {
+
+namespace {
+
+std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
+  ResultParts parts;
+  parts.choose_kinds = ChooseKinds;
+  parts.choose_forms = ChooseForms;
+  parts.open_settings = OpenSettings;
+  parts.print = [](const PrintOrder& order) { CarryOut(order, ShowPreview); };
+  return std::make_unique<ResultForm>(screen, std::move(parts));
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeJS() { return Make(kBulkScreen); }
+std::unique_ptr<QWidget> MakePGJS() { return Make(kPageScreen); }
+std::unique_ptr<QWidget> MakeKEIJOJS() { return Make(kShapeScreen); }
+std::unique_ptr<QWidget> MakePKEIJOJS() { return Make(kPageShapeScreen); }
+
+}  // namespace rbt

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "session/result/print_order.h"
+
+#include "platform/print/diverted_deliveries.h"
+#include "reports/forms/print_buttons.h"
+#include "shell/context/run_state.h"
+
+namespace rbt {
+
+namespace {
+
+void Print(const PrintOrder& order) {
+  const ReportArguments arguments{order.sub_project, order.date.year,     order.date.month,
+                                  order.date.day,    RunState.ReportBody, order.percent};
+  if (order.ulbon) return PrintUlbonReport(arguments);
+  PrintComparison(FindPrintButton(order.button), arguments);
+}
+
+/// The documents that are for the user's eyes.
+std::vector<PrintedDocument> PrintKeepingPreviews(const PrintOrder& order) {
+  using From = DivertedDeliveries::From;
+  DivertedDeliveries diverted(order.preview ? From::every_device : From::pdf_device);
+  Print(order);
+  return diverted.Take();
+}
+
+}  // namespace
+
+void CarryOut(const PrintOrder& order, const Preview& preview) {
+  std::vector<PrintedDocument> documents = PrintKeepingPreviews(order);
+  if (!documents.empty()) preview(std::move(documents));
+}
+
+}  // namespace rbt

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "session/startup/startup.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <fmt/format.h>
+
+#include "archive/check_jsyukei.h"
+#include "data/reference.h"
+#include "data/shapes.h"
+#include "platform/fault.h"
+#include "platform/numbers/number_words.h"
+#include "platform/profile/ini_file.h"
+#include "platform/system/clock.h"
+#include "platform/system/paths.h"
+#include "platform/system/process.h"
+#include "platform/system/system_error.h"
+#include "session/startup/offer_import.h"
+#include "session/startup/sibling_programs.h"
+#include "shell/calendar/new_era_function.h"
+#include "shell/context/fixed_stock.h"
+#include "shell/context/site_context.h"
+#include "shell/preparation/preparation.h"
+#include "tally/selection.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kAccumulationFile = "\\RBK\\DATA\\hozon.MDB";
+
+/// The program that reads newer sites is looked for under one name and started under another.
+constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
+constexpr std::string_view kNewerProgram = "\\rbk\\rbtally1S.exe";
+constexpr double kNewestVersion = 6.0;
+
+/// One step of a sequence; pending events run behind it, so that the screen stays alive.
+template <typename Action>
+void Step(Action action) {
+  action();
+  RunPendingEvents();
+}
+
+/// For reads of tables that older sites lack: their absence, in whatever form, counts as nothing.
+template <typename Read>
+void PassOverFaults(Read read) {
+  try {
+    read();
+  } catch (const Fault&) {
+    return;
+  }
+}
+
+void OfferSharedImports() {
+  OfferImports({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
+                "\\RBK\\DATA\\JSyukeiORG.mdb"});
+}
+
+void OpenFixedStock() {
+  ProvideFixedStockDatabase();
+  SiteContext.FixedStockDatabase.reset();
+  if (Settings.UseFixedTable == 1) OpenFixedStockDatabase();
+}
+
+void RequireSteelIni() {
+  if (!FamilyFileExists(kSteelIni)) throw FileFaultText(MapPath(kSteelIni), "the file does not exist");
+}
+
+void BindSite(const StartOptions& options) {
+  RequireSteelIni();
+  const std::string name = options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+  if (name.empty()) {
+    throw FileFaultText(MapPath(kSteelIni), fmt::format("no site: [{}] {} is empty",
+                                                        kSelectedDbNameKey.section, kSelectedDbNameKey.key));
+  }
+  SelectSite(name);
+  if (!options.command_line) OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
+  OpenWorkDatabase();
+}
+
+/// The format of the site database, 0 when the file does not tell.
+double ReadSiteVersion() {
+  double version = 0.0;
+  PassOverFaults([&] {
+    Recordset rows = SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM データーベースバージョン");
+    version = LeadingNumber(TextOf(rows.Get("バージョン")));
+  });
+  return version;
+}
+
+bool NeedsNewerProgram() { return ReadSiteVersion() > kNewestVersion && FamilyFileExists(kNewerProgramMark); }
+
+/// Finds out nothing: sites without a shape table are worked on like any other.
+void ProbeShapeTable() {
+  PassOverFaults([] { SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM 形状テーブル"); });
+}
+
+/// Every registered name starts out as selected.
+void MarkRegisteredNames(std::int32_t start_mode) {
+  Database companion = Database::Open(MapPath(CompanionDatabasePath()));
+  if (IsPassThrough(start_mode)) return;
+  Transaction transaction(companion);
+  Recordset names = companion.OpenDynaset("SELECT * FROM 登録名 ORDER BY 登録AN");
+  const FieldHandle number = names.Field("登録AN");
+  const FieldHandle mark = names.Field("表示番号");
+  for (; !names.Eof(); names.MoveNext()) {
+    if (names.IsNull(number)) continue;
+    names.Edit();
+    names.Set(mark, Value{std::int64_t{1}});
+    names.Update();
+  }
+  transaction.Commit();
+}
+
+void ReadSiteNames() {
+  const LongName name = ReadLongName(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  SiteContext.LongSiteName = name.name;
+  SiteContext.LongSiteNameWidth = name.width;
+}
+
+void ReadMaker() {
+  SiteContext.MakerNumber = ReadMakerNumber(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+}
+
+void ReadGrades() { SiteContext.GradeNames = ReadGradeNames(*SiteContext.MasterDatabase); }
+
+void ResetAccumulation(const StartOptions& options) {
+  RunState.AccumulateFlag = 0;
+  if (options.command_line) return;
+  SaveSetting(kAccumulateFlagKey, 0);
+  if (!FamilyFileExists(kAccumulationFile)) return;
+  const std::filesystem::path file = MapPath(kAccumulationFile);
+  std::error_code error;
+  std::filesystem::remove(file, error);
+  if (error) throw FileFault(file, "cannot be deleted", error.value());
+}
+
+void ProbeShapes() {
+  // The clause continues a condition: " AND (...)".
+  constexpr std::string_view kOpening = " AND (";
+  static_assert(kAnchorPlateClause.starts_with(kOpening) && kAnchorPlateClause.ends_with(")"));
+  constexpr std::string_view kAnchorPlates =
+      kAnchorPlateClause.substr(kOpening.size(), kAnchorPlateClause.size() - kOpening.size() - 1);
+  constexpr std::string_view kRows = "SELECT * FROM 加工テーブル WHERE ";
+  Database& site = *SiteContext.WorkDatabase;
+  RunState.HasAnchorPlateRows = site.HasRows(fmt::format("{}{}", kRows, kAnchorPlates));
+  RunState.HasHoopRows = site.HasRows(fmt::format("{}形状No={}", kRows, kWeldedHoopShape));
+}
+
+void ProbeCounters() {
+  RunState.HasWeldCounter = FamilyFileExists(kWeldCounterProgram);
+  RunState.HasJoinCounter = FamilyFileExists(kJoinCounterProgram);
+  RunState.HasPlateCounter = FamilyFileExists(kPlateCounterProgram);
+}
+
+void StampRun() {
+  const DateTime now = Now();
+  RunState.RunDate = TodayStamp(now);
+  RunState.RunTime = TimeStamp(now);
+}
+
+void ResetSelection() {
+  if (RunState.AccumulateFlag != 0) return;
+  constexpr std::int16_t kAllForms = 15;
+  constexpr std::int16_t kHighStrengthWithOthers = 2;
+  Selection.MaterialCalcChoice = kHighStrengthWithOthers;
+  Selection.MaterialFormMask = kAllForms;
+}
+
+MenuState DescribeMenu(const StartOptions& options) {
+  // The key is read into ten characters, not into the eighty of other keys.
+  const std::string weight_tally =
+      GetProfileText(MapPath(kNextPrgIni), kHandOverSection, kWeightTallyKey, "", 10);
+  MenuState state = MenuStateOf(options.start_mode, RunState, Settings, weight_tally);
+  if (options.command_line) state.pass_on_to.reset();
+  return state;
+}
+
+void ForgetHoops() {
+  Selection.HoopMode = 0;
+  RunState.HasHoopRows = false;
+}
+
+}  // namespace
+
+LoadResult LoadSite(const StartOptions& options) {
+  LoadResult result;
+  RequireSteelIni();
+  Step(LoadGridColours);
+  Selection.StartMode = options.start_mode;
+  Step(LoadTallySettings);
+  if (!options.command_line) Step(OfferSharedImports);
+  Step(OpenFixedStock);
+  Step([&] { BindSite(options); });
+  Step(DropEmptyArchiveTables);
+  Step(Check_JSyukei);
+  if (!options.command_line && NeedsNewerProgram()) {
+    SiteContext.WorkDatabase.reset();
+    result.hand_over_to = kNewerProgram;
+    return result;
+  }
+  Step(ProbeShapeTable);
+  if (options.prepare) Step([&] { ClassifySchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  Step(OpenMasterDatabase);
+  Step([&] { MarkRegisteredNames(options.start_mode); });
+  Step(ReadSiteNames);
+  Step(ReadMaker);
+  Step(ReadGrades);
+  Step([&] { ResetAccumulation(options); });
+  result.shows_plate_sheet = FamilyFileExists(kPlateSheetProgram);
+  Step(LoadRemainingSettings);
+  Step(ProbeShapes);
+  SiteContext.WorkDatabase.reset();
+  Step(ProbeCounters);
+  StampRun();
+  return result;
+}
+
+MenuState ActivateMenu(const StartOptions& options) {
+  Step(RereadTitleSettings);
+  Step([&] { BindSite(options); });
+  if (options.prepare) Step([&] { RefreshSchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  ResetSelection();
+  MenuState state = DescribeMenu(options);
+  ForgetHoops();
+  return state;
+}
+
+}  // namespace rbt

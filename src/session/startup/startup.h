@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "session/startup/menu_state.h"
+#include "session/startup/start_mode.h"
+
+namespace rbt {
+
+struct StartOptions {
+  std::int32_t start_mode = -1;  ///< see `ParseStartMode`
+  bool prepare = true;           ///< false: the schedule is not classified, its rows stay as they are
+  std::string site;              ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
+  /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
+  bool command_line = false;
+};
+
+/// What the load leaves to the form.
+struct LoadResult {
+  /// Program that reads this site's newer format: to be run to its end with the menu hidden, after which this
+  /// program ends. The load stops there.
+  std::optional<std::string> hand_over_to;
+  bool shows_plate_sheet = false;  ///< `cmdPlateSheet` shows, until the first activation decides
+};
+
+/// Binds the program to the site and readies it: once, before the menu is shown. Settings, site, grades,
+/// presence flags and the date and time of the load are in the global state afterwards, the master database
+/// is open for the run, the site database closed. Throws on whatever keeps the site from being worked on: a
+/// missing STEEL.INI or site database is named.
+LoadResult LoadSite(const StartOptions& options);
+
+/// Every time the menu gets the focus: re-reads what may have changed, refreshes the schedule, resets the
+/// selection and leaves the site database open. Returns how the menu stands.
+MenuState ActivateMenu(const StartOptions& options);
+
+}  // namespace rbt

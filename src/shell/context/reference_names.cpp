@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "shell/context/reference_names.h"
+
+#include <algorithm>
+
+#include "data/reference.h"
+#include "platform/fault.h"
+#include "shell/config/settings.h"
+#include "shell/context/site_context.h"
+
+namespace rbt {
+
+std::string Get_SDName(std::int32_t code) {
+  const auto& names = SiteContext.GradeNames;
+  if (code < 1 || code >= static_cast<std::int32_t>(names.size())) return {};
+  return names[static_cast<std::size_t>(code)];
+}
+
+std::array<std::string, 12> DiameterGradeNames() {
+  const SiteGrades grades = ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  std::array<std::string, 12> names;
+  std::transform(grades.codes.begin(), grades.codes.end(), names.begin(), Get_SDName);
+  return names;
+}
+
+std::string Get_BuiNa(std::int32_t part) {
+  constexpr std::int32_t kSecondNaming = 2;
+  if (!SiteContext.MasterDatabase) throw Fault(FaultKind::database, "SORANO.MDB is not open");
+  const PartNaming naming = Settings.ShippingDate == kSecondNaming ? PartNaming::second : PartNaming::first;
+  return PartName(*SiteContext.MasterDatabase, part, naming);
+}
+
+}  // namespace rbt

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "store/database.h"
+
+namespace rbt {
+
+/// The bound site: its names, grades and open databases.
+struct SiteContextData {
+  std::string SelectedDbName;              ///< 選択ＤＢ名, for instance "GENBA001.MDB"
+  std::string SiteNumberText;              ///< characters 6 to 8 of it, "001"
+  std::string LongSiteName;                ///< 長い工事名, empty when null
+  std::int32_t LongSiteNameWidth = 50;     ///< 工事名区切り文字数
+  std::int32_t MakerNumber = 0;            ///< メーカーNo, 0 when null
+  std::array<std::string, 11> GradeNames;  ///< entries 1 to 10: SD名 of SDコード, trimmed
+
+  std::unique_ptr<Database> WorkDatabase;    ///< GENBAnnn.MDB
+  std::unique_ptr<Database> MasterDatabase;  ///< SORANO.MDB, open for the run
+  std::unique_ptr<Database> FixedStockDatabase;  ///< MTTeijyaku.mdb, open for the run when テーブル有無 is 1
+};
+
+extern SiteContextData SiteContext;
+
+/// Characters 6 to 8 of a schedule file's name: "001" of "GENBA001.MDB"; a shorter name gives fewer.
+std::string SiteNumberOf(std::string_view file_name);
+/// Binds the context to a schedule file by its name; the database is not opened.
+void SelectSite(std::string_view file_name);
+/// Opens `\RBK\DATA\` + `SelectedDbName` and leaves it in `SiteContext`.
+void OpenWorkDatabase();
+
+/// Opens `\RBK\DATA\SORANO.MDB` for the run, into `SiteContext`.
+void OpenMasterDatabase();
+/// `\RBK\DATA\HIROI` + `SiteNumberText` + ".mdb", as a family path.
+std::string CompanionDatabasePath();
+
+}  // namespace rbt

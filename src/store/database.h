@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/numbers/value.h"
+#include "store/recordset.h"
+#include "store/schema/schema.h"
+
+namespace rbt {
+
+/// One database file of a site or of the family: an SQLite 3 file under its `.MDB` name. All statements are
+/// in the Jet dialect. Movable, closes itself. Every failure throws `Fault` of kind `database` with the
+/// store's message, the file and the statement (or `overflow`, `division by zero`, `type mismatch` where that
+/// is what went wrong).
+class Database {
+ public:
+  /// Opens an existing file for reading and writing. Throws `file`/`database` when it is missing, is no
+  /// database, is damaged, or is a real Jet file (which is named as such and left alone).
+  static Database Open(const std::filesystem::path& file);
+  static Database OpenReadOnly(const std::filesystem::path& file);
+  /// Makes a new empty database; a file that exists throws `file`.
+  static Database CreateDatabase(const std::filesystem::path& file);
+
+  Database(Database&&) noexcept;
+  Database& operator=(Database&&) noexcept;
+  ~Database();
+
+  const std::filesystem::path& File() const;
+
+  /// Opens a SELECT. `fields` narrows a `SELECT *` to what will be read: fields the table lacks are left out
+  /// (ask `FindField`); empty reads all.
+  Recordset OpenSnapshot(std::string_view jet_sql, std::span<const std::string_view> fields = {});
+  /// Opens a SELECT over one table whose rows can be edited, added and deleted.
+  Recordset OpenDynaset(std::string_view jet_sql, std::span<const std::string_view> fields = {});
+  /// True when the SELECT has at least one row; stops at the first.
+  bool HasRows(std::string_view jet_sql);
+
+  /// Runs one statement that gives no rows, DDL included; returns the number of rows written. A row whose
+  /// values an UPDATE would not change is not written.
+  std::int64_t Execute(std::string_view jet_sql);
+  /// Runs UPDATE statements over one table with the outcome of running them one after the other, in one pass:
+  /// possible because each reads and writes only its own row. Returns the number of rows whose values
+  /// changed; only those are written.
+  std::int64_t ExecuteTogether(std::span<const std::string> updates);
+
+  /// Tables in the order of their creation, internal ones left out; one whose key was added or dropped is
+  /// new.
+  std::vector<TableDef> TableDefs();
+  /// One table by its name (letter case and width ignored); null when there is none.
+  std::unique_ptr<TableDef> FindTable(std::string_view name);
+  /// Makes a table with its fields and indexes.
+  void CreateTable(const TableDef& table);
+  /// Appends a field to a table; existing rows get its default or null.
+  void AppendField(std::string_view table, const FieldDef& field);
+  void AppendIndex(std::string_view table, const IndexDef& index);
+
+  class Impl;
+  Impl& impl() { return *impl_; }
+
+ private:
+  explicit Database(std::unique_ptr<Impl> impl);
+  std::unique_ptr<Impl> impl_;
+};
+
+/// A statement group that belongs together: after a kill or a power cut the file holds all of it or none. Not
+/// committed when destroyed: rolled back. Transactions on one database do not nest.
+class Transaction {
+ public:
+  explicit Transaction(Database& database);
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  ~Transaction();
+
+  void Commit();
+
+ private:
+  Database& database_;
+  bool open_ = true;
+};
+
+}  // namespace rbt

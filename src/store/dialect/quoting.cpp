@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "store/dialect/quoting.h"
+
+namespace rbt::dialect {
+namespace {
+
+std::string Quote(std::string_view text, char quote) {
+  std::string quoted(1, quote);
+  for (const char c : text) {
+    quoted += c;
+    if (c == quote) quoted += c;
+  }
+  return quoted + quote;
+}
+
+}  // namespace
+
+std::string QuoteName(std::string_view name) { return Quote(name, '"'); }
+std::string QuoteText(std::string_view text) { return Quote(text, '\''); }
+
+}  // namespace rbt::dialect

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "store/dialect/select_writer.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "platform/text/characters.h"
+#include "store/dialect/quoting.h"
+
+namespace rbt::dialect {
+namespace {
+
+/// Jet numbers the columns it has to name from here.
+constexpr std::size_t kFirstUnnamed = 1000;
+
+std::string SortKey(const FieldDef& field) {
+  const std::string name = QuoteName(field.name);
+  return ClassOf(field.type) == ValueClass::text ? name + " COLLATE NOCASE" : name;
+}
+
+}  // namespace
+
+SelectWriter::SelectWriter(const Select& select, const Scope& scope)
+    : select_(select), scope_(scope), table_(scope.Table(select.table)), writer_(scope.Statement(), &table_) {
+  if (select.where) where_ = fmt::format(" WHERE {}", writer_.Condition(*select.where));
+  grouped_ = !select.group_by.empty() || std::ranges::any_of(select.items, [](const SelectItem& item) {
+    return HasAggregate(*item.value);
+  });
+  if (grouped_) WriteGroups();
+  WriteColumns();
+  WriteOrder();
+}
+
+void SelectWriter::WriteGroups() {
+  for (const ColumnName& column : select_.group_by) group_.push_back(&writer_.Field(column));
+  writer_.Group(group_);
+}
+
+void SelectWriter::WriteColumns() {
+  if (select_.items.empty()) {
+    if (grouped_) scope_.RefuseAt(select_.table.place, "* is no column of a grouped result");
+    for (const FieldDef& field : table_.fields) {
+      columns_.push_back({field.name,
+                          select_.table.place,
+                          {.sql = QuoteName(field.name), .value = ClassOf(field.type), .field = &field}});
+    }
+    return;
+  }
+  const auto is_taken = [this](const std::string& name) {
+    return std::ranges::any_of(
+        columns_, [&](const Column& column) { return FoldIdentifier(column.name) == FoldIdentifier(name); });
+  };
+  for (const SelectItem& item : select_.items) {
+    WrittenValue value = writer_.Value(*item.value);
+    std::string name;
+    if (item.alias) {
+      name = item.alias->text;
+      if (is_taken(name)) scope_.RefuseAt(item.alias->place, "two columns of one name");
+    } else if (value.field != nullptr && !is_taken(value.field->name)) {
+      name = value.field->name;
+    } else {
+      name = fmt::format("Expr{}", kFirstUnnamed + columns_.size());
+    }
+    columns_.push_back({std::move(name), item.value->place, std::move(value)});
+  }
+}
+
+void SelectWriter::WriteOrder() {
+  std::vector<const FieldDef*> used;
+  for (const OrderTerm& term : select_.order_by) {
+    const FieldDef& field = writer_.Field(term.column);
+    if (grouped_ && std::ranges::find(group_, &field) == group_.end()) {
+      scope_.RefuseAt(term.column.field.place, "a field that is neither grouped by nor aggregated");
+    }
+    used.push_back(&field);
+    order_.push_back(SortKey(field) + (term.descending ? " DESC" : ""));
+  }
+  if (!grouped_) order_.emplace_back(RowNumberOf(table_));
+  for (const FieldDef* const field : group_) {
+    if (std::ranges::find(used, field) == used.end()) order_.push_back(SortKey(*field));
+  }
+}
+
+std::string SelectWriter::Body(const std::string& columns) const {
+  // An index would change the order in which doubles are added up, and with it the last digit.
+  const std::string_view scan = grouped_ && writer_.DependsOnRowOrder() ? " NOT INDEXED" : "";
+  std::string sql = fmt::format("SELECT {} FROM {}{}{}", columns, QuoteName(table_.name), scan, where_);
+  std::vector<std::string> keys;
+  for (const FieldDef* const field : group_) keys.push_back(SortKey(*field));
+  if (!keys.empty()) sql += fmt::format(" GROUP BY {}", fmt::join(keys, ", "));
+  return sql;
+}
+
+std::string SelectWriter::Sql(const std::vector<std::string>& columns) const {
+  std::string sql = Body(fmt::format("{}", fmt::join(columns, ", ")));
+  if (!order_.empty()) sql += fmt::format(" ORDER BY {}", fmt::join(order_, ", "));
+  return sql;
+}
+
+std::string SelectWriter::CountSql() const {
+  if (!grouped_) return Body("count(*)");
+  // An aggregate keeps the inner statement one of groups, whatever its columns are.
+  return fmt::format("SELECT count(*) FROM ({})", Body("count(*)"));
+}
+
+}  // namespace rbt::dialect

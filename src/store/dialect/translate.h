@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "store/schema/schema.h"
+
+namespace rbt {
+
+/// Where the translator asks for the tables that a statement names.
+class SchemaSource {
+ public:
+  virtual ~SchemaSource() = default;
+  /// By name, letter case and width ignored; null when there is none.
+  virtual const TableDef* Find(std::string_view table) const = 0;
+};
+
+struct SelectStatement {
+  std::string sql;                  ///< SQLite's dialect
+  std::vector<std::string> tables;  ///< tables read, by their names in the file
+  /// Parallel to the result columns: name as Jet gives it, and the declared field when it is a plain column.
+  struct Column {
+    std::string name;
+    std::optional<FieldDef> field;
+  };
+  std::vector<Column> columns;
+  bool grouped = false;
+  std::string count_sql;  ///< SELECT that gives the number of rows
+};
+
+/// INSERT, UPDATE or DELETE.
+struct ChangeStatement {
+  std::string sql;
+  std::string table;
+};
+
+struct CreateTableStatement {
+  TableDef table;
+};
+struct DropTableStatement {
+  std::string table;
+};
+struct AddColumnStatement {
+  std::string table;
+  FieldDef field;
+};
+struct AddPrimaryKeyStatement {
+  std::string table;
+  std::string constraint;
+  std::vector<std::string> fields;
+};
+struct CreateIndexStatement {
+  std::string table;
+  IndexDef index;
+};
+struct DropIndexStatement {
+  std::string table;
+  std::string index;
+};
+
+using Translated =
+    std::variant<SelectStatement, ChangeStatement, CreateTableStatement, DropTableStatement,
+                 AddColumnStatement, AddPrimaryKeyStatement, CreateIndexStatement, DropIndexStatement>;
+
+struct TranslateOptions {
+  /// Narrows `SELECT *` to these fields, those that the table has.
+  std::span<const std::string_view> fields = {};
+  /// Adds the row's number as the last result column, named `rowid`, for a recordset that is edited (one
+  /// plain table, no grouping).
+  bool with_rowid = false;
+};
+
+/// Translates one statement of the Jet dialect. What is unknown is refused: `Fault` of kind `database` whose
+/// text names the place (character position and the word there) and the whole statement. Grouped results come
+/// ascending by the grouping columns as listed, nulls first; others in table order unless ORDER BY says
+/// otherwise.
+Translated TranslateJetSql(std::string_view jet_sql, const SchemaSource& schema,
+                           const TranslateOptions& options = {});
+
+/// One UPDATE with the outcome of the given ones run in turn, see `Database::ExecuteTogether`. All must be
+/// UPDATEs of one table.
+ChangeStatement FuseUpdates(std::span<const std::string> jet_updates, const SchemaSource& schema);
+
+}  // namespace rbt

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/connection.h"
+#include "store/dialect/translate.h"
+#include "store/schema/schema.h"
+
+namespace rbt {
+
+/// A table with what a rebuild needs besides its definition.
+struct StoredTable {
+  TableDef def;
+  std::vector<std::string> declared_types;  ///< parallel to the fields, as the file spells them
+  struct Index {
+    std::string stored_name;  ///< the file's name of it; empty for a key without an index of its own
+    std::string create_sql;   ///< empty for the index of a constraint
+  };
+  std::vector<Index> indexes;                 ///< parallel to `def.indexes`
+  std::vector<std::string> beyond_table_def;  ///< see `TableText`
+  std::string folded_name;
+};
+
+/// The tables of a file, read when they are first asked for and again after the schema has changed, by this
+/// connection or by another.
+class SchemaCache : public SchemaSource {
+ public:
+  explicit SchemaCache(const Connection& connection) : connection_(connection) {}
+
+  /// Reads the tables unless those read before still stand. Pointers handed out before end here.
+  void Refresh();
+  /// For a change whose version number may come again: one that was rolled back.
+  void Forget() { version_ = kUnknown; }
+
+  const TableDef* Find(std::string_view table) const override;
+  const StoredTable* FindStored(std::string_view table) const;
+  /// In the order of their creation.
+  const std::vector<StoredTable>& Tables() const { return tables_; }
+
+ private:
+  static constexpr std::int64_t kUnknown = -1;
+
+  const Connection& connection_;
+  std::int64_t version_ = kUnknown;
+  std::vector<StoredTable> tables_;
+};
+
+/// The field of a column by its declared type. Types that are SQLite's own words, or none, are taken for what
+/// SQLite stores under them.
+FieldDef FieldOfColumn(std::string name, std::string_view declared);
+/// False for a column of no declared type or one that is not among the store's: its values are read as the
+/// file holds them.
+bool HasKnownType(std::string_view declared);
+
+}  // namespace rbt

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+
+#include "data/materials.h"
+#include "platform/numbers/number_words.h"
+#include "shell/config/settings.h"
+#include "shell/context/fixed_stock.h"
+#include "tally/engine/stock_engine.h"
+
+namespace rbt {
+
+EngineStateData EngineState;
+
+namespace {
+
+std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSteelIni(key)), key.key); }
+
+}  // namespace
+
+StockLengthLimits GetStockLengthLimits() {
+  StockLengthLimits limits;
+  for (const StockLimitKey& key : StockLimitKeys) {
+    limits.Set(key.diameter, ReadNumber(key.shortest), ReadNumber(key.longest));
+  }
+  limits.ones_rounding = ReadNumber(kOnesRoundingKey);
+  for (const int thin : kUlbonOnlyDiameters) limits.Set(thin, limits.Min(10), limits.Max(10));
+  return limits;
+}
+
+std::int16_t ReadPlus() {
+  EngineState.Plus = ToInt16(LeadingNumber(ReadSetting(kPlusKey)), kPlusKey.key);
+  return EngineState.Plus;
+}
+
+EngineSettings ReadEngineSettings() {
+  EngineSettings settings;
+  settings.limits = GetStockLengthLimits();
+  settings.plus = ReadPlus();
+  settings.loss_priority = ReadSetting(kLossPriorityKey);
+  EngineState.LossPriority = settings.loss_priority;
+  if (Settings.UseFixedTable == 1) settings.fixed_stock = GetFixedStockLength;
+  return settings;
+}
+
+void Teijyaku_Keisan(std::int32_t cut, Currency count, std::int32_t diameter) {
+  const EngineSettings settings = ReadEngineSettings();
+  EngineState.TeijyakuResult = {};
+  EngineState.TeijyakuResult = ComputeStock(cut, count, diameter, settings);
+}
+
+void Teijyaku_Shitei(std::int32_t /*cut*/, Currency count, std::int32_t /*diameter*/, std::int32_t pieces,
+                     double stock) {
+  EngineState.TeijyakuResult = BarsOfGivenStock(count, pieces, stock);
+}
+
+}  // namespace rbt

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "tally/groups/group_walk.h"
+
+#include <algorithm>
+#include <string>
+
+#include "data/bar_tables.h"
+#include "tally/count_cells.h"
+#include "tally/groups/group_statements.h"
+
+namespace rbt {
+namespace {
+
+template <typename FoldGroup>
+void ForEachGroup(Database& site, std::string_view statement, FoldGroup fold_group) {
+  Recordset groups = site.OpenSnapshot(statement);
+  const BarGroupReader reader(groups);
+  for (; !groups.Eof(); groups.MoveNext()) fold_group(reader.Read(groups));
+}
+
+/// The diameter that a cut counts at; `weld_diameter` is not 0.
+using CutDiameter = std::int32_t (*)(std::int32_t diameter, std::int32_t weld_diameter);
+
+void FoldCutsOfPart(TallyTable& table, Database& site, const std::string& statement,
+                    CutDiameter cut_diameter) {
+  Recordset groups = site.OpenSnapshot(statement);
+  const FieldHandle diameter = groups.Field("太さ");
+  const FieldHandle weld_diameter = groups.Field("圧接太さ");
+  const FieldHandle cuts = groups.Field("合計切断数");
+  for (; !groups.Eof(); groups.MoveNext()) {
+    const std::int32_t own = groups.Int32(diameter).value_or(0);
+    const std::int32_t weld = groups.Int32(weld_diameter).value_or(0);
+    const int d = DiameterIndex(weld == 0 ? own : cut_diameter(own, weld));
+    AddCount(table.CutCount, d, groups.Int32(cuts), "合計切断数");
+  }
+}
+
+}  // namespace
+
+void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds) {
+  ForEachGroup(site, statement,
+               [&](const BarGroup& group) { FoldUlbonGroup(table, group, count_hoop_welds); });
+}
+
+void FoldGroups(TallyTable& table, Database& site, std::string_view main_statement, const GroupRules& rules) {
+  GroupFold fold(table, rules);
+  ForEachGroup(site, std::string(main_statement).append(kGroupByPieces),
+               [&](const BarGroup& group) { fold.Add(group); });
+  fold.Finish();
+}
+
+void FoldCuts(TallyTable& table, Database& site, std::string_view cut_statement) {
+  const auto of_part = [&](std::string_view part) {
+    return std::string(cut_statement).append(part).append(kGroupByWeld);
+  };
+  FoldCutsOfPart(table, site, of_part(kCutsOfPart5), [](std::int32_t diameter, std::int32_t weld_diameter) {
+    return std::max(diameter, weld_diameter);
+  });
+  FoldCutsOfPart(table, site, of_part(kCutsOfPart2),
+                 [](std::int32_t /*diameter*/, std::int32_t weld_diameter) { return weld_diameter; });
+}
+
+}  // namespace rbt

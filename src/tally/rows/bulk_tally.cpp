@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "tally/rows/bulk_tally.h"
+
+#include <utility>
+
+#include "data/shapes.h"
+#include "platform/system/paths.h"
+#include "platform/system/process.h"
+#include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "store/database.h"
+#include "tally/closing_sums.h"
+#include "tally/rows/bulk_statement.h"
+#include "tally/rows/row_walk.h"
+#include "tally/spiral_reader.h"
+
+namespace rbt {
+namespace {
+
+AccumulationLoader accumulation_loader;
+
+TallyTable StartingTable() {
+  TallyTable table;
+  if (RunState.AccumulateFlag != 0 && accumulation_loader) accumulation_loader(table);
+  return table;
+}
+
+/// The programs of start modes 1 and 3 offer no hoop or plate buttons, so nothing is asked for them.
+void ProbePresence(Database& site, const SelectionData& selection) {
+  RunState.HasHoopRows = false;
+  RunState.HasAnchorPlateRows = false;
+  if (selection.StartMode == 1 || selection.StartMode == 3) return;
+  const std::string so_far = BulkStatementSoFar(selection);
+  RunState.HasAnchorPlateRows = site.HasRows(so_far + std::string(kAnchorPlateClause));
+  RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");
+}
+
+RowRules BulkRowRules(const SelectionData& selection) {
+  RowRules rules;
+  rules.hoop_mode = selection.HoopMode;
+  rules.count_hoop_welds = ReadCountHoopWelds();
+  rules.include_ulbon = selection.IncludeUlbon == 1;
+  rules.counts_without_column_by_choice = selection.MaterialCalcChoice;
+  return rules;
+}
+
+}  // namespace
+
+void SetAccumulationLoader(AccumulationLoader loader) { accumulation_loader = std::move(loader); }
+
+void Jyuuryo_Syukei() {
+  TallyGrid = TallyTable();
+  const RowRules rules = BulkRowRules(Selection);
+  TallyTable table = StartingTable();
+  Database& site = *SiteContext.WorkDatabase;
+  ProbePresence(site, Selection);
+  RunPendingEvents();
+  FoldRows(table, site, BulkStatement(Selection, RunState.HasHoopRows), rules);
+  RunPendingEvents();
+  if (!LeavesSpiralsOut(Selection)) {
+    Database companion = Database::OpenReadOnly(MapPath(CompanionDatabasePath()));
+    FoldSpirals(table, ReadSpirals(companion), Selection);
+  }
+  CloseSums(table, {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1});
+  TallyGrid = std::move(table);
+}
+
+}  // namespace rbt

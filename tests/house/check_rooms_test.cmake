@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: MIT
+# Plants one fault at a time into a small house and expects the check to name it.
+cmake_minimum_required(VERSION 3.25)
+
+function(make_house)
+  file(REMOVE_RECURSE ${WORK})
+  file(WRITE ${WORK}/house.txt "store 1 - \ntally 4 - store\nscreens 8 qt tally\n")
+  file(WRITE ${WORK}/src/store/rows.h "#include <string>\n")
+  file(WRITE ${WORK}/src/tally/sums.h "#include \"store/rows.h\"\n")
+  file(WRITE ${WORK}/src/screens/form.cpp "#include <QWidget>\n#include \"tally/sums.h\"\n#include \"ui_form.h\"\n")
+  file(WRITE ${WORK}/tests/tally/sums_test.cpp "")
+endfunction()
+
+function(run_check out)
+  execute_process(COMMAND ${CMAKE_COMMAND} -DROOT=${WORK} -DHOUSE=${WORK}/house.txt -P ${CHECK}
+                  RESULT_VARIABLE result ERROR_VARIABLE text)
+  if(result EQUAL 0)
+    set(text "")
+  endif()
+  set(${out} "${text}" PARENT_SCOPE)
+endfunction()
+
+function(expect_fault file content words)
+  make_house()
+  file(WRITE ${WORK}/${file} "${content}")
+  run_check(text)
+  if(NOT text MATCHES "${words}")
+    message(FATAL_ERROR "${file} was planted; expected \"${words}\", the check said: ${text}")
+  endif()
+endfunction()
+
+make_house()
+run_check(text)
+if(text)
+  message(FATAL_ERROR "a sound house is refused: ${text}")
+endif()
+expect_fault(src/store/rows.h "#include \"tally/sums.h\"\n" "store does not use the room of tally/sums.h")
+expect_fault(src/screens/form.cpp "#include \"store/rows.h\"\n" "screens does not use the room of store/rows.h")
+expect_fault(src/tally/sums.h "#include <QString>\n" "only rooms above the rules may include Qt")
+expect_fault(src/cellar/box.h "" "its folder is no room of the house")
+expect_fault(tests/cellar/box_test.cpp "" "there is no room cellar")

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+// Imports that are killed, or that the disk has no room for: the old state or the whole new one, and nothing
+// that stands in the way of the next.
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <stdexcept>
+#include <sys/resource.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "jet/import/import_file.h"
+#include "jet/import/swap_in.h"
+#include "jet/jet_file.h"
+#include "platform/fault.h"
+#include "platform/system/paths.h"
+#include "store/database.h"
+#include "support/child_process.h"
+#include "support/fault_of.h"
+#include "support/jet_writer.h"
+#include "support/temporary_folder.h"
+
+namespace rbt::jet {
+namespace {
+
+namespace fs = std::filesystem;
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::UnorderedElementsAre;
+
+constexpr int kRows = 300;
+
+test::JetTable Table(const std::string& name, int rows, std::size_t text = 10) {
+  FieldDef number;
+  number.name = "番号";
+  FieldDef words;
+  words.name = "名称";
+  words.type = FieldType::memo;
+  test::JetTable table{name, {number, words}, {}, {"番号"}};
+  for (int i = 1; i <= rows; ++i) {
+    table.rows.push_back({Value{std::int64_t{i}}, Value{std::string(text, 'x')}});
+  }
+  return table;
+}
+
+class StoppedImport : public ::testing::Test {
+ protected:
+  StoppedImport() {
+    test::WriteJetFile(source_, JetVersion::jet4, {Table("加工テーブル", kRows), Table("形状テーブル", 3)});
+    jet_ = ReadFileBytes(source_);
+  }
+
+  /// The names in the folder; what imports have in work under one name.
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+      const std::string name = entry.path().filename().string();
+      names.push_back(name.starts_with(".rbk-import-") ? "in work" : name);
+    }
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
+  }
+  std::vector<std::string> NamesButInWork() const {
+    std::vector<std::string> names = Names();
+    std::erase(names, "in work");
+    return names;
+  }
+
+  static void ExpectWhole(const fs::path& store) {
+    Database database = Database::Open(store);
+    EXPECT_EQ(CountOf(database, "加工テーブル"), kRows);
+    EXPECT_EQ(CountOf(database, "形状テーブル"), 3);
+    EXPECT_EQ(database.FindTable("形状テーブル")->indexes.size(), 1U);
+  }
+  static std::int64_t CountOf(Database& database, const std::string& table) {
+    return *database.OpenSnapshot("SELECT Count(*) FROM [" + table + "]").Int32(FieldHandle{0});
+  }
+
+  test::TemporaryFolder folder_;
+  fs::path source_ = folder_ / "old.mdb";
+  fs::path target_ = folder_ / "new.mdb";
+  std::string jet_;
+};
+
+TEST_F(StoppedImport, KilledAtAnyMomentLeavesNoTargetOrAWholeOneAndTheNextOneSucceeds) {
+  int absent = 0;
+  int whole = 0;
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    if (!test::KilledBeforeChange(n, [&] { ImportJetFile(source_, target_); })) break;
+    EXPECT_EQ(ReadFileBytes(source_), jet_);
+    if (fs::exists(target_)) {
+      ++whole;
+      EXPECT_THAT(NamesButInWork(), ElementsAre("new.mdb", "old.mdb"));
+      ExpectWhole(target_);
+      fs::remove(target_);
+    } else {
+      ++absent;
+    }
+    ImportJetFile(source_, target_);
+    ExpectWhole(target_);
+    EXPECT_THAT(Names(), ElementsAre("new.mdb", "old.mdb"));
+    fs::remove(target_);
+  }
+  ExpectWhole(target_);
+  EXPECT_GT(absent, 10);
+  EXPECT_GT(whole, 0);
+}
+
+TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderTheName) {
+  const auto import = [&] { ImportJetFileInPlace(source_); };
+  int before = 0;
+  int after = 0;
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    if (!test::KilledBeforeChange(n, import)) break;
+    if (IsJetFile(source_)) {
+      ++before;
+      EXPECT_EQ(ReadFileBytes(source_), jet_);
+      import();
+    } else {
+      ++after;
+    }
+    ExpectWhole(source_);
+    EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), jet_);
+    EXPECT_THAT(ReadFileBytes(folder_ / "old.mdb.jet.txt"), HasSubstr("table 加工テーブル: 300 rows"));
+    EXPECT_THAT(Names(), ElementsAre("old.mdb", "old.mdb.jet", "old.mdb.jet.txt"));
+    for (const char* name : {"old.mdb", "old.mdb.jet", "old.mdb.jet.txt"}) fs::remove(folder_ / name);
+    WriteFileAtomically(source_, jet_);
+  }
+  EXPECT_GT(before, 10);
+  EXPECT_GT(after, 0);
+}
+
+TEST_F(StoppedImport, WhatAnotherImportHasInWorkIsLeftAlone) {
+  const FileInWork other(target_);
+  other.Write("half");
+  ImportJetFile(source_, target_);
+  EXPECT_EQ(ReadFileBytes(other.Path()), "half");
+}
+
+TEST_F(StoppedImport, ACopyOfTheJetFileUnderTheOtherNameIsNothingToRefuse) {
+  fs::copy_file(source_, folder_ / "old.mdb.jet");
+  ImportJetFileInPlace(source_);
+  ExpectWhole(source_);
+  EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), jet_);
+}
+
+TEST_F(StoppedImport, AFileThatAnotherProgramChangesMeanwhileIsNotImported) {
+  const auto import = [&] {
+    const std::string fault = test::FaultTextOf([&] { ImportJetFile(source_, target_); });
+    if (fault.find("old.mdb: was changed by another program while it was read") == std::string::npos)
+      throw std::runtime_error(fault);
+  };
+  test::MeddleBeforeChange(3, import,
+                           [&] { fs::last_write_time(source_, fs::file_time_type::clock::now()); });
+  EXPECT_THAT(Names(), ElementsAre("old.mdb"));
+}
+
+/// Runs where no file may grow beyond a size.
+bool WithFilesOfAtMost(rlim_t bytes, const std::function<void()>& action) {
+  return test::InChild([&] {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
+    action();
+    return !::testing::Test::HasFailure();
+  });
+}
+
+TEST_F(StoppedImport, WithoutRoomNamesTheTargetAndTheCauseAndLeavesNothing) {
+  EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
+    EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
+                AllOf(HasSubstr(target_.string()), HasSubstr("disk I/O error")));
+  }));
+  EXPECT_THAT(Names(), ElementsAre("old.mdb"));
+}
+
+TEST_F(StoppedImport, WithoutRoomInPlaceChangesNothing) {
+  EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
+    EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
+                AllOf(HasSubstr(source_.string()), HasSubstr("disk I/O error")));
+  }));
+  EXPECT_THAT(Names(), ElementsAre("old.mdb"));
+  EXPECT_EQ(ReadFileBytes(source_), jet_);
+}
+
+/// The store writes when its memory is used up, in the midst of the rows: none of them is a refused one.
+TEST_F(StoppedImport, WithoutRoomInTheMidstOfTheRowsEndsTheImport) {
+  const fs::path large = folder_ / "large.mdb";
+  test::WriteJetFile(large, JetVersion::jet4, {Table("加工テーブル", 25000, 1800)});
+  EXPECT_TRUE(WithFilesOfAtMost(1 << 20, [&] {
+    EXPECT_THAT(
+        test::FaultTextOf([&] { ImportJetFile(large, target_); }),
+        AllOf(HasSubstr(target_.string()), HasSubstr("File too large"), HasSubstr("a row of 加工テーブル")));
+  }));
+  EXPECT_THAT(Names(), ElementsAre("large.mdb", "old.mdb"));
+}
+
+}  // namespace
+}  // namespace rbt::jet

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "screens/panels/date_boxes.h"
+
+#include <gtest/gtest.h>
+
+#include "screens/result/result_form_driver.h"
+#include "shell/config/setting_keys.h"
+#include "shell/config/settings.h"
+
+namespace rbt::test {
+
+namespace {
+
+/// The print panel open, with a date style.
+struct OpenPanel : ResultFormDriver {
+  explicit OpenPanel(std::int32_t date_style) {
+    SaveSetting(kDateStyleKey, date_style);
+    Open();
+    Key(Qt::Key_F1);
+  }
+};
+
+}  // namespace
+
+TEST(DateBoxes, AreTodayByDefaultInTheStyleOfTheSetting) {
+  const OpenPanel western(1);
+  EXPECT_EQ(western.Box("txtYear")->text(), "2026");
+  EXPECT_EQ(western.Box("txtMonth")->text(), "11");
+  EXPECT_EQ(western.Box("txtDay")->text(), "21");
+  const OpenPanel era(2);
+  EXPECT_EQ(era.Box("txtYear")->text(), "08");
+}
+
+TEST(DateBoxes, KeepWhatWasTyped) {
+  OpenPanel panel(1);
+  panel.Box("txtDay")->setText("5");
+  panel.Key(Qt::Key_Escape);
+  panel.Key(Qt::Key_F1);
+  EXPECT_EQ(panel.Box("txtDay")->text(), "5");
+}
+
+TEST(DateBoxes, TakeDigitsOnly) {
+  OpenPanel panel(1);
+  panel.Box("txtMonth")->clear();
+  panel.Type("txtMonth", "a1b");
+  EXPECT_EQ(panel.Box("txtMonth")->text(), "1");
+}
+
+TEST(DateBoxes, EnterMovesOnAndArrowsMoveBetween) {
+  OpenPanel panel(1);
+  panel.Box("txtYear")->setFocus();
+  panel.Key(Qt::Key_Return);
+  EXPECT_EQ(panel.Focused(), "txtMonth");
+  panel.Key(Qt::Key_Down);
+  EXPECT_EQ(panel.Focused(), "txtDay");
+  panel.Key(Qt::Key_Up);
+  panel.Key(Qt::Key_Left);
+  EXPECT_EQ(panel.Focused(), "txtYear");
+  panel.Key(Qt::Key_Right);
+  EXPECT_EQ(panel.Focused(), "txtMonth");
+}
+
+TEST(DateBoxes, AnEraYearOf32OrMoreGetsTheFocusBack) {
+  OpenPanel panel(2);
+  panel.Box("txtYear")->setFocus();
+  panel.Box("txtYear")->setText("32");
+  panel.Key(Qt::Key_Return);
+  EXPECT_EQ(panel.Focused(), "txtYear");
+  panel.Button("btnA4Y")->setFocus();
+  Settle();
+  EXPECT_EQ(panel.Focused(), "txtYear");
+  panel.Key(Qt::Key_F1);
+  EXPECT_TRUE(panel.site.Messages().empty());  // nothing is printed
+  panel.Box("txtYear")->setText("31");
+  panel.Key(Qt::Key_Return);
+  EXPECT_EQ(panel.Focused(), "txtMonth");
+}
+
+TEST(DateBoxes, AWesternYearMayBeAny) {
+  EXPECT_TRUE(YearPasses("2026", 1));
+  EXPECT_TRUE(YearPasses("31", 2));
+  EXPECT_FALSE(YearPasses("32", 2));
+  EXPECT_TRUE(YearPasses("", 2));
+}
+
+}  // namespace rbt::test

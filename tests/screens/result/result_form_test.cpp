@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "screens/result/result_form_driver.h"
+#include "shell/config/setting_keys.h"
+#include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "tally/selection.h"
+#include "tally/tally_grid.h"
+
+namespace rbt::test {
+
+namespace {
+
+using testing::HasSubstr;
+
+// Ten bars of 6.0 m: D19 13.5 kg each, D13 5.97, D25 23.9 (three figures); U 9 is 0.5 kg/m x 60 m.
+constexpr const char* kD19 = "135 |135 |0 |3|0|";
+constexpr const char* kHoop = "60 |60 |0 |3|0|";
+constexpr const char* kU9 = "|30 ||3||";
+
+}  // namespace
+
+TEST(BulkScreen, ShowsTheTallyWhenItOpens) {
+  ResultFormDriver js;
+  js.Open();
+  EXPECT_EQ(js.Row("D19"), kD19);
+  EXPECT_EQ(js.Row("U 9"), kU9);
+  // 135 + 60 + 239 stock; the thin bars' 30 join the installed grand total.
+  EXPECT_EQ(js.Row("総　　合　　計"), "434 kg|464 kg||||");
+  EXPECT_EQ(js.Label("Label8"), "異形･高強度･ネジ･ｽﾘｯﾄ");
+  EXPECT_EQ(js.Label("Label9"), "すべて");
+  EXPECT_EQ(js.Label("lblKojNo"), "001");
+  EXPECT_EQ(js.Focused(), "dbgJS");
+  EXPECT_FALSE(js.Shows("SSPanel3"));
+  EXPECT_FALSE(js.Shows("SSPanel4"));
+  EXPECT_FALSE(js.Shows("Command1"));
+  EXPECT_FALSE(js.Shows("hozon"));
+  EXPECT_FALSE(js.Shows("Lwarning"));
+}
+
+TEST(BulkScreen, HasTheButtonsOfHoopsAndPlatesOnlyWhereTheSiteHasSuchShapes) {
+  ResultFormDriver js;
+  js.Open();
+  EXPECT_TRUE(js.Shows("cmdHoop"));
+  EXPECT_TRUE(js.Shows("Label4"));
+  EXPECT_TRUE(js.Shows("cmdTei"));
+  for (const std::int32_t mode : {1, 3, 4}) {
+    ResultFormDriver other(mode);
+    other.Open();
+    EXPECT_FALSE(other.Shows("cmdHoop")) << mode;
+    EXPECT_FALSE(other.Shows("cmdTei")) << mode;
+  }
+}
+
+TEST(BulkScreen, CyclesTheHoopsThroughIncludedLeftOutAndOnly) {
+  ResultFormDriver js;
+  js.Open();
+  js.Click("cmdHoop");
+  EXPECT_EQ(js.Button("cmdHoop")->text(), "含まず");
+  EXPECT_EQ(js.Label("Label4"), "(形状No87)を");
+  EXPECT_EQ(js.Row("D13"), "0 |0 |0 |0|0|");
+  js.Click("cmdHoop");
+  EXPECT_EQ(js.Button("cmdHoop")->text(), "のみ");
+  EXPECT_EQ(js.Label("Label4"), "(形状No87)");
+  EXPECT_EQ(js.Row("D13"), kHoop);
+  EXPECT_EQ(js.Row("D19"), "0 |0 |0 |0|0|");
+  js.Click("cmdHoop");
+  EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
+  EXPECT_EQ(js.Row("D19"), kD19);
+}
+
+TEST(BulkScreen, CyclesThePlates) {
+  ResultFormDriver js;
+  js.Open();
+  js.Button("cmdTei")->setFocus();
+  js.Key(Qt::Key_Return);
+  EXPECT_EQ(js.Button("cmdTei")->text(), "含まず");
+  EXPECT_EQ(js.Row("D25"), "0 |0 |0 |0|0|");
+  js.Click("cmdTei");
+  EXPECT_EQ(js.Button("cmdTei")->text(), "のみ");
+  EXPECT_EQ(js.Row("D19"), "0 |0 |0 |0|0|");
+  EXPECT_EQ(js.Focused(), "cmdTei");
+}
+
+TEST(BulkScreen, AnyNarrowingFilterHidesAccumulationAndPrintUntilThePictureIsWholeAgain) {
+  ResultFormDriver js;
+  js.Open();
+  js.Click("cmdTei");
+  for (const char* button : {"Command6", "cmdPrint", "cmdPrint2"}) EXPECT_FALSE(js.Shows(button)) << button;
+  js.Key(Qt::Key_F1);
+  EXPECT_FALSE(js.Shows("SSPanel3"));
+  js.Click("cmdTei");
+  js.Click("cmdTei");
+  for (const char* button : {"Command6", "cmdPrint", "cmdPrint2"}) EXPECT_TRUE(js.Shows(button)) << button;
+}
+
+TEST(BulkScreen, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
+  ResultFormDriver js;
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 9; };
+  js.Open();
+  js.Click("Command3");
+  // The slit word goes in the full program too, but not from the total row.
+  EXPECT_EQ(js.Label("Label8"), "異形");
+  EXPECT_NE(js.Row("異形･スリット"), "");
+  EXPECT_EQ(Selection.PrevMaterialKindMask, 9);
+}
+
+TEST(BulkScreen, StartMode0KeepsTheSlitWordInTheKinds) {
+  ResultFormDriver js(0);
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 9; };
+  js.Open();
+  js.Click("Command3");
+  EXPECT_EQ(js.Label("Label8"), "異形･スリット");
+}
+
+TEST(BulkScreen, HoopsOnlyGoBackToIncludedWhenTheNextKindsHaveNoHoops) {
+  ResultFormDriver js;
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 2; };
+  js.Open();
+  js.Click("cmdHoop");
+  js.Click("cmdHoop");
+  ASSERT_EQ(js.Button("cmdHoop")->text(), "のみ");
+  js.Click("Command3");
+  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
+}
+
+TEST(BulkScreen, FormChangeShowsTheFormsAndSetsTheCalculationFromTheKinds) {
+  ResultFormDriver js;
+  js.parts.choose_forms = [] { Selection.MaterialFormMask = 3; };
+  js.Open();
+  js.Click("Command2");
+  EXPECT_EQ(js.Label("Label9"), "生･生加");
+  EXPECT_EQ(Selection.MaterialCalcChoice, 2);
+  Selection.MaterialKindMask = 4;
+  js.Click("Command2");
+  EXPECT_EQ(Selection.MaterialCalcChoice, 1);
+  Selection.MaterialKindMask = 3;
+  js.Click("Command2");
+  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+}
+
+TEST(BulkScreen, PercentRaisesTheThinBarsAndTheGrandTotal) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F3);
+  EXPECT_EQ(js.Focused(), "txtPercent");
+  js.Type("txtPercent", "1x50");
+  EXPECT_EQ(js.Box("txtPercent")->text(), "150");  // letters cannot be typed, above 100 is accepted
+  js.Key(Qt::Key_Return);
+  // 30 + 30 x 150 / 100 = 75.
+  EXPECT_EQ(js.Row("U 9"), "|75 ||3||");
+  EXPECT_EQ(js.Row("総　　合　　計"), "434 kg|509 kg||||");
+  EXPECT_EQ(js.Row("D19"), kD19);
+  EXPECT_FALSE(js.Box("txtPercent")->isEnabled());
+  EXPECT_EQ(js.Focused(), "dbgJS");
+  js.Click("cmdHoop");
+  EXPECT_EQ(js.Row("U 9"), "|75 ||3||");  // a filter keeps the percentage
+}
+
+TEST(BulkScreen, EmptyPercentCountsAsNothingAndPastedTextIsFiltered) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F3);
+  js.Key(Qt::Key_Return);
+  EXPECT_EQ(js.Row("U 9"), kU9);
+  js.Box("txtPercent")->setEnabled(true);
+  js.Box("txtPercent")->insert("-１2.5%");
+  EXPECT_EQ(js.Box("txtPercent")->text(), "125");
+}
+
+TEST(BulkScreen, ValueRestoreTakesThePercentageBack) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F3);
+  js.Type("txtPercent", "10");
+  js.Key(Qt::Key_Return);
+  js.Click("CmdVReturn");
+  EXPECT_EQ(js.Row("U 9"), kU9);
+  EXPECT_FALSE(js.Shows("txtPercent"));
+  EXPECT_FALSE(js.Shows("lblUper"));
+  EXPECT_EQ(js.Focused(), "dbgJS");
+}
+
+TEST(BulkScreen, F4HasNoHandler) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F3);
+  js.Type("txtPercent", "10");
+  js.Key(Qt::Key_Return);
+  js.Key(Qt::Key_F4);
+  EXPECT_EQ(js.Row("U 9"), "|33 ||3||");
+}
+
+TEST(BulkScreen, UlbonViewShowsThinBarsAloneAndPrintsOnOnePaper) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F2);
+  EXPECT_EQ(js.Grid()->RowCount(), 7);
+  EXPECT_EQ(js.Row("ウ ル ボ ン 合 計"), "|30 kg||3||");
+  EXPECT_EQ(js.Button("cmdPrint")->text(), "ｳﾙﾎﾞﾝ印字(F1)");
+  EXPECT_FALSE(js.Shows("cmdUSum"));
+  EXPECT_FALSE(js.Shows("Command6"));
+  js.Key(Qt::Key_F1);
+  EXPECT_TRUE(js.Shows("btnA4T"));
+  EXPECT_FALSE(js.Shows("btnA4Y"));
+  EXPECT_FALSE(js.Shows("btnB5Y"));
+}
+
+TEST(BulkScreen, PrintPanelHasItsOwnKeys) {
+  ResultFormDriver js;
+  std::vector<std::string> printed;
+  js.parts.print = [&](const PrintOrder& order) {
+    printed.push_back(std::string(order.button) + (order.ulbon ? " ulbon" : "") + " " + order.date.year +
+                      "/" + order.date.month + "/" + order.date.day + " " + order.sub_project);
+  };
+  js.Open();
+  js.Key(Qt::Key_F1);
+  EXPECT_TRUE(js.Shows("SSPanel3"));
+  EXPECT_FALSE(js.Shows("SSPanel2"));
+  EXPECT_TRUE(js.Shows("txtSubKojNa"));
+  EXPECT_EQ(RunState.ReportBody, 1);
+  js.Box("txtSubKojNa")->setText(" 二期 ");  // the report trims it
+  js.Key(Qt::Key_F3);
+  EXPECT_EQ(printed, std::vector<std::string>{"btnA4T 2026/11/21  二期 "});
+  EXPECT_TRUE(js.Shows("SSPanel2"));  // back to the list
+  js.Click("cmdPrint2");
+  EXPECT_EQ(RunState.ReportBody, 0);
+  js.Key(Qt::Key_F2);  // a key of the closed panel
+  EXPECT_EQ(js.Grid()->RowCount() > 7, true);
+  js.Key(Qt::Key_Escape);
+  EXPECT_TRUE(js.Shows("SSPanel2"));
+  EXPECT_FALSE(js.Shows("txtSubKojNa"));
+  EXPECT_FALSE(js.Box("txtYear")->isEnabled());
+}
+
+TEST(BulkScreen, WhatIsNotReadyYetSaysSo) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F5);
+  js.Key(Qt::Key_F6);
+  js.Key(Qt::Key_F1);
+  js.Key(Qt::Key_F1);
+  js.Key(Qt::Key_F7);
+  ASSERT_EQ(js.site.Messages().size(), 4U);
+  EXPECT_THAT(js.site.Messages()[0].text, HasSubstr("明細表示"));
+  EXPECT_THAT(js.site.Messages()[1].text, HasSubstr("集計加算"));
+  EXPECT_THAT(js.site.Messages()[2].text, HasSubstr("印字"));
+  EXPECT_THAT(js.site.Messages()[3].text, HasSubstr("設定"));
+}
+
+TEST(BulkScreen, SettingsChosenInThePanelShowInGridAndYear) {
+  ResultFormDriver js;
+  js.parts.open_settings = [] {
+    SaveSetting(kDateStyleKey, 2);
+    Settings.AlternateRowColours = 0;
+  };
+  js.Open();
+  const auto colour = [&] { return js.Grid()->model()->index(1, 0).data(Qt::BackgroundRole); };
+  EXPECT_EQ(colour().value<QColor>(), QColor(0xC0, 0xFF, 0xFF));  // 16777152 with red in the low byte
+  js.Key(Qt::Key_F1);
+  js.Key(Qt::Key_F7);
+  EXPECT_EQ(js.Box("txtYear")->text(), "08");
+  EXPECT_FALSE(colour().isValid());
+}
+
+TEST(BulkScreen, WarnsOfTheLastRowWithoutAStockLength) {
+  ResultFormDriver js;
+  Cells odd = ResultFormDriver::Bar(19, 1, 0);
+  odd[6].second = 12.5;
+  js.site.AddRow(odd);
+  js.Open();
+  EXPECT_TRUE(js.Shows("Lwarning"));
+  EXPECT_EQ(js.Label("Lwarning"), " 1頁の5行目の定尺を確認");
+}
+
+TEST(BulkScreen, AFaultOfTheTallyEndsTheActionAndLeavesTheFormUsable) {
+  ResultFormDriver js;
+  js.Open();
+  // A diameter that belongs to no row comes in behind the form's back.
+  SiteContext.WorkDatabase->Execute("UPDATE 加工テーブル SET 太さ=14 WHERE 太さ=19");
+  js.Click("cmdHoop");
+  ASSERT_EQ(js.site.Messages().size(), 1U);
+  EXPECT_THAT(js.site.Messages()[0].text, HasSubstr("subscript out of range"));
+  EXPECT_FALSE(js.Shows("SSPanel4"));
+  EXPECT_TRUE(js.Button("cmdExit")->isEnabled());
+  EXPECT_TRUE(js.Shows("Command3"));
+}
+
+TEST(BulkScreen, EscLeavesAndTheSelectionIsAsTheMenuExpectsIt) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_Escape);
+  EXPECT_FALSE(js.form->isVisible());
+  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
+}
+
+TEST(BulkScreen, AnAccumulationUnderWayIsTold) {
+  ResultFormDriver js;
+  js.Open();
+  RunState.AccumulateFlag = 1;
+  Selection.MaterialCalcChoice = 1;
+  js.form = std::make_unique<ResultForm>(kBulkScreen, js.parts);
+  js.form->show();
+  EXPECT_TRUE(js.Shows("hozon"));
+  EXPECT_EQ(js.Label("hozon"), "集計累積保存中解除はＦ６を押す");
+  EXPECT_EQ(Selection.MaterialCalcChoice, 1);  // an accumulation keeps the choice
+}
+
+}  // namespace rbt::test

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+#include "platform/profile/registry.h"
+#include "platform/system/paths.h"
+#include "session/startup/startup.h"
+#include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "support/site_fixture.h"
+#include "tally/selection.h"
+
+namespace rbt::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class Activate : public testing::Test {
+ protected:
+  MenuState LoadAndActivate() {
+    LoadSite(options_);
+    return ActivateMenu(options_);
+  }
+
+  SiteFixture site_;
+  StartOptions options_;
+};
+
+TEST_F(Activate, LeavesTheSiteDatabaseOpen) {
+  LoadAndActivate();
+  ASSERT_NE(SiteContext.WorkDatabase, nullptr);
+  EXPECT_EQ(SiteContext.WorkDatabase->File().filename(), "GENBA001.MDB");
+}
+
+TEST_F(Activate, RefreshesTheScheduleEachTime) {
+  site_.AddRow({{"太さ", 19}, {"予備2", 2}, {"形状No", 143}, {"本数", 2}, {"ヶ所", 3}});
+  LoadAndActivate();
+  EXPECT_THAT(site_.Column("定着板数"), ElementsAre("12"));
+  site_.Execute(kScheduleFile, "UPDATE 加工テーブル SET 定着板数 = 1, 予備2 = 2");
+  ActivateMenu(options_);
+  EXPECT_THAT(site_.Column("定着板数"), ElementsAre("12"));
+  EXPECT_THAT(site_.Column("予備2"), ElementsAre("1"));
+}
+
+TEST_F(Activate, AgainOnTheSameSiteLeavesTheFileUntouched) {
+  site_.AddRow({{"太さ", 6}, {"部位", 3}, {"名称", "縦ｽﾘｯﾄ筋　"}, {"形状No", 143}, {"本数", 2}, {"ヶ所", 3}});
+  LoadAndActivate();
+  const std::string bytes = ReadFileBytes(site_.Data(kScheduleFile));
+  ActivateMenu(options_);
+  EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), bytes);
+}
+
+TEST_F(Activate, WithoutPreparationTheScheduleStaysAsItIs) {
+  site_.AddRow({{"太さ", 19}, {"予備2", 2}, {"形状No", 143}, {"本数", 2}, {"ヶ所", 3}});
+  options_.prepare = false;
+  LoadAndActivate();
+  EXPECT_THAT(site_.Column("定着板数"), ElementsAre("null"));
+  EXPECT_THAT(site_.Column("予備2"), ElementsAre("2"));
+}
+
+TEST_F(Activate, FollowsTheSelectedSite) {
+  LoadSite(options_);
+  std::filesystem::copy_file(site_.Data(kScheduleFile), site_.Data("GENBA002.MDB"));
+  site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "GENBA002.MDB");
+  ActivateMenu(options_);
+  EXPECT_EQ(SiteContext.SelectedDbName, "GENBA002.MDB");
+  EXPECT_EQ(SiteContext.WorkDatabase->File().filename(), "GENBA002.MDB");
+}
+
+TEST_F(Activate, OnASiteThatHasGoneFaultsWithItsName) {
+  LoadSite(options_);
+  std::filesystem::remove(site_.Data(kScheduleFile));
+  try {
+    ActivateMenu(options_);
+    FAIL() << "the site database is missing";
+  } catch (const Fault& fault) {
+    EXPECT_THAT(fault.what(), HasSubstr("GENBA001.MDB"));
+  }
+}
+
+TEST_F(Activate, RereadsTheTitleOfTheReports) {
+  site_.SetIni(kSteelFile, "加工帳", "数量表印字タイトル", "数量");
+  LoadAndActivate();
+  EXPECT_EQ(Settings.ReportTitleText, "");
+  SetRegistryText("Kakou", "重量集計", "数量表タイトル", "3");
+  SetRegistryText("Kakou", "重量集計", "明細画面重量表示", "1");
+  ActivateMenu(options_);
+  EXPECT_EQ(Settings.ReportTitleText, "数量");
+  EXPECT_EQ(Settings.DetailShowsWeight, 1);
+}
+
+TEST_F(Activate, ReadiesTheSelectionForANewTally) {
+  LoadSite(options_);
+  Selection.MaterialCalcChoice = 0;
+  Selection.MaterialFormMask = 3;
+  Selection.MaterialKindMask = 1;
+  Selection.HoopMode = 2;
+  ActivateMenu(options_);
+  EXPECT_EQ(Selection.MaterialCalcChoice, 2);
+  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(Selection.MaterialKindMask, 1) << "the result forms set it when they load";
+}
+
+TEST_F(Activate, ForgetsTheHoopsOfTheLastTallyAndKeepsItsAnchorPlates) {
+  LoadSite(options_);
+  RunState.HasHoopRows = true;
+  RunState.HasAnchorPlateRows = true;
+  ActivateMenu(options_);
+  EXPECT_FALSE(RunState.HasHoopRows);
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+}
+
+TEST_F(Activate, KeepsTheSelectionWhileAnAccumulationRuns) {
+  LoadSite(options_);
+  RunState.AccumulateFlag = 1;
+  Selection.MaterialCalcChoice = 0;
+  Selection.MaterialFormMask = 3;
+  Selection.HoopMode = 2;
+  ActivateMenu(options_);
+  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+  EXPECT_EQ(Selection.MaterialFormMask, 3);
+  EXPECT_EQ(Selection.HoopMode, 0);
+}
+
+TEST_F(Activate, ReadsTheCallersMarkEachTime) {
+  EXPECT_TRUE(LoadAndActivate().Shows("cmdTouroS"));
+  site_.SetIni(kNextPrgFile, "データ", "重量集計", "j");
+  EXPECT_FALSE(ActivateMenu(options_).Shows("cmdTouroS"));
+  site_.SetIni(kNextPrgFile, "データ", "重量集計", "");
+  EXPECT_TRUE(ActivateMenu(options_).Shows("cmdTouroS"));
+}
+
+TEST_F(Activate, GoesOnWithoutTheHandOverFile) {
+  std::filesystem::remove(site_.Data(kNextPrgFile));
+  EXPECT_TRUE(LoadAndActivate().Shows("cmdTouroS"));
+}
+
+TEST_F(Activate, PassThroughModesPrepareTheDataAndAskForTheCompanion) {
+  site_.AddRow({{"太さ", 19}, {"形状No", 143}, {"本数", 2}, {"ヶ所", 3}, {"伸切寸", 7100}});
+  options_.start_mode = 2;
+  const MenuState menu = LoadAndActivate();
+  EXPECT_TRUE(menu.minimised);
+  EXPECT_EQ(menu.pass_on_to, "\\rbk\\rbtally2.exe 2");
+  EXPECT_THAT(site_.Column("定着板数"), ElementsAre("12"));
+  EXPECT_THAT(site_.Column("予備3"), ElementsAre("3"));
+}
+
+TEST_F(Activate, OfTheCommandLineAsksForNoSibling) {
+  options_.command_line = true;
+  for (const std::int32_t mode : {2, 3}) {
+    options_.start_mode = mode;
+    EXPECT_FALSE(LoadAndActivate().pass_on_to) << mode;
+  }
+  EXPECT_THAT(site_.Launches(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace rbt::test

@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "archive/check_jsyukei.h"
+#include "platform/fault.h"
+#include "platform/profile/registry.h"
+#include "platform/system/paths.h"
+#include "session/startup/startup.h"
+#include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "support/site_fixture.h"
+#include "tally/selection.h"
+
+namespace rbt::test {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class Load : public testing::Test {
+ protected:
+  LoadResult Run() { return LoadSite(options_); }
+  std::string FaultOfRun() {
+    try {
+      Run();
+    } catch (const Fault& fault) {
+      return fault.what();
+    }
+    return "no fault";
+  }
+  std::vector<std::string> Marks() const {
+    std::vector<std::string> marks;
+    for (const auto& row : site_.Rows(kCompanionFile, "SELECT 表示番号 FROM 登録名")) {
+      marks.push_back(Shown(row.front()));
+    }
+    return marks;
+  }
+  void SetVersion(const char* version) {
+    site_.Add(kScheduleFile, "データーベースバージョン", {{"バージョン", version}});
+    site_.PutProgram("DATA/rbtallyS.exe");
+  }
+
+  SiteFixture site_;
+  StartOptions options_;
+};
+
+TEST_F(Load, BindsTheSiteThatSteelIniNames) {
+  Run();
+  EXPECT_EQ(SiteContext.SelectedDbName, "GENBA001.MDB");
+  EXPECT_EQ(SiteContext.SiteNumberText, "001");
+  EXPECT_EQ(SiteContext.LongSiteName, "");
+  EXPECT_EQ(SiteContext.MakerNumber, 0);
+  EXPECT_EQ(SiteContext.GradeNames[1], "SD1");
+  EXPECT_EQ(SiteContext.GradeNames[10], "SD10");
+  EXPECT_EQ(RunState.RunDate, "20261121");
+  EXPECT_EQ(RunState.RunTime, "090000");
+  EXPECT_THAT(site_.Messages(), IsEmpty());
+}
+
+TEST_F(Load, LeavesTheMasterDatabaseOpenAndTheSiteClosed) {
+  Run();
+  EXPECT_NE(SiteContext.MasterDatabase, nullptr);
+  EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
+  EXPECT_EQ(SiteContext.FixedStockDatabase, nullptr);
+}
+
+TEST_F(Load, WithoutSteelIniFaultsWithTheFilesName) {
+  std::filesystem::remove(site_.Data(kSteelFile));
+  EXPECT_THAT(FaultOfRun(), HasSubstr("STEEL.INI: the file does not exist"));
+}
+
+TEST_F(Load, WithoutASelectedSiteFaultsWithTheKeysName) {
+  site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("STEEL.INI: no site: [データ] 選択ＤＢ名 is empty"));
+}
+
+TEST_F(Load, WithoutTheSiteDatabaseFaultsWithItsName) {
+  site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "GENBA007.MDB");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("GENBA007.MDB: the file does not exist"));
+}
+
+TEST_F(Load, WithoutTheMasterDatabaseFaultsWithItsName) {
+  std::filesystem::remove(site_.Data(kMasterFile));
+  EXPECT_THAT(FaultOfRun(), HasSubstr("SORANO.MDB"));
+}
+
+TEST_F(Load, WithoutTheCompanionFileFaultsWithItsNameInEveryStartMode) {
+  std::filesystem::remove(site_.Data(kCompanionFile));
+  for (const std::int32_t mode : {-1, 2}) {
+    options_.start_mode = mode;
+    EXPECT_THAT(FaultOfRun(), HasSubstr("HIROI001.mdb"));
+  }
+}
+
+TEST_F(Load, ASiteThatTheMasterDatabaseDoesNotKnowFaults) {
+  site_.Execute(kMasterFile, "DELETE * FROM 工事テーブル");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("GENBA001.MDB"));
+}
+
+TEST_F(Load, AShortFileNameGivesTheCompanionFileAShortNumber) {
+  std::filesystem::copy_file(site_.Data(kScheduleFile), site_.Data("GENBA1"));
+  std::filesystem::copy_file(site_.Data(kCompanionFile), site_.Data("HIROI1.mdb"));
+  site_.Add(kMasterFile, "工事テーブル", {{"番号", 2}, {"データパス", "GENBA1"}});
+  site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "GENBA1");
+  Run();
+  EXPECT_EQ(SiteContext.SiteNumberText, "1");
+}
+
+TEST_F(Load, TakesTheSiteOfTheOptionsInPlaceOfTheSelectedOne) {
+  std::filesystem::rename(site_.Data(kScheduleFile), site_.Data("GENBA002.MDB"));
+  std::filesystem::rename(site_.Data(kCompanionFile), site_.Data("HIROI002.mdb"));
+  site_.Add(kMasterFile, "工事テーブル", {{"番号", 2}, {"データパス", "GENBA002.MDB"}, {"メーカーNo", 3}});
+  options_.site = "GENBA002.MDB";
+  Run();
+  EXPECT_EQ(SiteContext.SiteNumberText, "002");
+  EXPECT_EQ(SiteContext.MakerNumber, 3);
+}
+
+TEST_F(Load, WritesTheWidthThatALongNameLacks) {
+  site_.Execute(kMasterFile, "UPDATE 工事テーブル SET 長い工事名 = '長い名前の工事'");
+  Run();
+  EXPECT_EQ(SiteContext.LongSiteName, "長い名前の工事");
+  EXPECT_EQ(SiteContext.LongSiteNameWidth, 50);
+  EXPECT_THAT(site_.Rows(kMasterFile, "SELECT 工事名区切り文字数 FROM 工事テーブル"),
+              ElementsAre(ElementsAre(Value{std::int64_t{50}})));
+}
+
+TEST_F(Load, ClassifiesTheScheduleByTheStartMode) {
+  site_.AddRow({{"太さ", 19}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}});
+  Run();
+  EXPECT_THAT(site_.Column("予備3"), ElementsAre("1"));
+  options_.start_mode = 4;
+  Run();
+  EXPECT_EQ(Selection.StartMode, 4);
+  EXPECT_THAT(site_.Column("予備3"), ElementsAre("2"));
+}
+
+TEST_F(Load, WithoutPreparationTheScheduleStaysAsItIs) {
+  site_.AddRow({{"太さ", 6}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}});
+  options_.prepare = false;
+  Run();
+  EXPECT_THAT(site_.Column("予備3"), ElementsAre("null"));
+  EXPECT_THAT(site_.Column("予備2"), ElementsAre("null"));
+}
+
+TEST_F(Load, MakesAnUnusedArchiveAnewFromTheTemplate) {
+  site_.Execute(kScheduleFile, "DROP TABLE 重量集計名称");
+  site_.Execute(kScheduleFile, "DROP TABLE 階別重量集計");
+  Run();
+  Database schedule = Database::Open(site_.Data(kScheduleFile));
+  EXPECT_TRUE(Table_Exists("重量集計名称", schedule));
+  EXPECT_TRUE(Table_Exists("階別重量集計", schedule));
+}
+
+TEST_F(Load, GoesOnWithoutTheArchiveTemplate) {
+  std::filesystem::remove(site_.Data(kTemplateFile));
+  Run();
+  ASSERT_THAT(site_.Messages(), SizeIs(1));
+  EXPECT_EQ(site_.Messages().front().title, "ファイル無し");
+  EXPECT_EQ(RunState.RunDate, "20261121");
+}
+
+TEST_F(Load, EveryRegisteredNameStartsOutAsSelected) {
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 2}, {"表示番号", 0}});
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}});
+  site_.Add(kCompanionFile, "登録名", {{"登録名", "番号なし"}, {"表示番号", 0}});
+  Run();
+  EXPECT_THAT(Marks(), ElementsAre("1", "1", "0"));
+}
+
+TEST_F(Load, MarksTheRegisteredNamesBeforeItAsksTheMasterDatabase) {
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
+  site_.Execute(kMasterFile, "DELETE * FROM 工事テーブル");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("工事テーブル"));
+  EXPECT_THAT(Marks(), ElementsAre("1"));
+}
+
+TEST_F(Load, StartModes2And3LeaveTheRegisteredNamesAsTheyAre) {
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
+  for (const std::int32_t mode : {2, 3}) {
+    options_.start_mode = mode;
+    Run();
+    EXPECT_THAT(Marks(), Each("0"));
+  }
+}
+
+TEST_F(Load, SelectedNamesAreNotWrittenAgain) {
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 1}});
+  const std::string bytes = ReadFileBytes(site_.Data(kCompanionFile));
+  Run();
+  EXPECT_EQ(ReadFileBytes(site_.Data(kCompanionFile)), bytes);
+}
+
+TEST_F(Load, AGradeWithoutARowIsToldAndTheLoadGoesOn) {
+  site_.Execute(kMasterFile, "DELETE * FROM T_SD WHERE SDコード = 4");
+  Run();
+  ASSERT_THAT(site_.Messages(), SizeIs(1));
+  EXPECT_EQ(site_.Messages().front().text, "ＳＤ名が登録されていません。");
+  EXPECT_EQ(SiteContext.GradeNames[4], "");
+  EXPECT_EQ(SiteContext.GradeNames[5], "SD5");
+}
+
+TEST_F(Load, CopiesTheFixedStockTableWhereItIsMissing) {
+  std::filesystem::remove(site_.Data(kFixedStockFile));
+  Run();
+  EXPECT_TRUE(std::filesystem::exists(site_.Data(kFixedStockFile)));
+  EXPECT_EQ(SiteContext.FixedStockDatabase, nullptr);
+}
+
+TEST_F(Load, OpensTheFixedStockTableForTheRunWhenItIsUsed) {
+  SetRegistryText("Kakou", "定尺", "テーブル有無", "1");
+  Run();
+  EXPECT_NE(SiteContext.FixedStockDatabase, nullptr);
+}
+
+TEST_F(Load, LeavesTheFixedStockTableShutForAnyOtherSetting) {
+  for (const char* setting : {"0", "2", "-1"}) {
+    SetRegistryText("Kakou", "定尺", "テーブル有無", setting);
+    Run();
+    EXPECT_EQ(SiteContext.FixedStockDatabase, nullptr) << setting;
+  }
+}
+
+TEST_F(Load, EndsAnAccumulationThatWasUnderWay) {
+  RunState.AccumulateFlag = 1;
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  site_.PutProgram("DATA/hozon.MDB");
+  Run();
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "0");
+  EXPECT_FALSE(std::filesystem::exists(site_.Data("hozon.MDB")));
+}
+
+TEST_F(Load, OfTheCommandLineLeavesAnAccumulationAlone) {
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  site_.PutProgram("DATA/hozon.MDB");
+  options_.command_line = true;
+  Run();
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "1");
+  EXPECT_TRUE(std::filesystem::exists(site_.Data("hozon.MDB")));
+}
+
+TEST_F(Load, HandsASiteOfANewerFormatOverToTheProgramThatReadsIt) {
+  SetVersion("6.1");
+  EXPECT_EQ(Run().hand_over_to, "\\rbk\\rbtally1S.exe");
+  EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
+  EXPECT_THAT(site_.Launches(), IsEmpty());
+}
+
+TEST_F(Load, KeepsASiteOfThisFormat) {
+  SetVersion("6.0");
+  EXPECT_FALSE(Run().hand_over_to);
+}
+
+TEST_F(Load, KeepsANewerSiteWhenNoOtherProgramIsInstalled) {
+  SetVersion("6.1");
+  std::filesystem::remove(site_.Data("rbtallyS.exe"));
+  EXPECT_FALSE(Run().hand_over_to);
+}
+
+TEST_F(Load, OfTheCommandLineKeepsANewerSite) {
+  SetVersion("6.1");
+  options_.command_line = true;
+  EXPECT_FALSE(Run().hand_over_to);
+  EXPECT_EQ(RunState.RunDate, "20261121");
+}
+
+TEST_F(Load, PassesOverTablesThatOlderSitesLack) {
+  site_.PutProgram("DATA/rbtallyS.exe");
+  site_.Execute(kScheduleFile, "DROP TABLE データーベースバージョン");
+  site_.Execute(kScheduleFile, "DROP TABLE 形状テーブル");
+  EXPECT_FALSE(Run().hand_over_to);
+}
+
+TEST_F(Load, PassesOverAVersionThatIsNotTold) {
+  site_.PutProgram("DATA/rbtallyS.exe");
+  EXPECT_FALSE(Run().hand_over_to) << "no row";
+  site_.Add(kScheduleFile, "データーベースバージョン", {});
+  EXPECT_FALSE(Run().hand_over_to) << "a null version";
+}
+
+TEST_F(Load, TellsWhatTheSiteHolds) {
+  Run();
+  EXPECT_FALSE(RunState.HasAnchorPlateRows);
+  EXPECT_FALSE(RunState.HasHoopRows);
+  site_.AddRow({{"太さ", 19}, {"形状No", 176}});
+  site_.AddRow({{"太さ", 13}, {"形状No", 87}});
+  Run();
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+  EXPECT_TRUE(RunState.HasHoopRows);
+}
+
+TEST_F(Load, TellsWhichSiblingsAreOnDisk) {
+  site_.PutProgram("KAKOU/RBWELDCNT.EXE");
+  site_.PutProgram("KAKOU/rbplateprt.exe");
+  const LoadResult result = Run();
+  EXPECT_TRUE(RunState.HasWeldCounter);
+  EXPECT_FALSE(RunState.HasJoinCounter);
+  EXPECT_FALSE(RunState.HasPlateCounter);
+  EXPECT_TRUE(result.shows_plate_sheet);
+}
+
+TEST_F(Load, ReadsTheSettings) {
+  site_.SetIni(kSteelFile, "加工帳", "文字の色", "255");
+  SetRegistryText("Jyuryo", "定尺", "定尺13有無", "1");
+  SetRegistryText("Kakou", "出荷日設定", "出荷日", "2");
+  Run();
+  EXPECT_EQ(Settings.GridRowBackColor, 16777152);
+  EXPECT_EQ(Settings.GridRowForeColor, 255);
+  EXPECT_EQ(Settings.Use13mColumn, 1);
+  EXPECT_EQ(Settings.ShippingDate, 2);
+}
+
+TEST_F(Load, LetsPendingEventsRunBetweenItsSteps) {
+  int times = 0;
+  SetPendingEventsHook([&] { ++times; });
+  Run();
+  SetPendingEventsHook({});
+  EXPECT_GT(times, 10);
+}
+
+TEST_F(Load, CanBeRepeatedOnTheSameSite) {
+  site_.AddRow({{"太さ", 19}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}, {"本数", 2}, {"ヶ所", 3}});
+  Run();
+  const auto first = site_.Rows(kScheduleFile, "SELECT * FROM 加工テーブル");
+  Run();
+  EXPECT_EQ(site_.Rows(kScheduleFile, "SELECT * FROM 加工テーブル"), first);
+}
+
+}  // namespace
+}  // namespace rbt::test

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOption>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "showroom/all_forms.h"
+#include "support/desktop/key_press.h"
+#include "support/site_fixture.h"
+
+namespace rbt::test {
+
+namespace {
+
+QRect PlaceOf(const QWidget& control, const QWidget& form) {
+  return {control.mapTo(&form, QPoint(0, 0)), control.size()};
+}
+
+/// Controls that Tab comes to, in its order, from the one on that the eye meets first.
+std::vector<QWidget*> TabWalk(QWidget& form) {
+  std::vector<QWidget*> walk;
+  for (QWidget* at = form.focusWidget(); at != nullptr; at = form.focusWidget()) {
+    if (std::find(walk.begin(), walk.end(), at) != walk.end()) break;
+    walk.push_back(at);
+    Press(form, Qt::Key_Tab);
+  }
+  const auto first = std::min_element(walk.begin(), walk.end(), [&](const QWidget* a, const QWidget* b) {
+    const QRect left = PlaceOf(*a, form);
+    const QRect right = PlaceOf(*b, form);
+    return std::pair(left.top(), left.left()) < std::pair(right.top(), right.left());
+  });
+  std::rotate(walk.begin(), first, walk.end());
+  return walk;
+}
+
+/// True when the eye goes on from `from` to `to`: downwards, or to the right.
+bool ReadsOn(const QRect& from, const QRect& to) {
+  return to.top() >= from.bottom() || to.left() >= from.right();
+}
+
+QSize TextSize(const QWidget& control, const QString& text) { return control.fontMetrics().size(0, text); }
+
+/// The text of a control, and the room that it has for it.
+struct Caption {
+  QString text;
+  QSize room;
+};
+
+std::optional<Caption> CaptionOf(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+    return Caption{label->text(), label->contentsRect().size()};
+  }
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    QStyle::SubElement contents = QStyle::SE_PushButtonContents;
+    if (qobject_cast<const QCheckBox*>(button) != nullptr) contents = QStyle::SE_CheckBoxContents;
+    if (qobject_cast<const QRadioButton*>(button) != nullptr) contents = QStyle::SE_RadioButtonContents;
+    const QRect room = button->style()->subElementRect(contents, &option, button);
+    return Caption{button->text(), room.size()};
+  }
+  if (const auto* frame = qobject_cast<const QGroupBox*>(&control)) {
+    return Caption{frame->title(), frame->size()};
+  }
+  return std::nullopt;
+}
+
+void ExpectNoClippedCaption(const QWidget& form, const std::string& where) {
+  for (const QWidget* control : form.findChildren<QWidget*>()) {
+    if (!control->isVisible()) continue;
+    EXPECT_TRUE(form.rect().contains(PlaceOf(*control, form)))
+        << where << ": " << control->objectName().toStdString() << " leaves the form";
+    const std::optional<Caption> caption = CaptionOf(*control);
+    if (!caption || caption->text.isEmpty()) continue;
+    const QSize needed = TextSize(*control, caption->text);
+    EXPECT_LE(needed.width(), caption->room.width()) << where << ": " << caption->text.toStdString();
+    EXPECT_LE(needed.height(), caption->room.height()) << where << ": " << caption->text.toStdString();
+  }
+}
+
+/// A site whose schedule is not empty: a straight bar and a welded hoop.
+struct WalkedSite : SiteFixture {
+  WalkedSite() {
+    for (const std::int64_t shape : {1, 87}) {
+      AddRow({{"太さ", std::int64_t{13}},
+              {"形状No", shape},
+              {"本数", std::int64_t{10}},
+              {"合計", std::int64_t{10}},
+              {"伸切寸", std::int64_t{6000}},
+              {"伸定尺", 6.0},
+              {"伸総計", std::int64_t{10}}});
+    }
+  }
+};
+
+/// Puts away every form that an action shows modally, so that the action comes to its end.
+class ModalFormCloser {
+ public:
+  ModalFormCloser() {
+    QObject::connect(&timer_, &QTimer::timeout, [] {
+      if (QWidget* form = QApplication::activeModalWidget()) form->hide();
+    });
+    timer_.start(5);
+  }
+
+ private:
+  QTimer timer_;
+};
+
+/// A form in one of its states, shown.
+std::unique_ptr<QWidget> Shown(const FormEntry& entry, const FormState& state) {
+  std::unique_ptr<QWidget> form = entry.make();
+  form->show();
+  form->activateWindow();
+  Settle();
+  state.bring(*form);
+  Settle();
+  return form;
+}
+
+}  // namespace
+
+TEST(AllForms, AreNamedAsRegistered) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    EXPECT_EQ(entry.make()->objectName().toStdString(), entry.name);
+    EXPECT_FALSE(entry.states.empty()) << entry.name;
+  }
+}
+
+TEST(AllForms, StartWithTheFocusOnTheirFirstControl) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    const std::unique_ptr<QWidget> form = Shown(entry, entry.states.front());
+    ASSERT_NE(form->focusWidget(), nullptr) << entry.name;
+    EXPECT_EQ(form->focusWidget()->objectName().toStdString(), entry.first_focus);
+  }
+}
+
+TEST(AllForms, TabGoesRoundInReadingOrder) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    for (const FormState& state : entry.states) {
+      const std::unique_ptr<QWidget> form = Shown(entry, state);
+      const std::vector<QWidget*> walk = TabWalk(*form);
+      ASSERT_GT(walk.size(), 1U) << entry.name << " " << state.name;
+      for (std::size_t i = 1; i < walk.size(); ++i) {
+        EXPECT_TRUE(ReadsOn(PlaceOf(*walk[i - 1], *form), PlaceOf(*walk[i], *form)))
+            << entry.name << " " << state.name << ": " << walk[i - 1]->objectName().toStdString() << " to "
+            << walk[i]->objectName().toStdString();
+      }
+    }
+  }
+}
+
+TEST(AllForms, ShowTheirCaptionsWhole) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    for (const FormState& state : entry.states) {
+      const std::unique_ptr<QWidget> form = Shown(entry, state);
+      ExpectNoClippedCaption(*form, entry.name + " " + state.name);
+      form->resize(1, 1);
+      Settle();
+      ExpectNoClippedCaption(*form, entry.name + " " + state.name + ", as small as it goes");
+    }
+  }
+}
+
+TEST(AllForms, AnswerEveryKeyOfTheirTableInEveryState) {
+  const WalkedSite site;
+  const ModalFormCloser closer;
+  for (const FormEntry& entry : AllForms()) {
+    EXPECT_FALSE(entry.keys.empty()) << entry.name;
+    for (const FormState& state : entry.states) {
+      for (const int key : entry.keys) {
+        const std::unique_ptr<QWidget> form = Shown(entry, state);
+        EXPECT_TRUE(Press(*form, key)) << entry.name << " " << state.name << " key " << key;
+      }
+    }
+  }
+}
+
+TEST(AllForms, EnterPressesTheButtonThatHasTheFocus) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    const std::unique_ptr<QWidget> form = Shown(entry, entry.states.front());
+    for (QPushButton* button : form->findChildren<QPushButton*>()) {
+      if (!button->isVisible() || !button->isEnabled()) continue;
+      int pressed = 0;
+      button->disconnect();
+      QObject::connect(button, &QPushButton::clicked, [&pressed] { ++pressed; });
+      button->setFocus();
+      Press(*form, Qt::Key_Return);
+      EXPECT_EQ(pressed, 1) << entry.name << " " << button->objectName().toStdString();
+    }
+  }
+}
+
+}  // namespace rbt::test

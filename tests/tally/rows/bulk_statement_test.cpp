@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "tally/rows/bulk_statement.h"
+
+#include <algorithm>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tally/clauses.h"
+
+namespace rbt {
+namespace {
+
+constexpr const char* kHead =
+    "SELECT * FROM 加工テーブル WHERE 太さ is not NULL AND 伸定尺 is not NULL AND 本数 is not NULL";
+
+SelectionData Masks(std::int32_t kinds, std::int16_t forms) {
+  SelectionData selection;
+  selection.MaterialKindMask = kinds;
+  selection.MaterialFormMask = forms;
+  return selection;
+}
+
+TEST(BulkStatement, OfAllKindsAndFormsHasNoClauseAtAll) {
+  EXPECT_EQ(BulkStatement(Masks(15, 15), true), kHead);
+  EXPECT_EQ(BulkStatement(Masks(0, 0), true), kHead);
+}
+
+TEST(BulkStatement, TakesTheFormBeforeTheKind) {
+  EXPECT_EQ(BulkStatement(Masks(1, 9), false),
+            std::string(kHead) + " AND (予備3 = 1 OR 予備3 = 4) AND (予備2<=1 or IsNull(予備2) or 予備2=2)");
+}
+
+TEST(BulkStatement, LetsTheUlbonRowsOfTheSlitMaskLeaveEveryOtherCondition) {
+  EXPECT_EQ(BulkStatement(Masks(8, 1), false),
+            std::string(kHead) + " AND 予備3 = 1 AND (予備2=5) or 予備2=2");
+}
+
+TEST(BulkStatement, LimitsToHoopsOnlyWhenTheSiteHasHoops) {
+  SelectionData selection;
+  selection.HoopMode = 2;
+  EXPECT_EQ(BulkStatement(selection, true), std::string(kHead) + " AND 形状No=87 ");
+  EXPECT_EQ(BulkStatement(selection, false), kHead);
+  selection.HoopMode = 1;  // left out row by row, so that their threads, plates and cuts stay
+  EXPECT_EQ(BulkStatement(selection, true), kHead);
+}
+
+TEST(BulkStatement, LimitsByAnchorPlatesWhetherThereAreAnyOrNot) {
+  SelectionData selection;
+  selection.AnchorPlateMode = 1;
+  EXPECT_EQ(
+      BulkStatement(selection, false),
+      std::string(kHead) +
+          " AND (IsNull(形状No) OR 形状No=0 or 形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR "
+          "(形状No Between 148 And 160) OR (形状No Between 162 And 163) OR (形状No Between 170 And 174) OR "
+          "形状No >=177)");
+  selection.AnchorPlateMode = 2;
+  selection.HoopMode = 2;
+  EXPECT_EQ(
+      BulkStatement(selection, true),
+      std::string(kHead) +
+          " AND 形状No=87  AND (形状No=138 OR 形状No=140 OR (形状No Between 143 And 147) OR 形状No=161 OR "
+          "(形状No Between 164 And 169) OR (形状No Between 175 And 176))");
+}
+
+TEST(BulkStatementSoFar, LeavesTheModesToTheStatement) {
+  SelectionData selection = Masks(2, 4);
+  selection.HoopMode = 2;
+  selection.AnchorPlateMode = 2;
+  EXPECT_EQ(BulkStatementSoFar(selection), std::string(kHead) + " AND 予備3 = 3 AND (予備2=4 or 予備2=2)");
+}
+
+TEST(Clauses, KeepUlbonInForEveryKind) {
+  for (int mask = 1; mask < 15; ++mask) {
+    EXPECT_NE(KindClause(mask).find("予備2=2"), std::string_view::npos) << mask;
+  }
+}
+
+TEST(Clauses, NameExactlyTheKindsAndFormsOfTheirBits) {
+  const char* const kinds[] = {"予備2<=1", "予備2=4", "予備2=3", "予備2=5"};
+  const char* const forms[] = {"予備3 = 1", "予備3 = 2", "予備3 = 3", "予備3 = 4"};
+  for (int mask = 1; mask < 15; ++mask) {
+    for (int bit = 0; bit < 4; ++bit) {
+      const bool has_bit = (mask & (1 << bit)) != 0;
+      EXPECT_EQ(KindClause(mask).find(kinds[bit]) != std::string_view::npos, has_bit) << mask << ' ' << bit;
+      EXPECT_EQ(FormClause(mask).find(forms[bit]) != std::string_view::npos, has_bit) << mask << ' ' << bit;
+    }
+  }
+}
+
+TEST(Clauses, CloseEveryParenthesisButLeaveTheSlitMasksOrOutside) {
+  for (int mask = 1; mask < 15; ++mask) {
+    const std::string_view text = KindClause(mask);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '('), std::count(text.begin(), text.end(), ')')) << mask;
+    EXPECT_EQ(text.ends_with(')'), mask != 8) << mask;
+  }
+}
+
+TEST(ResetMeaninglessModes, TakesPlatesAloneBackWhenTheKindsBecomeOnesWithoutPlates) {
+  for (int mask = 1; mask <= 15; ++mask) {
+    SelectionData selection = Masks(mask, 15);
+    selection.PrevMaterialKindMask = 0;
+    selection.AnchorPlateMode = 2;
+    ResetMeaninglessModes(selection);
+    EXPECT_EQ(selection.AnchorPlateMode, mask == 4 || mask == 8 || mask == 12 ? 0 : 2) << mask;
+  }
+}
+
+TEST(ResetMeaninglessModes, TakesHoopsAloneBackWhenTheKindsBecomeOnesWithoutHoops) {
+  for (int mask = 1; mask <= 15; ++mask) {
+    SelectionData selection = Masks(mask, 15);
+    selection.PrevMaterialKindMask = 0;
+    selection.HoopMode = 2;
+    ResetMeaninglessModes(selection);
+    EXPECT_EQ(selection.HoopMode, mask == 2 || mask == 8 || mask == 10 ? 0 : 2) << mask;
+  }
+}
+
+TEST(ResetMeaninglessModes, LeavesModesAloneThatLeaveShapesOutAndKindsThatDidNotChange) {
+  SelectionData selection = Masks(8, 15);
+  selection.HoopMode = 1;
+  selection.AnchorPlateMode = 1;
+  ResetMeaninglessModes(selection);
+  EXPECT_EQ(selection.HoopMode, 1);
+  EXPECT_EQ(selection.AnchorPlateMode, 1);
+  selection.PrevMaterialKindMask = 8;
+  selection.HoopMode = 2;
+  selection.AnchorPlateMode = 2;
+  ResetMeaninglessModes(selection);
+  EXPECT_EQ(selection.HoopMode, 2);
+  EXPECT_EQ(selection.AnchorPlateMode, 2);
+}
+
+}  // namespace
+}  // namespace rbt
