@@ -5,11 +5,10 @@
 #include <string>
 
 #include "data/bar_tables.h"
-#include "platform/numbers/number_mask.h"
 #include "reports/frame/letter_spacing.h"
-#include "reports/frame/print_frame.h"
+#include "reports/frame/number_field.h"
 #include "reports/frame/print_jisya.h"
-#include "reports/frame/report_text.h"
+#include "reports/frame/report_pen.h"
 
 namespace rbt {
 
@@ -32,8 +31,7 @@ bool IsWeight(Figure figure) {
 
 template <typename Number>
 std::string CellText(const ComparisonColumn& column, Number value) {
-  return RightAligned(FormatNumber(value, kCellMask), column.characters) +
-         (IsWeight(column.figure) ? " Kg" : "");
+  return FieldText({column.characters, kCellMask, IsWeight(column.figure) ? " Kg" : ""}, value);
 }
 
 std::string DiameterCell(const TallyTable& table, const ComparisonColumn& column, int d) {
@@ -95,9 +93,7 @@ class Table {
 
   void Draw() {
     Frame();
-    Printer_.FontName = ReportFont;
-    Printer_.FontSize = kTextSize;
-    Printer_.FontBold = false;
+    SetReportFont(Printer_, kTextSize);
     Headings();
     Diameters();
     Totals();
@@ -175,10 +171,9 @@ class Table {
     if (!form_.loss_rate) return;
     const LossRateLine& line = *form_.loss_rate;
     Printer_.DrawWidth = kLossRuleWidth;
-    const std::string rate =
-        RightAligned(FormatNumber(sheet_.table.LossRatePercent, "0.00"), line.characters);
+    const std::string rate = FieldText({line.characters, kRateMask, " %"}, sheet_.table.LossRatePercent);
     const float y = grid_.Y(frame_.last + line.rows_below) + kTextDrop;
-    PrintRuled(Printer_, line.place, y, {"ロス率", line.gap, rate, " %"});
+    PrintRuled(Printer_, line.place, y, {"ロス率", line.gap, rate});
   }
 
   PrinterSurface& Printer_;

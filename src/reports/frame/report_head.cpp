@@ -6,7 +6,8 @@
 
 #include "platform/text/characters.h"
 #include "reports/frame/letter_spacing.h"
-#include "reports/frame/print_frame.h"
+#include "reports/frame/number_field.h"
+#include "reports/frame/report_pen.h"
 #include "reports/frame/report_text.h"
 #include "shell/calendar/new_era_function.h"
 
@@ -21,12 +22,6 @@ constexpr float kNameSize = 12;
 constexpr float kTotalSize = 14;
 constexpr float kSmallSize = 7;
 
-void SetFont(PrinterSurface& Printer, float size, bool bold = false) {
-  Printer.FontName = ReportFont;
-  Printer.FontSize = size;
-  Printer.FontBold = bold;
-}
-
 void RuleUnderPen(PrinterSurface& Printer, float from, float to) {
   Printer.Line(from, Printer.CurrentY, to, Printer.CurrentY);
 }
@@ -34,7 +29,7 @@ void RuleUnderPen(PrinterSurface& Printer, float from, float to) {
 /// Returns the Y of the page's first line.
 float DrawTitle(PrinterSurface& Printer, const HeadLayout& layout) {
   MeasureLine(Printer);
-  SetFont(Printer, kTitleSize, true);
+  SetReportFont(Printer, kTitleSize, true);
   Printer.DrawWidth = 4;
   const float y = Printer.CurrentY + layout.title_drop;
   PrintRuled(Printer, layout.title_place, y, {layout.title});
@@ -42,7 +37,7 @@ float DrawTitle(PrinterSurface& Printer, const HeadLayout& layout) {
 }
 
 RowGrid DrawClient(PrinterSurface& Printer, const HeadLayout& layout, const std::string& client, float y) {
-  SetFont(Printer, kLineSize);
+  SetReportFont(Printer, kLineSize);
   RowGrid grid{MeasureLine(Printer) + layout.line_gap, y};
   Printer.DrawWidth = client.empty() ? layout.rule_width_without_client : 2;
   if (client.empty()) return grid;
@@ -134,7 +129,7 @@ void DrawShortName(PrinterSurface& Printer, const HeadLayout& layout, const RowG
 
 void DrawProject(PrinterSurface& Printer, const HeadLayout& layout, const RowGrid& grid,
                  const ReportSite& site, const std::string& sub_project) {
-  SetFont(Printer, kLineSize);
+  SetReportFont(Printer, kLineSize);
   if (site.long_name.empty()) {
     DrawShortName(Printer, layout, grid, site.short_name, sub_project);
   } else if (site.koji_break == kOneLine) {
@@ -169,14 +164,15 @@ RowGrid DrawHead(PrinterSurface& Printer, const HeadLayout& layout, const Report
 
 void DrawTotalLine(PrinterSurface& Printer, const RuledText& place, const RowGrid& grid, double kilograms) {
   constexpr double kRow = 6;
-  SetFont(Printer, kTotalSize);
+  SetReportFont(Printer, kTotalSize);
   Printer.DrawWidth = 3;
-  PrintRuled(Printer, place, grid.Y(kRow), {"総重量", "  ", TotalWeightText(kilograms)});
+  PrintRuled(Printer, place, grid.Y(kRow),
+             {"総重量", "  ", FieldText(TotalWeightField(kilograms), kilograms)});
 }
 
 void DrawDate(PrinterSurface& Printer, const HeadLayout& layout, const RowGrid& grid, const ReportSite& site,
               const ReportArguments& arguments) {
-  SetFont(Printer, kNameSize);
+  SetReportFont(Printer, kNameSize);
   Printer.DrawWidth = 2;
   const float y = grid.Y(1) - layout.date_drop;
   const std::string month = RightAligned(arguments.Month, 2);

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "platform/numbers/number_mask.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
 #include "shell/context/site_context.h"
@@ -34,16 +33,6 @@ std::string Trim_SlitText(std::string_view Text) { return StripSlitWord(Text); }
 
 std::string RightAligned(std::string_view text, std::size_t count) {
   return std::string(Right(std::string(count, ' ').append(text), count));
-}
-
-std::string_view TotalWeightMask(double kilograms) {
-  constexpr double kTonne = 1000.0;
-  return kilograms < kTonne ? kKilogramsMask : kTonnesMask;
-}
-
-std::string TotalWeightText(double kilograms) {
-  constexpr std::size_t kCharacters = 14;
-  return RightAligned(FormatNumber(kilograms, TotalWeightMask(kilograms)), kCharacters);
 }
 
 }  // namespace rbt

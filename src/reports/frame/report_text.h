@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/numbers/currency.h"
-
 namespace rbt {
 
 /// Length in bytes of code page 932: a full-width character counts 2, a half-width one 1.
@@ -33,14 +31,5 @@ std::string Trim_SlitText(std::string_view Text);
 /// The rightmost `count` characters of the text with blanks in front: how numbers stand in a column. A longer
 /// text loses its leftmost characters.
 std::string RightAligned(std::string_view text, std::size_t count);
-
-/// Mask of weights and counts in table cells.
-inline constexpr std::string_view kCellMask = "#,##0";
-inline constexpr std::string_view kTonnesMask = "##### t ##0 Kg";
-inline constexpr std::string_view kKilogramsMask = "##0 Kg";
-/// The mask of a total weight in kilograms: tonnes and the rest from 1000 on, kilograms below.
-std::string_view TotalWeightMask(double kilograms);
-/// A total weight by its mask, right-aligned in 14 characters.
-std::string TotalWeightText(double kilograms);
 
 }  // namespace rbt

@@ -8,12 +8,11 @@
 #include <string_view>
 
 #include "data/bar_tables.h"
-#include "platform/numbers/number_mask.h"
 #include "reports/frame/letter_spacing.h"
-#include "reports/frame/print_frame.h"
+#include "reports/frame/number_field.h"
 #include "reports/frame/print_jisya.h"
 #include "reports/frame/report_head.h"
-#include "reports/frame/report_text.h"
+#include "reports/frame/report_pen.h"
 #include "reports/ulbon/ulbon_sums.h"
 
 namespace rbt {
@@ -78,16 +77,14 @@ void DrawFrame(PrinterSurface& Printer, const RowGrid& grid) {
 template <typename Number>
 void DrawRow(PrinterSurface& Printer, float y, std::string_view label, Number weight, std::int32_t welds) {
   PrintAt(Printer, kLabelX, y, {label});
-  PrintAt(Printer, kWeightX, y, {RightAligned(FormatNumber(weight, kCellMask), kWeightCharacters), " Kg"});
-  PrintAt(Printer, kWeldX, y, {RightAligned(FormatNumber(std::int64_t{welds}, kCellMask), kWeldCharacters)});
+  PrintAt(Printer, kWeightX, y, {FieldText({kWeightCharacters, kCellMask, " Kg"}, weight)});
+  PrintAt(Printer, kWeldX, y, {FieldText({kWeldCharacters}, std::int64_t{welds})});
 }
 
 void DrawTable(PrinterSurface& Printer, const RowGrid& grid, const TallyTable& table, std::int32_t percent,
                double total) {
   DrawFrame(Printer, grid);
-  Printer.FontName = ReportFont;
-  Printer.FontSize = kTextSize;
-  Printer.FontBold = false;
+  SetReportFont(Printer, kTextSize);
   const auto text_y = [&](int row) { return grid.Y(row) + kTextDrop; };
   for (const Heading& heading : kHeadings) PrintAt(Printer, heading.x, text_y(kFirstRow), {heading.text});
   for (int d = kDeformedRows; d < kDiameterRows; ++d) {

@@ -68,21 +68,5 @@ TEST(ReportText, NumbersStandToTheRightAndLoseTheirFirstDigitsWhenTooLong) {
   EXPECT_EQ(RightAligned("", 3), "   ");
 }
 
-TEST(ReportText, ATotalOf999KilogramsIsPrintedInKilograms) {
-  EXPECT_EQ(TotalWeightMask(999), "##0 Kg");
-  EXPECT_EQ(TotalWeightText(999), "        999 Kg");
-}
-
-TEST(ReportText, ATotalOf1000KilogramsIsPrintedInTonnes) {
-  EXPECT_EQ(TotalWeightMask(1000), "##### t ##0 Kg");
-  EXPECT_EQ(TotalWeightText(1000), "    1 t 000 Kg");
-  EXPECT_EQ(TotalWeightText(12345), "   12 t 345 Kg");
-}
-
-TEST(ReportText, ATotalOfSevenDigitsFillsItsFourteenCharacters) {
-  EXPECT_EQ(TotalWeightText(9999999), " 9999 t 999 Kg");
-  EXPECT_EQ(TotalWeightText(0), "          0 Kg");
-}
-
 }  // namespace
 }  // namespace rbt
