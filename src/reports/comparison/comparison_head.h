@@ -4,9 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
-#include "platform/print/printer_surface.h"
 #include "reports/frame/report_head.h"
 #include "reports/frame/report_site.h"
 #include "tally/tally_grid.h"
@@ -28,14 +26,14 @@ struct ComparisonSheet {
 /// Ulbon and spirals where they are wanted.
 double TotalWeightOf(const ComparisonSheet& sheet, char kind);
 
-/// The heads. Each draws title, client, project and date, that of A4 portrait the total weight too, and
-/// answers with `LineUnit` and `BaseY` of the page, joined by a comma.
-std::string Taihi_Head_A4T(PrinterSurface& Printer, const ComparisonSheet& sheet, char kind);
-std::string Taihi_Head_A4Y(PrinterSurface& Printer, const ComparisonSheet& sheet, char kind);
-std::string Taihi_Head_B5Y(PrinterSurface& Printer, const ComparisonSheet& sheet, char kind);
-using HeadRoutine = std::string (*)(PrinterSurface& Printer, const ComparisonSheet& sheet, char kind);
+/// What the head of a sheet says, its total weight included.
+ReportHead ComparisonHeadOf(const ComparisonSheet& sheet, char kind);
 
-/// The rows that a head answered with.
-RowGrid RowGridOf(std::string_view head_answer);
+/// The heads of A4 portrait, A4 landscape and B5 landscape. Each draws title, client, project and date, that
+/// of A4 portrait the total weight too, and returns the rows of the page.
+RowGrid Taihi_Head_A4T(ReportPen& pen, const ReportHead& head);
+RowGrid Taihi_Head_A4Y(ReportPen& pen, const ReportHead& head);
+RowGrid Taihi_Head_B5Y(ReportPen& pen, const ReportHead& head);
+using HeadRoutine = RowGrid (*)(ReportPen& pen, const ReportHead& head);
 
 }  // namespace rbt

@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "reports/comparison/comparison_head.h"
-#include "reports/frame/report_head.h"
+#include "reports/frame/grid_head_parts.h"
+#include "reports/frame/head_layout.h"
 
 namespace rbt {
 
@@ -17,58 +18,34 @@ namespace rbt {
 
 inline constexpr std::string_view kComparisonTitle = "重  量  対  比  表";
 
-/// The heads of A4 portrait, A4 landscape and B5 landscape.
-inline constexpr HeadLayout kHeadA4T{.title = kComparisonTitle,
-                                     .title_place = {3800, 3600, 7400},
-                                     .title_drop = 1000,
-                                     .line_gap = 100,
-                                     .margin = 500,
-                                     .short_name_x = 1567,
-                                     .name_indent = 960,
-                                     .broken_name_size = 13,
-                                     .labels = kProjectLabels,
-                                     .rule_width_without_client = 4,
-                                     .project_rule_to = 0,
-                                     .long_sub_project_size = 7,
-                                     .sub_project_end = 7000,
-                                     .date_drop = 1500,
-                                     .western_date = {8500, 8400, 10800},
-                                     .era_date = {8300, 8200, 11000}};
-inline constexpr HeadLayout kHeadA4Y{.title = kComparisonTitle,
-                                     .title_place = {6000, 5800, 9500},
-                                     .title_drop = 500,
-                                     .line_gap = 100,
-                                     .margin = 1800,
-                                     .short_name_x = 2760,
-                                     .name_indent = 960,
-                                     .broken_name_size = 13,
-                                     .labels = kProjectLabels,
-                                     .rule_width_without_client = 4,
-                                     .project_rule_to = 0,
-                                     .long_sub_project_size = 7,
-                                     .sub_project_end = 0,
-                                     .date_drop = 1300,
-                                     .western_date = {11800, 11700, 14100},
-                                     .era_date = {11600, 11500, 14300}};
-inline constexpr HeadLayout kHeadB5Y{.title = kComparisonTitle,
-                                     .title_place = {5200, 5000, 8750},
-                                     .title_drop = 500,
-                                     .line_gap = 35,
-                                     .margin = 700,
-                                     .short_name_x = 1767,
-                                     .name_indent = 1067,
-                                     .broken_name_size = 13,
-                                     .labels = kProjectLabels,
-                                     .rule_width_without_client = 4,
-                                     .project_rule_to = 0,
-                                     .long_sub_project_size = 7,
-                                     .sub_project_end = 0,
-                                     .date_drop = 1300,
-                                     .western_date = {10700, 10600, 13000},
-                                     .era_date = {10500, 10400, 13200}};
+/// 総重量: on A4 portrait a part of the head, on landscape paper drawn behind it by the body.
+constexpr WeightPart ComparisonTotal(float margin, float rule_to) {
+  return {.kilograms = &ReportHead::total_weight, .place = {margin, margin, EndsAt(rule_to)}};
+}
 
-/// 総重量 on A4 portrait, where the head prints it.
-inline constexpr RuledText kTotalLineA4T{500, 500, 3700};
+/// The heads of A4 portrait, A4 landscape and B5 landscape.
+inline constexpr std::array<HeadPart, 5> kHeadPartsA4T{
+    ClientFrom(500), ProjectFrom(500, 1567, 960), SubProjectFrom(500, 7, 7000), ComparisonTotal(500, 3700),
+    DatePart{{8500, 8400, EndsAt(10800)}, {8300, 8200, EndsAt(11000)}, {1, -1500}}};
+inline constexpr std::array<HeadPart, 4> kHeadPartsA4Y{
+    ClientFrom(1800), ProjectFrom(1800, 2760, 960), SubProjectFrom(1800, 7, 0),
+    DatePart{{11800, 11700, EndsAt(14100)}, {11600, 11500, EndsAt(14300)}, {1, -1300}}};
+inline constexpr std::array<HeadPart, 4> kHeadPartsB5Y{
+    ClientFrom(700), ProjectFrom(700, 1767, 1067), SubProjectFrom(700, 7, 0),
+    DatePart{{10700, 10600, EndsAt(13000)}, {10500, 10400, EndsAt(13200)}, {1, -1300}}};
+
+inline constexpr HeadLayout kHeadA4T{{3800, 3600, EndsAt(7400)},
+                                     1000,
+                                     {.text_size = 13, .gap = 100, .title_lines = 2, .client_rows = 2},
+                                     kHeadPartsA4T};
+inline constexpr HeadLayout kHeadA4Y{{6000, 5800, EndsAt(9500)},
+                                     500,
+                                     {.text_size = 13, .gap = 100, .title_lines = 2, .client_rows = 2},
+                                     kHeadPartsA4Y};
+inline constexpr HeadLayout kHeadB5Y{{5200, 5000, EndsAt(8750)},
+                                     500,
+                                     {.text_size = 13, .gap = 35, .title_lines = 2, .client_rows = 2},
+                                     kHeadPartsB5Y};
 
 /// What a column of the table shows.
 enum class Figure { stock_weight, installed_weight, difference, welds, cuts };
@@ -89,11 +66,6 @@ struct LossRateLine {
   int rows_below;  ///< from the row below the last rule
 };
 
-struct BlockPlace {
-  float x;
-  float y;
-};
-
 struct ComparisonForm {
   char kind;  ///< 'A' stock and installed weight, 'B' stock, 'C' installed
   HeadRoutine head;
@@ -103,9 +75,9 @@ struct ComparisonForm {
   float label_x;
   std::string_view total_label;
   std::span<const ComparisonColumn> columns;  ///< the cut column is the last
-  std::optional<RuledText> total_line;  ///< 総重量 where the head leaves it to the body: on landscape paper
+  std::optional<WeightPart> total_line;       ///< where the head leaves it to the body: on landscape paper
   std::optional<LossRateLine> loss_rate;
-  std::optional<BlockPlace> own_company;
+  std::optional<OwnCompanyPart> own_company;
 };
 
 /// X of a diameter's grade, from its label.
@@ -174,7 +146,7 @@ inline constexpr std::array<ComparisonColumn, 3> kColumnsCB5Y{{
     {Figure::cuts, "切　　　断", 11100, 11500, 11500, 7},
 }};
 
-inline constexpr BlockPlace kOwnCompanyA4T{6600, 2200};
+inline constexpr OwnCompanyPart kOwnCompanyA4T{6600, 2200};
 
 inline constexpr ComparisonForm kTaihiAA4T{.kind = 'A',
                                            .head = Taihi_Head_A4T,
@@ -185,7 +157,7 @@ inline constexpr ComparisonForm kTaihiAA4T{.kind = 'A',
                                            .total_label = "合　　計",
                                            .columns = kColumnsAA4T,
                                            .total_line = std::nullopt,
-                                           .loss_rate = LossRateLine{{6700, 6500, 8600}, "　", 6, 1},
+                                           .loss_rate = LossRateLine{{6700, 6500, EndsAt(8600)}, "　", 6, 1},
                                            .own_company = kOwnCompanyA4T};
 inline constexpr ComparisonForm kTaihiBA4T{.kind = 'B',
                                            .head = Taihi_Head_A4T,
@@ -217,8 +189,8 @@ inline constexpr ComparisonForm kTaihiAA4Y{.kind = 'A',
                                            .label_x = 2000,
                                            .total_label = "異　形　合　計",
                                            .columns = kColumnsAA4Y,
-                                           .total_line = RuledText{1800, 1800, 5100},
-                                           .loss_rate = LossRateLine{{9000, 8800, 10900}, "　", 6, 0},
+                                           .total_line = ComparisonTotal(1800, 5100),
+                                           .loss_rate = LossRateLine{{9000, 8800, EndsAt(10900)}, "　", 6, 0},
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiBA4Y{.kind = 'B',
                                            .head = Taihi_Head_A4Y,
@@ -228,7 +200,7 @@ inline constexpr ComparisonForm kTaihiBA4Y{.kind = 'B',
                                            .label_x = 2500,
                                            .total_label = "合          計",
                                            .columns = kColumnsBA4Y,
-                                           .total_line = RuledText{1800, 1800, 5100},
+                                           .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = std::nullopt,
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiCA4Y{.kind = 'C',
@@ -239,41 +211,44 @@ inline constexpr ComparisonForm kTaihiCA4Y{.kind = 'C',
                                            .label_x = 2500,
                                            .total_label = "合          計",
                                            .columns = kColumnsCA4Y,
-                                           .total_line = RuledText{1800, 1800, 5100},
+                                           .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = std::nullopt,
                                            .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiAB5Y{.kind = 'A',
-                                           .head = Taihi_Head_B5Y,
-                                           .rules = kRulesAB5Y,
-                                           .diameter_heading = "太　　　さ",
-                                           .diameter_heading_x = 1100,
-                                           .label_x = 900,
-                                           .total_label = "合　　　計",
-                                           .columns = kColumnsAB5Y,
-                                           .total_line = RuledText{700, 700, 4200},
-                                           .loss_rate = LossRateLine{{10400, 10200, 12900}, " ", 12, 0},
-                                           .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiBB5Y{.kind = 'B',
-                                           .head = Taihi_Head_B5Y,
-                                           .rules = kRulesBB5Y,
-                                           .diameter_heading = "太　　　　　　　さ",
-                                           .diameter_heading_x = 1650,
-                                           .label_x = 1400,
-                                           .total_label = "合　　　　　　　計",
-                                           .columns = kColumnsBB5Y,
-                                           .total_line = RuledText{700, 700, 4000},
-                                           .loss_rate = LossRateLine{{10700, 10500, 13200}, " ", 12, 0},
-                                           .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiCB5Y{.kind = 'C',
-                                           .head = Taihi_Head_B5Y,
-                                           .rules = kRulesBB5Y,
-                                           .diameter_heading = "太　　　　　　　さ",
-                                           .diameter_heading_x = 1650,
-                                           .label_x = 1400,
-                                           .total_label = "合　　　　　　　計",
-                                           .columns = kColumnsCB5Y,
-                                           .total_line = RuledText{700, 700, 4000},
-                                           .loss_rate = LossRateLine{{10700, 10500, 13200}, " ", 12, 0},
-                                           .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiAB5Y{
+    .kind = 'A',
+    .head = Taihi_Head_B5Y,
+    .rules = kRulesAB5Y,
+    .diameter_heading = "太　　　さ",
+    .diameter_heading_x = 1100,
+    .label_x = 900,
+    .total_label = "合　　　計",
+    .columns = kColumnsAB5Y,
+    .total_line = ComparisonTotal(700, 4200),
+    .loss_rate = LossRateLine{{10400, 10200, EndsAt(12900)}, " ", 12, 0},
+    .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiBB5Y{
+    .kind = 'B',
+    .head = Taihi_Head_B5Y,
+    .rules = kRulesBB5Y,
+    .diameter_heading = "太　　　　　　　さ",
+    .diameter_heading_x = 1650,
+    .label_x = 1400,
+    .total_label = "合　　　　　　　計",
+    .columns = kColumnsBB5Y,
+    .total_line = ComparisonTotal(700, 4000),
+    .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
+    .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiCB5Y{
+    .kind = 'C',
+    .head = Taihi_Head_B5Y,
+    .rules = kRulesBB5Y,
+    .diameter_heading = "太　　　　　　　さ",
+    .diameter_heading_x = 1650,
+    .label_x = 1400,
+    .total_label = "合　　　　　　　計",
+    .columns = kColumnsCB5Y,
+    .total_line = ComparisonTotal(700, 4000),
+    .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
+    .own_company = std::nullopt};
 
 }  // namespace rbt

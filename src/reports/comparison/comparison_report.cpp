@@ -7,7 +7,6 @@
 #include "data/bar_tables.h"
 #include "reports/frame/letter_spacing.h"
 #include "reports/frame/number_field.h"
-#include "reports/frame/print_jisya.h"
 #include "reports/frame/report_pen.h"
 
 namespace rbt {
@@ -173,7 +172,7 @@ class Table {
     Printer_.DrawWidth = kLossRuleWidth;
     const std::string rate = FieldText({line.characters, kRateMask, " %"}, sheet_.table.LossRatePercent);
     const float y = grid_.Y(frame_.last + line.rows_below) + kTextDrop;
-    PrintRuled(Printer_, line.place, y, {"ロス率", line.gap, rate});
+    PrintRuled(Printer_, line.place, y, "ロス率" + std::string(line.gap) + rate);
   }
 
   PrinterSurface& Printer_;
@@ -197,10 +196,12 @@ FrameRows FrameRowsOf(const ComparisonForm& form, const ComparisonSheet& sheet) 
 }
 
 void DrawComparison(PrinterSurface& Printer, const ComparisonForm& form, const ComparisonSheet& sheet) {
-  const RowGrid grid = RowGridOf(form.head(Printer, sheet, form.kind));
-  if (form.total_line) DrawTotalLine(Printer, *form.total_line, grid, TotalWeightOf(sheet, form.kind));
+  ReportPen pen(Printer);
+  const ReportHead head = ComparisonHeadOf(sheet, form.kind);
+  const RowGrid grid = form.head(pen, head);
+  if (form.total_line) DrawHeadPart(pen, *form.total_line, grid, head);
   Table(Printer, form, sheet, grid).Draw();
-  if (form.own_company) PrintOwnCompany(Printer, form.own_company->x, form.own_company->y);
+  if (form.own_company) DrawHeadPart(pen, *form.own_company, grid, head);
   Printer.EndDoc();
 }
 

@@ -301,8 +301,8 @@ std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_
   return company.last_length;
 }
 
-void PrintOwnCompany(PrinterSurface& Printer, float X, float Y) {
-  Print_Jisya(Printer, X, Y, ReportFont, ReportFont, ReportFont, "2", 0, kReportLineGap);
+void PrintOwnCompany(PrinterSurface& Printer, float X, float Y, std::string_view label_font) {
+  Print_Jisya(Printer, X, Y, ReportFont, label_font, ReportFont, "2", 0, kReportLineGap);
 }
 
 }  // namespace rbt

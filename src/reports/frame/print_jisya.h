@@ -39,7 +39,7 @@ std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_
 /// Twips between lines in the reports.
 inline constexpr float kReportLineGap = 10.0F;
 /// The block as the reports of a tally carry it.
-void PrintOwnCompany(PrinterSurface& Printer, float X, float Y);
+void PrintOwnCompany(PrinterSurface& Printer, float X, float Y, std::string_view label_font);
 
 /// Prints the company's name in the largest of its sizes that fits the box, at 10 with its letters pressed
 /// together when none does; in one piece, a name that fits no size stays at 11. Returns the size by which the

@@ -1,68 +1,64 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <variant>
 
-#include "platform/print/printer_surface.h"
+#include "reports/frame/head_layout.h"
+#include "reports/frame/report_pen.h"
 #include "reports/frame/report_site.h"
+#include "reports/frame/row_grid.h"
 
 namespace rbt {
 
-/// The rows of a page: row `r` (a fraction in heads) stands at `LineUnit` * r + `BaseY` twips; a text in a
-/// row stands `kTextDrop` lower.
-struct RowGrid {
-  float LineUnit = 0.0F;
-  float BaseY = 0.0F;
-
-  float Y(double row) const { return static_cast<float>(row * LineUnit + BaseY); }
+/// The name of the project, in the form in which the site has it.
+struct ShortName {
+  std::string name;
 };
-inline constexpr float kTextDrop = 50.0F;
-
-/// A text at X over a rule from X to X.
-struct RuledText {
-  float x;
-  float rule_from;
-  float rule_to;
+struct LongName {
+  std::string name;
 };
-
-/// Labels of the project line: of a long name on one line, of one on two lines, of a short name.
-struct ProjectLabels {
-  std::string_view long_name;
-  std::string_view broken_name;
-  std::string_view short_name;
+struct BrokenName {  ///< a long name on two lines
+  std::string first;
+  std::string rest;
 };
-inline constexpr ProjectLabels kProjectLabels{"工事名", "工事名　", "工事名  "};
+using ProjectName = std::variant<ShortName, LongName, BrokenName>;
+/// A site without a long name has its short one; a long one is broken at 長い工事名's break, if it has one.
+ProjectName ProjectNameOf(const ReportSite& site);
 
-/// The measures of one kind of head, twips.
-struct HeadLayout {
-  std::string_view title;
-  RuledText title_place;
-  float title_drop;  ///< from the top of the page to the title
-  float line_gap;    ///< what a row has beside the height of its text
-  float margin;      ///< X of the lines' left end
-  float short_name_x;
-  float name_indent;       ///< from the margin to a long name
-  float broken_name_size;  ///< points from which a long name on two lines shrinks; one on one line from 12
-  ProjectLabels labels;
-  std::int32_t rule_width_without_client;  ///< DrawWidth under the project's name; with a client line it is 2
-  float project_rule_to;                   ///< 0: the rule under the project name is as long as the name
-  float long_sub_project_size;  ///< points, of more than 22 characters under a long name; others stand in 12
-  float sub_project_end;  ///< X that the sub-project text may reach beside the own-company block, 0: any
-  float date_drop;        ///< from row 1 up to the date
-  RuledText western_date;
-  RuledText era_date;
+/// A date as it was typed: of an era date the year is that of the era.
+struct ReportDate {
+  bool western = true;
+  std::string year;
+  std::string month;
+  std::string day;
 };
+/// "2026 年  1 月  2 日", "令和 08 年  1 月  2 日". Texts wider than their places lose their first
+/// characters.
+std::string DateText(const ReportDate& date);
 
-/// Title, client line and project lines; returns the rows of the page below.
-RowGrid DrawHead(PrinterSurface& Printer, const HeadLayout& layout, const ReportSite& site,
-                 const ReportArguments& arguments);
-/// 総重量 in row 6, in kilograms.
-void DrawTotalLine(PrinterSurface& Printer, const RuledText& place, const RowGrid& grid, double kilograms);
-void DrawDate(PrinterSurface& Printer, const HeadLayout& layout, const RowGrid& grid, const ReportSite& site,
-              const ReportArguments& arguments);
+/// What the head of a page says; where it stands there tells the report's `HeadLayout`.
+struct ReportHead {
+  std::string title = {};
+  std::string document_title = {};  ///< what a print queue and a file call the sheets
+  std::string client = {};          ///< empty: no client line
+  ProjectName project = {};
+  std::string sub_project = {};  ///< empty: none
+  ReportDate date = {};
+  std::string scope = {};                                 ///< what part of the site the sheets tell of
+  std::optional<double> total_weight = std::nullopt;      ///< kilograms
+  std::optional<double> installed_weight = std::nullopt;  ///< kilograms
+};
+/// The head that a report of this title has for a site, without scope and weights.
+ReportHead HeadOf(std::string_view title, const ReportSite& site, const ReportArguments& arguments);
 
-/// A text and the rule under it, which stands where the pen is after the text.
-void PrintRuled(PrinterSurface& Printer, const RuledText& place, float y,
-                std::initializer_list<std::string_view> items);
+/// Draws title and parts in the order of the layout, on the page where the pen is, and returns the rows of
+/// the page. The document bears the head's title.
+RowGrid DrawHead(ReportPen& pen, const HeadLayout& layout, const ReportHead& head);
+/// Draws one part more, such as one that stands behind the table.
+void DrawHeadPart(ReportPen& pen, const HeadPart& part, const RowGrid& grid, const ReportHead& head);
 
 }  // namespace rbt

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "reports/ulbon/ulbon_report.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "data/bar_tables.h"
+#include "reports/frame/grid_head_parts.h"
 #include "reports/frame/letter_spacing.h"
 #include "reports/frame/number_field.h"
-#include "reports/frame/print_jisya.h"
 #include "reports/frame/report_head.h"
 #include "reports/frame/report_pen.h"
 #include "reports/ulbon/ulbon_sums.h"
@@ -19,31 +18,37 @@ namespace rbt {
 
 namespace {
 
-constexpr HeadLayout kHead{.title = "ウ ル ボ ン 重 量 表",
-                           .title_place = {5900, 5700, 9400},
-                           .title_drop = 500,
-                           .line_gap = 100,
-                           .margin = 1800,
-                           .short_name_x = 2760,
-                           .name_indent = 960,
-                           .broken_name_size = 12,
-                           .labels = {"工事名　", "工事名　", "工事名　"},
-                           .rule_width_without_client = 2,
-                           .project_rule_to = 9300,
-                           .long_sub_project_size = 12,
-                           .sub_project_end = 9900,
-                           .date_drop = 1300,
-                           .western_date = {11800, 11700, 14100},
-                           .era_date = {11600, 11500, 14300}};
-constexpr RuledText kTotalLine{1900, 1800, 5100};
+constexpr std::string_view kTitle = "ウ ル ボ ン 重 量 表";
 
-constexpr std::array<float, 6> kRules{1800, 3800, 6800, 9800, 12800, 14300};
 /// The frame has room for the twelve deformed diameters too.
 constexpr int kFirstRow = 7;
 constexpr int kLastRow = 21;
 constexpr int kFirstUlbonRow = kFirstRow + 1;
 constexpr int kTotalRow = kFirstUlbonRow + (kDiameterRows - kDeformedRows);
 
+constexpr ProjectPart UlbonProject() {
+  ProjectPart part = ProjectFrom(1800, 2760, 960);
+  for (NameForm* form : {&part.short_form, &part.long_form, &part.broken_form}) {
+    form->label = "工事名　";
+    form->rule_to = EndsAt(9300);
+  }
+  part.broken_form.size = 12;
+  part.rule_width_without_client = 2;
+  return part;
+}
+
+constexpr std::array<HeadPart, 5> kHeadParts{
+    ClientFrom(1800), UlbonProject(), SubProjectFrom(1800, 12, 9900),
+    WeightPart{.kilograms = &ReportHead::total_weight, .place = {1900, 1800, EndsAt(5100)}},
+    DatePart{{11800, 11700, EndsAt(14100)}, {11600, 11500, EndsAt(14300)}, {1, -1300}}};
+constexpr HeadLayout kHead{{5900, 5700, EndsAt(9400)},
+                           500,
+                           {.text_size = 13, .gap = 100, .title_lines = 2, .client_rows = 2},
+                           kHeadParts};
+/// Without a client line the table starts higher.
+constexpr OwnCompanyPart kOwnCompany{.x = 10000, .y = 2300, .clear_of_row = kFirstRow};
+
+constexpr std::array<float, 6> kRules{1800, 3800, 6800, 9800, 12800, 14300};
 struct Heading {
   float x;
   std::string_view text;
@@ -63,8 +68,6 @@ constexpr std::size_t kWeldCharacters = 7;
 
 constexpr float kTextSize = 12;
 constexpr std::int32_t kFrameWidth = 5;
-constexpr float kOwnCompanyX = 10000;
-constexpr float kOwnCompanyY = 2300;
 
 void DrawFrame(PrinterSurface& Printer, const RowGrid& grid) {
   Printer.DrawWidth = kFrameWidth;
@@ -95,12 +98,6 @@ void DrawTable(PrinterSurface& Printer, const RowGrid& grid, const TallyTable& t
   DrawRow(Printer, text_y(kTotalRow), "合　　　計", total, UlbonWeldSum(table));
 }
 
-/// Without a client line the table starts higher: a block of many lines that would run into it moves up.
-float OwnCompanyTop(const RowGrid& grid) {
-  const float bottom = OwnCompanyBottom(ReadOwnCompany(), kOwnCompanyY, kReportLineGap);
-  return kOwnCompanyY - std::max(0.0F, bottom - grid.Y(kFirstRow));
-}
-
 }  // namespace
 
 Currency UlbonRowWeight(const TallyTable& table, int d, std::int32_t percent) {
@@ -112,11 +109,12 @@ Currency UlbonRowWeight(const TallyTable& table, int d, std::int32_t percent) {
 void DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
                      const TallyTable& table) {
   const double total = UlbonWeightSum(table, 0);
-  const RowGrid grid = DrawHead(Printer, kHead, site, arguments);
-  DrawTotalLine(Printer, kTotalLine, grid, total);
-  DrawDate(Printer, kHead, grid, site, arguments);
+  ReportHead head = HeadOf(kTitle, site, arguments);
+  head.total_weight = total;
+  ReportPen pen(Printer);
+  const RowGrid grid = DrawHead(pen, kHead, head);
   DrawTable(Printer, grid, table, arguments.Percent, total);
-  PrintOwnCompany(Printer, kOwnCompanyX, OwnCompanyTop(grid));
+  DrawHeadPart(pen, kOwnCompany, grid, head);
   Printer.EndDoc();
 }
 

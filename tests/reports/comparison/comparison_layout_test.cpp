@@ -96,7 +96,7 @@ TEST_P(EveryForm, StaysOnItsSheet) {
   const SheetSize sheet = SheetOf(GetParam().paper, GetParam().orientation);
   EXPECT_LT(Form().rules.back(), sheet.width);
   if (Form().loss_rate) {
-    EXPECT_LT(Form().loss_rate->place.rule_to, sheet.width);
+    EXPECT_LT(Form().loss_rate->place.rule_to.more, sheet.width);
     const std::string text =
         "ロス率" + std::string(Form().loss_rate->gap) + std::string(Form().loss_rate->characters, '9') + " %";
     EXPECT_LT(Form().loss_rate->place.x + Width(text), sheet.width);

@@ -188,12 +188,6 @@ TEST_F(ComparisonReport, AWeightTooLongForItsFieldLosesItsFirstDigits) {
   EXPECT_EQ(page_.TextBeside(page_.TextOf("D 10"), 2700), "345,678,901 Kg");
 }
 
-TEST_F(ComparisonReport, TheHeadAnswersWithItsRowsJoinedByAComma) {
-  EXPECT_EQ(Taihi_Head_A4T(page_.Printer, sheet_, 'A'), "360,2440");
-  page_.Printer.KillDoc();
-  EXPECT_EQ(Taihi_Head_B5Y(page_.Printer, sheet_, 'A'), "295,1810");
-}
-
 TEST_F(ComparisonReport, OnlyPortraitFormsCarryTheOwnCompany) {
   root_.SetIni(test::kSteelFile, "自社名", "会社名", "鉄筋");
   Draw(kTaihiCA4T);

@@ -14,11 +14,11 @@
 namespace rbt {
 namespace {
 
-class ReportHead : public ::testing::Test {
+class ComparisonHead : public ::testing::Test {
  protected:
   RowGrid Draw(const HeadLayout& layout) {
-    const RowGrid grid = DrawHead(page_.Printer, layout, site_, arguments_);
-    DrawDate(page_.Printer, layout, grid, site_, arguments_);
+    ReportPen pen(page_.Printer);
+    const RowGrid grid = DrawHead(pen, layout, HeadOf(kComparisonTitle, site_, arguments_));
     page_.Printer.EndDoc();
     return grid;
   }
@@ -35,7 +35,7 @@ std::string Repeated(std::string_view text, int count) {
   return repeated;
 }
 
-TEST_F(ReportHead, TheTitleStandsBoldInSize18OverItsRule) {
+TEST_F(ComparisonHead, TheTitleStandsBoldInSize18OverItsRule) {
   Draw();
   const PrintedText title = page_.TextOf("重  量  対  比  表");
   EXPECT_EQ(title.x, 3800);
@@ -47,7 +47,7 @@ TEST_F(ReportHead, TheTitleStandsBoldInSize18OverItsRule) {
   EXPECT_EQ(page_.RuleAt(1360, 3600).draw_width, 4);
 }
 
-TEST_F(ReportHead, NamesTheDocumentAfterTheReportAndTheSite) {
+TEST_F(ComparisonHead, NamesTheDocumentAfterTheReportAndTheSite) {
   Draw();
   EXPECT_EQ(page_.documents.back().title, "重量対比表 見本町住宅");
   site_.short_name.clear();
@@ -56,7 +56,7 @@ TEST_F(ReportHead, NamesTheDocumentAfterTheReportAndTheSite) {
 }
 
 // Title at 1000, two lines of 360 below, two rows of 13 points (260) and 100.
-TEST_F(ReportHead, AClientMovesTheRowsDownByTwo) {
+TEST_F(ComparisonHead, AClientMovesTheRowsDownByTwo) {
   const RowGrid grid = Draw();
   EXPECT_EQ(grid.LineUnit, 360);
   EXPECT_EQ(grid.BaseY, 1000 + 2 * 360 + 2 * 360);
@@ -67,21 +67,21 @@ TEST_F(ReportHead, AClientMovesTheRowsDownByTwo) {
 }
 
 // 見本建設 and the 御中 that is not printed have 14 bytes: 14 x 283 / 2 + 100 = 2081.
-TEST_F(ReportHead, TheRuleUnderTheClientLeavesRoomForAnAddressThatIsNotPrinted) {
+TEST_F(ComparisonHead, TheRuleUnderTheClientLeavesRoomForAnAddressThatIsNotPrinted) {
   Draw();
   EXPECT_EQ(page_.RuleAt(2440 + 260, 500).x2, 500 + 2081);
   EXPECT_EQ(page_.RuleAt(2440 + 260, 500).draw_width, 2);
   EXPECT_FALSE(page_.Has("御中"));
 }
 
-TEST_F(ReportHead, WithoutAClientTheRowsStayAndTheProjectRuleKeepsTheTitlesWidth) {
+TEST_F(ComparisonHead, WithoutAClientTheRowsStayAndTheProjectRuleKeepsTheTitlesWidth) {
   site_.client = "";
   const RowGrid grid = Draw();
   EXPECT_EQ(grid.BaseY, 1720);
   EXPECT_EQ(page_.RuleAt(grid.Y(2.7), 500).draw_width, 4);
 }
 
-TEST_F(ReportHead, LandscapeHeadsStandHigherAndB5IsTighter) {
+TEST_F(ComparisonHead, LandscapeHeadsStandHigherAndB5IsTighter) {
   const RowGrid a4 = Draw(kHeadA4Y);
   EXPECT_EQ(a4.LineUnit, 360);
   EXPECT_EQ(a4.BaseY, 500 + 2 * 360 + 2 * 360);
@@ -92,7 +92,7 @@ TEST_F(ReportHead, LandscapeHeadsStandHigherAndB5IsTighter) {
 }
 
 // Five characters: 5 x 264 + 1600.
-TEST_F(ReportHead, AShortNameStandsBehindItsLabelOverARuleByItsCharacters) {
+TEST_F(ComparisonHead, AShortNameStandsBehindItsLabelOverARuleByItsCharacters) {
   const RowGrid grid = Draw();
   EXPECT_EQ(page_.TextOf("工事名  ").x, 500);
   EXPECT_EQ(page_.TextOf("見本町住宅").x, 1567);
@@ -101,7 +101,7 @@ TEST_F(ReportHead, AShortNameStandsBehindItsLabelOverARuleByItsCharacters) {
   EXPECT_EQ(page_.RuleAt(grid.Y(2.7), 500).x2, 500 + 5 * 264 + 1600);
 }
 
-TEST_F(ReportHead, ASubProjectTextStandsInBracketsUnderAShortName) {
+TEST_F(ComparisonHead, ASubProjectTextStandsInBracketsUnderAShortName) {
   arguments_.SubProject = "二期工事";
   const RowGrid grid = Draw();
   const PrintedText text = page_.TextOf("　　　（二期工事）");
@@ -110,7 +110,7 @@ TEST_F(ReportHead, ASubProjectTextStandsInBracketsUnderAShortName) {
   EXPECT_EQ(text.font_size, 12);
 }
 
-TEST_F(ReportHead, ASubProjectTextNeverRunsIntoTheOwnCompanyBlock) {
+TEST_F(ComparisonHead, ASubProjectTextNeverRunsIntoTheOwnCompanyBlock) {
   arguments_.SubProject = Repeated("期", 22);  // 500 + 27 x 240 = 6980
   Draw();
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 12);
@@ -122,7 +122,7 @@ TEST_F(ReportHead, ASubProjectTextNeverRunsIntoTheOwnCompanyBlock) {
 }
 
 // 20 characters fit: 960 + 40 x 120 = 5760.
-TEST_F(ReportHead, ALongNameThatFitsStandsAtItsLabelsHeightInSize12) {
+TEST_F(ComparisonHead, ALongNameThatFitsStandsAtItsLabelsHeightInSize12) {
   site_.long_name = Repeated("見", 20);
   const RowGrid grid = Draw();
   const float y = grid.Y(2) - 240 + 400;
@@ -135,7 +135,7 @@ TEST_F(ReportHead, ALongNameThatFitsStandsAtItsLabelsHeightInSize12) {
 }
 
 // 5040 twips are left: 24 characters take 48 x 105 at 10.5 points, 25 need 50 x 100 at 10.
-TEST_F(ReportHead, ALongNameShrinksInStepsOfHalfAPoint) {
+TEST_F(ComparisonHead, ALongNameShrinksInStepsOfHalfAPoint) {
   site_.long_name = Repeated("見", 24);
   Draw();
   EXPECT_EQ(page_.TextOf(site_.long_name).font_size, 10.5F);
@@ -144,7 +144,7 @@ TEST_F(ReportHead, ALongNameShrinksInStepsOfHalfAPoint) {
   EXPECT_EQ(page_.TextOf(site_.long_name).font_size, 10);
 }
 
-TEST_F(ReportHead, TheRuleUnderAShrunkNameClearsItsLabel) {
+TEST_F(ComparisonHead, TheRuleUnderAShrunkNameClearsItsLabel) {
   site_.long_name = Repeated("見", 40);
   const RowGrid grid = Draw();
   const float y = grid.Y(2) + 160;
@@ -152,7 +152,7 @@ TEST_F(ReportHead, TheRuleUnderAShrunkNameClearsItsLabel) {
   EXPECT_NO_THROW(page_.RuleAt(y + 240, 500));
 }
 
-TEST_F(ReportHead, ALongNameWithASubProjectTextStandsHigher) {
+TEST_F(ComparisonHead, ALongNameWithASubProjectTextStandsHigher) {
   site_.long_name = Repeated("見", 20);
   arguments_.SubProject = Repeated("期", 22);
   const RowGrid grid = Draw();
@@ -162,14 +162,14 @@ TEST_F(ReportHead, ALongNameWithASubProjectTextStandsHigher) {
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 12);
 }
 
-TEST_F(ReportHead, ASubProjectTextOver22CharactersStandsInSize7UnderALongName) {
+TEST_F(ComparisonHead, ASubProjectTextOver22CharactersStandsInSize7UnderALongName) {
   site_.long_name = "見本町";
   arguments_.SubProject = Repeated("a", 23);
   Draw(kHeadB5Y);
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 7);
 }
 
-TEST_F(ReportHead, ANameWithABreakStandsOnTwoLinesOverARuleByTheLonger) {
+TEST_F(ComparisonHead, ANameWithABreakStandsOnTwoLinesOverARuleByTheLonger) {
   site_.long_name = "見本町再開発ビルabc";
   site_.koji_break = 8;
   const RowGrid grid = Draw();
@@ -182,7 +182,7 @@ TEST_F(ReportHead, ANameWithABreakStandsOnTwoLinesOverARuleByTheLonger) {
   EXPECT_FLOAT_EQ(page_.RuleAt(grid.Y(3.5), 500).x2, 500 + 960 + 2090.4F + 100);
 }
 
-TEST_F(ReportHead, WithABreakNoSubProjectLineIsPrinted) {
+TEST_F(ComparisonHead, WithABreakNoSubProjectLineIsPrinted) {
   site_.long_name = "見本町再開発ビル";
   site_.koji_break = 4;
   arguments_.SubProject = "二期工事";
@@ -190,7 +190,7 @@ TEST_F(ReportHead, WithABreakNoSubProjectLineIsPrinted) {
   EXPECT_FALSE(page_.Has("二期工事"));
 }
 
-TEST_F(ReportHead, OnB5ALongNameAndItsRuleReckonFrom1067) {
+TEST_F(ComparisonHead, OnB5ALongNameAndItsRuleReckonFrom1067) {
   site_.long_name = Repeated("見", 20);
   Draw(kHeadB5Y);
   EXPECT_EQ(page_.TextOf(site_.long_name).x, 1767);
@@ -199,7 +199,7 @@ TEST_F(ReportHead, OnB5ALongNameAndItsRuleReckonFrom1067) {
 }
 
 // Year to the right of 4 characters, month and day of 2.
-TEST_F(ReportHead, AWesternDateStandsRightAlignedOverItsRule) {
+TEST_F(ComparisonHead, AWesternDateStandsRightAlignedOverItsRule) {
   const RowGrid grid = Draw();
   const PrintedText date = page_.TextOf("2026 年  1 月  2 日");
   EXPECT_EQ(date.x, 8500);
@@ -209,7 +209,7 @@ TEST_F(ReportHead, AWesternDateStandsRightAlignedOverItsRule) {
   EXPECT_EQ(page_.RuleAt(date.y + 240, 8400).draw_width, 2);
 }
 
-TEST_F(ReportHead, AnEraDateStartsWithTheEraOfTheTypedYear) {
+TEST_F(ComparisonHead, AnEraDateStartsWithTheEraOfTheTypedYear) {
   site_.western_dates = false;
   arguments_.Year = "08";
   Draw();
@@ -224,7 +224,7 @@ TEST_F(ReportHead, AnEraDateStartsWithTheEraOfTheTypedYear) {
   EXPECT_TRUE(page_.Has("令和 31 年  5 月  1 日"));
 }
 
-TEST_F(ReportHead, LandscapeDatesHaveTheirOwnPlaces) {
+TEST_F(ComparisonHead, LandscapeDatesHaveTheirOwnPlaces) {
   RowGrid grid = Draw(kHeadA4Y);
   EXPECT_EQ(page_.TextThatStarts("2026").x, 11800);
   EXPECT_EQ(page_.RuleAt(grid.Y(1) - 1300 + 240, 11700).x2, 14100);

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "reports/frame/report_head.h"
+
+namespace rbt {
+
+/// One part of a head on the page where the pen is, by the rows of that page.
+void DrawPart(ReportPen& pen, const ClientPart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const ProjectPart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const SubProjectPart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const WeightPart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const DatePart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const TextPart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const PagePart& part, const RowGrid& grid, const ReportHead& head);
+void DrawPart(ReportPen& pen, const OwnCompanyPart& part, const RowGrid& grid, const ReportHead& head);
+
+}  // namespace rbt
