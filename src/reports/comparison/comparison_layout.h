@@ -11,6 +11,7 @@
 #include "reports/comparison/comparison_head.h"
 #include "reports/frame/grid_head_parts.h"
 #include "reports/frame/head_layout.h"
+#include "reports/frame/paper_table.h"
 
 namespace rbt {
 
@@ -48,16 +49,15 @@ inline constexpr HeadLayout kHeadB5Y{{5200, 5000, EndsAt(8750)},
                                      kHeadPartsB5Y};
 
 /// What a column of the table shows.
-enum class Figure { stock_weight, installed_weight, difference, welds, cuts };
+enum class Figure { diameter, grade, stock_weight, installed_weight, difference, welds, cuts };
+using ComparisonColumn = TableColumn<Figure>;
 
-struct ComparisonColumn {
-  Figure figure;
-  std::string_view heading;
-  float heading_x;
-  float value_x;
-  float total_x;           ///< of the total row; of the installed weight and the welds also of the Ulbon rows
-  std::size_t characters;  ///< the number stands right-aligned in them
-};
+/// The two columns that name a row stand before those with its figures, the cut column is the last.
+inline constexpr std::size_t kNameColumns = 2;
+
+inline constexpr NumberField kWeightIn11{.characters = 11, .suffix = " Kg"};
+inline constexpr NumberField kWeightIn9{.characters = 9, .suffix = " Kg"};
+inline constexpr NumberField kCountIn7{.characters = 7};
 
 struct LossRateLine {
   RuledText place;
@@ -69,184 +69,156 @@ struct LossRateLine {
 struct ComparisonForm {
   char kind;  ///< 'A' stock and installed weight, 'B' stock, 'C' installed
   HeadRoutine head;
-  std::span<const float> rules;  ///< vertical ones; the last bounds the cut column
-  std::string_view diameter_heading;
-  float diameter_heading_x;  ///< of the total row's label too
-  float label_x;
+  std::span<const ComparisonColumn> columns;
   std::string_view total_label;
-  std::span<const ComparisonColumn> columns;  ///< the cut column is the last
-  std::optional<WeightPart> total_line;       ///< where the head leaves it to the body: on landscape paper
+  std::optional<WeightPart> total_line;  ///< where the head leaves it to the body: on landscape paper
   std::optional<LossRateLine> loss_rate;
   std::optional<OwnCompanyPart> own_company;
 };
 
-/// X of a diameter's grade, from its label.
-inline constexpr float kGradeShift = 1000;
+/// Diameter and grade in one column of that width. The caption stands where the total row has its label; the
+/// grade stands 1000 behind the diameter.
+constexpr ComparisonColumn DiameterColumn(float left, float width, std::string_view caption, float caption_x,
+                                          float label_x) {
+  return {Figure::diameter, {left, width}, {caption, caption_x}, {label_x, caption_x}};
+}
+constexpr ComparisonColumn GradeColumn(float label_x, float right) {
+  constexpr float kGradeShift = 1000;
+  const float x = label_x + kGradeShift;
+  return {Figure::grade, {x, right - x, 0}, {}, {x, x}};
+}
 
-inline constexpr std::array<float, 7> kRulesAA4T{500, 2500, 4500, 6500, 8300, 9600, 10900};
-inline constexpr std::array<ComparisonColumn, 5> kColumnsAA4T{{
-    {Figure::stock_weight, "定　尺　重　量", 2700, 2700, 2600, 11},
-    {Figure::installed_weight, "取　付　重　量", 4700, 4600, 4700, 11},
-    {Figure::difference, "差　　引", 6900, 6550, 6550, 9},
-    {Figure::welds, "圧　　接", 8550, 8500, 8500, 7},
-    {Figure::cuts, "切　　断", 9850, 9800, 9800, 7},
-}};
+/// Kind C has kind B's columns, with the installed weight in the place of the stock weight.
+template <std::size_t N>
+constexpr std::array<ComparisonColumn, N> WithInstalledWeight(std::array<ComparisonColumn, N> columns,
+                                                              std::string_view caption) {
+  columns[kNameColumns].shows = Figure::installed_weight;
+  columns[kNameColumns].caption.text = caption;
+  return columns;
+}
 
-inline constexpr std::array<float, 5> kRulesBA4T{500, 3500, 6500, 8700, 10900};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsBA4T{{
-    {Figure::stock_weight, "定　　尺　　重　　量", 3800, 4500, 4500, 11},
-    {Figure::welds, "圧　　　接", 6950, 7600, 7600, 7},
-    {Figure::cuts, "切　　　断", 9150, 9800, 9800, 7},
-}};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsCA4T{{
-    {Figure::installed_weight, "取　　付　　重　　量", 3800, 4500, 4500, 11},
-    {Figure::welds, "圧　　　接", 6950, 7600, 7600, 7},
-    {Figure::cuts, "切　　　断", 9150, 9800, 9800, 7},
-}};
-
-inline constexpr std::array<float, 7> kRulesAA4Y{1800, 3800, 6300, 8800, 11300, 12800, 14300};
-inline constexpr std::array<ComparisonColumn, 5> kColumnsAA4Y{{
-    {Figure::stock_weight, "定   尺   重   量", 4000, 4400, 4400, 11},
-    {Figure::installed_weight, "取   付   重   量", 6500, 6900, 6900, 11},
-    {Figure::difference, "差            引", 9150, 9400, 9400, 11},
-    {Figure::welds, "圧　　接", 11550, 11600, 11600, 7},
-    {Figure::cuts, "切　　断", 13050, 13100, 13100, 7},
+inline constexpr std::array<ComparisonColumn, 7> kColumnsAA4T{{
+    DiameterColumn(500, 2000, "太　　さ", 1000, 700),
+    GradeColumn(700, 2500),
+    {Figure::stock_weight, {2500, 2000}, {"定　尺　重　量", 2700}, {2700, 2600, kWeightIn11}},
+    {Figure::installed_weight, {4500, 2000}, {"取　付　重　量", 4700}, {4600, 4700, kWeightIn11}},
+    {Figure::difference, {6500, 1800}, {"差　　引", 6900}, {6550, 6550, kWeightIn9}},
+    {Figure::welds, {8300, 1300}, {"圧　　接", 8550}, {8500, 8500, kCountIn7}},
+    {Figure::cuts, {9600, 1300}, {"切　　断", 9850}, {9800, 9800, kCountIn7}},
 }};
 
-inline constexpr std::array<float, 5> kRulesBA4Y{1800, 5300, 9800, 11800, 13800};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsBA4Y{{
-    {Figure::stock_weight, "定    尺    重    量", 6300, 7300, 7300, 11},
-    {Figure::welds, "圧        接", 10100, 10600, 10600, 7},
-    {Figure::cuts, "切        断", 12050, 12500, 12500, 7},
+inline constexpr std::array<ComparisonColumn, 5> kColumnsBA4T{{
+    DiameterColumn(500, 3000, "太　　　　さ", 1250, 700),
+    GradeColumn(700, 3500),
+    {Figure::stock_weight, {3500, 3000}, {"定　　尺　　重　　量", 3800}, {4500, 4500, kWeightIn11}},
+    {Figure::welds, {6500, 2200}, {"圧　　　接", 6950}, {7600, 7600, kCountIn7}},
+    {Figure::cuts, {8700, 2200}, {"切　　　断", 9150}, {9800, 9800, kCountIn7}},
 }};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsCA4Y{{
-    {Figure::installed_weight, "取    付    重    量", 6300, 7300, 7300, 11},
-    {Figure::welds, "圧        接", 10100, 10600, 10600, 7},
-    {Figure::cuts, "切        断", 12050, 12500, 12500, 7},
+inline constexpr auto kColumnsCA4T = WithInstalledWeight(kColumnsBA4T, "取　　付　　重　　量");
+
+inline constexpr std::array<ComparisonColumn, 7> kColumnsAA4Y{{
+    DiameterColumn(1800, 2000, "太　　　　さ", 2100, 2000),
+    GradeColumn(2000, 3800),
+    {Figure::stock_weight, {3800, 2500}, {"定   尺   重   量", 4000}, {4400, 4400, kWeightIn11}},
+    {Figure::installed_weight, {6300, 2500}, {"取   付   重   量", 6500}, {6900, 6900, kWeightIn11}},
+    {Figure::difference, {8800, 2500}, {"差            引", 9150}, {9400, 9400, kWeightIn11}},
+    {Figure::welds, {11300, 1500}, {"圧　　接", 11550}, {11600, 11600, kCountIn7}},
+    {Figure::cuts, {12800, 1500}, {"切　　断", 13050}, {13100, 13100, kCountIn7}},
 }};
 
-inline constexpr std::array<float, 7> kRulesAB5Y{700, 2700, 5200, 7700, 10200, 11700, 13200};
-inline constexpr std::array<ComparisonColumn, 5> kColumnsAB5Y{{
-    {Figure::stock_weight, "定  尺  重  量", 3100, 3300, 3300, 11},
-    {Figure::installed_weight, "取  付  重  量", 5600, 5800, 5800, 11},
-    {Figure::difference, "差　　　　引", 8250, 8200, 8200, 11},
-    {Figure::welds, "圧　　接", 10500, 10700, 10700, 7},
-    {Figure::cuts, "切　　断", 12000, 12200, 12200, 7},
+inline constexpr std::array<ComparisonColumn, 5> kColumnsBA4Y{{
+    DiameterColumn(1800, 3500, "太          さ", 2700, 2500),
+    GradeColumn(2500, 5300),
+    {Figure::stock_weight, {5300, 4500}, {"定    尺    重    量", 6300}, {7300, 7300, kWeightIn11}},
+    {Figure::welds, {9800, 2000}, {"圧        接", 10100}, {10600, 10600, kCountIn7}},
+    {Figure::cuts, {11800, 2000}, {"切        断", 12050}, {12500, 12500, kCountIn7}},
+}};
+inline constexpr auto kColumnsCA4Y = WithInstalledWeight(kColumnsBA4Y, "取    付    重    量");
+
+inline constexpr std::array<ComparisonColumn, 7> kColumnsAB5Y{{
+    DiameterColumn(700, 2000, "太　　　さ", 1100, 900),
+    GradeColumn(900, 2700),
+    {Figure::stock_weight, {2700, 2500}, {"定  尺  重  量", 3100}, {3300, 3300, kWeightIn11}},
+    {Figure::installed_weight, {5200, 2500}, {"取  付  重  量", 5600}, {5800, 5800, kWeightIn11}},
+    {Figure::difference, {7700, 2500}, {"差　　　　引", 8250}, {8200, 8200, kWeightIn11}},
+    {Figure::welds, {10200, 1500}, {"圧　　接", 10500}, {10700, 10700, kCountIn7}},
+    {Figure::cuts, {11700, 1500}, {"切　　断", 12000}, {12200, 12200, kCountIn7}},
 }};
 
-inline constexpr std::array<float, 5> kRulesBB5Y{1000, 4500, 8000, 10500, 13000};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsBB5Y{{
-    {Figure::stock_weight, "定　　　尺　　重　　　量", 4800, 6000, 6000, 11},
-    {Figure::welds, "圧　　　接", 8600, 9000, 9000, 7},
-    {Figure::cuts, "切　　　断", 11100, 11500, 11500, 7},
+inline constexpr std::array<ComparisonColumn, 5> kColumnsBB5Y{{
+    DiameterColumn(1000, 3500, "太　　　　　　　さ", 1650, 1400),
+    GradeColumn(1400, 4500),
+    {Figure::stock_weight, {4500, 3500}, {"定　　　尺　　重　　　量", 4800}, {6000, 6000, kWeightIn11}},
+    {Figure::welds, {8000, 2500}, {"圧　　　接", 8600}, {9000, 9000, kCountIn7}},
+    {Figure::cuts, {10500, 2500}, {"切　　　断", 11100}, {11500, 11500, kCountIn7}},
 }};
-inline constexpr std::array<ComparisonColumn, 3> kColumnsCB5Y{{
-    {Figure::installed_weight, "取　　　付　　重　　　量", 4800, 6000, 6000, 11},
-    {Figure::welds, "圧　　　接", 8600, 9000, 9000, 7},
-    {Figure::cuts, "切　　　断", 11100, 11500, 11500, 7},
-}};
+inline constexpr auto kColumnsCB5Y = WithInstalledWeight(kColumnsBB5Y, "取　　　付　　重　　　量");
 
 inline constexpr OwnCompanyPart kOwnCompanyA4T{6600, 2200};
 
 inline constexpr ComparisonForm kTaihiAA4T{.kind = 'A',
                                            .head = Taihi_Head_A4T,
-                                           .rules = kRulesAA4T,
-                                           .diameter_heading = "太　　さ",
-                                           .diameter_heading_x = 1000,
-                                           .label_x = 700,
-                                           .total_label = "合　　計",
                                            .columns = kColumnsAA4T,
+                                           .total_label = "合　　計",
                                            .total_line = std::nullopt,
                                            .loss_rate = LossRateLine{{6700, 6500, EndsAt(8600)}, "　", 6, 1},
                                            .own_company = kOwnCompanyA4T};
 inline constexpr ComparisonForm kTaihiBA4T{.kind = 'B',
                                            .head = Taihi_Head_A4T,
-                                           .rules = kRulesBA4T,
-                                           .diameter_heading = "太　　　　さ",
-                                           .diameter_heading_x = 1250,
-                                           .label_x = 700,
-                                           .total_label = "合　　　　計",
                                            .columns = kColumnsBA4T,
+                                           .total_label = "合　　　　計",
                                            .total_line = std::nullopt,
                                            .loss_rate = std::nullopt,
                                            .own_company = kOwnCompanyA4T};
 inline constexpr ComparisonForm kTaihiCA4T{.kind = 'C',
                                            .head = Taihi_Head_A4T,
-                                           .rules = kRulesBA4T,
-                                           .diameter_heading = "太　　　　さ",
-                                           .diameter_heading_x = 1250,
-                                           .label_x = 700,
-                                           .total_label = "合　　　　計",
                                            .columns = kColumnsCA4T,
+                                           .total_label = "合　　　　計",
                                            .total_line = std::nullopt,
                                            .loss_rate = std::nullopt,
                                            .own_company = kOwnCompanyA4T};
 inline constexpr ComparisonForm kTaihiAA4Y{.kind = 'A',
                                            .head = Taihi_Head_A4Y,
-                                           .rules = kRulesAA4Y,
-                                           .diameter_heading = "太　　　　さ",
-                                           .diameter_heading_x = 2100,
-                                           .label_x = 2000,
-                                           .total_label = "異　形　合　計",
                                            .columns = kColumnsAA4Y,
+                                           .total_label = "異　形　合　計",
                                            .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = LossRateLine{{9000, 8800, EndsAt(10900)}, "　", 6, 0},
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiBA4Y{.kind = 'B',
                                            .head = Taihi_Head_A4Y,
-                                           .rules = kRulesBA4Y,
-                                           .diameter_heading = "太          さ",
-                                           .diameter_heading_x = 2700,
-                                           .label_x = 2500,
-                                           .total_label = "合          計",
                                            .columns = kColumnsBA4Y,
+                                           .total_label = "合          計",
                                            .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = std::nullopt,
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiCA4Y{.kind = 'C',
                                            .head = Taihi_Head_A4Y,
-                                           .rules = kRulesBA4Y,
-                                           .diameter_heading = "太          さ",
-                                           .diameter_heading_x = 2700,
-                                           .label_x = 2500,
-                                           .total_label = "合          計",
                                            .columns = kColumnsCA4Y,
+                                           .total_label = "合          計",
                                            .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = std::nullopt,
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiAB5Y{
     .kind = 'A',
     .head = Taihi_Head_B5Y,
-    .rules = kRulesAB5Y,
-    .diameter_heading = "太　　　さ",
-    .diameter_heading_x = 1100,
-    .label_x = 900,
-    .total_label = "合　　　計",
     .columns = kColumnsAB5Y,
+    .total_label = "合　　　計",
     .total_line = ComparisonTotal(700, 4200),
     .loss_rate = LossRateLine{{10400, 10200, EndsAt(12900)}, " ", 12, 0},
     .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiBB5Y{
     .kind = 'B',
     .head = Taihi_Head_B5Y,
-    .rules = kRulesBB5Y,
-    .diameter_heading = "太　　　　　　　さ",
-    .diameter_heading_x = 1650,
-    .label_x = 1400,
-    .total_label = "合　　　　　　　計",
     .columns = kColumnsBB5Y,
+    .total_label = "合　　　　　　　計",
     .total_line = ComparisonTotal(700, 4000),
     .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
     .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiCB5Y{
     .kind = 'C',
     .head = Taihi_Head_B5Y,
-    .rules = kRulesBB5Y,
-    .diameter_heading = "太　　　　　　　さ",
-    .diameter_heading_x = 1650,
-    .label_x = 1400,
-    .total_label = "合　　　　　　　計",
     .columns = kColumnsCB5Y,
+    .total_label = "合　　　　　　　計",
     .total_line = ComparisonTotal(700, 4000),
     .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
     .own_company = std::nullopt};

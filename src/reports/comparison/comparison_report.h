@@ -7,14 +7,10 @@
 
 namespace rbt {
 
-/// Draws a comparison report as one document of one page.
-void DrawComparison(PrinterSurface& Printer, const ComparisonForm& form, const ComparisonSheet& sheet);
+/// Draws a comparison report as one document of one page. Returns the figures that its fields cut.
+CutFigures DrawComparison(PrinterSurface& Printer, const ComparisonForm& form, const ComparisonSheet& sheet);
 
-/// First and last row of the table's frame; the last rule stands at the top of the last row.
-struct FrameRows {
-  int first;
-  int last;
-};
-FrameRows FrameRowsOf(const ComparisonForm& form, const ComparisonSheet& sheet);
+/// First and last row of the table's frame on the page.
+RowRange FrameRowsOf(const ComparisonForm& form, const ComparisonSheet& sheet);
 
 }  // namespace rbt

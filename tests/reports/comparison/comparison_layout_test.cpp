@@ -30,6 +30,8 @@ const NamedForm kForms[] = {
 class EveryForm : public ::testing::TestWithParam<NamedForm> {
  protected:
   const ComparisonForm& Form() const { return GetParam().form; }
+  std::span<const ComparisonColumn> Names() const { return Form().columns.first(kNameColumns); }
+  std::span<const ComparisonColumn> Figures() const { return Form().columns.subspan(kNameColumns); }
   /// Width of a text in the size of the table.
   static float Width(std::string_view text) { return TextWidthAt(12, text); }
   static bool IsWeight(Figure figure) { return figure != Figure::welds && figure != Figure::cuts; }
@@ -38,52 +40,66 @@ class EveryForm : public ::testing::TestWithParam<NamedForm> {
 INSTANTIATE_TEST_SUITE_P(ComparisonLayout, EveryForm, ::testing::ValuesIn(kForms),
                          [](const auto& form) { return std::string(form.param.name); });
 
-TEST_P(EveryForm, HasARuleOnBothSidesOfEachColumn) {
-  ASSERT_EQ(Form().rules.size(), Form().columns.size() + 2);
-  for (std::size_t i = 1; i < Form().rules.size(); ++i) EXPECT_LT(Form().rules[i - 1], Form().rules[i]);
+TEST_P(EveryForm, TheColumnsStandSideBySideWithoutAGap) {
+  EXPECT_EQ(Names().front().box.Right(), Names().back().box.Right());
+  float left = Names().front().box.Right();
+  for (const ComparisonColumn& column : Figures()) {
+    EXPECT_EQ(column.box.x, left) << column.caption.text;
+    EXPECT_GT(column.box.width, 0) << column.caption.text;
+    left = column.box.Right();
+  }
+}
+
+TEST_P(EveryForm, TheFrameHasARuleOnBothSidesOfEachColumn) {
+  const FrameRules rules = RulesOf(Form().columns);
+  ASSERT_EQ(rules.size(), Figures().size() + 2);
+  for (const FrameRule& rule : rules) EXPECT_EQ(rule.draw_width, 5);
+  for (std::size_t i = 1; i < rules.size(); ++i) EXPECT_LT(rules[i - 1].x, rules[i].x);
 }
 
 TEST_P(EveryForm, HeadingsStandNearTheMiddleOfTheirColumns) {
-  const auto off_middle = [&](std::size_t column, float x, std::string_view text) {
-    const float middle = (Form().rules[column] + Form().rules[column + 1]) / 2;
-    return std::abs(x + Width(text) / 2 - middle);
-  };
-  EXPECT_LE(off_middle(0, Form().diameter_heading_x, Form().diameter_heading), 120);
-  for (std::size_t i = 0; i < Form().columns.size(); ++i) {
-    EXPECT_LE(off_middle(i + 1, Form().columns[i].heading_x, Form().columns[i].heading), 130)
-        << Form().columns[i].heading;
+  for (const ComparisonColumn& column : Form().columns) {
+    if (column.caption.text.empty()) continue;
+    const float middle = column.box.x + column.box.width / 2;
+    EXPECT_LE(std::abs(column.caption.x + Width(column.caption.text) / 2 - middle), 130)
+        << column.caption.text;
   }
 }
 
 TEST_P(EveryForm, NumbersOfFullLengthStayBetweenTheirRules) {
-  for (std::size_t i = 0; i < Form().columns.size(); ++i) {
-    const ComparisonColumn& column = Form().columns[i];
-    const std::string number = std::string(column.characters, '9') + (IsWeight(column.figure) ? " Kg" : "");
-    for (const float x : {column.value_x, column.total_x}) {
-      EXPECT_GT(x, Form().rules[i + 1]) << column.heading;
-      EXPECT_LT(x + Width(number), Form().rules[i + 2]) << column.heading;
+  for (const ComparisonColumn& column : Figures()) {
+    const NumberField& field = column.cell.number;
+    const std::string number = std::string(field.characters, '9') + std::string(field.suffix);
+    for (const float x : {column.cell.x, column.cell.total_x}) {
+      EXPECT_GT(x, column.box.x) << column.caption.text;
+      EXPECT_LT(x + Width(number), column.box.Right()) << column.caption.text;
     }
   }
 }
 
 TEST_P(EveryForm, LabelsStayInTheFirstColumn) {
-  EXPECT_GT(Form().label_x, Form().rules[0]);
-  EXPECT_LT(Form().label_x + Width("スパイラル合計"), Form().rules[1]);
-  EXPECT_LT(Form().label_x + kGradeShift + Width("SD295A"), Form().rules[1]);
-  EXPECT_LT(Form().diameter_heading_x + Width(Form().total_label), Form().rules[1]);
+  const ComparisonColumn& diameter = Names().front();
+  const ComparisonColumn& grade = Names().back();
+  EXPECT_GT(diameter.cell.x, diameter.box.x);
+  EXPECT_LT(diameter.cell.x + Width("スパイラル合計"), diameter.box.Right());
+  EXPECT_EQ(grade.cell.x, diameter.cell.x + 1000);
+  EXPECT_LT(grade.cell.x + Width("SD295A"), grade.box.Right());
+  EXPECT_EQ(diameter.cell.total_x, diameter.caption.x);
+  EXPECT_LT(diameter.cell.total_x + Width(Form().total_label), diameter.box.Right());
 }
 
 TEST_P(EveryForm, FieldsHaveTheirCharacters) {
-  for (const ComparisonColumn& column : Form().columns) {
-    const bool narrow = column.figure == Figure::difference && Form().kind == 'A' && Form().own_company;
+  for (const ComparisonColumn& column : Figures()) {
+    const bool narrow = column.shows == Figure::difference && Form().kind == 'A' && Form().own_company;
     const std::size_t weight = narrow ? 9 : 11;
-    EXPECT_EQ(column.characters, IsWeight(column.figure) ? weight : 7U) << column.heading;
+    EXPECT_EQ(column.cell.number.characters, IsWeight(column.shows) ? weight : 7U) << column.caption.text;
+    EXPECT_EQ(column.cell.number.suffix, IsWeight(column.shows) ? " Kg" : "") << column.caption.text;
   }
 }
 
 TEST_P(EveryForm, ShowsTheFiguresOfItsKind) {
   std::vector<Figure> figures;
-  for (const ComparisonColumn& column : Form().columns) figures.push_back(column.figure);
+  for (const ComparisonColumn& column : Figures()) figures.push_back(column.shows);
   using enum Figure;
   const std::vector<Figure> expected =
       Form().kind == 'A'   ? std::vector{stock_weight, installed_weight, difference, welds, cuts}
@@ -94,7 +110,7 @@ TEST_P(EveryForm, ShowsTheFiguresOfItsKind) {
 
 TEST_P(EveryForm, StaysOnItsSheet) {
   const SheetSize sheet = SheetOf(GetParam().paper, GetParam().orientation);
-  EXPECT_LT(Form().rules.back(), sheet.width);
+  EXPECT_LT(Form().columns.back().box.Right(), sheet.width);
   if (Form().loss_rate) {
     EXPECT_LT(Form().loss_rate->place.rule_to.more, sheet.width);
     const std::string text =
@@ -127,11 +143,15 @@ TEST(ComparisonLayout, TheLossRateStandsOnFormsAOnB5AndNowhereElse) {
 // What kinds B and C share: everything but the weight itself.
 TEST(ComparisonLayout, KindsBAndCDifferInTheirWeightAlone) {
   const auto same = [](const ComparisonForm& b, const ComparisonForm& c) {
-    EXPECT_EQ(b.rules.data(), c.rules.data());
-    EXPECT_EQ(b.label_x, c.label_x);
+    ASSERT_EQ(b.columns.size(), c.columns.size());
     for (std::size_t i = 0; i < b.columns.size(); ++i) {
-      EXPECT_EQ(b.columns[i].heading_x, c.columns[i].heading_x);
-      EXPECT_EQ(b.columns[i].value_x, c.columns[i].value_x);
+      EXPECT_EQ(b.columns[i].box.x, c.columns[i].box.x);
+      EXPECT_EQ(b.columns[i].box.width, c.columns[i].box.width);
+      EXPECT_EQ(b.columns[i].caption.x, c.columns[i].caption.x);
+      EXPECT_EQ(b.columns[i].cell.x, c.columns[i].cell.x);
+      const bool weight = i == kNameColumns;
+      EXPECT_EQ(b.columns[i].shows == c.columns[i].shows, !weight);
+      EXPECT_EQ(b.columns[i].caption.text == c.columns[i].caption.text, !weight);
     }
   };
   same(kTaihiBA4T, kTaihiCA4T);

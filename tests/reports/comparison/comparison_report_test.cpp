@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/drawn_page.h"
@@ -11,6 +12,9 @@
 
 namespace rbt {
 namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// With a client, rows of A4 portrait are 360 twips, row 0 at 2440; of A4 landscape 360 and 1940; of B5 295
 /// and 1810.
@@ -186,6 +190,18 @@ TEST_F(ComparisonReport, AWeightTooLongForItsFieldLosesItsFirstDigits) {
   table_.StockWeightByDia[0] = Currency::FromInteger(12345678901);
   Draw(kTaihiAA4T);
   EXPECT_EQ(page_.TextBeside(page_.TextOf("D 10"), 2700), "345,678,901 Kg");
+}
+
+TEST_F(ComparisonReport, FiguresTooWideForTheirFieldsAreNamedByRowAndColumn) {
+  EXPECT_THAT(DrawComparison(page_.Printer, kTaihiAA4T, sheet_), IsEmpty());
+  table_.StockWeightByDia[0] = Currency::FromInteger(12345678901);
+  table_.TotalCutCount = 1234567;
+  table_.LossRatePercent = 12345.678;
+  EXPECT_THAT(
+      DrawComparison(page_.Printer, kTaihiAA4T, sheet_),
+      ElementsAre(CutFigure{1, "D 10", "定　尺　重　量", "12,345,678,901"},
+                  CutFigure{1, "D 10", "差　　引", "12,345,666,901"},
+                  CutFigure{1, "合　　計", "切　　断", "1,234,567"}, CutFigure{1, "ロス率", "", "12345.68"}));
 }
 
 TEST_F(ComparisonReport, OnlyPortraitFormsCarryTheOwnCompany) {
