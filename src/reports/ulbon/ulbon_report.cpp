@@ -2,16 +2,18 @@
 #include "reports/ulbon/ulbon_report.h"
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "data/bar_tables.h"
 #include "reports/frame/grid_head_parts.h"
-#include "reports/frame/letter_spacing.h"
-#include "reports/frame/number_field.h"
+#include "reports/frame/page_flow.h"
+#include "reports/frame/paper_table.h"
 #include "reports/frame/report_head.h"
-#include "reports/frame/report_pen.h"
 #include "reports/ulbon/ulbon_sums.h"
 
 namespace rbt {
@@ -20,11 +22,10 @@ namespace {
 
 constexpr std::string_view kTitle = "ウ ル ボ ン 重 量 表";
 
-/// The frame has room for the twelve deformed diameters too.
+/// The frame has room for the twelve deformed diameters too, and for their total.
 constexpr int kFirstRow = 7;
 constexpr int kLastRow = 21;
-constexpr int kFirstUlbonRow = kFirstRow + 1;
-constexpr int kTotalRow = kFirstUlbonRow + (kDiameterRows - kDeformedRows);
+constexpr int kTableRows = kLastRow - kFirstRow;
 
 constexpr ProjectPart UlbonProject() {
   ProjectPart part = ProjectFrom(1800, 2760, 960);
@@ -48,55 +49,88 @@ constexpr HeadLayout kHead{{5900, 5700, EndsAt(9400)},
 /// Without a client line the table starts higher.
 constexpr OwnCompanyPart kOwnCompany{.x = 10000, .y = 2300, .clear_of_row = kFirstRow};
 
-constexpr std::array<float, 6> kRules{1800, 3800, 6800, 9800, 12800, 14300};
-struct Heading {
-  float x;
-  std::string_view text;
-};
 /// Only the installed weight of this material is known: the columns of stock and difference stay empty.
-constexpr Heading kHeadings[] = {{2100, "太　　　さ"},
-                                 {4250, "定   尺   重   量"},
-                                 {7250, "取   付   重   量"},
-                                 {10350, "差            引"},
-                                 {13050, "圧　　接"}};
+enum class UlbonFigure { diameter, stock_weight, installed_weight, difference, welds };
+constexpr std::array<TableColumn<UlbonFigure>, 5> kColumns{{
+    {UlbonFigure::diameter, {1800, 2000}, {"太　　　さ", 2100}, {2000, 2000}},
+    {UlbonFigure::stock_weight, {3800, 3000}, {"定   尺   重   量", 4250}},
+    {UlbonFigure::installed_weight,
+     {6800, 3000},
+     {"取   付   重   量", 7250},
+     {7900, 7900, {11, kCellMask, " Kg"}}},
+    {UlbonFigure::difference, {9800, 3000}, {"差            引", 10350}},
+    {UlbonFigure::welds, {12800, 1500}, {"圧　　接", 13050}, {13100, 13100, {7}}},
+}};
 constexpr std::string_view kLabels[] = {"U  6", "U  7", "U  9", "U 11", "U 12", "U 16"};
-constexpr float kLabelX = 2000;
-constexpr float kWeightX = 7900;
-constexpr std::size_t kWeightCharacters = 11;
-constexpr float kWeldX = 13100;
-constexpr std::size_t kWeldCharacters = 7;
-
+constexpr std::string_view kTotalLabel = "合　　　計";
 constexpr float kTextSize = 12;
-constexpr std::int32_t kFrameWidth = 5;
 
-void DrawFrame(PrinterSurface& Printer, const RowGrid& grid) {
-  Printer.DrawWidth = kFrameWidth;
-  for (const float x : kRules) Printer.Line(x, grid.Y(kFirstRow), x, grid.Y(kLastRow));
-  for (int row = kFirstRow; row <= kLastRow; ++row) {
-    Printer.Line(kRules.front(), grid.Y(row), kRules.back(), grid.Y(row));
-  }
-}
+/// What a row of the table says.
+struct UlbonRow {
+  std::string_view label;
+  CellValue weight;
+  std::int32_t welds = 0;
+};
 
-template <typename Number>
-void DrawRow(PrinterSurface& Printer, float y, std::string_view label, Number weight, std::int32_t welds) {
-  PrintAt(Printer, kLabelX, y, {label});
-  PrintAt(Printer, kWeightX, y, {FieldText({kWeightCharacters, kCellMask, " Kg"}, weight)});
-  PrintAt(Printer, kWeldX, y, {FieldText({kWeldCharacters}, std::int64_t{welds})});
-}
-
-void DrawTable(PrinterSurface& Printer, const RowGrid& grid, const TallyTable& table, std::int32_t percent,
-               double total) {
-  DrawFrame(Printer, grid);
-  SetReportFont(Printer, kTextSize);
-  const auto text_y = [&](int row) { return grid.Y(row) + kTextDrop; };
-  for (const Heading& heading : kHeadings) PrintAt(Printer, heading.x, text_y(kFirstRow), {heading.text});
+/// The diameters in their order, and the total.
+std::vector<UlbonRow> RowsOf(const TallyTable& table, std::int32_t percent, double total) {
+  std::vector<UlbonRow> rows;
   for (int d = kDeformedRows; d < kDiameterRows; ++d) {
-    const int row = d - kDeformedRows;
-    DrawRow(Printer, text_y(kFirstUlbonRow + row), kLabels[row], UlbonRowWeight(table, d, percent),
-            table.UlbonWeldCount[d]);
+    rows.push_back({kLabels[d - kDeformedRows], UlbonRowWeight(table, d, percent), table.UlbonWeldCount[d]});
   }
-  DrawRow(Printer, text_y(kTotalRow), "合　　　計", total, UlbonWeldSum(table));
+  rows.push_back({kTotalLabel, total, UlbonWeldSum(table)});
+  return rows;
 }
+
+CellValue ValueOf(const UlbonRow& row, UlbonFigure figure) {
+  switch (figure) {
+    case UlbonFigure::diameter:
+      return std::string(row.label);
+    case UlbonFigure::installed_weight:
+      return row.weight;
+    case UlbonFigure::welds:
+      return std::int64_t{row.welds};
+    default:
+      return {};
+  }
+}
+
+/// The pages of the report, from head to own company.
+class UlbonSheets {
+ public:
+  UlbonSheets(ReportPen& pen, ReportHead head, std::vector<UlbonRow> rows)
+      : pen_(pen), head_(std::move(head)), rows_(std::move(rows)) {}
+
+  void Draw() {
+    constexpr int kHeadingRows = 1;
+    DrawPages(
+        pen_, PaginateRows(rows_.size(), kTableRows - kHeadingRows),
+        {.head = [this](ReportPen&, const PageOfBlocks&) { Top(); },
+         .block = [this](ReportPen&, const PlacedBlock& at) { Row(at.row + kHeadingRows, rows_[at.block]); },
+         .foot = [this](ReportPen&) { DrawHeadPart(pen_, kOwnCompany, grid_, head_); }});
+  }
+
+ private:
+  void Top() {
+    grid_ = DrawHead(pen_, kHead, head_);
+    place_.rows = {grid_.LineUnit, grid_.Y(kFirstRow)};
+    DrawFrame(pen_.Printer, RulesOf(columns_), place_.rows, {0, kTableRows});
+    SetReportFont(pen_.Printer, kTextSize);
+    DrawCaptions(pen_, columns_, place_, 0);
+  }
+
+  void Row(int at, const UlbonRow& row) {
+    DrawRow(pen_, columns_, place_, {at, row.label},
+            [&](UlbonFigure figure) { return ValueOf(row, figure); });
+  }
+
+  ReportPen& pen_;
+  ReportHead head_;
+  std::vector<UlbonRow> rows_;
+  std::span<const TableColumn<UlbonFigure>> columns_ = kColumns;
+  RowGrid grid_;
+  TablePlace place_;
+};
 
 }  // namespace
 
@@ -106,16 +140,14 @@ Currency UlbonRowWeight(const TallyTable& table, int d, std::int32_t percent) {
   return WholeKilograms(weight + uplift);
 }
 
-void DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
-                     const TallyTable& table) {
+CutFigures DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
+                           const TallyTable& table) {
+  ReportPen pen(Printer);
   const double total = UlbonWeightSum(table, 0);
   ReportHead head = HeadOf(kTitle, site, arguments);
   head.total_weight = total;
-  ReportPen pen(Printer);
-  const RowGrid grid = DrawHead(pen, kHead, head);
-  DrawTable(Printer, grid, table, arguments.Percent, total);
-  DrawHeadPart(pen, kOwnCompany, grid, head);
-  Printer.EndDoc();
+  UlbonSheets(pen, std::move(head), RowsOf(table, arguments.Percent, total)).Draw();
+  return pen.cut_figures;
 }
 
 void Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/print/printer_surface.h"
+#include "reports/frame/report_pen.h"
 #include "reports/frame/report_site.h"
 #include "tally/tally_grid.h"
 
@@ -11,9 +12,9 @@ namespace rbt {
 /// the rows; totals stand as tallied.
 void Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments);
 
-/// The same without the global state but the own-company data.
-void DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
-                     const TallyTable& table);
+/// The same without the global state but the own-company data. Returns the figures that its fields cut.
+CutFigures DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
+                           const TallyTable& table);
 
 /// Whole kilograms of Ulbon row `d` (12..17) on the sheet, spirals included, raised by `percent`: in fixed
 /// point but for the percentage. Faults: subscript out of range, overflow.
