@@ -2,6 +2,7 @@
 #include "reports/comparison/comparison_head.h"
 
 #include "reports/comparison/comparison_layout.h"
+#include "reports/frame/draw_head.h"
 
 namespace rbt {
 

@@ -6,7 +6,9 @@
 #include <string>
 
 #include "reports/frame/report_head.h"
+#include "reports/frame/report_pen.h"
 #include "reports/frame/report_site.h"
+#include "reports/frame/row_grid.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {

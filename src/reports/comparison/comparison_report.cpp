@@ -5,6 +5,7 @@
 #include <string>
 
 #include "data/bar_tables.h"
+#include "reports/frame/draw_head.h"
 #include "reports/frame/paper_table.h"
 
 namespace rbt {

@@ -10,12 +10,11 @@
 
 #include "reports/frame/number_field.h"
 #include "reports/frame/print_frame.h"
+#include "reports/frame/report_head.h"
 #include "reports/frame/row_grid.h"
 #include "reports/frame/ruled_text.h"
 
 namespace rbt {
-
-struct ReportHead;
 
 /// The parts of a head. Places are twips, sizes points, rule widths DrawWidth; a part whose value a head
 /// lacks prints nothing.
@@ -42,8 +41,8 @@ struct NameForm {
 
 /// The project line. A long name shrinks until it is at most `long_name_width` wide.
 struct ProjectPart {
-  float x;  ///< of the labels and the rule
-  float long_name_width;
+  float x = 0;  ///< of the labels and the rule
+  float long_name_width = 0;
   NameForm short_form;
   NameForm long_form;
   NameForm broken_form;
@@ -59,7 +58,7 @@ struct ProjectPart {
 
 /// The sub-project text; under a form of the project's name without a row there is no room for it.
 struct SubProjectPart {
-  float x;
+  float x = 0;
   std::string_view before = "　　　（";
   std::string_view behind = "）";
   std::optional<RowPlace> under_short;
@@ -72,7 +71,7 @@ struct SubProjectPart {
 
 /// A total weight of the head with its label.
 struct WeightPart {
-  std::optional<double> ReportHead::*kilograms;
+  std::optional<double> ReportHead::*kilograms = &ReportHead::total_weight;
   RuledText place;
   RowPlace row = {6};
   std::string_view label = "総重量";
@@ -91,8 +90,8 @@ struct DatePart {
 
 /// A text of the head as it stands, such as its scope.
 struct TextPart {
-  std::string ReportHead::*text;
-  float x;
+  std::string ReportHead::*text = &ReportHead::scope;
+  float x = 0;
   RowPlace row;
   float size = 12;
   bool bold = false;
@@ -100,15 +99,15 @@ struct TextPart {
 
 /// The number of the page.
 struct PagePart {
-  float x;
+  float x = 0;
   RowPlace row;
   float size = 11;
 };
 
 /// The block of the firm that issues the report.
 struct OwnCompanyPart {
-  float x;
-  float y;
+  float x = 0;
+  float y = 0;
   std::string_view label_font = ReportFont;
   double clear_of_row = 0;  ///< a block that would run into this row of the page moves up; 0: it stays
 };
@@ -119,8 +118,8 @@ using HeadPart = std::variant<ClientPart, ProjectPart, SubProjectPart, WeightPar
 /// The rows of a page, from its title down: a row is as high as a line of `text_size` and `gap` twips; row 0
 /// stands so many lines of the title below the title, and so many rows lower where there is a client line.
 struct HeadRows {
-  float text_size;
-  float gap;
+  float text_size = 0;
+  float gap = 0;
   float title_lines = 0;
   float client_rows = 0;
 };
@@ -129,7 +128,7 @@ struct HeadRows {
 /// parts in the order in which they are drawn.
 struct HeadLayout {
   RuledText title;
-  float title_y;
+  float title_y = 0;
   HeadRows rows;
   std::span<const HeadPart> parts;
 };

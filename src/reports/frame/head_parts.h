@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "reports/frame/head_layout.h"
 #include "reports/frame/report_head.h"
+#include "reports/frame/report_pen.h"
+#include "reports/frame/row_grid.h"
 
 namespace rbt {
 

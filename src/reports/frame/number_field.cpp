@@ -33,7 +33,7 @@ std::string WholeText(const NumberField& field, const CellValue& value) {
 }
 
 std::string FieldText(const NumberField& field, const CellValue& value) {
-  const std::string whole = WholeText(field, value);
+  std::string whole = WholeText(field, value);
   if (!IsNumber(value)) return whole;
   return RightAligned(whole, field.characters).append(field.suffix);
 }

@@ -86,8 +86,8 @@ using FrameRules = std::vector<FrameRule>;
 
 /// A horizontal rule at the top of a row.
 struct RowRule {
-  float from;
-  float to;
+  float from = 0.0F;
+  float to = 0.0F;
   std::int32_t draw_width = kFrameWidth;
 };
 void DrawRowRule(PrinterSurface& Printer, const RowGrid& rows, int row, const RowRule& rule);
@@ -137,9 +137,9 @@ void DrawRow(ReportPen& pen, std::span<const TableColumn<Field>> columns, const 
 
 /// Groups of the same columns side by side, one beside the other `period` twips apart.
 struct GroupBand {
-  float left;
-  float period;
-  int count;  ///< on a page
+  float left = 0.0F;
+  float period = 0.0F;
+  int count = 1;  ///< on a page
 
   constexpr float Left(int slot) const { return left + static_cast<float>(slot) * period; }
 };

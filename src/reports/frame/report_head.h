@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 
-#include "reports/frame/head_layout.h"
-#include "reports/frame/report_pen.h"
 #include "reports/frame/report_site.h"
-#include "reports/frame/row_grid.h"
 
 namespace rbt {
 
@@ -54,11 +50,5 @@ struct ReportHead {
 };
 /// The head that a report of this title has for a site, without scope and weights.
 ReportHead HeadOf(std::string_view title, const ReportSite& site, const ReportArguments& arguments);
-
-/// Draws title and parts in the order of the layout, on the page where the pen is, and returns the rows of
-/// the page. The document bears the head's title.
-RowGrid DrawHead(ReportPen& pen, const HeadLayout& layout, const ReportHead& head);
-/// Draws one part more, such as one that stands behind the table.
-void DrawHeadPart(ReportPen& pen, const HeadPart& part, const RowGrid& grid, const ReportHead& head);
 
 }  // namespace rbt

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "data/bar_tables.h"
+#include "reports/frame/draw_head.h"
 #include "reports/frame/grid_head_parts.h"
 #include "reports/frame/page_flow.h"
 #include "reports/frame/paper_table.h"
-#include "reports/frame/report_head.h"
 #include "reports/ulbon/ulbon_sums.h"
 
 namespace rbt {

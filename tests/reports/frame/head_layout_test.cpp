@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "reports/frame/report_head.h"
+#include "reports/frame/draw_head.h"
 #include "support/drawn_page.h"
 #include "support/sheet_samples.h"
 #include "support/site_fixture.h"

@@ -8,8 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "reports/frame/draw_head.h"
 #include "reports/frame/paper_table.h"
-#include "reports/frame/report_head.h"
 #include "support/drawn_page.h"
 
 namespace rbt {

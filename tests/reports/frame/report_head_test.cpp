@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/comparison/comparison_layout.h"
+#include "reports/frame/draw_head.h"
 #include "shell/config/settings.h"
 #include "support/drawn_page.h"
 #include "support/sheet_samples.h"
