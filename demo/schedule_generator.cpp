@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "data/diameters.h"
 #include "demo/shapes.h"
 #include "demo/stock_choice.h"
 
@@ -46,9 +47,8 @@ std::array<std::int32_t, 10> DimensionsOf(Outline outline, std::int32_t cut_mm, 
 }
 
 std::int32_t NextThicker(std::int32_t diameter) {
-  constexpr std::int32_t kDeformed[] = {10, 13, 16, 19, 22, 25, 29, 32, 35, 38, 41, 51};
-  for (const std::int32_t code : kDeformed) {
-    if (code > diameter) return code;
+  for (const Diameter& thicker : kDeformedDiameters) {
+    if (thicker.code > diameter) return thicker.code;
   }
   return diameter;
 }

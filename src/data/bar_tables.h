@@ -2,34 +2,20 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 namespace rbt {
 
-/// Rows of a tally: 0 to 11 the deformed diameters, 12 to 17 the Ulbon ones.
-inline constexpr int kDeformedRows = 12;
-inline constexpr int kDiameterRows = 18;
 /// Columns of a tally: 18 from 3.5 m to 12.0 m, then 13.0 m, which only some sums and sheets take in.
 inline constexpr int kColumnsTo12m = 18;
 inline constexpr int kColumn13m = 18;
 inline constexpr int kStockColumns = 19;
 
-/// Row 0 to 11 of a deformed diameter code (10, 13, ... 51), -1 for any other.
-int DiameterIndex(int diameter_code);
-/// Row 12 to 17 of an Ulbon diameter code (6, 7, 9, 11, 12, 16), -1 for any other.
-int UlbonIndex(int diameter_code);
 /// Column 0 to 18 of a stock length in metres, by exact comparison; -1 for a length without a column, such as
 /// 12.5.
 int StockIndex(double metres);
 /// Metres of a stock column, -1.0 outside 0 to 18.
 double StockMetres(int stock_column);
 
-/// Diameter code of row `d` (0..17): 10, 13, ... 51, 6, 7, ... 16. Faults: subscript out of range.
-int DiameterCode(int d);
-/// "D10" to "D51", "U 6" to "U16". Faults: subscript out of range.
-std::string_view DiameterLabel(int d);
-/// Kilograms of one metre of diameter row `d` (0..17), by the bar standard. Faults: subscript out of range.
-double UnitWeight(int d);
 /// Kilograms of one stock bar of diameter row `d` (0..17) and stock column `l` (0..18), rounded to three
 /// significant figures, halves to the even figure: the double nearest to that decimal. Faults: subscript out
 /// of range.

@@ -40,12 +40,6 @@ inline constexpr std::array<FormWord, 4> kFormWords{{
 /// Names, each closed by one ideographic blank, that mark slit bars of part 3.
 inline constexpr std::array<std::string_view, 2> kSlitNames{"縦ｽﾘｯﾄ筋　", "横ｽﾘｯﾄ筋　"};
 
-/// Diameter codes, column `太さ`: deformed bars D10 to D51, and Ulbon U6 to U16. 16 is either, `予備2` tells.
-inline constexpr std::array<int, 12> kDeformedDiameters{10, 13, 16, 19, 22, 25, 29, 32, 35, 38, 41, 51};
-inline constexpr std::array<int, 6> kUlbonDiameters{6, 7, 9, 11, 12, 16};
-/// The Ulbon diameters that no deformed bar has.
-inline constexpr std::array<int, 5> kUlbonOnlyDiameters{6, 7, 9, 11, 12};
-
 /// Cut lengths in mm at which a bar is used whole: the stock lengths from 3.5 m to 12 m.
 inline constexpr std::array<int, 18> kStockCutLengths{3500, 4000,  4500,  5000,  5500,  6000,
                                                       6500, 7000,  7500,  8000,  8500,  9000,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "data/reference.h"
 
+#include "data/diameters.h"
 #include "data/quoted_text.h"
 #include "platform/fault.h"
 #include "platform/system/message.h"
@@ -12,9 +13,6 @@ namespace {
 
 constexpr std::int32_t kDefaultWidth = 50;
 constexpr std::int32_t kGradeCount = 10;
-
-constexpr std::array<std::string_view, 12> kGradeFields{"SD10", "SD13", "SD16", "SD19", "SD22", "SD25",
-                                                        "SD29", "SD32", "SD35", "SD38", "SD41", "SD51"};
 
 std::int32_t IntegerOrZero(const Recordset& rows, FieldHandle field) { return rows.Int32(field).value_or(0); }
 
@@ -76,11 +74,13 @@ SiteGrades ReadSiteGrades(Database& master, std::string_view file_name) {
       master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE データパス = " + QuotedText(file_name, '\''));
   RequireSite(rows, file_name);
   SiteGrades grades;
-  for (std::size_t i = 0; i < kGradeFields.size(); ++i) {
-    grades.codes[i] = IntegerOrZero(rows, rows.Field(kGradeFields[i]));
+  FieldHandle grade{};
+  for (std::size_t i = 0; i < kDeformedDiameters.size(); ++i) {
+    grade = rows.Field("SD" + std::to_string(kDeformedDiameters[i].code));
+    grades.codes[i] = IntegerOrZero(rows, grade);
   }
   // The maker columns have no agreed names: they are the twelve behind the last grade column.
-  const int first = rows.Field(kGradeFields.back()).index + 1;
+  const int first = grade.index + 1;
   if (first + static_cast<int>(grades.makers.size()) > rows.FieldCount()) {
     throw Fault(FaultKind::field_not_found, "工事テーブル: twelve maker names behind SD51");
   }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "data/diameters.h"
+
 namespace rbt {
 
 namespace {
@@ -148,13 +150,11 @@ TableDef Schedule() {
 }
 
 TableDef Sites() {
-  constexpr std::string_view kDiameters[] = {"10", "13", "16", "19", "22", "25",
-                                             "29", "32", "35", "38", "41", "51"};
   Fields fields = {Long("番号"),         Text("工事名", 60),      Text("データパス", 60),
                    Long("取引先コード"), Text("長い工事名", 120), Long("工事名区切り文字数"),
                    Long("メーカーNo"),   Long("支給形態")};
-  for (const std::string_view code : kDiameters) fields.push_back(Long("SD" + std::string(code)));
-  for (const std::string_view code : kDiameters) fields.push_back(Text("MK" + std::string(code), 20));
+  for (const Diameter& d : kDeformedDiameters) fields.push_back(Long("SD" + std::to_string(d.code)));
+  for (const Diameter& d : kDeformedDiameters) fields.push_back(Text("MK" + std::to_string(d.code), 20));
   return Table("工事テーブル", std::move(fields));
 }
 

@@ -2,6 +2,7 @@
 #include "tally/closing_sums.h"
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/spirals.h"
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 
 namespace rbt {
 namespace {

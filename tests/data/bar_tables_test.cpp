@@ -76,32 +76,6 @@ TEST(Get_BarWeightTbl, ReadsTheNextDiameterAt13MetresAndFaultsBehindTheLast) {
   EXPECT_THROW(Get_BarWeightTbl(0, -1), Fault);
 }
 
-TEST(UnitWeight, FollowsTheBarStandard) {
-  for (int d = 0; d < 18; ++d) {
-    EXPECT_EQ(UnitWeight(d), static_cast<double>(kThousandths[d]) / 1000.0) << d;
-  }
-  EXPECT_THROW(UnitWeight(18), Fault);
-  EXPECT_THROW(UnitWeight(-1), Fault);
-}
-
-TEST(DiameterIndex, KnowsTheTwelveDeformedDiametersAndNoOther) {
-  const int codes[] = {10, 13, 16, 19, 22, 25, 29, 32, 35, 38, 41, 51};
-  for (int d = 0; d < 12; ++d) {
-    EXPECT_EQ(DiameterIndex(codes[d]), d);
-    EXPECT_EQ(DiameterCode(d), codes[d]);
-  }
-  for (const int code : {0, -10, 6, 7, 9, 11, 12, 14, 50, 52}) EXPECT_EQ(DiameterIndex(code), -1) << code;
-}
-
-TEST(UlbonIndex, KnowsTheSixUlbonDiametersAndNoOther) {
-  const int codes[] = {6, 7, 9, 11, 12, 16};
-  for (int u = 0; u < 6; ++u) {
-    EXPECT_EQ(UlbonIndex(codes[u]), 12 + u);
-    EXPECT_EQ(DiameterCode(12 + u), codes[u]);
-  }
-  for (const int code : {0, -6, 8, 10, 13, 51}) EXPECT_EQ(UlbonIndex(code), -1) << code;
-}
-
 TEST(StockIndex, FindsAColumnForEveryHalfMetreTo12AndFor13) {
   for (int l = 0; l < 18; ++l) EXPECT_EQ(StockIndex(3.5 + 0.5 * l), l);
   EXPECT_EQ(StockIndex(13.0), 18);
@@ -120,13 +94,6 @@ TEST(StockMetres, IsTheInverseOfTheColumnAndMinusOneOutside) {
   for (int l = 0; l < 19; ++l) EXPECT_EQ(StockIndex(StockMetres(l)), l);
   EXPECT_EQ(StockMetres(-1), -1.0);
   EXPECT_EQ(StockMetres(19), -1.0);
-}
-
-TEST(DiameterLabel, PadsTheThinDiametersToThreeCharacters) {
-  EXPECT_EQ(DiameterLabel(0), "D10");
-  EXPECT_EQ(DiameterLabel(11), "D51");
-  EXPECT_EQ(DiameterLabel(12), "U 6");
-  EXPECT_EQ(DiameterLabel(17), "U16");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"

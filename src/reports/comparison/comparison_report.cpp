@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "reports/frame/draw_head.h"
 #include "reports/frame/paper_table.h"
 
@@ -17,8 +17,6 @@ constexpr int kFirstDiameterRow = 1;
 constexpr int kTotalRow = kFirstDiameterRow + kDeformedRows;
 constexpr int kFirstExtraRow = kTotalRow + 1;
 
-constexpr std::string_view kDiameterLabels[] = {"D 10", "D 13", "D 16", "D 19", "D 22", "D 25",
-                                                "D 29", "D 32", "D 35", "D 38", "D 41", "D 51"};
 constexpr std::string_view kUlbonLabel = "ウルボン合計";
 constexpr std::string_view kSpiralLabel = "スパイラル合計";
 constexpr std::string_view kLossLabel = "ロス率";
@@ -29,7 +27,7 @@ CellValue DiameterValue(const ComparisonSheet& sheet, Figure figure, int d) {
   const TallyTable& table = sheet.table;
   switch (figure) {
     case Figure::diameter:
-      return std::string(kDiameterLabels[static_cast<std::size_t>(d)]);
+      return "D " + std::to_string(DiameterCode(d));
     case Figure::grade:
       return sheet.grades[static_cast<std::size_t>(d)];
     case Figure::stock_weight:

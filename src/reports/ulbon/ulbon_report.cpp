@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "reports/frame/draw_head.h"
 #include "reports/frame/grid_head_parts.h"
 #include "reports/frame/page_flow.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/ulbon/ulbon_sums.h"
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "platform/numbers/number_words.h"
 #include "tally/views/result_grid.h"
 

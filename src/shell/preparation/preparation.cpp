@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "data/diameters.h"
 #include "data/materials.h"
 #include "data/shapes.h"
 #include "shell/preparation/statements.h"
@@ -73,7 +74,7 @@ void ClassifySchedule(Database& schedule, std::int32_t start_mode) {
 std::vector<std::string> ActivationStatements(std::int32_t start_mode, bool has_plate_counts) {
   std::vector<std::string> statements{
       "UPDATE 加工テーブル SET 予備2 = 1 WHERE 予備2 = 2 AND 太さ <> 16",
-      fmt::format("UPDATE 加工テーブル SET 予備2 = 2 WHERE 太さ IN({})", fmt::join(kUlbonOnlyDiameters, ",")),
+      fmt::format("UPDATE 加工テーブル SET 予備2 = 2 WHERE 太さ IN({})", fmt::join(kUlbonOnlyCodes, ",")),
   };
   if (has_plate_counts) {
     statements.emplace_back("UPDATE 加工テーブル SET 定着板数 = 0");

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <string>
 
-#include "data/materials.h"
+#include "data/diameters.h"
 #include "platform/numbers/number_words.h"
 #include "shell/config/settings.h"
 #include "shell/context/fixed_stock.h"
@@ -13,6 +14,11 @@ EngineStateData EngineState;
 
 namespace {
 
+static_assert(std::equal(StockLimitKeys.begin(), StockLimitKeys.end(), kDeformedDiameters.begin(),
+                         kDeformedDiameters.end(), [](const StockLimitKey& key, const Diameter& deformed) {
+                           return key.diameter == deformed.code;
+                         }));
+
 std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSteelIni(key)), key.key); }
 
 }  // namespace
@@ -23,7 +29,7 @@ StockLengthLimits GetStockLengthLimits() {
     limits.Set(key.diameter, ReadNumber(key.shortest), ReadNumber(key.longest));
   }
   limits.ones_rounding = ReadNumber(kOnesRoundingKey);
-  for (const int thin : kUlbonOnlyDiameters) limits.Set(thin, limits.Min(10), limits.Max(10));
+  for (const int thin : kUlbonOnlyCodes) limits.Set(thin, limits.Min(10), limits.Max(10));
   return limits;
 }
 

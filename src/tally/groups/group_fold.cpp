@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "data/shapes.h"
 #include "platform/fault.h"
 #include "tally/count_cells.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "tally/count_cells.h"
 #include "tally/groups/group_statements.h"
 

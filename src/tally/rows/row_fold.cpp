@@ -4,6 +4,7 @@
 #include <string>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "data/parts.h"
 #include "platform/numbers/number_words.h"
 #include "tally/count_cells.h"

@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "tally/views/json_text.h"
 
 namespace rbt {
