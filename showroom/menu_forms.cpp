@@ -17,7 +17,7 @@ MenuState FullyEquipped(std::int32_t start_mode, std::string_view weight_tally) 
   run_state.HasWeldCounter = run_state.HasJoinCounter = run_state.HasPlateCounter = true;
   SettingsData settings = Settings;
   settings.ShippingDate = 1;
-  return MenuStateOf(start_mode, run_state, settings, weight_tally);
+  return MenuStateOf(TraitsOfStartMode(start_mode), run_state, settings, weight_tally);
 }
 
 FormState StateOf(std::string name, std::int32_t start_mode, std::string_view weight_tally) {

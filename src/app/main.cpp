@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "app/arguments.h"
+#include "data/start_mode.h"
 #include "desktop/action.h"
 #include "desktop/look.h"
 #include "desktop/preview_form.h"
@@ -68,7 +69,7 @@ int RunMenu(const Arguments& arguments) {
   StartOptions options;
   const bool ready = RunAction(kMenuTitle, [&] {
     root_known = UseRoot(arguments);
-    options.start_mode = ParseStartMode(arguments.command_line);
+    options.start_mode = TraitsOfStartMode(ParseStartMode(arguments.command_line));
   });
   if (!ready || !root_known) return EXIT_FAILURE;
   UseSystemPrinters([](const PrintedDocument& document) { ShowPreview({document}); });

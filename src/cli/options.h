@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "data/shapes.h"
+#include "data/start_mode.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
 
@@ -15,10 +16,10 @@ namespace rbt {
 
 /// The options that every command on a site takes.
 struct CommonOptions {
-  std::string root;              ///< root folder; empty: $RBK_ROOT
-  std::string site;              ///< schedule file in place of 選択ＤＢ名; empty: as STEEL.INI says
-  std::int32_t start_mode = -1;  ///< StartMode
-  bool no_prepare = false;       ///< leave the schedule as it stands
+  std::string root;  ///< root folder; empty: $RBK_ROOT
+  std::string site;  ///< schedule file in place of 選択ＤＢ名; empty: as STEEL.INI says
+  std::int32_t start_mode = kNoStartMode;
+  bool no_prepare = false;  ///< leave the schedule as it stands
 };
 
 /// The filters of a tally.

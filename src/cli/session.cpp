@@ -21,7 +21,7 @@ void UseRoot(const std::string& root) {
 void OpenSite(const CommonOptions& options) {
   UseRoot(options.root);
   StartOptions start;
-  start.start_mode = options.start_mode;
+  start.start_mode = TraitsOfStartMode(options.start_mode);
   start.prepare = !options.no_prepare;
   start.site = options.site;
   start.command_line = true;

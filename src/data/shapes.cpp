@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::array<int, 2> kTwoPlateShapes{143, 146};
 constexpr std::array<int, 4> kStraightEndedShapes{138, 139, 140, 143};
-constexpr std::array<std::int32_t, 3> kPlainStartModes{1, 3, 4};
 
 template <typename Ranges>
 bool IsInside(const Ranges& ranges, int shape) {
@@ -34,11 +33,9 @@ int PlatesPerBar(int shape) {
   return IsOneOf(kTwoPlateShapes, shape) ? 2 : 1;
 }
 
-bool OnlyPlainBarsAreStraight(std::int32_t start_mode) { return IsOneOf(kPlainStartModes, start_mode); }
-
-bool IsStraightShape(int shape, std::int32_t start_mode) {
+bool IsStraightShape(int shape, const StartModeTraits& start_mode) {
   if (shape == kStraightShape) return true;
-  return !OnlyPlainBarsAreStraight(start_mode) && IsOneOf(kStraightEndedShapes, shape);
+  return !start_mode.only_plain_bars_are_straight && IsOneOf(kStraightEndedShapes, shape);
 }
 
 }  // namespace rbt

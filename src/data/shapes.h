@@ -2,8 +2,9 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string_view>
+
+#include "data/start_mode.h"
 
 namespace rbt {
 
@@ -37,10 +38,8 @@ bool IsThreadedShape(int shape);
 /// Anchor plates on one bar of a shape: 0, 1 or 2.
 int PlatesPerBar(int shape);
 
-/// True for the start modes, 1, 3 and 4, in which only shape 1 is straight.
-bool OnlyPlainBarsAreStraight(std::int32_t start_mode);
 /// A straight shape: a bar with threaded or anchored ends (138, 139, 140, 143) counts as straight unless the
-/// start mode is 1, 3 or 4.
-bool IsStraightShape(int shape, std::int32_t start_mode);
+/// start mode knows plain bars alone.
+bool IsStraightShape(int shape, const StartModeTraits& start_mode);
 
 }  // namespace rbt

@@ -77,10 +77,6 @@ std::string_view ShortFormCaption(std::int32_t material_form_mask) {
   return FormCaption(material_form_mask);
 }
 
-bool ShowsNoSlitWord(std::int32_t start_mode) {
-  return start_mode == 1 || start_mode == 3 || start_mode == 4;
-}
-
 std::string StripSlitWord(std::string_view caption) {
   std::string text(caption);
   for (const std::string_view word : {"･スリット", "・スリット", "･スリット", "スリット", "スリットのみ"}) {

@@ -19,8 +19,6 @@ std::string_view FormCaption(std::int32_t material_form_mask);
 /// The same for narrow places: single forms are shortened too.
 std::string_view ShortFormCaption(std::int32_t material_form_mask);
 
-/// True for the start modes of programs that know no slit bars: their captions pass through `StripSlitWord`.
-bool ShowsNoSlitWord(std::int32_t start_mode);
 /// A caption without the slit kind and the dot before it; of the slit kind alone "のみ" stays.
 std::string StripSlitWord(std::string_view caption);
 

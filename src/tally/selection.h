@@ -3,11 +3,13 @@
 
 #include <cstdint>
 
+#include "data/start_mode.h"
+
 namespace rbt {
 
 /// What the user picked; outlives a form and is read by every tally.
 struct SelectionData {
-  std::int32_t StartMode = -1;             ///< first number of the command line, -1 when there is none
+  StartModeTraits StartMode = TraitsOfStartMode(kNoStartMode);  ///< of the first number of the command line
   std::int32_t TallyKind = 0;              ///< 0 bulk, 1 shape, 2 page, 3 shape by page, 4 floor, 5 part
   std::int32_t MaterialKindMask = 15;      ///< bit 1 異形, 2 ネジ, 4 高強度, 8 スリット
   std::int32_t PrevMaterialKindMask = 15;  ///< the mask before the last change

@@ -54,12 +54,15 @@ TEST(Shapes, TellTheThreadedOnes) {
 
 TEST(Shapes, CountThreadedAndAnchoredEndsAsStraightUnlessTheStartModeForbids) {
   for (const int mode : {-1, 0, 2, 5}) {
-    for (const int shape : {1, 138, 139, 140, 143}) EXPECT_TRUE(IsStraightShape(shape, mode)) << shape;
-    for (const int shape : {0, 2, 87, 141, 142, 144}) EXPECT_FALSE(IsStraightShape(shape, mode)) << shape;
+    for (const int shape : {1, 138, 139, 140, 143})
+      EXPECT_TRUE(IsStraightShape(shape, TraitsOfStartMode(mode))) << shape;
+    for (const int shape : {0, 2, 87, 141, 142, 144})
+      EXPECT_FALSE(IsStraightShape(shape, TraitsOfStartMode(mode))) << shape;
   }
   for (const int mode : {1, 3, 4}) {
-    EXPECT_TRUE(IsStraightShape(1, mode));
-    for (const int shape : {138, 139, 140, 143}) EXPECT_FALSE(IsStraightShape(shape, mode)) << shape;
+    EXPECT_TRUE(IsStraightShape(1, TraitsOfStartMode(mode)));
+    for (const int shape : {138, 139, 140, 143})
+      EXPECT_FALSE(IsStraightShape(shape, TraitsOfStartMode(mode))) << shape;
   }
 }
 

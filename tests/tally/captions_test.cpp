@@ -58,10 +58,5 @@ TEST(StripSlitWord, LeavesTheHalfWidthWordAlone) {
   EXPECT_EQ(StripSlitWord("異形･高強度･ｽﾘｯﾄ"), "異形･高強度･ｽﾘｯﾄ");
 }
 
-TEST(ShowsNoSlitWord, IsForStartModes1And3And4) {
-  for (const int mode : {1, 3, 4}) EXPECT_TRUE(ShowsNoSlitWord(mode)) << mode;
-  for (const int mode : {-1, 0, 2, 5}) EXPECT_FALSE(ShowsNoSlitWord(mode)) << mode;
-}
-
 }  // namespace
 }  // namespace rbt

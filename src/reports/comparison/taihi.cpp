@@ -10,9 +10,6 @@ namespace rbt {
 
 namespace {
 
-/// The programs of these start modes count no cuts.
-bool HidesCuts(std::int32_t start_mode) { return start_mode == 1 || start_mode == 3; }
-
 void DrawSite(PrinterSurface& Printer, const ReportArguments& arguments, const ComparisonForm& form) {
   const ComparisonSheet sheet{ReadReportSite(),
                               arguments,
@@ -20,7 +17,7 @@ void DrawSite(PrinterSurface& Printer, const ReportArguments& arguments, const C
                               DiameterGradeNames(),
                               UlbonWeightSum(TallyGrid, arguments.Percent),
                               UlbonWeldSum(TallyGrid),
-                              HidesCuts(Selection.StartMode)};
+                              Selection.StartMode.hides_cuts};
   DrawComparison(Printer, form, sheet);
 }
 

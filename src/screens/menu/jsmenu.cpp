@@ -156,7 +156,7 @@ void JSMENU::Form_Activate() {
   if (ended_) return;
   focus_served_ = true;
   const bool activated = RunAction(*this, [this] {
-    if (IsPassThrough(Selection.StartMode)) showMinimized();
+    if (Selection.StartMode.PassesOn()) showMinimized();
     const MenuState state = parts_.activate();
     ShowState(state);
     if (state.pass_on_to) PassOn(*state.pass_on_to);

@@ -19,18 +19,13 @@ namespace {
 constexpr std::array kModeCaptions{"含む", "含まず", "のみ"};
 constexpr const char* kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
 
-/// The start modes whose programs offer no filter on shapes.
-bool OffersShapeFilters() {
-  return Selection.StartMode != 1 && Selection.StartMode != 3 && Selection.StartMode != 4;
-}
-
 }  // namespace
 
 void FilterPanel::ShowKinds() {
   const std::string_view caption = KindCaption(Selection.MaterialKindMask);
   // On the bulk screen the slit word goes in the full program too; the total row keeps it there.
-  const bool strips =
-      (screen_.range == RangeKind::none && Selection.StartMode == -1) || ShowsNoSlitWord(Selection.StartMode);
+  const bool is_bulk = screen_.range == RangeKind::none;
+  const bool strips = is_bulk ? Selection.StartMode.hides_slit_in_bulk_kinds : Selection.StartMode.hides_slit;
   ui_.Label8->setText(strips ? Text(StripSlitWord(caption)) : Text(caption));
 }
 
@@ -46,8 +41,8 @@ void FilterPanel::ShowModes() {
 }
 
 void FilterPanel::OfferModes() {
-  const bool plates = RunState.HasAnchorPlateRows && OffersShapeFilters();
-  const bool hoops = RunState.HasHoopRows && OffersShapeFilters();
+  const bool plates = RunState.HasAnchorPlateRows && Selection.StartMode.offers_shape_filters;
+  const bool hoops = RunState.HasHoopRows && Selection.StartMode.offers_shape_filters;
   for (QWidget* control : std::initializer_list<QWidget*>{ui_.cmdTei, ui_.Label5}) {
     control->setVisible(plates);
   }

@@ -9,11 +9,8 @@
 
 namespace rbt {
 
-Sibling NameCompanion(int start_mode) {
-  Sibling companion{"\\rbk", "\\rbk\\rbtally2.exe", WindowStyle::maximised, true, true};
-  if (start_mode == 1 || start_mode == 3) companion.command_line = "\\rbk\\rbtally2.exe 0";
-  if (start_mode == 4) companion.command_line = "\\rbk\\rbtally2.exe 4";
-  return companion;
+Sibling NameCompanion(const StartModeTraits& start_mode) {
+  return {"\\rbk", start_mode.name_companion, WindowStyle::maximised, true, true};
 }
 
 bool RequireSibling(std::string_view command_line) {

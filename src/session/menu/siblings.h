@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "data/start_mode.h"
 #include "platform/system/process.h"
 #include "session/startup/sibling_programs.h"
 
@@ -33,7 +34,7 @@ inline constexpr Sibling kStockFit{"\\rbk\\", "\\rbk\\KAKOU\\rbstockfit.exe", Wi
                                    true};
 
 /// The companion that works with registered names; what it is told depends on the start mode.
-Sibling NameCompanion(int start_mode);
+Sibling NameCompanion(const StartModeTraits& start_mode);
 
 /// False, after a message that names the program, when it is not there.
 bool RequireSibling(std::string_view command_line);

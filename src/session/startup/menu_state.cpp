@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <array>
 
-#include "session/startup/start_mode.h"
-
 namespace rbt {
 
 namespace {
@@ -15,7 +13,7 @@ enum class Counter { none, weld, join, plate };
 
 struct MenuControl {
   std::string_view name;
-  bool in_reduced_menu;   ///< shown in the start modes 1, 3 and 4
+  bool in_reduced_menu;
   bool hidden_by_caller;  ///< hidden when the caller restricts the menu
   Counter counter = Counter::none;
 };
@@ -40,31 +38,20 @@ constexpr std::array<MenuControl, 15> kMenuControls{{
 
 constexpr std::string_view kRestricted = "j";
 
-bool ShownByStartMode(const MenuControl& control, std::int32_t start_mode) {
-  switch (start_mode) {
-    case -1:
-      return true;
-    case 1:
-    case 3:
-    case 4:
-      return control.in_reduced_menu;
-    default:
-      return false;
-  }
+bool ShownByStartMode(const MenuControl& control, MenuExtent menu) {
+  return menu == MenuExtent::full || (menu == MenuExtent::reduced && control.in_reduced_menu);
 }
 
-/// The weld counter follows its flag in every start mode, also in one that shows nothing else; the others
-/// keep out of the modes 1 and 3, and the plate counter does not come back in mode 4.
-bool ShownByCounter(Counter counter, bool shown, std::int32_t start_mode, const RunStateData& run_state) {
-  const bool own_menu = start_mode == 1 || start_mode == 3;
+/// The counters follow what is on disk, also in a start mode that shows nothing else.
+bool ShownByCounter(Counter counter, bool shown, const StartModeTraits& start_mode,
+                    const RunStateData& run_state) {
   switch (counter) {
     case Counter::weld:
       return run_state.HasWeldCounter;
     case Counter::join:
-      return own_menu ? shown : run_state.HasJoinCounter;
+      return start_mode.offers_coupler_counter && run_state.HasJoinCounter;
     case Counter::plate:
-      if (own_menu) return shown;
-      return run_state.HasPlateCounter && (shown || start_mode != 4);
+      return start_mode.offers_plate_counter && run_state.HasPlateCounter;
     case Counter::none:
       break;
   }
@@ -84,20 +71,20 @@ std::vector<std::string_view> MenuControls() {
   return names;
 }
 
-MenuState MenuStateOf(std::int32_t start_mode, const RunStateData& run_state, const SettingsData& settings,
-                      std::string_view weight_tally) {
+MenuState MenuStateOf(const StartModeTraits& start_mode, const RunStateData& run_state,
+                      const SettingsData& settings, std::string_view weight_tally) {
   const bool restricted = weight_tally == kRestricted;
   MenuState state;
   for (const MenuControl& control : kMenuControls) {
-    bool shown = ShownByStartMode(control, start_mode);
+    bool shown = ShownByStartMode(control, start_mode.menu);
     shown = ShownByCounter(control.counter, shown, start_mode, run_state);
     if (control.name == "cmdKaiBuiK" && settings.ShippingDate == 0) shown = false;
     if (restricted && control.hidden_by_caller) shown = false;
     if (shown) state.shown.push_back(control.name);
   }
   if (restricted) state.status_text = kRestrictedMenuStatusText;
-  state.minimised = IsPassThrough(start_mode);
-  if (state.minimised) state.pass_on_to = "\\rbk\\rbtally2.exe " + std::to_string(start_mode);
+  state.minimised = start_mode.PassesOn();
+  if (start_mode.PassesOn()) state.pass_on_to = start_mode.pass_on_to;
   return state;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "data/start_mode.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 
@@ -35,7 +35,7 @@ std::vector<std::string_view> MenuControls();
 
 /// What a start mode shows, narrowed by the siblings on disk, by the setting `出荷日` and, when
 /// `weight_tally` (NEXTPRG.INI データ 重量集計) is "j", by the caller.
-MenuState MenuStateOf(std::int32_t start_mode, const RunStateData& run_state, const SettingsData& settings,
-                      std::string_view weight_tally);
+MenuState MenuStateOf(const StartModeTraits& start_mode, const RunStateData& run_state,
+                      const SettingsData& settings, std::string_view weight_tally);
 
 }  // namespace rbt

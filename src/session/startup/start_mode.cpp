@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "data/start_mode.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {
@@ -20,8 +21,7 @@ std::array<std::int32_t, 10> ParseStartArgs(std::string_view command_line) {
 }
 
 std::int32_t ParseStartMode(std::string_view command_line) {
-  constexpr std::int32_t kNone = -1;
-  return command_line.empty() ? kNone : ParseStartArgs(command_line).front();
+  return command_line.empty() ? kNoStartMode : ParseStartArgs(command_line).front();
 }
 
 }  // namespace rbt

@@ -11,10 +11,7 @@ namespace rbt {
 /// At most the first two words are read, a word without digits is 0; a number beyond 32 bits throws
 /// `overflow`. The other entries are 0.
 std::array<std::int32_t, 10> ParseStartArgs(std::string_view command_line);
-/// The first number of the command line, -1 when there is none.
+/// The first number of the command line, `kNoStartMode` when there is none.
 std::int32_t ParseStartMode(std::string_view command_line);
-
-/// Start modes that never show a usable menu: the schedule is prepared and the companion takes over.
-constexpr bool IsPassThrough(std::int32_t start_mode) { return start_mode == 2 || start_mode == 3; }
 
 }  // namespace rbt

@@ -97,9 +97,9 @@ void ProbeShapeTable() {
 }
 
 /// Every registered name starts out as selected.
-void MarkRegisteredNames(std::int32_t start_mode) {
+void MarkRegisteredNames(const StartModeTraits& start_mode) {
   Database companion = Database::Open(MapPath(CompanionDatabasePath()));
-  if (IsPassThrough(start_mode)) return;
+  if (start_mode.PassesOn()) return;
   Transaction transaction(companion);
   Recordset names = companion.OpenDynaset("SELECT * FROM 登録名 ORDER BY 登録AN");
   const FieldHandle number = names.Field("登録AN");

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
+#include "data/start_mode.h"
 #include "session/startup/menu_state.h"
 #include "session/startup/start_mode.h"
 
 namespace rbt {
 
 struct StartOptions {
-  std::int32_t start_mode = -1;  ///< see `ParseStartMode`
-  bool prepare = true;           ///< false: the schedule is not classified, its rows stay as they are
-  std::string site;              ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
+  StartModeTraits start_mode = TraitsOfStartMode(kNoStartMode);
+  bool prepare = true;  ///< false: the schedule is not classified, its rows stay as they are
+  std::string site;     ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
   bool command_line = false;
 };

@@ -46,8 +46,6 @@ std::string CountPlates(std::string_view product, int plates) {
                      fmt::join(ShapesWithPlates(plates), ","));
 }
 
-bool CountsPlates(std::int32_t start_mode) { return start_mode != 1 && start_mode != 3; }
-
 void AddColumnIfMissing(Database& database, std::string_view table, std::string_view column,
                         std::string_view statement) {
   if (!HasField(database, table, column)) database.Execute(statement);
@@ -55,8 +53,8 @@ void AddColumnIfMissing(Database& database, std::string_view table, std::string_
 
 }  // namespace
 
-std::vector<std::string> ClassificationStatements(std::int32_t start_mode) {
-  const bool plain_bars = OnlyPlainBarsAreStraight(start_mode);
+std::vector<std::string> ClassificationStatements(const StartModeTraits& start_mode) {
+  const bool plain_bars = start_mode.only_plain_bars_are_straight;
   std::vector<std::string> statements{std::string(kUnclassifyRows)};
   for (const FormStatement& form : kFormStatements) {
     statements.push_back(fmt::format("{}{}{}", form.head, form.cut_lengths,
@@ -67,18 +65,18 @@ std::vector<std::string> ClassificationStatements(std::int32_t start_mode) {
   return statements;
 }
 
-void ClassifySchedule(Database& schedule, std::int32_t start_mode) {
+void ClassifySchedule(Database& schedule, const StartModeTraits& start_mode) {
   RunTogether(schedule, ClassificationStatements(start_mode));
 }
 
-std::vector<std::string> ActivationStatements(std::int32_t start_mode, bool has_plate_counts) {
+std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode, bool has_plate_counts) {
   std::vector<std::string> statements{
       "UPDATE 加工テーブル SET 予備2 = 1 WHERE 予備2 = 2 AND 太さ <> 16",
       fmt::format("UPDATE 加工テーブル SET 予備2 = 2 WHERE 太さ IN({})", fmt::join(kUlbonOnlyCodes, ",")),
   };
   if (has_plate_counts) {
     statements.emplace_back("UPDATE 加工テーブル SET 定着板数 = 0");
-    if (CountsPlates(start_mode)) {
+    if (start_mode.counts_plates) {
       statements.push_back(CountPlates("本数 * ヶ所", 1));
       statements.push_back(CountPlates("2 * 本数 * ヶ所", 2));
     }
@@ -87,7 +85,7 @@ std::vector<std::string> ActivationStatements(std::int32_t start_mode, bool has_
   return statements;
 }
 
-void RefreshSchedule(Database& schedule, std::int32_t start_mode) {
+void RefreshSchedule(Database& schedule, const StartModeTraits& start_mode) {
   RunTogether(schedule, ActivationStatements(start_mode, HasField(schedule, kSchedule, "定着板数")));
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "data/start_mode.h"
 #include "store/database.h"
 
 namespace rbt {
@@ -13,16 +13,16 @@ namespace rbt {
 /// string (`予備5`), material kind (`予備2`), weld diameter (`圧接太さ`). The form statements read `予備2` as
 /// the last start left it: a threaded shape above 200 of a new schedule takes its form from the next start
 /// on.
-std::vector<std::string> ClassificationStatements(std::int32_t start_mode);
+std::vector<std::string> ClassificationStatements(const StartModeTraits& start_mode);
 /// Runs them as one transaction. Rows that do not change are not written.
-void ClassifySchedule(Database& schedule, std::int32_t start_mode);
+void ClassifySchedule(Database& schedule, const StartModeTraits& start_mode);
 
 /// The statements of each return to the menu: thin bars are Ulbon, others that were Ulbon become deformed
-/// (of 16 both are possible, and a null `太さ` keeps its kind), anchor plates are counted (none in the start
-/// modes 1 and 3), slit bars are marked, in this order. Files of old layouts have no `定着板数`.
-std::vector<std::string> ActivationStatements(std::int32_t start_mode, bool has_plate_counts);
+/// (of 16 both are possible, and a null `太さ` keeps its kind), anchor plates are counted (none in a start
+/// mode that knows none), slit bars are marked, in this order. Files of old layouts have no `定着板数`.
+std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode, bool has_plate_counts);
 /// Runs them as one transaction. Rows that do not change are not written.
-void RefreshSchedule(Database& schedule, std::int32_t start_mode);
+void RefreshSchedule(Database& schedule, const StartModeTraits& start_mode);
 
 /// No floor for a null `階`, no part for a null `部位`: before floors or parts are tallied.
 void FillFloorsAndParts(Database& schedule);

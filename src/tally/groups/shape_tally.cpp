@@ -33,9 +33,6 @@ TallyTable ClearedTable() {
   return TallyGrid;
 }
 
-/// The programs of start modes 1 and 3 offer no hoop or plate buttons, so nothing is asked for them.
-bool ProbesPresence() { return Selection.StartMode != 1 && Selection.StartMode != 3; }
-
 GroupRules RulesOfTally(double (*bar_weight)(int d, int l)) {
   GroupRules rules;
   rules.count_hoop_welds = ReadCountHoopWelds();
@@ -46,14 +43,14 @@ GroupRules RulesOfTally(double (*bar_weight)(int d, int l)) {
 }
 
 void ProbeShapes(Database& site) {
-  if (!ProbesPresence()) return;
+  if (!Selection.StartMode.probes_presence) return;
   const std::string probe = ShapeProbeStatement(Selection);
   RunState.HasHoopRows = site.HasRows(probe + std::string(kShapeHoopProbe));
   RunState.HasAnchorPlateRows = site.HasRows(probe + std::string(kAnchorPlateClause));
 }
 
 void ProbePageShapes(Database& site, const LineRange& lines) {
-  if (!ProbesPresence()) return;
+  if (!Selection.StartMode.probes_presence) return;
   const std::string probe = PageShapeStatementsSoFar(Selection, lines).main;
   const auto has_rows = [&](std::string_view clause) {
     return site.HasRows(std::string(probe).append(clause).append(kGroupByPieces));

@@ -26,11 +26,10 @@ TallyTable StartingTable() {
   return table;
 }
 
-/// The programs of start modes 1 and 3 offer no hoop or plate buttons, so nothing is asked for them.
 void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasHoopRows = false;
   RunState.HasAnchorPlateRows = false;
-  if (selection.StartMode == 1 || selection.StartMode == 3) return;
+  if (!selection.StartMode.probes_presence) return;
   const std::string so_far = BulkStatementSoFar(selection);
   RunState.HasAnchorPlateRows = site.HasRows(so_far + std::string(kAnchorPlateClause));
   RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");

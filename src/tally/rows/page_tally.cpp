@@ -20,7 +20,7 @@ namespace {
 constexpr std::string_view kHoopClause = " AND 形状No=87";
 
 void ProbePresence(Database& site, const LineRange& lines) {
-  if (Selection.StartMode == 1 || Selection.StartMode == 3) return;
+  if (!Selection.StartMode.probes_presence) return;
   const std::string so_far = PageStatementSoFar(Selection, lines);
   RunState.HasAnchorPlateRows = site.HasRows(so_far + std::string(kAnchorPlateClause));
   RunState.HasHoopRows = site.HasRows(so_far + std::string(kHoopClause));

@@ -51,7 +51,7 @@ void AppendDeformedRows(GridRows& rows, const TallyTable& table, const GridView&
 
 void AppendTotalRows(GridRows& rows, const TallyTable& table, const SelectionData& selection) {
   std::string label(TotalRowLabel(selection.MaterialKindMask));
-  if (ShowsNoSlitWord(selection.StartMode)) label = StripSlitWord(label);
+  if (selection.StartMode.hides_slit) label = StripSlitWord(label);
   rows.push_back({label, Weight(table.TotalStockWeight), Weight(table.TotalInstalledWeight),
                   Weight(table.TotalStockWeight - table.TotalInstalledWeight), Count(table.TotalWeldCount),
                   Count(table.TotalCutCount)});

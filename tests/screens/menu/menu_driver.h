@@ -50,7 +50,7 @@ class MenuDriver {
  public:
   MenuDriver(const RootFolder& root, std::int32_t start_mode, const std::string& weight_tally) : root_(root) {
     SiteFixture::ResetGlobalState();
-    Selection.StartMode = start_mode;
+    Selection.StartMode = TraitsOfStartMode(start_mode);
     RunState.HasWeldCounter = RunState.HasJoinCounter = RunState.HasPlateCounter = true;
     Settings.ShippingDate = 1;
     for (const char* program : {"rballsites.exe", "rbsitesum.exe", "rbtally2.exe", "rbshopTM/rbledger1.exe",
@@ -61,7 +61,7 @@ class MenuDriver {
     parts.load = [] { return LoadResult{}; };
     parts.activate = [this, start_mode, weight_tally] {
       ++activations;
-      return MenuStateOf(start_mode, RunState, Settings, weight_tally);
+      return MenuStateOf(TraitsOfStartMode(start_mode), RunState, Settings, weight_tally);
     };
     parts.write_accumulated = [this] { ++accumulations_written; };
     parts.screens = kNoneReady;

@@ -22,7 +22,7 @@ class SiteMenu : public OwnSite, public MenuDriver {
  public:
   explicit SiteMenu(std::int32_t start_mode = -1) : MenuDriver(site.Root(), start_mode, "") {
     StartOptions options;
-    options.start_mode = start_mode;
+    options.start_mode = TraitsOfStartMode(start_mode);
     const MenuParts real = MenuPartsFor(options);
     parts.load = real.load;
     parts.activate = real.activate;

@@ -21,7 +21,7 @@ class ResultFormDriver {
  public:
   explicit ResultFormDriver(std::int32_t start_mode = -1) {
     site.AddRows({Bar(19, 1, 3), Bar(13, 87, 3), Bar(25, 138, 3), Bar(9, 2, 3)});
-    options_.start_mode = start_mode;
+    options_.start_mode = TraitsOfStartMode(start_mode);
   }
 
   static Cells Bar(std::int64_t diameter, std::int64_t shape, std::int64_t welds) {

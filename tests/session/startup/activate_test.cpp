@@ -142,7 +142,7 @@ TEST_F(Activate, GoesOnWithoutTheHandOverFile) {
 
 TEST_F(Activate, PassThroughModesPrepareTheDataAndAskForTheCompanion) {
   site_.AddRow({{"太さ", 19}, {"形状No", 143}, {"本数", 2}, {"ヶ所", 3}, {"伸切寸", 7100}});
-  options_.start_mode = 2;
+  options_.start_mode = TraitsOfStartMode(2);
   const MenuState menu = LoadAndActivate();
   EXPECT_TRUE(menu.minimised);
   EXPECT_EQ(menu.pass_on_to, "\\rbk\\rbtally2.exe 2");
@@ -153,7 +153,7 @@ TEST_F(Activate, PassThroughModesPrepareTheDataAndAskForTheCompanion) {
 TEST_F(Activate, OfTheCommandLineAsksForNoSibling) {
   options_.command_line = true;
   for (const std::int32_t mode : {2, 3}) {
-    options_.start_mode = mode;
+    options_.start_mode = TraitsOfStartMode(mode);
     EXPECT_FALSE(LoadAndActivate().pass_on_to) << mode;
   }
   EXPECT_THAT(site_.Launches(), IsEmpty());

@@ -92,7 +92,7 @@ TEST_F(Load, WithoutTheMasterDatabaseFaultsWithItsName) {
 TEST_F(Load, WithoutTheCompanionFileFaultsWithItsNameInEveryStartMode) {
   std::filesystem::remove(site_.Data(kCompanionFile));
   for (const std::int32_t mode : {-1, 2}) {
-    options_.start_mode = mode;
+    options_.start_mode = TraitsOfStartMode(mode);
     EXPECT_THAT(FaultOfRun(), HasSubstr("HIROI001.mdb"));
   }
 }
@@ -134,9 +134,9 @@ TEST_F(Load, ClassifiesTheScheduleByTheStartMode) {
   site_.AddRow({{"太さ", 19}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}});
   Run();
   EXPECT_THAT(site_.Column("予備3"), ElementsAre("1"));
-  options_.start_mode = 4;
+  options_.start_mode = TraitsOfStartMode(4);
   Run();
-  EXPECT_EQ(Selection.StartMode, 4);
+  EXPECT_EQ(Selection.StartMode, TraitsOfStartMode(4));
   EXPECT_THAT(site_.Column("予備3"), ElementsAre("2"));
 }
 
@@ -183,7 +183,7 @@ TEST_F(Load, MarksTheRegisteredNamesBeforeItAsksTheMasterDatabase) {
 TEST_F(Load, StartModes2And3LeaveTheRegisteredNamesAsTheyAre) {
   site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
   for (const std::int32_t mode : {2, 3}) {
-    options_.start_mode = mode;
+    options_.start_mode = TraitsOfStartMode(mode);
     Run();
     EXPECT_THAT(Marks(), Each("0"));
   }

@@ -22,7 +22,7 @@ struct Surroundings {
     settings.ShippingDate = 1;
   }
   MenuState Menu(std::int32_t start_mode) const {
-    return MenuStateOf(start_mode, run_state, settings, weight_tally);
+    return MenuStateOf(TraitsOfStartMode(start_mode), run_state, settings, weight_tally);
   }
 };
 
@@ -106,7 +106,7 @@ TEST(MenuState, StartModes2And3AreMinimisedAndPassOnToTheCompanion) {
 }
 
 TEST(MenuState, WithoutAnythingOnDiskStartMode0ShowsNothing) {
-  EXPECT_THAT(MenuStateOf(0, {}, {}, "").shown, IsEmpty());
+  EXPECT_THAT(MenuStateOf(TraitsOfStartMode(0), {}, {}, "").shown, IsEmpty());
 }
 
 }  // namespace

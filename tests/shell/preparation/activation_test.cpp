@@ -16,13 +16,11 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-constexpr std::int32_t kNoMode = -1;
-
 class Activation : public testing::Test {
  protected:
-  void Refresh(std::int32_t start_mode = kNoMode) {
+  void Refresh(std::int32_t start_mode = kNoStartMode) {
     Database schedule = Database::Open(site_.Data(kScheduleFile));
-    RefreshSchedule(schedule, start_mode);
+    RefreshSchedule(schedule, TraitsOfStartMode(start_mode));
   }
   std::vector<std::string> Kinds() const { return site_.Column("予備2"); }
   std::vector<std::string> Plates() const { return site_.Column("定着板数"); }
@@ -186,13 +184,13 @@ class RowWalk {
 };
 
 TEST_F(Activation, GivesEveryRowWhatAWalkOverTheRowsGivesIt) {
-  for (const std::int32_t mode : {kNoMode, 0, 1, 2, 3, 4}) {
+  for (const std::int32_t mode : {kNoStartMode, 0, 1, 2, 3, 4}) {
     SiteFixture site;
     site.AddRows(RandomSchedule(static_cast<unsigned>(mode + 40)).Rows(600));
     std::filesystem::copy_file(site.Data(kScheduleFile), site.Data("GENBA002.MDB"));
     Database together = Database::Open(site.Data(kScheduleFile));
     Database walked = Database::Open(site.Data("GENBA002.MDB"));
-    RefreshSchedule(together, mode);
+    RefreshSchedule(together, TraitsOfStartMode(mode));
     RowWalk(mode).Run(walked);
     const char* const all = "SELECT * FROM 加工テーブル";
     EXPECT_EQ(site.Rows(kScheduleFile, all), site.Rows("GENBA002.MDB", all)) << mode;

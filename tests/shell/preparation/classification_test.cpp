@@ -17,15 +17,14 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-constexpr std::int32_t kNoMode = -1;
 /// A start mode in which only plain bars are straight.
 constexpr std::int32_t kPlainMode = 4;
 
 class Classification : public testing::Test {
  protected:
-  void Classify(std::int32_t start_mode = kNoMode) {
+  void Classify(std::int32_t start_mode = kNoStartMode) {
     Database schedule = Database::Open(site_.Data(kScheduleFile));
-    ClassifySchedule(schedule, start_mode);
+    ClassifySchedule(schedule, TraitsOfStartMode(start_mode));
   }
   /// A bar by what its form depends on.
   void AddBar(const Value& shape, const Value& cut_mm, const Value& pieces_per_bar, const Value& kind = {}) {
@@ -51,7 +50,7 @@ TEST_F(Classification, TellsTheFourFormsApart) {
 
 TEST_F(Classification, ABarWithAnchoredEndsIsStraightUnlessOnlyPlainBarsAre) {
   AddBar(138, 7000, 1);
-  Classify(kNoMode);
+  Classify(kNoStartMode);
   EXPECT_THAT(Forms(), ElementsAre("1"));
   Classify(kPlainMode);
   EXPECT_THAT(Forms(), ElementsAre("2"));
@@ -77,7 +76,7 @@ TEST_F(Classification, ABarWithAnchoredEndsThatIsCutFromAStockLengthEndsAsCutAnd
 
 TEST_F(Classification, ABarWithAnchoredEndsOfNoStockLengthIsCut) {
   for (const int shape : {138, 139, 140, 143}) AddBar(shape, 7100, 2);
-  Classify(kNoMode);
+  Classify(kNoStartMode);
   EXPECT_THAT(Forms(), Each("3"));
   Classify(kPlainMode);
   EXPECT_THAT(Forms(), Each("4"));
@@ -88,7 +87,7 @@ TEST_F(Classification, ARowThatLacksANeededColumnValueStaysUnclassified) {
   AddBar(1, {}, 1);
   AddBar(1, 7000, {});
   AddBar(2, 7000, {});
-  for (const std::int32_t mode : {kNoMode, kPlainMode}) {
+  for (const std::int32_t mode : {kNoStartMode, kPlainMode}) {
     Classify(mode);
     EXPECT_THAT(Forms(), Each("0"));
   }
@@ -169,7 +168,7 @@ TEST_F(Classification, WeldsWithoutADiameterTakeThatOfTheBar) {
 }
 
 TEST_F(Classification, GivesEveryRowWhatTheStatementsInTurnGiveIt) {
-  for (const std::int32_t mode : {kNoMode, 1, 2, 3, 4}) {
+  for (const std::int32_t mode : {kNoStartMode, 1, 2, 3, 4}) {
     SiteFixture site;
     site.AddRows(RandomSchedule(static_cast<unsigned>(mode + 17)).Rows(600));
     std::filesystem::copy_file(site.Data(kScheduleFile), site.Data("GENBA002.MDB"));
@@ -177,9 +176,10 @@ TEST_F(Classification, GivesEveryRowWhatTheStatementsInTurnGiveIt) {
     Database in_turn = Database::Open(site.Data("GENBA002.MDB"));
     // Twice: the second start reads the kinds that the first one wrote.
     for (int start = 1; start <= 2; ++start) {
-      ClassifySchedule(together, mode);
+      ClassifySchedule(together, TraitsOfStartMode(mode));
       Transaction transaction(in_turn);
-      for (const std::string& statement : ClassificationStatements(mode)) in_turn.Execute(statement);
+      for (const std::string& statement : ClassificationStatements(TraitsOfStartMode(mode)))
+        in_turn.Execute(statement);
       transaction.Commit();
       const char* const all = "SELECT * FROM 加工テーブル";
       EXPECT_EQ(site.Rows(kScheduleFile, all), site.Rows("GENBA002.MDB", all)) << mode << " start " << start;
@@ -210,8 +210,8 @@ TEST_F(Classification, AFailureLeavesEveryRowAsItWas) {
 TEST_F(Classification, AnEmptyScheduleIsClassifiedWithoutAWord) { EXPECT_NO_THROW(Classify()); }
 
 TEST(ClassificationStatements, RunTheFormBeforeTheKind) {
-  for (const std::int32_t mode : {kNoMode, kPlainMode}) {
-    const std::vector<std::string> statements = ClassificationStatements(mode);
+  for (const std::int32_t mode : {kNoStartMode, kPlainMode}) {
+    const std::vector<std::string> statements = ClassificationStatements(TraitsOfStartMode(mode));
     ASSERT_EQ(statements.size(), 13U);
     for (std::size_t i = 0; i <= 6; ++i) EXPECT_NE(statements[i].find("SET 予備3 = "), std::string::npos);
     EXPECT_NE(statements[7].find("SET 予備5 = "), std::string::npos);

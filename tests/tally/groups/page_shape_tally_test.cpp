@@ -131,7 +131,7 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesThePlateModeWhetherPlatesWereFoundOrNot) {
   ScheduleSite site;
   site.AddRow(kSevenOf2m);
   site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
-  Selection.StartMode = 1;
+  Selection.StartMode = TraitsOfStartMode(1);
   const std::int32_t bars[] = {9, 4, 5};
   for (int mode = 0; mode < 3; ++mode) {
     Selection.AnchorPlateMode = mode;

@@ -219,7 +219,7 @@ TEST(Keijou_Jyuuryo_Syukei, ProbesNothingInStartModes1And3AndThenKnowsNoModes) {
   site.AddRow(kHoops);
   site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
   for (const int mode : {1, 3}) {
-    Selection.StartMode = mode;
+    Selection.StartMode = TraitsOfStartMode(mode);
     Selection.HoopMode = 2;
     Selection.AnchorPlateMode = 2;
     TallyShapes();

@@ -225,7 +225,7 @@ TEST(Jyuuryo_Syukei, ProbesNothingInStartModes1And3) {
   site.AddRow(kHoop);
   site.AddRow({{"形状No", Number(140)}});
   for (const int mode : {-1, 0, 1, 2, 3, 4}) {
-    Selection.StartMode = mode;
+    Selection.StartMode = TraitsOfStartMode(mode);
     Selection.HoopMode = 2;
     Jyuuryo_Syukei();
     const bool probes = mode != 1 && mode != 3;

@@ -119,7 +119,7 @@ TEST(PG_Jyuuryo_Syukei, LooksAtThePlateModeOnlyWhereItFoundPlates) {
   EXPECT_EQ(TallyGrid.BarCount[4][5], 2);
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
-  Selection.StartMode = 3;  // asks for nothing
+  Selection.StartMode = TraitsOfStartMode(3);  // asks for nothing
   TallyLines(1, 2);
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
   EXPECT_FALSE(RunState.HasAnchorPlateRows);

@@ -61,7 +61,7 @@ TEST(ShowTally, ShowsTheTotalsUnderTheLabelOfTheKinds) {
               ElementsAre("す　 べ 　て", "1,244 ", "3,213 ", "-1,969 ", "1,500", "20"));
   selection.MaterialKindMask = 9;
   EXPECT_EQ(ShowTally(Sample(), selection, {})[12][0], "異形･スリット");
-  selection.StartMode = 3;
+  selection.StartMode = TraitsOfStartMode(3);
   EXPECT_EQ(ShowTally(Sample(), selection, {})[12][0], "異形");
 }
 
