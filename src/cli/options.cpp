@@ -84,8 +84,8 @@ void AddFormatOption(CLI::App& line, std::string& format) {
 }
 
 void ApplySelection(const SelectionOptions& options, SelectionData& selection) {
-  selection.MaterialKindMask = options.kinds;
-  selection.MaterialFormMask = options.forms;
+  selection.MaterialKindMask = KindMask(options.kinds);
+  selection.MaterialFormMask = FormMask(options.forms);
   selection.IncludeUlbon = options.ulbon;
   selection.MaterialCalcChoice = options.calc;
   selection.HoopMode = options.hoops;

@@ -55,7 +55,7 @@ static_assert(std::none_of(kDeformedDiameters.begin(), kDeformedDiameters.end(),
 /// The codes of the Ulbon diameters that no deformed bar has: 6, 7, 9, 11, 12.
 inline constexpr auto kUlbonOnlyCodes = [] {
   std::array<int, kUlbonDiameters.size() - 1> codes{};
-  auto* next = codes.begin();
+  auto next = codes.begin();
   for (const Diameter& ulbon : kUlbonDiameters) {
     const bool both = std::any_of(kDeformedDiameters.begin(), kDeformedDiameters.end(),
                                   [&](const Diameter& deformed) { return deformed.code == ulbon.code; });

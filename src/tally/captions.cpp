@@ -2,12 +2,13 @@
 #include "tally/captions.h"
 
 #include "platform/text/characters.h"
+#include "tally/mask_text.h"
 
 namespace rbt {
 namespace {
 
 struct KindTexts {
-  std::int32_t mask;
+  KindMask::Number mask;
   std::string_view caption;
   std::string_view total_row_label;
 };
@@ -34,47 +35,44 @@ constexpr KindTexts kKindTexts[] = {
 
 constexpr std::string_view kUnknownTotalRowLabel = "合　　　　   計";
 
-constexpr std::string_view kFormCaptions[] = {
-    "生材",    "生材加工",  "生･生加",      "切断",    "生･切",      "生加･切",      "生･生加･切", "切断加工",
-    "生･切加", "生加･切加", "生･生加･切加", "切･切加", "生･切･切加", "生加･切･切加", "すべて"};
-constexpr std::int32_t kAllForms = 15;
-
-struct ShortForm {
-  std::int32_t mask;
-  std::string_view caption;
+constexpr MaskText<FormMask> kFormCaptions[] = {
+    {1, "生材"},          {2, "生材加工"},   {3, "生･生加"},     {4, "切断"},          {5, "生･切"},
+    {6, "生加･切"},       {7, "生･生加･切"}, {8, "切断加工"},    {9, "生･切加"},       {10, "生加･切加"},
+    {11, "生･生加･切加"}, {12, "切･切加"},   {13, "生･切･切加"}, {14, "生加･切･切加"},
 };
+constexpr std::string_view kAllFormsCaption = "すべて";
 
-constexpr ShortForm kShortForms[] = {{1, "生"}, {2, "生加"}, {4, "切"}, {8, "切加"}};
+constexpr MaskText<FormMask> kShortFormCaptions[] = {{1, "生"}, {2, "生加"}, {4, "切"}, {8, "切加"}};
 
-const KindTexts* FindKind(std::int32_t mask) {
+std::string_view TextOr(std::string_view text, std::string_view fallback) {
+  return text.empty() ? fallback : text;
+}
+
+const KindTexts* FindKind(KindMask kinds) {
   for (const KindTexts& row : kKindTexts) {
-    if (row.mask == mask) return &row;
+    if (row.mask == kinds.AsNumber()) return &row;
   }
   return nullptr;
 }
 
 }  // namespace
 
-std::string_view KindCaption(std::int32_t material_kind_mask) {
-  const KindTexts* kind = FindKind(material_kind_mask);
-  return kind != nullptr ? kind->caption : "";
+std::string_view KindCaption(KindMask kinds) {
+  const KindTexts* texts = FindKind(kinds);
+  return texts != nullptr ? texts->caption : "";
 }
 
-std::string_view TotalRowLabel(std::int32_t material_kind_mask) {
-  const KindTexts* kind = FindKind(material_kind_mask);
-  return kind != nullptr ? kind->total_row_label : kUnknownTotalRowLabel;
+std::string_view TotalRowLabel(KindMask kinds) {
+  const KindTexts* texts = FindKind(kinds);
+  return texts != nullptr ? texts->total_row_label : kUnknownTotalRowLabel;
 }
 
-std::string_view FormCaption(std::int32_t material_form_mask) {
-  const bool known = material_form_mask >= 1 && material_form_mask <= kAllForms;
-  return kFormCaptions[(known ? material_form_mask : kAllForms) - 1];
+std::string_view FormCaption(FormMask forms) {
+  return TextOr(TextOfMask(kFormCaptions, forms), kAllFormsCaption);
 }
 
-std::string_view ShortFormCaption(std::int32_t material_form_mask) {
-  for (const ShortForm& form : kShortForms) {
-    if (form.mask == material_form_mask) return form.caption;
-  }
-  return FormCaption(material_form_mask);
+std::string_view ShortFormCaption(FormMask forms) {
+  return TextOr(TextOfMask(kShortFormCaptions, forms), FormCaption(forms));
 }
 
 std::string StripSlitWord(std::string_view caption) {

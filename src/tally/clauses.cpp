@@ -7,7 +7,7 @@
 namespace rbt {
 namespace {
 
-constexpr MaskText kFormClauses[] = {
+constexpr MaskText<FormMask> kFormClauses[] = {
     {1, " AND 予備3 = 1"},
     {2, " AND 予備3 = 2"},
     {3, " AND (予備3 = 1 OR 予備3 = 2)"},
@@ -27,7 +27,7 @@ constexpr MaskText kFormClauses[] = {
 // Every kind keeps the Ulbon rows, which the tally itself takes or leaves. The 2 of mask 8 stands outside the
 // parenthesis, so that it leaves every condition before it: Ulbon rows come in whatever the range or the
 // form.
-constexpr MaskText kKindClauses[] = {
+constexpr MaskText<KindMask> kKindClauses[] = {
     {1, " AND (予備2<=1 or IsNull(予備2) or 予備2=2)"},
     {2, " AND (予備2=4 or 予備2=2)"},
     {3, " AND (予備2<=1 or 予備2=4 or IsNull(予備2) or 予備2=2)"},
@@ -57,12 +57,8 @@ std::string_view AnchorPlateClause(std::int32_t anchor_plate_mode) {
   }
 }
 
-std::string_view FormClause(std::int32_t material_form_mask) {
-  return TextOfMask(kFormClauses, material_form_mask);
-}
+std::string_view FormClause(FormMask forms) { return TextOfMask(kFormClauses, forms); }
 
-std::string_view KindClause(std::int32_t material_kind_mask) {
-  return TextOfMask(kKindClauses, material_kind_mask);
-}
+std::string_view KindClause(KindMask kinds) { return TextOfMask(kKindClauses, kinds); }
 
 }  // namespace rbt

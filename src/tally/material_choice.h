@@ -1,21 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tally/mask_ticks.h"
+#include "data/form_mask.h"
+#include "data/kind_mask.h"
 #include "tally/selection.h"
 
 namespace rbt {
 
-/// Takes the ticked kinds into the selection; the forms go back to all, since other kinds come in other
-/// forms. False when no kind is ticked: the kind mask then is 0 and `IncludeUlbon` stays.
-bool TakeKinds(SelectionData& selection, const MaskTicks& kinds, bool include_ulbon);
+/// Takes the kinds into the selection; the forms go back to all, since other kinds come in other forms. False
+/// for no kind: the kind mask then is none and `IncludeUlbon` stays.
+bool TakeKinds(SelectionData& selection, KindMask kinds, bool include_ulbon);
 
 /// The same for floors and parts, where Ulbon is a choice of its own and never beside the kinds.
-bool TakeKindsWithoutUlbon(SelectionData& selection, const MaskTicks& kinds);
+bool TakeKindsWithoutUlbon(SelectionData& selection, KindMask kinds);
 /// Ulbon alone in floors and parts: no kind beside it, the forms stay.
 void TakeUlbonAlone(SelectionData& selection);
 
-/// Takes the ticked forms into the selection; false when none is ticked, the mask then is 0.
-bool TakeForms(SelectionData& selection, const MaskTicks& forms);
+/// Takes the forms into the selection; false for no form, the mask then is none.
+bool TakeForms(SelectionData& selection, FormMask forms);
 
 }  // namespace rbt

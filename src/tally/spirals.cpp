@@ -8,16 +8,14 @@ namespace {
 
 enum Spiral : int { kDeformed = 0, kUlbon = 1, kHighStrength = 2 };
 
-constexpr std::int32_t kKindBitDeformed = 1;
-constexpr std::int32_t kKindBitHighStrength = 4;
-
 void AddSpiral(TallyTable& table, const SpiralRow& row, const SelectionData& selection) {
-  if (row.material == 1 && (selection.MaterialKindMask & kKindBitDeformed) != 0) {
+  if (row.IsOf(MaterialKind::deformed) && selection.MaterialKindMask.Has(MaterialKind::deformed)) {
     table.SpiralWeight[kDeformed] += row.weight;
-  } else if (row.material == 2 && selection.IncludeUlbon == 1) {
+  } else if (row.IsOf(MaterialKind::ulbon) && selection.IncludeUlbon == 1) {
     table.SpiralWeight[kUlbon] += row.weight;
     table.SpiralUlbonByDia[row.diameter_code ? UlbonIndex(*row.diameter_code) : -1] += row.weight;
-  } else if (row.material == 3 && (selection.MaterialKindMask & kKindBitHighStrength) != 0) {
+  } else if (row.IsOf(MaterialKind::high_strength) &&
+             selection.MaterialKindMask.Has(MaterialKind::high_strength)) {
     table.SpiralWeight[kHighStrength] += row.weight;
   }
 }

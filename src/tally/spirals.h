@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 
+#include "data/materials.h"
 #include "platform/numbers/currency.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
@@ -16,6 +17,8 @@ struct SpiralRow {
   std::optional<std::int32_t> material;       ///< 材質: 1 deformed, 2 Ulbon, 3 high strength
   std::optional<std::int32_t> diameter_code;  ///< 径
   Currency weight;                            ///< 重量, kilograms; null is 0
+
+  bool IsOf(MaterialKind code) const { return material == static_cast<std::int32_t>(code); }
 };
 
 /// Sets the spiral fields of the table: the selection's materials in whole kilograms each, their total, and

@@ -7,41 +7,41 @@ namespace rbt {
 namespace {
 
 TEST(KindCaption, NamesTheKindsOfTheMaskInTheirOrder) {
-  EXPECT_EQ(KindCaption(1), "異形のみ");
-  EXPECT_EQ(KindCaption(11), "異形･ネジ･スリット");
-  EXPECT_EQ(KindCaption(15), "異形･ネジ･高強度･スリット");
-  EXPECT_EQ(KindCaption(0), "");
-  EXPECT_EQ(KindCaption(16), "");
+  EXPECT_EQ(KindCaption(KindMask(1)), "異形のみ");
+  EXPECT_EQ(KindCaption(KindMask(11)), "異形･ネジ･スリット");
+  EXPECT_EQ(KindCaption(KindMask(15)), "異形･ネジ･高強度･スリット");
+  EXPECT_EQ(KindCaption(KindMask(0)), "");
+  EXPECT_EQ(KindCaption(KindMask(16)), "");
 }
 
 TEST(TotalRowLabel, KeepsTheCrossedLabelsOf10To13) {
-  EXPECT_EQ(TotalRowLabel(10), "高強度･スリット");
-  EXPECT_EQ(TotalRowLabel(11), "異形･高強度･ｽﾘｯﾄ");
-  EXPECT_EQ(TotalRowLabel(12), "ネジ･スリット");
-  EXPECT_EQ(TotalRowLabel(13), "異形･ﾈｼﾞ･高強度合計");
+  EXPECT_EQ(TotalRowLabel(KindMask(10)), "高強度･スリット");
+  EXPECT_EQ(TotalRowLabel(KindMask(11)), "異形･高強度･ｽﾘｯﾄ");
+  EXPECT_EQ(TotalRowLabel(KindMask(12)), "ネジ･スリット");
+  EXPECT_EQ(TotalRowLabel(KindMask(13)), "異形･ﾈｼﾞ･高強度合計");
 }
 
 TEST(TotalRowLabel, HasOneForAnUnknownMask) {
-  EXPECT_EQ(TotalRowLabel(0), TotalRowLabel(16));
-  EXPECT_EQ(TotalRowLabel(16), "合　　　　   計");
-  EXPECT_EQ(TotalRowLabel(15), "す　 べ 　て");
+  EXPECT_EQ(TotalRowLabel(KindMask(0)), TotalRowLabel(KindMask(16)));
+  EXPECT_EQ(TotalRowLabel(KindMask(16)), "合　　　　   計");
+  EXPECT_EQ(TotalRowLabel(KindMask(15)), "す　 べ 　て");
 }
 
 TEST(FormCaption, NamesTheFormsOfTheMask) {
-  EXPECT_EQ(FormCaption(1), "生材");
-  EXPECT_EQ(FormCaption(7), "生･生加･切");
-  EXPECT_EQ(FormCaption(14), "生加･切･切加");
-  EXPECT_EQ(FormCaption(15), "すべて");
-  EXPECT_EQ(FormCaption(0), "すべて");
+  EXPECT_EQ(FormCaption(FormMask(1)), "生材");
+  EXPECT_EQ(FormCaption(FormMask(7)), "生･生加･切");
+  EXPECT_EQ(FormCaption(FormMask(14)), "生加･切･切加");
+  EXPECT_EQ(FormCaption(FormMask(15)), "すべて");
+  EXPECT_EQ(FormCaption(FormMask(0)), "すべて");
 }
 
 TEST(ShortFormCaption, ShortensTheSingleFormsOnly) {
-  EXPECT_EQ(ShortFormCaption(1), "生");
-  EXPECT_EQ(ShortFormCaption(2), "生加");
-  EXPECT_EQ(ShortFormCaption(4), "切");
-  EXPECT_EQ(ShortFormCaption(8), "切加");
-  EXPECT_EQ(ShortFormCaption(3), "生･生加");
-  EXPECT_EQ(ShortFormCaption(15), "すべて");
+  EXPECT_EQ(ShortFormCaption(FormMask(1)), "生");
+  EXPECT_EQ(ShortFormCaption(FormMask(2)), "生加");
+  EXPECT_EQ(ShortFormCaption(FormMask(4)), "切");
+  EXPECT_EQ(ShortFormCaption(FormMask(8)), "切加");
+  EXPECT_EQ(ShortFormCaption(FormMask(3)), "生･生加");
+  EXPECT_EQ(ShortFormCaption(FormMask(15)), "すべて");
 }
 
 TEST(StripSlitWord, TakesTheKindWithItsDotWhicheverDotItIs) {

@@ -41,13 +41,13 @@ TEST(FoldSpirals, KeepUlbonUnroundedByDiameter) {
 
 TEST(FoldSpirals, FollowTheKindsOfTheSelection) {
   SelectionData selection;
-  selection.MaterialKindMask = 4;
+  selection.MaterialKindMask = KindMask(4);
   selection.IncludeUlbon = 0;
   TallyTable table = Folded(kAllMaterials, selection);
   EXPECT_EQ(table.SpiralKinds, 4);
   EXPECT_EQ(table.SpiralTotal, Kg(8));
   EXPECT_EQ(table.SpiralUlbonByDia[12], Kg(0));
-  selection.MaterialKindMask = 9;
+  selection.MaterialKindMask = KindMask(9);
   table = Folded(kAllMaterials, selection);
   EXPECT_EQ(table.SpiralKinds, 1);
   EXPECT_EQ(table.SpiralTotal, Kg(21));

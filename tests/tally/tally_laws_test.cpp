@@ -263,7 +263,7 @@ TEST_F(RandomSchedule, TheKindsAddUpToAllKinds) {
   const TallyTable all = Tallied();
   Checked2D<std::int32_t, 19, 19> sum;
   for (const int mask : {1, 2, 4, 8}) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     const TallyTable kind = Tallied();
     for (int d = 0; d < 19; ++d) {
       for (int l = 0; l < 19; ++l) sum[d][l] += kind.BarCount[d][l];
@@ -363,7 +363,7 @@ TEST_F(GroupableSchedule, TheShapeTallyBuysAtLeastWhatIsInstalled) {
 
 TEST_F(GroupableSchedule, TheShapeTallyOfAllLinesIsTheShapeTallyOfAllShapes) {
   for (const int mask : {1, 2, 3, 4, 7, 10, 14, 15}) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     for (const int hoop_mode : {0, 1, 2}) {
       Selection.HoopMode = hoop_mode;
       TallyTable shapes = ByShape();

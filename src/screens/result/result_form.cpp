@@ -33,7 +33,6 @@ namespace rbt {
 
 namespace {
 
-constexpr int kAllMask = 15;
 constexpr int kPercentDigits = 6;
 constexpr const char* kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
 
@@ -173,7 +172,7 @@ void ResultForm::RunRange() {
 
 void ResultForm::AskForRange() {
   ResetFilters();
-  Selection.MaterialFormMask = kAllMask;
+  Selection.MaterialFormMask = kAllForms;
   RunState.HasAnchorPlateRows = false;
   tally_ran_ = false;
   filters_.ShowForms();
@@ -183,7 +182,7 @@ void ResultForm::AskForRange() {
 }
 
 void ResultForm::ResetFilters() {
-  Selection.MaterialKindMask = kAllMask;
+  Selection.MaterialKindMask = kAllKinds;
   Selection.AnchorPlateMode = 0;
   Selection.HoopMode = 0;
   filters_.ShowAllKinds();
@@ -393,7 +392,7 @@ void ResultForm::closeEvent(QCloseEvent* event) {
   if (!ended_) {
     ended_ = true;
     Selection.MaterialCalcChoice = 0;
-    Selection.MaterialFormMask = kAllMask;
+    Selection.MaterialFormMask = kAllForms;
     SiteContext.WorkDatabase.reset();
   }
   QWidget::closeEvent(event);

@@ -20,7 +20,7 @@ TickBoxes SetUp(Ui::setZai& ui, QWidget& dialog) {
 setZai::setZai() : ui_(std::make_unique<Ui::setZai>()), kinds_(SetUp(*ui_, *this)) {
   ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
   Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
-  kinds_.Show(TicksOfMask(Selection.MaterialKindMask));
+  kinds_.Show(Selection.MaterialKindMask.AsTicks());
   ui_->ChkU->setChecked(Selection.IncludeUlbon == 1);
   ui_->Check1_0->setFocus();
 }
@@ -28,7 +28,7 @@ setZai::setZai() : ui_(std::make_unique<Ui::setZai>()), kinds_(SetUp(*ui_, *this
 setZai::~setZai() = default;
 
 void setZai::Command1_Click() {
-  if (TakeKinds(Selection, kinds_.Ticks(), ui_->ChkU->isChecked())) {
+  if (TakeKinds(Selection, KindMask::OfTicks(kinds_.Ticks()), ui_->ChkU->isChecked())) {
     hide();
   } else {
     kinds_.SayNothingTicked(kNoKindMessage);

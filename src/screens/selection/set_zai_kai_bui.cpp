@@ -25,7 +25,7 @@ TickBoxes SetUp(Ui::setZaiKaiBui& ui, QWidget& dialog) {
 setZaiKaiBui::setZaiKaiBui() : ui_(std::make_unique<Ui::setZaiKaiBui>()), kinds_(SetUp(*ui_, *this)) {
   ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
   Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
-  kinds_.Show(TicksOfMask(Selection.MaterialKindMask));
+  kinds_.Show(Selection.MaterialKindMask.AsTicks());
   QRadioButton* chosen = Selection.UlbonOnly == 1 ? ui_->Option1_0 : ui_->Option1_1;
   chosen->setChecked(true);
   chosen->setFocus();
@@ -50,7 +50,7 @@ void setZaiKaiBui::Command1_Click() {
   if (ui_->Option1_0->isChecked()) {
     TakeUlbonAlone(Selection);
     hide();
-  } else if (TakeKindsWithoutUlbon(Selection, kinds_.Ticks())) {
+  } else if (TakeKindsWithoutUlbon(Selection, KindMask::OfTicks(kinds_.Ticks()))) {
     hide();
   } else {
     kinds_.SayNothingTicked(kNoKindMessage);

@@ -17,18 +17,18 @@ TickBoxes SetUp(Ui::setZairyou& ui, QWidget& dialog) {
 
 setZairyou::setZairyou() : ui_(std::make_unique<Ui::setZairyou>()), forms_(SetUp(*ui_, *this)) {
   ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
-  forms_.Show(TicksOfMask(Selection.MaterialFormMask));
+  forms_.Show(Selection.MaterialFormMask.AsTicks());
   ui_->Chk_0->setFocus();
 }
 
 setZairyou::~setZairyou() = default;
 
 void setZairyou::Command1_Click() {
-  if (TakeForms(Selection, forms_.Ticks())) {
+  if (TakeForms(Selection, FormMask::OfTicks(forms_.Ticks()))) {
     hide();
   } else {
     forms_.SayNothingTicked(kNoFormMessage);
-    forms_.Show(kAllTicked);
+    forms_.Show(kAllForms.AsTicks());
   }
 }
 

@@ -11,12 +11,12 @@
 
 namespace rbt {
 
-void TickBoxes::Show(const MaskTicks& ticks) {
+void TickBoxes::Show(const States& ticks) {
   for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setChecked(ticks[i]);
 }
 
-MaskTicks TickBoxes::Ticks() const {
-  MaskTicks ticks{};
+TickBoxes::States TickBoxes::Ticks() const {
+  States ticks{};
   for (std::size_t i = 0; i < boxes_.size(); ++i) ticks[i] = boxes_[i]->isChecked();
   return ticks;
 }

@@ -5,8 +5,6 @@
 #include <functional>
 #include <string_view>
 
-#include "tally/mask_ticks.h"
-
 class QCheckBox;
 class QPushButton;
 class QWidget;
@@ -16,13 +14,15 @@ namespace rbt {
 inline constexpr std::string_view kNoKindMessage = "材質が選択されていません";
 inline constexpr std::string_view kNoFormMessage = "材料が選択されていません";
 
-/// The four check boxes of a selection dialog, in the order of the mask's bits.
+/// The four check boxes of a selection dialog, in the order of the mask's codes.
 class TickBoxes {
  public:
+  using States = std::array<bool, 4>;
+
   explicit TickBoxes(const std::array<QCheckBox*, 4>& boxes) : boxes_(boxes) {}
 
-  void Show(const MaskTicks& ticks);
-  MaskTicks Ticks() const;
+  void Show(const States& ticks);
+  States Ticks() const;
   /// Tells that nothing is ticked and leads back to the first box.
   void SayNothingTicked(std::string_view message) const;
 

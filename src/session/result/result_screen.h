@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "data/form_mask.h"
+#include "data/kind_mask.h"
 #include "session/result/print_order.h"
 
 namespace rbt {
@@ -26,11 +28,11 @@ struct ResultScreen {
   std::string_view title;
   void (*tally)();  ///< fills `TallyGrid` from the selection
   RangeKind range = RangeKind::none;
-  std::span<const std::string_view> absent;             ///< controls that this screen does not have
-  std::span<const ControlText> captions = {};           ///< where they differ from the layout's
-  std::span<const ControlText> names = {};              ///< object names, likewise
-  std::string_view (*form_caption)(std::int32_t mask);  ///< of `MaterialFormMask`, for Label9
-  void (*before_first_run)() = nullptr;                 ///< of a range, the range standing in the selection
+  std::span<const std::string_view> absent;          ///< controls that this screen does not have
+  std::span<const ControlText> captions = {};        ///< where they differ from the layout's
+  std::span<const ControlText> names = {};           ///< object names, likewise
+  std::string_view (*form_caption)(FormMask forms);  ///< for Label9
+  void (*before_first_run)() = nullptr;              ///< of a range, the range standing in the selection
 };
 
 extern const ResultScreen kBulkScreen;       ///< JS
@@ -58,6 +60,6 @@ void SetSelectionDefaults();
 bool ShowsWholePicture(bool ulbon_view);
 
 /// `MaterialCalcChoice` of a mask of kinds: 0 without high strength, 1 of it alone, 2 with others.
-int CalcChoiceOf(int material_kind_mask);
+int CalcChoiceOf(KindMask kinds);
 
 }  // namespace rbt

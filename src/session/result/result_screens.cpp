@@ -46,11 +46,7 @@ constexpr std::array<ControlText, 6> kShapeCaptions{{{"cmdPrint", "印     字 �
 constexpr std::array<ControlText, 2> kScopedNames{{{"Label4", "Label11"}, {"SSPanel4", "waitPanel"}}};
 
 /// The shape screen offers one form alone; the shape tally takes none, so only the caption changes.
-std::string_view SingleFormCaption(std::int32_t mask) {
-  constexpr std::int32_t kAll = 15;
-  const bool single = mask == 1 || mask == 2 || mask == 4 || mask == 8;
-  return FormCaption(single ? mask : kAll);
-}
+std::string_view SingleFormCaption(FormMask forms) { return FormCaption(forms.IsOne() ? forms : kAllForms); }
 
 void TallyPages() {
   PG_Jyuuryo_Syukei(Selection.StartPage, Selection.StartLine, Selection.EndPage, Selection.EndLine);

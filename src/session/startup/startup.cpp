@@ -162,7 +162,6 @@ void StampRun() {
 
 void ResetSelection() {
   if (RunState.AccumulateFlag != 0) return;
-  constexpr std::int16_t kAllForms = 15;
   constexpr std::int16_t kHighStrengthWithOthers = 2;
   Selection.MaterialCalcChoice = kHighStrengthWithOthers;
   Selection.MaterialFormMask = kAllForms;

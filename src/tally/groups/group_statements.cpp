@@ -9,7 +9,7 @@
 namespace rbt {
 namespace {
 
-constexpr MaskText kKindClauses[] = {
+constexpr MaskText<KindMask> kKindClauses[] = {
     {1, " AND (予備2<=1 or 予備2 is NULL) AND 予備2<>2 "},
     {2, " AND 予備2=4 AND 予備2<>2 "},
     {3, " AND (予備2<=1 or 予備2 is NULL or 予備2=4) AND 予備2<>2  "},
@@ -29,7 +29,7 @@ constexpr MaskText kKindClauses[] = {
 
 // Deformed, threaded and slit bars ask for high strength in place of threaded bars: so the users of this
 // tally know it, and so it stays.
-constexpr MaskText kPageShapeKindClauses[] = {
+constexpr MaskText<KindMask> kPageShapeKindClauses[] = {
     {1, "AND ((予備2<=1 or IsNull(予備2)) AND 予備2<>2) "},
     {2, "AND 予備2=4 AND 予備2<>2 "},
     {3, "AND ((予備2<=1 or 予備2=4 or IsNull(予備2)) AND 予備2<>2) "},
@@ -40,9 +40,9 @@ constexpr std::string_view kNoPlatesAndKnownShape =
     " AND (形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR (形状No Between 148 And 160) OR "
     "(形状No Between 162 And 163) OR (形状No Between 170 And 174) OR 形状No >=177)";
 
-std::string_view KindClauseByPage(std::int32_t mask) {
-  const std::string_view own = TextOfMask(kPageShapeKindClauses, mask);
-  return own.empty() ? TextOfMask(kKindClauses, mask) : own;
+std::string_view KindClauseByPage(KindMask kinds) {
+  const std::string_view own = TextOfMask(kPageShapeKindClauses, kinds);
+  return own.empty() ? TextOfMask(kKindClauses, kinds) : own;
 }
 
 std::string_view PlateClause(std::int32_t mode, std::string_view without_plates) {

@@ -99,18 +99,18 @@ TEST(BulkScreen, AnyNarrowingFilterHidesAccumulationAndPrintUntilThePictureIsWho
 
 TEST(BulkScreen, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
   ResultFormDriver js;
-  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 9; };
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(9); };
   js.Open();
   js.Click("Command3");
   // The slit word goes in the full program too, but not from the total row.
   EXPECT_EQ(js.Label("Label8"), "異形");
   EXPECT_NE(js.Row("異形･スリット"), "");
-  EXPECT_EQ(Selection.PrevMaterialKindMask, 9);
+  EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(9));
 }
 
 TEST(BulkScreen, StartMode0KeepsTheSlitWordInTheKinds) {
   ResultFormDriver js(0);
-  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 9; };
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(9); };
   js.Open();
   js.Click("Command3");
   EXPECT_EQ(js.Label("Label8"), "異形･スリット");
@@ -118,7 +118,7 @@ TEST(BulkScreen, StartMode0KeepsTheSlitWordInTheKinds) {
 
 TEST(BulkScreen, HoopsOnlyGoBackToIncludedWhenTheNextKindsHaveNoHoops) {
   ResultFormDriver js;
-  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 2; };
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(2); };
   js.Open();
   js.Click("cmdHoop");
   js.Click("cmdHoop");
@@ -130,15 +130,15 @@ TEST(BulkScreen, HoopsOnlyGoBackToIncludedWhenTheNextKindsHaveNoHoops) {
 
 TEST(BulkScreen, FormChangeShowsTheFormsAndSetsTheCalculationFromTheKinds) {
   ResultFormDriver js;
-  js.parts.choose_forms = [] { Selection.MaterialFormMask = 3; };
+  js.parts.choose_forms = [] { Selection.MaterialFormMask = FormMask(3); };
   js.Open();
   js.Click("Command2");
   EXPECT_EQ(js.Label("Label9"), "生･生加");
   EXPECT_EQ(Selection.MaterialCalcChoice, 2);
-  Selection.MaterialKindMask = 4;
+  Selection.MaterialKindMask = KindMask(4);
   js.Click("Command2");
   EXPECT_EQ(Selection.MaterialCalcChoice, 1);
-  Selection.MaterialKindMask = 3;
+  Selection.MaterialKindMask = KindMask(3);
   js.Click("Command2");
   EXPECT_EQ(Selection.MaterialCalcChoice, 0);
 }
@@ -296,7 +296,7 @@ TEST(BulkScreen, EscLeavesAndTheSelectionIsAsTheMenuExpectsIt) {
   js.Key(Qt::Key_Escape);
   EXPECT_FALSE(js.form->isVisible());
   EXPECT_EQ(Selection.MaterialCalcChoice, 0);
-  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
   EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
 }
 

@@ -210,20 +210,20 @@ TEST(PageScreens, TheResultTakesThePlaceOfTheRange) {
 TEST(PageScreens, RangeChangeAsksAnewAndTheNextTallyRunsWithAllFiltersReset) {
   for (const ResultScreen* screen : kPageScreens) {
     Scoped js(*screen);
-    js.parts.choose_kinds = [] { Selection.MaterialKindMask = 7; };
+    js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(7); };
     js.Start();
     js.Run();
     js.Click("Command3");
     js.Click("cmdHoop");
     js.Click("cmdTei");
-    Selection.MaterialFormMask = 1;
+    Selection.MaterialFormMask = FormMask(1);
     js.Key(Qt::Key_F7);
     EXPECT_TRUE(js.Shows("SSPanel4"));
     EXPECT_FALSE(js.Shows("dbgJS"));
     EXPECT_EQ(js.Focused(), "txtStartPage");
     EXPECT_FALSE(RunState.HasAnchorPlateRows);
-    EXPECT_EQ(Selection.MaterialKindMask, 15);
-    EXPECT_EQ(Selection.MaterialFormMask, 15);
+    EXPECT_EQ(Selection.MaterialKindMask, KindMask(15));
+    EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
     EXPECT_EQ(Selection.HoopMode, 0);
     EXPECT_EQ(Selection.AnchorPlateMode, 0);
     EXPECT_EQ(js.Label("Label8"), "異形・高強度・ネジ・スリット");
@@ -340,7 +340,7 @@ TEST(ShapeScreen, TalliesTheShapesAndKeepsTheRangeInReach) {
 
 TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
   Scoped js(kShapeScreen);
-  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 7; };
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(7); };
   js.Start();
   js.Run();
   js.Click("Command3");
@@ -348,10 +348,10 @@ TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
   js.Click("cmdHoop");
   js.Click("cmdTei");
   js.Run();
-  EXPECT_EQ(Selection.MaterialKindMask, 15);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(15));
   EXPECT_EQ(Selection.HoopMode, 0);
   EXPECT_EQ(Selection.AnchorPlateMode, 0);
-  EXPECT_EQ(Selection.PrevMaterialKindMask, 15);
+  EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(15));
   EXPECT_EQ(js.Label("Label8"), "異形・高強度・ネジ・スリット");
   EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
   EXPECT_EQ(js.Row("D13"), kHoop);
@@ -374,7 +374,7 @@ TEST(ShapeScreen, CountsTheHighStrengthRowsOfItsRange) {
 TEST(ShapeScreen, FormChangeChangesTheCaptionAndNotTheFigures) {
   Scoped js(kShapeScreen);
   std::int16_t mask = 1;
-  js.parts.choose_forms = [&mask] { Selection.MaterialFormMask = mask; };
+  js.parts.choose_forms = [&mask] { Selection.MaterialFormMask = FormMask(mask); };
   js.Start();
   js.Run();
   const std::pair<std::int16_t, const char*> captions[] = {{1, "生材"},     {2, "生材加工"}, {4, "切断"},
@@ -507,13 +507,13 @@ TEST(ScopedScreens, HaveTheButtonsOfHoopsAndPlatesWhereTheRangeHasSuchShapes) {
 TEST(ScopedScreens, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
   for (const ResultScreen* screen : kScopedScreens) {
     Scoped js(*screen);
-    js.parts.choose_kinds = [] { Selection.MaterialKindMask = 8; };
+    js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(8); };
     js.Start();
     js.Run();
     js.Click("Command3");
     EXPECT_EQ(js.Label("Label8"), "スリットのみ");
     EXPECT_EQ(js.Row("D19"), kNone);
-    EXPECT_EQ(Selection.PrevMaterialKindMask, 8);
+    EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(8));
   }
 }
 
@@ -521,7 +521,7 @@ TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
   for (const ResultScreen* screen : kScopedScreens) {
     for (const std::int32_t kinds : {4, 8, 12}) {
       Scoped js(*screen);
-      js.parts.choose_kinds = [kinds] { Selection.MaterialKindMask = kinds; };
+      js.parts.choose_kinds = [kinds] { Selection.MaterialKindMask = KindMask(kinds); };
       js.Start();
       js.Run();
       js.Click("cmdTei");
@@ -532,7 +532,7 @@ TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
     }
     for (const std::int32_t kinds : {2, 8, 10}) {
       Scoped js(*screen);
-      js.parts.choose_kinds = [kinds] { Selection.MaterialKindMask = kinds; };
+      js.parts.choose_kinds = [kinds] { Selection.MaterialKindMask = KindMask(kinds); };
       js.Start();
       js.Run();
       js.Click("cmdHoop");
@@ -548,7 +548,7 @@ TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
 TEST(ScopedScreens, FormChangeOfThePageScreenShowsTheFormsInShort) {
   Scoped js(kPageScreen);
   std::int16_t mask = 1;
-  js.parts.choose_forms = [&mask] { Selection.MaterialFormMask = mask; };
+  js.parts.choose_forms = [&mask] { Selection.MaterialFormMask = FormMask(mask); };
   js.Start();
   js.Run();
   const char* const captions[] = {"生",           "生加",       "生･生加",    "切",           "生･切",
@@ -684,7 +684,7 @@ TEST(ScopedScreens, EscLeavesFromInputAndFromResult) {
     result.Key(Qt::Key_Escape);
     EXPECT_FALSE(result.form->isVisible());
     EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
-    EXPECT_EQ(Selection.MaterialFormMask, 15);
+    EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
   }
 }
 
@@ -700,7 +700,7 @@ TEST(ScopedScreens, TheBusyNoticeHasTheWordsOfItsScreen) {
 
 TEST(ScopedScreens, StartModesWithoutSlitBarsLeaveTheSlitWordOut) {
   Scoped js(kPageScreen, 4);
-  js.parts.choose_kinds = [] { Selection.MaterialKindMask = 9; };
+  js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(9); };
   js.Start();
   js.Run();
   js.Click("Command3");

@@ -90,30 +90,30 @@ TEST_F(KindDialog, BearsItsCaptions) {
 
 TEST_F(KindDialog, OpensOnEveryMaskAndTakesItBack) {
   for (std::int32_t mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     Driver<setZai> driver;
     EXPECT_EQ(driver.Ticks(kKindBoxes), kTicksOfMask.at(static_cast<std::size_t>(mask)));
-    Selection.MaterialKindMask = -1;
+    Selection.MaterialKindMask = KindMask(-1);
     driver.Take();
-    EXPECT_EQ(Selection.MaterialKindMask, mask);
+    EXPECT_EQ(Selection.MaterialKindMask, KindMask(mask));
     EXPECT_FALSE(driver.dialog.isVisible());
   }
 }
 
 TEST_F(KindDialog, KeepsTheMaskThatWasThereBeforeIt) {
-  Selection.MaterialKindMask = 5;
+  Selection.MaterialKindMask = KindMask(5);
   Driver<setZai> driver;
   driver.Untick({"Check1_2"});
   driver.Take();
-  EXPECT_EQ(Selection.PrevMaterialKindMask, 5);
-  EXPECT_EQ(Selection.MaterialKindMask, 1);
+  EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(5));
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(1));
 }
 
 TEST_F(KindDialog, ANewKindResetsTheForms) {
-  Selection.MaterialFormMask = 4;
+  Selection.MaterialFormMask = FormMask(4);
   Driver<setZai> driver;
   driver.Take();
-  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
 }
 
 TEST_F(KindDialog, TheUlbonBoxDecidesOverTheUlbonLines) {
@@ -134,13 +134,13 @@ TEST_F(KindDialog, WithoutAKindItTellsSoAndStaysUntilOneIsTicked) {
   driver.Take();
   ExpectMessage("材質が選択されていません");
   EXPECT_TRUE(driver.dialog.isVisible());
-  EXPECT_EQ(Selection.MaterialKindMask, 0) << "until the next press";
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(0)) << "until the next press";
   EXPECT_EQ(Selection.IncludeUlbon, 1);
   EXPECT_EQ(driver.Ticks(kKindBoxes), "0000");
   EXPECT_EQ(driver.Focused(), "Check1_0");
   driver.Box("Check1_1").setChecked(true);
   driver.Take();
-  EXPECT_EQ(Selection.MaterialKindMask, 2);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(2));
   EXPECT_EQ(Selection.IncludeUlbon, 0);
   EXPECT_FALSE(driver.dialog.isVisible());
 }
@@ -175,7 +175,7 @@ TEST_F(KindDialog, IsFilledInWithSpaceAndEnter) {
   ASSERT_EQ(driver.Focused(), "Command1");
   Press(driver.dialog, Qt::Key_Return);
   EXPECT_FALSE(driver.dialog.isVisible());
-  EXPECT_EQ(Selection.MaterialKindMask, 8);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(8));
   EXPECT_EQ(Selection.IncludeUlbon, 0);
 }
 
@@ -203,7 +203,7 @@ TEST_F(KindDialog, ReturnsToItsCallerWhenTheKindsAreChosen) {
   });
   ChooseKinds();
   EXPECT_EQ(shown, "setZai");
-  EXPECT_EQ(Selection.MaterialKindMask, 14);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(14));
 }
 
 TEST_F(ScopedKindDialog, BearsItsCaptions) {
@@ -231,15 +231,15 @@ TEST_F(ScopedKindDialog, UlbonAloneLeavesTheMaskEmptyWithoutAMessage) {
   EXPECT_EQ(Selection.UlbonOnly, 0) << "not before the button";
   driver.Take();
   EXPECT_EQ(Selection.UlbonOnly, 1);
-  EXPECT_EQ(Selection.MaterialKindMask, 0) << "though スリット筋 is ticked";
-  EXPECT_EQ(Selection.PrevMaterialKindMask, 15);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(0)) << "though スリット筋 is ticked";
+  EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(15));
   EXPECT_TRUE(site.Messages().empty());
   EXPECT_FALSE(driver.dialog.isVisible());
 }
 
 TEST_F(ScopedKindDialog, OpensOnUlbonAloneAndGoesBackToKinds) {
   Selection.UlbonOnly = 1;
-  Selection.MaterialKindMask = 0;
+  Selection.MaterialKindMask = KindMask(0);
   Driver<setZaiKaiBui> driver;
   EXPECT_TRUE(driver.Option("Option1_0").isChecked());
   EXPECT_EQ(driver.Focused(), "Option1_0");
@@ -249,8 +249,8 @@ TEST_F(ScopedKindDialog, OpensOnUlbonAloneAndGoesBackToKinds) {
   driver.Box("Check1_2").setChecked(true);
   driver.Take();
   EXPECT_EQ(Selection.UlbonOnly, 0);
-  EXPECT_EQ(Selection.MaterialKindMask, 4);
-  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(4));
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
 }
 
 TEST_F(ScopedKindDialog, WithoutAKindItTellsSoAndStays) {
@@ -259,7 +259,7 @@ TEST_F(ScopedKindDialog, WithoutAKindItTellsSoAndStays) {
   driver.Take();
   ExpectMessage("材質が選択されていません");
   EXPECT_TRUE(driver.dialog.isVisible());
-  EXPECT_EQ(Selection.MaterialKindMask, 0);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(0));
 }
 
 TEST_F(ScopedKindDialog, NeitherEscNorTheWindowsCloseBoxEndsIt) {
@@ -291,15 +291,15 @@ TEST_F(FormDialog, BearsItsCaptions) {
 
 TEST_F(FormDialog, OpensOnEveryMaskAndTakesItBack) {
   for (std::int16_t mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialFormMask = mask;
+    Selection.MaterialFormMask = FormMask(mask);
     Driver<setZairyou> driver;
     EXPECT_EQ(driver.Ticks(kFormBoxes), kTicksOfMask.at(static_cast<std::size_t>(mask)));
-    Selection.MaterialFormMask = -1;
+    Selection.MaterialFormMask = FormMask(-1);
     driver.Take();
-    EXPECT_EQ(Selection.MaterialFormMask, mask);
+    EXPECT_EQ(Selection.MaterialFormMask, FormMask(mask));
     EXPECT_FALSE(driver.dialog.isVisible());
   }
-  EXPECT_EQ(Selection.MaterialKindMask, 15);
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(15));
 }
 
 TEST_F(FormDialog, WithoutAFormItTellsSoAndTicksAllAgain) {
@@ -308,20 +308,20 @@ TEST_F(FormDialog, WithoutAFormItTellsSoAndTicksAllAgain) {
   driver.Take();
   ExpectMessage("材料が選択されていません");
   EXPECT_TRUE(driver.dialog.isVisible());
-  EXPECT_EQ(Selection.MaterialFormMask, 0) << "until the next press";
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(0)) << "until the next press";
   EXPECT_EQ(driver.Ticks(kFormBoxes), "1111");
   driver.Take();
-  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
   EXPECT_FALSE(driver.dialog.isVisible());
 }
 
 TEST_F(FormDialog, EscLeavesTheFormsAsTheyWere) {
-  Selection.MaterialFormMask = 9;
+  Selection.MaterialFormMask = FormMask(9);
   Driver<setZairyou> driver;
   driver.Untick({"Chk_0"});
   Press(driver.dialog, Qt::Key_Escape);
   EXPECT_FALSE(driver.dialog.isVisible());
-  EXPECT_EQ(Selection.MaterialFormMask, 9);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(9));
 }
 
 TEST_F(FormDialog, ReturnsToItsCallerWhenTheFormsAreChosen) {
@@ -334,7 +334,7 @@ TEST_F(FormDialog, ReturnsToItsCallerWhenTheFormsAreChosen) {
   });
   ChooseForms();
   EXPECT_EQ(shown, "setZairyou");
-  EXPECT_EQ(Selection.MaterialFormMask, 13);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(13));
 }
 
 }  // namespace rbt::test

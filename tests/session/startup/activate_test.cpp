@@ -96,14 +96,14 @@ TEST_F(Activate, RereadsTheTitleOfTheReports) {
 TEST_F(Activate, ReadiesTheSelectionForANewTally) {
   LoadSite(options_);
   Selection.MaterialCalcChoice = 0;
-  Selection.MaterialFormMask = 3;
-  Selection.MaterialKindMask = 1;
+  Selection.MaterialFormMask = FormMask(3);
+  Selection.MaterialKindMask = KindMask(1);
   Selection.HoopMode = 2;
   ActivateMenu(options_);
   EXPECT_EQ(Selection.MaterialCalcChoice, 2);
-  EXPECT_EQ(Selection.MaterialFormMask, 15);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
   EXPECT_EQ(Selection.HoopMode, 0);
-  EXPECT_EQ(Selection.MaterialKindMask, 1) << "the result forms set it when they load";
+  EXPECT_EQ(Selection.MaterialKindMask, KindMask(1)) << "the result forms set it when they load";
 }
 
 TEST_F(Activate, ForgetsTheHoopsOfTheLastTallyAndKeepsItsAnchorPlates) {
@@ -119,11 +119,11 @@ TEST_F(Activate, KeepsTheSelectionWhileAnAccumulationRuns) {
   LoadSite(options_);
   RunState.AccumulateFlag = 1;
   Selection.MaterialCalcChoice = 0;
-  Selection.MaterialFormMask = 3;
+  Selection.MaterialFormMask = FormMask(3);
   Selection.HoopMode = 2;
   ActivateMenu(options_);
   EXPECT_EQ(Selection.MaterialCalcChoice, 0);
-  EXPECT_EQ(Selection.MaterialFormMask, 3);
+  EXPECT_EQ(Selection.MaterialFormMask, FormMask(3));
   EXPECT_EQ(Selection.HoopMode, 0);
 }
 

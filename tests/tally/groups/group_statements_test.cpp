@@ -35,7 +35,7 @@ TEST(ShapeUlbonStatement, RangesByTheHoopMode) {
 TEST(ShapeUlbonStatement, DoesNotLookAtTheKinds) {
   SelectionData selection = Shapes(5, 200);
   const std::string all = ShapeUlbonStatement(selection);
-  selection.MaterialKindMask = 4;
+  selection.MaterialKindMask = KindMask(4);
   EXPECT_EQ(ShapeUlbonStatement(selection), all);
 }
 
@@ -44,7 +44,7 @@ TEST(ShapeStatements, CloseTheKindsInTheParenthesisOfTheHead) {
   EXPECT_THAT(statements.main, EndsWith("伸定尺 is not NULL  AND 予備2<>2 ) AND 形状No Between 1 AND 9"));
   SelectionData selection = Shapes(1, 9);
   for (int mask = 1; mask <= 15; ++mask) {
-    selection.MaterialKindMask = mask;
+    selection.MaterialKindMask = KindMask(mask);
     const std::string& main = ShapeStatements(selection, true, true).main;
     EXPECT_EQ(std::count(main.begin(), main.end(), '('), std::count(main.begin(), main.end(), ')')) << mask;
   }
@@ -52,7 +52,7 @@ TEST(ShapeStatements, CloseTheKindsInTheParenthesisOfTheHead) {
 
 TEST(ShapeStatements, OfAnUnknownMaskLeaveTheParenthesisOpen) {
   SelectionData selection = Shapes(1, 9);
-  selection.MaterialKindMask = 16;
+  selection.MaterialKindMask = KindMask(16);
   const std::string main = ShapeStatements(selection, false, false).main;
   EXPECT_EQ(std::count(main.begin(), main.end(), '('), std::count(main.begin(), main.end(), ')') + 1);
 }
@@ -92,7 +92,7 @@ TEST(ShapeProbeStatement, AsksForTheRangeAndTheKindsWithoutClosingParenthesis) {
 
 TEST(PageShapeUlbonStatement, KnowsTheLinesAndTheHoopModeAlone) {
   SelectionData selection;
-  selection.MaterialKindMask = 4;
+  selection.MaterialKindMask = KindMask(4);
   selection.HoopMode = 1;
   EXPECT_THAT(PageShapeUlbonStatement(selection, {3, 40}),
               EndsWith("AND 本数>0 AND 行No Between 3AND 40  AND 形状No<>87 "
@@ -109,19 +109,19 @@ TEST(PageShapeStatements, TakeTheHoopModeWhetherThereAreHoopsOrNot) {
 
 TEST(PageShapeStatements, ShowHighStrengthForDeformedThreadedAndSlit) {
   SelectionData selection;
-  selection.MaterialKindMask = 11;
+  selection.MaterialKindMask = KindMask(11);
   const std::string eleven = PageShapeStatements(selection, {1, 2}).main;
-  selection.MaterialKindMask = 13;
+  selection.MaterialKindMask = KindMask(13);
   EXPECT_EQ(PageShapeStatements(selection, {1, 2}).main, eleven);
   EXPECT_THAT(eleven, HasSubstr("予備2=3 or 予備2=5"));
 }
 
 TEST(PageShapeStatements, HaveTheirOwnWordsForTheFirstThreeKinds) {
   SelectionData selection;
-  selection.MaterialKindMask = 3;
+  selection.MaterialKindMask = KindMask(3);
   EXPECT_THAT(PageShapeStatements(selection, {1, 2}).main,
               EndsWith("Between 1 AND 2 AND ((予備2<=1 or 予備2=4 or IsNull(予備2)) AND 予備2<>2) "));
-  selection.MaterialKindMask = 4;
+  selection.MaterialKindMask = KindMask(4);
   EXPECT_THAT(PageShapeStatements(selection, {1, 2}).main,
               EndsWith("Between 1 AND 2  AND 予備2=3 AND 予備2<>2 "));
 }

@@ -30,7 +30,7 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesTheKindsOfEveryMaskBut11) {
   ScheduleSite site;
   AddRowOfEachKind(site);
   for (int mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     TallyLines(5);
     EXPECT_EQ(TallyGrid.TotalThreadCount, mask == 11 ? 13 : mask);
   }
@@ -94,7 +94,7 @@ TEST(PKeijou_Jyuuryo_Syukei, ShowsHighStrengthInsteadOfThreadedForMask11) {
   ScheduleSite site;
   site.AddRow(With(kSevenOf2m, {{"予備2", Number(4)}}));
   site.AddRow(With(kSevenOf2m, {{"予備2", Number(3)}, {"太さ", Number(22)}}));
-  Selection.MaterialKindMask = 11;
+  Selection.MaterialKindMask = KindMask(11);
   TallyShapes();
   EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
   EXPECT_EQ(TallyGrid.BarCount[4][1], 0);

@@ -123,7 +123,7 @@ TEST(Keijou_Jyuuryo_Syukei, DoesNotCapTheInstalledWeight) {
 TEST(Keijou_Jyuuryo_Syukei, TakesUlbonForEveryKindAndSelection) {
   ScheduleSite site;
   site.AddRow(With(kUlbon, {{"圧接", Number(2)}, {"ネジ数", Number(3)}, {"定着板数", Number(4)}}));
-  Selection.MaterialKindMask = 4;
+  Selection.MaterialKindMask = KindMask(4);
   Selection.IncludeUlbon = 0;
   TallyShapes();
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
@@ -138,7 +138,7 @@ TEST(Keijou_Jyuuryo_Syukei, TakesTheKindsOfEveryMask) {
   ScheduleSite site;
   AddRowOfEachKind(site);
   for (int mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     TallyShapes();
     EXPECT_EQ(TallyGrid.TotalThreadCount, mask);
   }
@@ -331,7 +331,7 @@ TEST(Keijou_Jyuuryo_Syukei, EndsAtAThinBarThatIsNoUlbonAndAtPiecesWithoutLength)
 
 TEST(Keijou_Jyuuryo_Syukei, FailsWithAKindMaskThatLeavesTheStatementOpen) {
   ScheduleSite site;
-  Selection.MaterialKindMask = 0;
+  Selection.MaterialKindMask = KindMask(0);
   EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::database);
 }
 

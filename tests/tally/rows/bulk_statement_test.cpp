@@ -16,8 +16,8 @@ constexpr const char* kHead =
 
 SelectionData Masks(std::int32_t kinds, std::int16_t forms) {
   SelectionData selection;
-  selection.MaterialKindMask = kinds;
-  selection.MaterialFormMask = forms;
+  selection.MaterialKindMask = KindMask(kinds);
+  selection.MaterialFormMask = FormMask(forms);
   return selection;
 }
 
@@ -72,25 +72,27 @@ TEST(BulkStatementSoFar, LeavesTheModesToTheStatement) {
 
 TEST(Clauses, KeepUlbonInForEveryKind) {
   for (int mask = 1; mask < 15; ++mask) {
-    EXPECT_NE(KindClause(mask).find("予備2=2"), std::string_view::npos) << mask;
+    EXPECT_NE(KindClause(KindMask(mask)).find("予備2=2"), std::string_view::npos) << mask;
   }
 }
 
 TEST(Clauses, NameExactlyTheKindsAndFormsOfTheirBits) {
   const char* const kinds[] = {"予備2<=1", "予備2=4", "予備2=3", "予備2=5"};
   const char* const forms[] = {"予備3 = 1", "予備3 = 2", "予備3 = 3", "予備3 = 4"};
-  for (int mask = 1; mask < 15; ++mask) {
+  for (std::int16_t mask = 1; mask < 15; ++mask) {
     for (int bit = 0; bit < 4; ++bit) {
       const bool has_bit = (mask & (1 << bit)) != 0;
-      EXPECT_EQ(KindClause(mask).find(kinds[bit]) != std::string_view::npos, has_bit) << mask << ' ' << bit;
-      EXPECT_EQ(FormClause(mask).find(forms[bit]) != std::string_view::npos, has_bit) << mask << ' ' << bit;
+      EXPECT_EQ(KindClause(KindMask(mask)).find(kinds[bit]) != std::string_view::npos, has_bit)
+          << mask << ' ' << bit;
+      EXPECT_EQ(FormClause(FormMask(mask)).find(forms[bit]) != std::string_view::npos, has_bit)
+          << mask << ' ' << bit;
     }
   }
 }
 
 TEST(Clauses, CloseEveryParenthesisButLeaveTheSlitMasksOrOutside) {
   for (int mask = 1; mask < 15; ++mask) {
-    const std::string_view text = KindClause(mask);
+    const std::string_view text = KindClause(KindMask(mask));
     EXPECT_EQ(std::count(text.begin(), text.end(), '('), std::count(text.begin(), text.end(), ')')) << mask;
     EXPECT_EQ(text.ends_with(')'), mask != 8) << mask;
   }
@@ -99,7 +101,7 @@ TEST(Clauses, CloseEveryParenthesisButLeaveTheSlitMasksOrOutside) {
 TEST(ResetMeaninglessModes, TakesPlatesAloneBackWhenTheKindsBecomeOnesWithoutPlates) {
   for (int mask = 1; mask <= 15; ++mask) {
     SelectionData selection = Masks(mask, 15);
-    selection.PrevMaterialKindMask = 0;
+    selection.PrevMaterialKindMask = KindMask(0);
     selection.AnchorPlateMode = 2;
     ResetMeaninglessModes(selection);
     EXPECT_EQ(selection.AnchorPlateMode, mask == 4 || mask == 8 || mask == 12 ? 0 : 2) << mask;
@@ -109,7 +111,7 @@ TEST(ResetMeaninglessModes, TakesPlatesAloneBackWhenTheKindsBecomeOnesWithoutPla
 TEST(ResetMeaninglessModes, TakesHoopsAloneBackWhenTheKindsBecomeOnesWithoutHoops) {
   for (int mask = 1; mask <= 15; ++mask) {
     SelectionData selection = Masks(mask, 15);
-    selection.PrevMaterialKindMask = 0;
+    selection.PrevMaterialKindMask = KindMask(0);
     selection.HoopMode = 2;
     ResetMeaninglessModes(selection);
     EXPECT_EQ(selection.HoopMode, mask == 2 || mask == 8 || mask == 10 ? 0 : 2) << mask;
@@ -123,7 +125,7 @@ TEST(ResetMeaninglessModes, LeavesModesAloneThatLeaveShapesOutAndKindsThatDidNot
   ResetMeaninglessModes(selection);
   EXPECT_EQ(selection.HoopMode, 1);
   EXPECT_EQ(selection.AnchorPlateMode, 1);
-  selection.PrevMaterialKindMask = 8;
+  selection.PrevMaterialKindMask = KindMask(8);
   selection.HoopMode = 2;
   selection.AnchorPlateMode = 2;
   ResetMeaninglessModes(selection);

@@ -84,7 +84,7 @@ TEST(Jyuuryo_Syukei, CountsRowsOfNoFormWhenNoFormIsChosen) {
   site.AddRow({{"予備3", kNull}});
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
-  Selection.MaterialFormMask = 7;
+  Selection.MaterialFormMask = FormMask(7);
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.BarCount[3][5], 0);
 }
@@ -93,7 +93,7 @@ TEST(Jyuuryo_Syukei, KeepsUlbonForEveryKindAndLetsTheSelectionDecide) {
   ScheduleSite site;
   site.AddRow(kUlbon);
   for (int mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     Selection.IncludeUlbon = 1;
     Jyuuryo_Syukei();
     EXPECT_EQ(TallyGrid.UlbonWeight[14], 7.5) << mask;
@@ -110,7 +110,7 @@ TEST(Jyuuryo_Syukei, ChoosesTheKindsOfTheMask) {
   site.AddRow({{"予備2", kNull}, {"伸総計", Number(16)}});
   site.AddRow({{"予備2", Number(0)}, {"伸総計", Number(32)}});
   for (int mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     Jyuuryo_Syukei();
     EXPECT_EQ(TallyGrid.BarCount[3][5], mask + ((mask & 1) != 0 ? 48 : 0)) << mask;
     EXPECT_EQ(TallyGrid.HighStrengthRowCount, (mask & 4) != 0 ? 1 : 0) << mask;
@@ -121,11 +121,11 @@ TEST(Jyuuryo_Syukei, BringsInUlbonOfAnyFormWithSlitBarsAlone) {
   ScheduleSite site;
   site.AddRow(With(kUlbon, {{"予備3", Number(4)}}));
   site.AddRow(With(kUlbon, {{"伸定尺", kNull}, {"本数", kNull}}));
-  Selection.MaterialFormMask = 1;
-  Selection.MaterialKindMask = 9;
+  Selection.MaterialFormMask = FormMask(1);
+  Selection.MaterialKindMask = KindMask(9);
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 0.0);
-  Selection.MaterialKindMask = 8;
+  Selection.MaterialKindMask = KindMask(8);
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 30.0);
   EXPECT_EQ(TallyGrid.StockWarningText, " 1頁の2行目の定尺を確認");
@@ -211,11 +211,11 @@ TEST(Jyuuryo_Syukei, ProbesOnlyTheRowsOfTheSelection) {
   ScheduleSite site;
   site.AddRow(With(kHoop, {{"予備3", Number(4)}}));
   site.AddRow({{"形状No", Number(140)}, {"予備2", Number(4)}});
-  Selection.MaterialFormMask = 4;
+  Selection.MaterialFormMask = FormMask(4);
   Jyuuryo_Syukei();
   EXPECT_FALSE(RunState.HasHoopRows);
   EXPECT_TRUE(RunState.HasAnchorPlateRows);
-  Selection.MaterialKindMask = 1;
+  Selection.MaterialKindMask = KindMask(1);
   Jyuuryo_Syukei();
   EXPECT_FALSE(RunState.HasAnchorPlateRows);
 }

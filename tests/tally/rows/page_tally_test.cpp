@@ -72,11 +72,11 @@ TEST(PG_Jyuuryo_Syukei, BringsInAllUlbonOfTheSiteWithSlitBarsAlone) {
   site.AddRow({{"予備2", Number(5)}});
   site.AddRow({{"予備2", Number(5)}});
   site.AddRow(With(kUlbon, {{"予備3", Number(2)}}));
-  Selection.MaterialKindMask = 8;
+  Selection.MaterialKindMask = KindMask(8);
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
-  Selection.MaterialKindMask = 9;
+  Selection.MaterialKindMask = KindMask(9);
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 0.0);
 }
@@ -207,12 +207,12 @@ TEST(PG_Jyuuryo_Syukei, TakesTheFormsOfTheSelection) {
     site.AddRow({{"予備3", Number(form)}, {"伸総計", Number(form == 0 ? 16 : 1 << (form - 1))}});
   }
   for (std::int16_t mask = 1; mask <= 14; ++mask) {
-    Selection.MaterialFormMask = mask;
+    Selection.MaterialFormMask = FormMask(mask);
     TallyLines(1, 5);
     EXPECT_EQ(TallyGrid.BarCount[3][5], mask);
   }
   for (const std::int16_t all : {std::int16_t{0}, std::int16_t{15}}) {
-    Selection.MaterialFormMask = all;
+    Selection.MaterialFormMask = FormMask(all);
     TallyLines(1, 5);
     EXPECT_EQ(TallyGrid.BarCount[3][5], 31) << all;
   }
@@ -225,7 +225,7 @@ TEST(PG_Jyuuryo_Syukei, TakesTheKindsOfTheSelection) {
     site.AddRow({{"予備2", kinds[i]}, {"伸総計", Number(i == 0 ? 16 : 1 << (i - 1))}});
   }
   for (int mask = 1; mask <= 15; ++mask) {
-    Selection.MaterialKindMask = mask;
+    Selection.MaterialKindMask = KindMask(mask);
     TallyLines(1, 5);
     EXPECT_EQ(TallyGrid.BarCount[3][5], mask % 2 != 0 ? mask + 16 : mask);  // no kind is deformed
   }

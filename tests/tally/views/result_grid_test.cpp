@@ -59,7 +59,7 @@ TEST(ShowTally, ShowsTheTotalsUnderTheLabelOfTheKinds) {
   SelectionData selection;
   EXPECT_THAT(ShowTally(Sample(), selection, {})[12],
               ElementsAre("す　 べ 　て", "1,244 ", "3,213 ", "-1,969 ", "1,500", "20"));
-  selection.MaterialKindMask = 9;
+  selection.MaterialKindMask = KindMask(9);
   EXPECT_EQ(ShowTally(Sample(), selection, {})[12][0], "異形･スリット");
   selection.StartMode = TraitsOfStartMode(3);
   EXPECT_EQ(ShowTally(Sample(), selection, {})[12][0], "異形");
