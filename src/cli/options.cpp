@@ -86,10 +86,10 @@ void AddFormatOption(CLI::App& line, std::string& format) {
 void ApplySelection(const SelectionOptions& options, SelectionData& selection) {
   selection.MaterialKindMask = KindMask(options.kinds);
   selection.MaterialFormMask = FormMask(options.forms);
-  selection.IncludeUlbon = options.ulbon;
-  selection.MaterialCalcChoice = options.calc;
-  selection.HoopMode = options.hoops;
-  selection.AnchorPlateMode = options.plates;
+  selection.IncludeUlbon = options.ulbon == 1;
+  selection.MaterialCalcChoice = static_cast<CalcChoice>(options.calc);  // the option took 0 to 2 alone
+  selection.HoopMode = ShapeFilterOf(options.hoops);
+  selection.AnchorPlateMode = ShapeFilterOf(options.plates);
 }
 
 }  // namespace rbt

@@ -75,6 +75,18 @@ std::string_view ShortFormCaption(FormMask forms) {
   return TextOr(TextOfMask(kShortFormCaptions, forms), FormCaption(forms));
 }
 
+std::string_view ShapeFilterCaption(ShapeFilter filter) {
+  switch (filter) {
+    case ShapeFilter::left_out:
+      return "含まず";
+    case ShapeFilter::alone:
+      return "のみ";
+    case ShapeFilter::with_others:
+      break;
+  }
+  return "含む";
+}
+
 std::string StripSlitWord(std::string_view caption) {
   std::string text(caption);
   for (const std::string_view word : {"･スリット", "・スリット", "･スリット", "スリット", "スリットのみ"}) {

@@ -6,6 +6,7 @@
 
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
+#include "data/shape_filter.h"
 
 namespace rbt {
 
@@ -20,6 +21,9 @@ std::string_view TotalRowLabel(KindMask kinds);
 std::string_view FormCaption(FormMask forms);
 /// The same for narrow places: single forms are shortened too.
 std::string_view ShortFormCaption(FormMask forms);
+
+/// "含む", "含まず", "のみ".
+std::string_view ShapeFilterCaption(ShapeFilter filter);
 
 /// A caption without the slit kind and the dot before it; of the slit kind alone "のみ" stays.
 std::string StripSlitWord(std::string_view caption);

@@ -46,15 +46,16 @@ constexpr MaskText<KindMask> kKindClauses[] = {
 
 }  // namespace
 
-std::string_view AnchorPlateClause(std::int32_t anchor_plate_mode) {
-  switch (anchor_plate_mode) {
-    case 1:
+std::string_view AnchorPlateClause(ShapeFilter plates) {
+  switch (plates) {
+    case ShapeFilter::left_out:
       return kNoAnchorPlateClause;
-    case 2:
+    case ShapeFilter::alone:
       return kAnchorPlateClause;
-    default:
-      return "";
+    case ShapeFilter::with_others:
+      break;
   }
+  return "";
 }
 
 std::string_view FormClause(FormMask forms) { return TextOfMask(kFormClauses, forms); }

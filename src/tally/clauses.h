@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
+#include "data/shape_filter.h"
 
 namespace rbt {
 
@@ -13,8 +13,7 @@ namespace rbt {
 std::string_view FormClause(FormMask forms);
 /// The condition on 予備2, Ulbon always kept in; empty for a mask that limits nothing (none, all).
 std::string_view KindClause(KindMask kinds);
-/// The condition on 形状No of an anchor-plate mode: 1 leaves the anchor-plate shapes out, 2 leaves nothing
-/// else; empty for any other.
-std::string_view AnchorPlateClause(std::int32_t anchor_plate_mode);
+/// The condition on 形状No that filters the anchor-plate shapes; empty for those that stay with others.
+std::string_view AnchorPlateClause(ShapeFilter plates);
 
 }  // namespace rbt

@@ -15,17 +15,17 @@ bool TakeKindMask(SelectionData& selection, KindMask kinds) {
 
 bool TakeKinds(SelectionData& selection, KindMask kinds, bool include_ulbon) {
   if (!TakeKindMask(selection, kinds)) return false;
-  selection.IncludeUlbon = include_ulbon ? 1 : 0;
+  selection.IncludeUlbon = include_ulbon;
   return true;
 }
 
 bool TakeKindsWithoutUlbon(SelectionData& selection, KindMask kinds) {
-  selection.UlbonOnly = 0;
+  selection.UlbonOnly = false;
   return TakeKindMask(selection, kinds);
 }
 
 void TakeUlbonAlone(SelectionData& selection) {
-  selection.UlbonOnly = 1;
+  selection.UlbonOnly = true;
   selection.MaterialKindMask = KindMask();
 }
 

@@ -16,10 +16,11 @@ constexpr KindMask kKindsWithoutHoops = KindMask::Of({MaterialKind::threaded, Ma
 void ResetMeaninglessModes(SelectionData& selection) {
   const KindMask kinds = selection.MaterialKindMask;
   if (kinds == selection.PrevMaterialKindMask) return;
-  const bool no_plates = kinds.IsWithin(kKindsWithoutPlates);
-  const bool no_hoops = kinds.IsWithin(kKindsWithoutHoops);
-  if (no_plates && selection.AnchorPlateMode == 2) selection.AnchorPlateMode = 0;
-  if (no_hoops && selection.HoopMode == 2) selection.HoopMode = 0;
+  const auto take_back = [](ShapeFilter& filter) {
+    if (filter == ShapeFilter::alone) filter = ShapeFilter::with_others;
+  };
+  if (kinds.IsWithin(kKindsWithoutPlates)) take_back(selection.AnchorPlateMode);
+  if (kinds.IsWithin(kKindsWithoutHoops)) take_back(selection.HoopMode);
 }
 
 }  // namespace rbt

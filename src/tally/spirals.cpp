@@ -11,7 +11,7 @@ enum Spiral : int { kDeformed = 0, kUlbon = 1, kHighStrength = 2 };
 void AddSpiral(TallyTable& table, const SpiralRow& row, const SelectionData& selection) {
   if (row.IsOf(MaterialKind::deformed) && selection.MaterialKindMask.Has(MaterialKind::deformed)) {
     table.SpiralWeight[kDeformed] += row.weight;
-  } else if (row.IsOf(MaterialKind::ulbon) && selection.IncludeUlbon == 1) {
+  } else if (row.IsOf(MaterialKind::ulbon) && selection.IncludeUlbon) {
     table.SpiralWeight[kUlbon] += row.weight;
     table.SpiralUlbonByDia[row.diameter_code ? UlbonIndex(*row.diameter_code) : -1] += row.weight;
   } else if (row.IsOf(MaterialKind::high_strength) &&
@@ -23,7 +23,7 @@ void AddSpiral(TallyTable& table, const SpiralRow& row, const SelectionData& sel
 }  // namespace
 
 bool LeavesSpiralsOut(const SelectionData& selection) {
-  return selection.HoopMode == 2 || selection.AnchorPlateMode == 2;
+  return selection.HoopMode == ShapeFilter::alone || selection.AnchorPlateMode == ShapeFilter::alone;
 }
 
 void FoldSpirals(TallyTable& table, std::span<const SpiralRow> rows, const SelectionData& selection) {

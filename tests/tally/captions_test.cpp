@@ -44,6 +44,12 @@ TEST(ShortFormCaption, ShortensTheSingleFormsOnly) {
   EXPECT_EQ(ShortFormCaption(FormMask(15)), "すべて");
 }
 
+TEST(ShapeFilterCaption, NamesTheThreeFilters) {
+  EXPECT_EQ(ShapeFilterCaption(ShapeFilter::with_others), "含む");
+  EXPECT_EQ(ShapeFilterCaption(ShapeFilter::left_out), "含まず");
+  EXPECT_EQ(ShapeFilterCaption(ShapeFilter::alone), "のみ");
+}
+
 TEST(StripSlitWord, TakesTheKindWithItsDotWhicheverDotItIs) {
   EXPECT_EQ(StripSlitWord("異形･ネジ･高強度･スリット"), "異形･ネジ･高強度");
   EXPECT_EQ(StripSlitWord("異形・高強度・ネジ・スリット"), "異形・高強度・ネジ");

@@ -13,7 +13,7 @@ TEST(MaterialChoice, KindsTakeTheUlbonLinesWithThemAndSetTheFormsBackToAll) {
   EXPECT_TRUE(TakeKinds(selection, KindMask(3), false));
   EXPECT_EQ(selection.MaterialKindMask, KindMask(3));
   EXPECT_EQ(selection.MaterialFormMask, FormMask(15));
-  EXPECT_EQ(selection.IncludeUlbon, 0);
+  EXPECT_FALSE(selection.IncludeUlbon);
 }
 
 TEST(MaterialChoice, WithoutAKindTheMaskIsZeroAndUlbonStaysAsItWas) {
@@ -22,28 +22,28 @@ TEST(MaterialChoice, WithoutAKindTheMaskIsZeroAndUlbonStaysAsItWas) {
   EXPECT_FALSE(TakeKinds(selection, KindMask(), false));
   EXPECT_EQ(selection.MaterialKindMask, KindMask());
   EXPECT_EQ(selection.MaterialFormMask, FormMask(15)) << "set back on the way to the message";
-  EXPECT_EQ(selection.IncludeUlbon, 1);
+  EXPECT_TRUE(selection.IncludeUlbon);
 }
 
 TEST(MaterialChoice, UlbonAloneInFloorsAndPartsLeavesNoKindBesideIt) {
   SelectionData selection;
   selection.MaterialFormMask = FormMask(4);
   TakeUlbonAlone(selection);
-  EXPECT_EQ(selection.UlbonOnly, 1);
+  EXPECT_TRUE(selection.UlbonOnly);
   EXPECT_EQ(selection.MaterialKindMask, KindMask());
   EXPECT_EQ(selection.MaterialFormMask, FormMask(4));
-  EXPECT_EQ(selection.IncludeUlbon, 1);
+  EXPECT_TRUE(selection.IncludeUlbon);
 }
 
 TEST(MaterialChoice, KindsInFloorsAndPartsEndUlbonAlone) {
   SelectionData selection;
-  selection.UlbonOnly = 1;
+  selection.UlbonOnly = true;
   selection.MaterialFormMask = FormMask(4);
   EXPECT_TRUE(TakeKindsWithoutUlbon(selection, KindMask(8)));
-  EXPECT_EQ(selection.UlbonOnly, 0);
+  EXPECT_FALSE(selection.UlbonOnly);
   EXPECT_EQ(selection.MaterialKindMask, KindMask(8));
   EXPECT_EQ(selection.MaterialFormMask, FormMask(15));
-  EXPECT_EQ(selection.IncludeUlbon, 1) << "belongs to the other screens";
+  EXPECT_TRUE(selection.IncludeUlbon) << "belongs to the other screens";
   EXPECT_FALSE(TakeKindsWithoutUlbon(selection, KindMask()));
   EXPECT_EQ(selection.MaterialKindMask, KindMask());
 }

@@ -42,7 +42,7 @@ TEST(FoldSpirals, KeepUlbonUnroundedByDiameter) {
 TEST(FoldSpirals, FollowTheKindsOfTheSelection) {
   SelectionData selection;
   selection.MaterialKindMask = KindMask(4);
-  selection.IncludeUlbon = 0;
+  selection.IncludeUlbon = false;
   TallyTable table = Folded(kAllMaterials, selection);
   EXPECT_EQ(table.SpiralKinds, 4);
   EXPECT_EQ(table.SpiralTotal, Kg(8));
@@ -61,14 +61,14 @@ TEST(FoldSpirals, CountOnlyMaterialsWithWeight) {
 
 TEST(FoldSpirals, LeaveEverythingAt0WhenHoopsOrPlatesAloneAreTallied) {
   SelectionData hoops;
-  hoops.HoopMode = 2;
+  hoops.HoopMode = ShapeFilter::alone;
   EXPECT_EQ(Folded(kAllMaterials, hoops), TallyTable());
   SelectionData plates;
-  plates.AnchorPlateMode = 2;
+  plates.AnchorPlateMode = ShapeFilter::alone;
   EXPECT_EQ(Folded(kAllMaterials, plates), TallyTable());
   SelectionData without;
-  without.HoopMode = 1;
-  without.AnchorPlateMode = 1;
+  without.HoopMode = ShapeFilter::left_out;
+  without.AnchorPlateMode = ShapeFilter::left_out;
   EXPECT_EQ(Folded(kAllMaterials, without).SpiralTotal, Kg(40));
 }
 
@@ -76,7 +76,7 @@ TEST(FoldSpirals, FaultAtAnUlbonSpiralOfNoUlbonDiameter) {
   EXPECT_THROW(Folded({{2, 10, Kg(1)}}, {}), Fault);
   EXPECT_THROW(Folded({{2, std::nullopt, Kg(1)}}, {}), Fault);
   SelectionData no_ulbon;
-  no_ulbon.IncludeUlbon = 0;
+  no_ulbon.IncludeUlbon = false;
   EXPECT_EQ(Folded({{2, 10, Kg(1)}}, no_ulbon), TallyTable());
 }
 

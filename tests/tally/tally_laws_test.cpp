@@ -24,6 +24,8 @@
 namespace rbt {
 namespace {
 
+constexpr ShapeFilter kShapeFilters[] = {ShapeFilter::with_others, ShapeFilter::left_out, ShapeFilter::alone};
+
 class RandomRows {
  public:
   explicit RandomRows(unsigned seed) : random_(seed) {}
@@ -74,10 +76,10 @@ class RandomRows {
   std::mt19937 random_;
 };
 
-RowRules Bulk(std::int32_t hoop_mode = 0) {
+RowRules Bulk(ShapeFilter hoops = ShapeFilter::with_others) {
   RowRules rules;
-  rules.hoop_mode = hoop_mode;
-  rules.counts_without_column_by_choice = 2;
+  rules.hoops = hoops;
+  rules.counts_without_column_by_choice = CalcChoice::high_strength_with_others;
   return rules;
 }
 
@@ -143,9 +145,9 @@ TEST(TallyLaws, AllRowsAreTheRowsWithoutHoopsAndTheHoopsWhereTheStockHasAColumn)
   for (unsigned seed = 1; seed <= 20; ++seed) {
     std::vector<BarRow> rows = RandomRows(seed).Many(300);
     std::erase_if(rows, [](const BarRow& row) { return row.stock_length_m == 12.5; });
-    const TallyTable all = Folded(rows, Bulk(0));
-    const TallyTable without = Folded(rows, Bulk(1));
-    const TallyTable only = Folded(Only(rows, true), Bulk(2));
+    const TallyTable all = Folded(rows, Bulk(ShapeFilter::with_others));
+    const TallyTable without = Folded(rows, Bulk(ShapeFilter::left_out));
+    const TallyTable only = Folded(Only(rows, true), Bulk(ShapeFilter::alone));
     ExpectCountsAdd(all, without, only);
     for (int d = 0; d < 13; ++d) {
       for (int l = 0; l < 19; ++l) {
@@ -165,7 +167,8 @@ TEST(TallyLaws, LeavingHoopsOutKeepsTheLengthsThatHaveNoColumn) {
     return row.stock_length_m != 12.5 || !row.IsHoop() || row.IsOf(MaterialKind::ulbon);
   });
   ASSERT_FALSE(rows.empty());
-  EXPECT_EQ(Folded(rows, Bulk(0)).CutLengthM, Folded(rows, Bulk(1)).CutLengthM);
+  EXPECT_EQ(Folded(rows, Bulk(ShapeFilter::with_others)).CutLengthM,
+            Folded(rows, Bulk(ShapeFilter::left_out)).CutLengthM);
 }
 
 TEST(TallyLaws, NotCountingHoopWeldsChangesWeldsOnly) {
@@ -275,9 +278,9 @@ TEST_F(RandomSchedule, TheKindsAddUpToAllKinds) {
 
 TEST_F(RandomSchedule, TheHoopModesAddUpWhereTheStockHasAColumn) {
   const TallyTable all = Tallied();
-  Selection.HoopMode = 1;
+  Selection.HoopMode = ShapeFilter::left_out;
   const TallyTable without = Tallied();
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   const TallyTable only = Tallied();
   EXPECT_TRUE(RunState.HasHoopRows);
   ExpectCountsAdd(all, without, only);
@@ -286,9 +289,9 @@ TEST_F(RandomSchedule, TheHoopModesAddUpWhereTheStockHasAColumn) {
 
 TEST_F(RandomSchedule, ThePlateModesAddUp) {
   const TallyTable all = Tallied();
-  Selection.AnchorPlateMode = 1;
+  Selection.AnchorPlateMode = ShapeFilter::left_out;
   const TallyTable without = Tallied();
-  Selection.AnchorPlateMode = 2;
+  Selection.AnchorPlateMode = ShapeFilter::alone;
   const TallyTable only = Tallied();
   ExpectCountsAdd(all, without, only);
   for (int d = 0; d < 19; ++d) EXPECT_EQ(all.PlateCount[d], without.PlateCount[d] + only.PlateCount[d]);
@@ -364,30 +367,30 @@ TEST_F(GroupableSchedule, TheShapeTallyBuysAtLeastWhatIsInstalled) {
 TEST_F(GroupableSchedule, TheShapeTallyOfAllLinesIsTheShapeTallyOfAllShapes) {
   for (const int mask : {1, 2, 3, 4, 7, 10, 14, 15}) {
     Selection.MaterialKindMask = KindMask(mask);
-    for (const int hoop_mode : {0, 1, 2}) {
-      Selection.HoopMode = hoop_mode;
+    for (const ShapeFilter hoops : kShapeFilters) {
+      Selection.HoopMode = hoops;
       TallyTable shapes = ByShape();
       if (!RunState.HasHoopRows) continue;  // the cuts have no range then
       const TallyTable lines = ByPageAndShape();
       for (int d = 12; d < 18; ++d) EXPECT_NEAR(shapes.UlbonWeight[d], lines.UlbonWeight[d], 1e-6);
       shapes.UlbonWeight = lines.UlbonWeight;  // grouped by stock too, and so added in other steps
       shapes.UlbonLengthM = lines.UlbonLengthM;
-      EXPECT_EQ(shapes, lines) << mask << ' ' << hoop_mode;
+      EXPECT_EQ(shapes, lines) << mask << ' ' << static_cast<int>(hoops);
     }
   }
 }
 
 TEST_F(GroupableSchedule, ThePageTallyOfAllLinesIsTheBulkTallyWhereEveryStockHasAColumn) {
   site_.Work().Execute("DELETE * FROM 加工テーブル WHERE 伸定尺=12.5");
-  for (const int hoop_mode : {0, 1, 2}) {
-    Selection.HoopMode = hoop_mode;
+  for (const ShapeFilter hoops : kShapeFilters) {
+    Selection.HoopMode = hoops;
     Jyuuryo_Syukei();
     const TallyTable bulk = TallyGrid;
     const PositionRange lines = *WholePositionRange(site_.Work());
     PG_Jyuuryo_Syukei(static_cast<std::int16_t>(lines.first.page),
                       static_cast<std::int16_t>(lines.first.line), static_cast<std::int16_t>(lines.last.page),
                       static_cast<std::int16_t>(lines.last.line));
-    EXPECT_EQ(TallyGrid, bulk) << hoop_mode;
+    EXPECT_EQ(TallyGrid, bulk) << static_cast<int>(hoops);
   }
 }
 

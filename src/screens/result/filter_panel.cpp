@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "screens/result/filter_panel.h"
 
-#include <array>
 #include <initializer_list>
 
 #include <QPushButton>
@@ -16,7 +15,6 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array kModeCaptions{"含む", "含まず", "のみ"};
 constexpr const char* kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
 
 }  // namespace
@@ -34,10 +32,9 @@ void FilterPanel::ShowAllKinds() { ui_.Label8->setText(kAllKindsAfterReset); }
 void FilterPanel::ShowForms() { ui_.Label9->setText(Text(screen_.form_caption(Selection.MaterialFormMask))); }
 
 void FilterPanel::ShowModes() {
-  constexpr int kOnly = 2;
-  ui_.cmdHoop->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.HoopMode)));
-  ui_.Label4->setText(Selection.HoopMode == kOnly ? "(形状No87)" : "(形状No87)を");
-  ui_.cmdTei->setText(kModeCaptions.at(static_cast<std::size_t>(Selection.AnchorPlateMode)));
+  ui_.cmdHoop->setText(Text(ShapeFilterCaption(Selection.HoopMode)));
+  ui_.Label4->setText(Selection.HoopMode == ShapeFilter::alone ? "(形状No87)" : "(形状No87)を");
+  ui_.cmdTei->setText(Text(ShapeFilterCaption(Selection.AnchorPlateMode)));
 }
 
 void FilterPanel::OfferModes() {

@@ -183,8 +183,8 @@ void ResultForm::AskForRange() {
 
 void ResultForm::ResetFilters() {
   Selection.MaterialKindMask = kAllKinds;
-  Selection.AnchorPlateMode = 0;
-  Selection.HoopMode = 0;
+  Selection.AnchorPlateMode = ShapeFilter::with_others;
+  Selection.HoopMode = ShapeFilter::with_others;
   filters_.ShowAllKinds();
   filters_.ShowModes();
 }
@@ -263,7 +263,7 @@ void ResultForm::Command2_Click() {
   if (!parts_.choose_forms) return SayNotReady("材料変更", screen_.title);
   Recalculate([this] {
     parts_.choose_forms();
-    Selection.MaterialCalcChoice = static_cast<std::int16_t>(CalcChoiceOf(Selection.MaterialKindMask));
+    Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask);
   });
 }
 
@@ -275,11 +275,11 @@ void ResultForm::Command3_Click() {
 }
 
 void ResultForm::cmdHoop_Click() {
-  Recalculate([] { Selection.HoopMode = (Selection.HoopMode + 1) % 3; });
+  Recalculate([] { Selection.HoopMode = Next(Selection.HoopMode); });
 }
 
 void ResultForm::cmdTei_Click() {
-  Recalculate([] { Selection.AnchorPlateMode = (Selection.AnchorPlateMode + 1) % 3; });
+  Recalculate([] { Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode); });
 }
 
 void ResultForm::cmdUSum_Click() {
@@ -391,7 +391,7 @@ void ResultForm::cmdExit_Click() { close(); }
 void ResultForm::closeEvent(QCloseEvent* event) {
   if (!ended_) {
     ended_ = true;
-    Selection.MaterialCalcChoice = 0;
+    Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
     Selection.MaterialFormMask = kAllForms;
     SiteContext.WorkDatabase.reset();
   }

@@ -21,7 +21,7 @@ setZai::setZai() : ui_(std::make_unique<Ui::setZai>()), kinds_(SetUp(*ui_, *this
   ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
   Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
   kinds_.Show(Selection.MaterialKindMask.AsTicks());
-  ui_->ChkU->setChecked(Selection.IncludeUlbon == 1);
+  ui_->ChkU->setChecked(Selection.IncludeUlbon);
   ui_->Check1_0->setFocus();
 }
 

@@ -26,7 +26,7 @@ setZaiKaiBui::setZaiKaiBui() : ui_(std::make_unique<Ui::setZaiKaiBui>()), kinds_
   ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
   Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
   kinds_.Show(Selection.MaterialKindMask.AsTicks());
-  QRadioButton* chosen = Selection.UlbonOnly == 1 ? ui_->Option1_0 : ui_->Option1_1;
+  QRadioButton* chosen = Selection.UlbonOnly ? ui_->Option1_0 : ui_->Option1_1;
   chosen->setChecked(true);
   chosen->setFocus();
   Option1_Click();

@@ -7,26 +7,20 @@
 namespace rbt {
 
 void SetSelectionDefaults() {
-  constexpr std::int16_t kHighStrengthWithOthers = 2;
   Selection.MaterialKindMask = kAllKinds;
   Selection.MaterialFormMask = kAllForms;
   Selection.PrevMaterialKindMask = kAllKinds;
-  Selection.IncludeUlbon = 1;
-  if (RunState.AccumulateFlag == 0) Selection.MaterialCalcChoice = kHighStrengthWithOthers;
-  Selection.HoopMode = 0;
-  Selection.AnchorPlateMode = 0;
+  Selection.IncludeUlbon = true;
+  if (RunState.AccumulateFlag == 0) Selection.MaterialCalcChoice = CalcChoice::high_strength_with_others;
+  Selection.HoopMode = ShapeFilter::with_others;
+  Selection.AnchorPlateMode = ShapeFilter::with_others;
 }
 
 bool ShowsWholePicture(bool ulbon_view) {
   const FormMask forms = Selection.MaterialFormMask;
-  const bool all_forms = forms.IsNone() || forms.IsAll();
-  return Selection.MaterialKindMask.IsAll() && all_forms && Selection.AnchorPlateMode == 0 &&
-         Selection.HoopMode == 0 && !ulbon_view;
-}
-
-int CalcChoiceOf(KindMask kinds) {
-  if (!kinds.Has(MaterialKind::high_strength)) return 0;
-  return kinds.IsOne() ? 1 : 2;
+  return Selection.MaterialKindMask.IsAll() && (forms.IsNone() || forms.IsAll()) &&
+         Selection.AnchorPlateMode == ShapeFilter::with_others &&
+         Selection.HoopMode == ShapeFilter::with_others && !ulbon_view;
 }
 
 }  // namespace rbt

@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "data/form_mask.h"
-#include "data/kind_mask.h"
 #include "session/result/print_order.h"
 
 namespace rbt {
@@ -58,8 +57,5 @@ void SetSelectionDefaults();
 
 /// True for the whole picture: only that may be printed and added up across sites.
 bool ShowsWholePicture(bool ulbon_view);
-
-/// `MaterialCalcChoice` of a mask of kinds: 0 without high strength, 1 of it alone, 2 with others.
-int CalcChoiceOf(KindMask kinds);
 
 }  // namespace rbt

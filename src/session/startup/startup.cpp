@@ -162,8 +162,7 @@ void StampRun() {
 
 void ResetSelection() {
   if (RunState.AccumulateFlag != 0) return;
-  constexpr std::int16_t kHighStrengthWithOthers = 2;
-  Selection.MaterialCalcChoice = kHighStrengthWithOthers;
+  Selection.MaterialCalcChoice = CalcChoice::high_strength_with_others;
   Selection.MaterialFormMask = kAllForms;
 }
 
@@ -177,7 +176,7 @@ MenuState DescribeMenu(const StartOptions& options) {
 }
 
 void ForgetHoops() {
-  Selection.HoopMode = 0;
+  Selection.HoopMode = ShapeFilter::with_others;
   RunState.HasHoopRows = false;
 }
 

@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "data/shapes.h"
+#include "tally/clauses.h"
 #include "tally/mask_text.h"
 
 namespace rbt {
@@ -45,9 +45,9 @@ std::string_view KindClauseByPage(KindMask kinds) {
   return own.empty() ? TextOfMask(kKindClauses, kinds) : own;
 }
 
-std::string_view PlateClause(std::int32_t mode, std::string_view without_plates) {
-  if (mode == 1) return without_plates;
-  return mode == 2 ? kAnchorPlateClause : std::string_view();
+/// The page-shape tally leaves the plates out in words of its own.
+std::string_view PlateClauseByPage(ShapeFilter plates) {
+  return plates == ShapeFilter::left_out ? kNoPlatesAndKnownShape : AnchorPlateClause(plates);
 }
 
 std::string PlainRange(const SelectionData& selection) {
@@ -61,31 +61,40 @@ void Append(GroupStatements& statements, std::string_view text) {
 
 std::string HoopRange(const SelectionData& selection) {
   switch (selection.HoopMode) {
-    case 1:
+    case ShapeFilter::left_out:
       return fmt::format(" AND (形状No Between {} AND 86 OR 形状No Between 88 AND {})", selection.ShapeStart,
                          selection.ShapeEnd);
-    case 2:
+    case ShapeFilter::alone:
       return " AND 形状No =87";
-    default:
-      return PlainRange(selection);
+    case ShapeFilter::with_others:
+      break;
   }
+  return PlainRange(selection);
 }
 
 std::string UlbonRange(const SelectionData& selection) {
   switch (selection.HoopMode) {
-    case 1:
+    case ShapeFilter::left_out:
       return fmt::format(" AND ((形状No Between {} AND 86) OR (形状No Between 88 AND {}))",
                          selection.ShapeStart, selection.ShapeEnd);
-    case 2:
+    case ShapeFilter::alone:
       return " AND 形状No=87";
-    default:
-      return fmt::format(" AND 形状No Between {} And {}", selection.ShapeStart, selection.ShapeEnd);
+    case ShapeFilter::with_others:
+      break;
   }
+  return fmt::format(" AND 形状No Between {} And {}", selection.ShapeStart, selection.ShapeEnd);
 }
 
-std::string_view HoopClauseByPage(std::int32_t hoop_mode) {
-  if (hoop_mode == 1) return " AND 形状No<>87 ";
-  return hoop_mode == 2 ? " AND 形状No=87 " : std::string_view();
+std::string_view HoopClauseByPage(ShapeFilter hoops) {
+  switch (hoops) {
+    case ShapeFilter::left_out:
+      return " AND 形状No<>87 ";
+    case ShapeFilter::alone:
+      return " AND 形状No=87 ";
+    case ShapeFilter::with_others:
+      break;
+  }
+  return "";
 }
 
 }  // namespace
@@ -122,7 +131,7 @@ GroupStatements ShapeStatements(const SelectionData& selection, bool has_hoop_ro
     statements.main += PlainRange(selection);
   }
   if (has_anchor_plate_rows) {
-    Append(statements, PlateClause(selection.AnchorPlateMode, kNoAnchorPlateClause));
+    Append(statements, AnchorPlateClause(selection.AnchorPlateMode));
   }
   return statements;
 }
@@ -160,7 +169,7 @@ GroupStatements PageShapeStatementsSoFar(const SelectionData& selection, LineRan
 
 GroupStatements PageShapeStatements(const SelectionData& selection, LineRange lines) {
   GroupStatements statements = PageShapeStatementsSoFar(selection, lines);
-  Append(statements, PlateClause(selection.AnchorPlateMode, kNoPlatesAndKnownShape));
+  Append(statements, PlateClauseByPage(selection.AnchorPlateMode));
   return statements;
 }
 

@@ -17,7 +17,7 @@ std::string BulkStatementSoFar(const SelectionData& selection) {
 
 std::string BulkStatement(const SelectionData& selection, bool has_hoop_rows) {
   std::string statement = BulkStatementSoFar(selection);
-  if (has_hoop_rows && selection.HoopMode == 2) statement += " AND 形状No=87 ";
+  if (has_hoop_rows && selection.HoopMode == ShapeFilter::alone) statement += " AND 形状No=87 ";
   statement += AnchorPlateClause(selection.AnchorPlateMode);
   return statement;
 }

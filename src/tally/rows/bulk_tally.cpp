@@ -37,9 +37,9 @@ void ProbePresence(Database& site, const SelectionData& selection) {
 
 RowRules BulkRowRules(const SelectionData& selection) {
   RowRules rules;
-  rules.hoop_mode = selection.HoopMode;
+  rules.hoops = selection.HoopMode;
   rules.count_hoop_welds = ReadCountHoopWelds();
-  rules.include_ulbon = selection.IncludeUlbon == 1;
+  rules.include_ulbon = selection.IncludeUlbon;
   rules.counts_without_column_by_choice = selection.MaterialCalcChoice;
   return rules;
 }

@@ -30,9 +30,9 @@ void ProbePresence(Database& site, const LineRange& lines) {
 
 RowRules PageRowRules(const SelectionData& selection) {
   RowRules rules;
-  rules.hoop_mode = selection.HoopMode;
+  rules.hoops = selection.HoopMode;
   rules.count_hoop_welds = ReadCountHoopWelds();
-  rules.include_ulbon = selection.IncludeUlbon == 1;
+  rules.include_ulbon = selection.IncludeUlbon;
   rules.length_without_column_in_first_cell = false;
   rules.ulbon_weight_from_all_metres = false;
   rules.pass_over_cuts_at_unknown_diameter = false;
@@ -54,7 +54,7 @@ std::string PageStatementSoFar(const SelectionData& selection, LineRange lines) 
 std::string PageStatement(const SelectionData& selection, LineRange lines, bool has_hoop_rows,
                           bool has_anchor_plate_rows) {
   std::string statement = PageStatementSoFar(selection, lines);
-  if (has_hoop_rows && selection.HoopMode == 2) statement += kHoopClause;
+  if (has_hoop_rows && selection.HoopMode == ShapeFilter::alone) statement += kHoopClause;
   if (has_anchor_plate_rows) statement += AnchorPlateClause(selection.AnchorPlateMode);
   return statement;
 }

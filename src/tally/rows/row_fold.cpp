@@ -18,8 +18,10 @@ double InstalledMetres(const BarRow& row) {
   return *row.cut_length_mm / 1000.0 * *row.pieces;
 }
 
-/// The hoops that the hoop mode leaves out of bars, lengths and welds.
-bool IsLeftOut(const BarRow& row, const RowRules& rules) { return rules.hoop_mode == 1 && row.IsHoop(); }
+/// The hoops that are left out of bars, lengths and welds.
+bool IsLeftOut(const BarRow& row, const RowRules& rules) {
+  return rules.hoops == ShapeFilter::left_out && row.IsHoop();
+}
 
 /// A weld between two diameters counts at the thicker.
 int WeldRow(const BarRow& row, int d) {
@@ -82,15 +84,14 @@ bool CountsWithoutColumn(const BarRow& row, const RowRules& rules) {
   const bool high_strength = row.IsOf(MaterialKind::high_strength);
   const bool plain = row.kind.value_or(0) < static_cast<std::int32_t>(MaterialKind::ulbon);
   switch (*rules.counts_without_column_by_choice) {
-    case 0:
+    case CalcChoice::without_high_strength:
       return plain;
-    case 1:
+    case CalcChoice::high_strength_alone:
       return high_strength;
-    case 2:
+    case CalcChoice::high_strength_with_others:
       return plain || high_strength;
-    default:
-      return false;
   }
+  return false;
 }
 
 void FoldDeformedWithoutColumn(TallyTable& table, int d, const BarRow& row, const RowRules& rules) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
+#include "data/calc_choice.h"
+#include "data/shape_filter.h"
 #include "tally/rows/bar_row.h"
 #include "tally/tally_grid.h"
 
@@ -12,13 +13,15 @@ namespace rbt {
 /// How a tally by rows takes a row in. The bulk tally, the page and line tally and the tally of registered
 /// names share the rule of a row; where they differ they do so on purpose, and the field says how.
 struct RowRules {
-  std::int32_t hoop_mode = 0;  ///< 1: bars and welds of shape 87 are left out, its other counts are not
+  /// Left out: bars and welds of shape 87 are, its other counts are not. To show it alone is up to the
+  /// statement.
+  ShapeFilter hoops = ShapeFilter::with_others;
   bool count_hoop_welds = true;  ///< setting 溶接フープの圧接数; false: shape 87 has weight but no welds
   bool include_ulbon = true;  ///< looked at only where the stock length has a column
 
   /// Bulk: a deformed row whose stock length has no column adds its welds, threads, plates and cuts only when
-  /// the choice (0, 1, 2) holds its kind. The other tallies do not look at the choice: nothing.
-  std::optional<std::int32_t> counts_without_column_by_choice = std::nullopt;
+  /// the choice holds its kind. The other tallies do not look at the choice: nothing.
+  std::optional<CalcChoice> counts_without_column_by_choice = std::nullopt;
 
   /// Such a row's installed length. Bulk puts it into the first column, so that a cell shows it, and takes
   /// 太さ 0 to be a fault of the schedule. The others keep it apart in `LengthWithoutColumnM`: the totals

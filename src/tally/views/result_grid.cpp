@@ -99,7 +99,7 @@ GridRows ShowTally(const TallyTable& table, const SelectionData& selection, cons
   AppendDeformedRows(rows, table, view);
   AppendTotalRows(rows, table, selection);
   double grand_total = table.TotalInstalledWeight.ToDouble();
-  if (selection.IncludeUlbon == 1) {
+  if (selection.IncludeUlbon) {
     AppendUlbonRows(rows, table, view.percent);
     grand_total += UlbonSum(table, view.percent);
   }

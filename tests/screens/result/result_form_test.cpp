@@ -124,7 +124,7 @@ TEST(BulkScreen, HoopsOnlyGoBackToIncludedWhenTheNextKindsHaveNoHoops) {
   js.Click("cmdHoop");
   ASSERT_EQ(js.Button("cmdHoop")->text(), "のみ");
   js.Click("Command3");
-  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
   EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
 }
 
@@ -134,13 +134,13 @@ TEST(BulkScreen, FormChangeShowsTheFormsAndSetsTheCalculationFromTheKinds) {
   js.Open();
   js.Click("Command2");
   EXPECT_EQ(js.Label("Label9"), "生･生加");
-  EXPECT_EQ(Selection.MaterialCalcChoice, 2);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::high_strength_with_others);
   Selection.MaterialKindMask = KindMask(4);
   js.Click("Command2");
-  EXPECT_EQ(Selection.MaterialCalcChoice, 1);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::high_strength_alone);
   Selection.MaterialKindMask = KindMask(3);
   js.Click("Command2");
-  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::without_high_strength);
 }
 
 TEST(BulkScreen, PercentRaisesTheThinBarsAndTheGrandTotal) {
@@ -295,7 +295,7 @@ TEST(BulkScreen, EscLeavesAndTheSelectionIsAsTheMenuExpectsIt) {
   js.Open();
   js.Key(Qt::Key_Escape);
   EXPECT_FALSE(js.form->isVisible());
-  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::without_high_strength);
   EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
   EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
 }
@@ -304,12 +304,13 @@ TEST(BulkScreen, AnAccumulationUnderWayIsTold) {
   ResultFormDriver js;
   js.Open();
   RunState.AccumulateFlag = 1;
-  Selection.MaterialCalcChoice = 1;
+  Selection.MaterialCalcChoice = CalcChoice::high_strength_alone;
   js.form = std::make_unique<ResultForm>(kBulkScreen, js.parts);
   js.form->show();
   EXPECT_TRUE(js.Shows("hozon"));
   EXPECT_EQ(js.Label("hozon"), "集計累積保存中解除はＦ６を押す");
-  EXPECT_EQ(Selection.MaterialCalcChoice, 1);  // an accumulation keeps the choice
+  EXPECT_EQ(Selection.MaterialCalcChoice,
+            CalcChoice::high_strength_alone);  // an accumulation keeps the choice
 }
 
 }  // namespace rbt::test

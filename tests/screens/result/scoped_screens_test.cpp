@@ -224,8 +224,8 @@ TEST(PageScreens, RangeChangeAsksAnewAndTheNextTallyRunsWithAllFiltersReset) {
     EXPECT_FALSE(RunState.HasAnchorPlateRows);
     EXPECT_EQ(Selection.MaterialKindMask, KindMask(15));
     EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
-    EXPECT_EQ(Selection.HoopMode, 0);
-    EXPECT_EQ(Selection.AnchorPlateMode, 0);
+    EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
+    EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::with_others);
     EXPECT_EQ(js.Label("Label8"), "異形・高強度・ネジ・スリット");
     EXPECT_EQ(js.Label("Label9"), "すべて");
     EXPECT_EQ(js.Label("Label11"), "(形状No87)を");
@@ -276,7 +276,7 @@ TEST(PageScreens, AFaultOfALaterTallyAsksForTheRangeAgain) {
   EXPECT_THAT(js.Message(), HasSubstr("subscript out of range"));
   EXPECT_TRUE(js.Shows("SSPanel4"));
   EXPECT_FALSE(js.Shows("dbgJS"));
-  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
   EXPECT_TRUE(js.Button("cmdExit")->isEnabled());
 }
 
@@ -349,8 +349,8 @@ TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
   js.Click("cmdTei");
   js.Run();
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(15));
-  EXPECT_EQ(Selection.HoopMode, 0);
-  EXPECT_EQ(Selection.AnchorPlateMode, 0);
+  EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
+  EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::with_others);
   EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(15));
   EXPECT_EQ(js.Label("Label8"), "異形・高強度・ネジ・スリット");
   EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
@@ -527,7 +527,7 @@ TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
       js.Click("cmdTei");
       js.Click("cmdTei");
       js.Click("Command3");
-      EXPECT_EQ(Selection.AnchorPlateMode, 0) << kinds;
+      EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::with_others) << kinds;
       EXPECT_EQ(js.Button("cmdTei")->text(), "含む");
     }
     for (const std::int32_t kinds : {2, 8, 10}) {
@@ -538,7 +538,7 @@ TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
       js.Click("cmdHoop");
       js.Click("cmdHoop");
       js.Click("Command3");
-      EXPECT_EQ(Selection.HoopMode, 0) << kinds;
+      EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others) << kinds;
       EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
       EXPECT_EQ(js.Label("Label11"), "(形状No87)を");
     }

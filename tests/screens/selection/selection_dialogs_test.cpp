@@ -117,14 +117,14 @@ TEST_F(KindDialog, ANewKindResetsTheForms) {
 }
 
 TEST_F(KindDialog, TheUlbonBoxDecidesOverTheUlbonLines) {
-  for (const std::int32_t included : {0, 1}) {
+  for (const bool included : {false, true}) {
     Selection.IncludeUlbon = included;
     Driver<setZai> driver;
-    EXPECT_EQ(driver.Box("ChkU").isChecked(), included == 1);
+    EXPECT_EQ(driver.Box("ChkU").isChecked(), included);
     driver.Box("ChkU").toggle();
     EXPECT_EQ(Selection.IncludeUlbon, included) << "not before the button";
     driver.Take();
-    EXPECT_EQ(Selection.IncludeUlbon, 1 - included);
+    EXPECT_EQ(Selection.IncludeUlbon, !included);
   }
 }
 
@@ -135,13 +135,13 @@ TEST_F(KindDialog, WithoutAKindItTellsSoAndStaysUntilOneIsTicked) {
   ExpectMessage("材質が選択されていません");
   EXPECT_TRUE(driver.dialog.isVisible());
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(0)) << "until the next press";
-  EXPECT_EQ(Selection.IncludeUlbon, 1);
+  EXPECT_TRUE(Selection.IncludeUlbon);
   EXPECT_EQ(driver.Ticks(kKindBoxes), "0000");
   EXPECT_EQ(driver.Focused(), "Check1_0");
   driver.Box("Check1_1").setChecked(true);
   driver.Take();
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(2));
-  EXPECT_EQ(Selection.IncludeUlbon, 0);
+  EXPECT_FALSE(Selection.IncludeUlbon);
   EXPECT_FALSE(driver.dialog.isVisible());
 }
 
@@ -176,7 +176,7 @@ TEST_F(KindDialog, IsFilledInWithSpaceAndEnter) {
   Press(driver.dialog, Qt::Key_Return);
   EXPECT_FALSE(driver.dialog.isVisible());
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(8));
-  EXPECT_EQ(Selection.IncludeUlbon, 0);
+  EXPECT_FALSE(Selection.IncludeUlbon);
 }
 
 TEST_F(KindDialog, AHeldEnterStopsAtTheBox) {
@@ -228,9 +228,9 @@ TEST_F(ScopedKindDialog, UlbonAloneHidesTheKindsAndUnticksThemButTheSlitBars) {
 TEST_F(ScopedKindDialog, UlbonAloneLeavesTheMaskEmptyWithoutAMessage) {
   Driver<setZaiKaiBui> driver;
   driver.Option("Option1_0").click();
-  EXPECT_EQ(Selection.UlbonOnly, 0) << "not before the button";
+  EXPECT_FALSE(Selection.UlbonOnly) << "not before the button";
   driver.Take();
-  EXPECT_EQ(Selection.UlbonOnly, 1);
+  EXPECT_TRUE(Selection.UlbonOnly);
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(0)) << "though スリット筋 is ticked";
   EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(15));
   EXPECT_TRUE(site.Messages().empty());
@@ -238,7 +238,7 @@ TEST_F(ScopedKindDialog, UlbonAloneLeavesTheMaskEmptyWithoutAMessage) {
 }
 
 TEST_F(ScopedKindDialog, OpensOnUlbonAloneAndGoesBackToKinds) {
-  Selection.UlbonOnly = 1;
+  Selection.UlbonOnly = true;
   Selection.MaterialKindMask = KindMask(0);
   Driver<setZaiKaiBui> driver;
   EXPECT_TRUE(driver.Option("Option1_0").isChecked());
@@ -248,7 +248,7 @@ TEST_F(ScopedKindDialog, OpensOnUlbonAloneAndGoesBackToKinds) {
   EXPECT_TRUE(driver.Option("Option1_1").isChecked()) << "the arrow keys choose";
   driver.Box("Check1_2").setChecked(true);
   driver.Take();
-  EXPECT_EQ(Selection.UlbonOnly, 0);
+  EXPECT_FALSE(Selection.UlbonOnly);
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(4));
   EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
 }

@@ -95,14 +95,14 @@ TEST_F(Activate, RereadsTheTitleOfTheReports) {
 
 TEST_F(Activate, ReadiesTheSelectionForANewTally) {
   LoadSite(options_);
-  Selection.MaterialCalcChoice = 0;
+  Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
   Selection.MaterialFormMask = FormMask(3);
   Selection.MaterialKindMask = KindMask(1);
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   ActivateMenu(options_);
-  EXPECT_EQ(Selection.MaterialCalcChoice, 2);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::high_strength_with_others);
   EXPECT_EQ(Selection.MaterialFormMask, FormMask(15));
-  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
   EXPECT_EQ(Selection.MaterialKindMask, KindMask(1)) << "the result forms set it when they load";
 }
 
@@ -118,13 +118,13 @@ TEST_F(Activate, ForgetsTheHoopsOfTheLastTallyAndKeepsItsAnchorPlates) {
 TEST_F(Activate, KeepsTheSelectionWhileAnAccumulationRuns) {
   LoadSite(options_);
   RunState.AccumulateFlag = 1;
-  Selection.MaterialCalcChoice = 0;
+  Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
   Selection.MaterialFormMask = FormMask(3);
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   ActivateMenu(options_);
-  EXPECT_EQ(Selection.MaterialCalcChoice, 0);
+  EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::without_high_strength);
   EXPECT_EQ(Selection.MaterialFormMask, FormMask(3));
-  EXPECT_EQ(Selection.HoopMode, 0);
+  EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
 }
 
 TEST_F(Activate, ReadsTheCallersMarkEachTime) {

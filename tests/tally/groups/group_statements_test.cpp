@@ -25,10 +25,10 @@ TEST(ShapeUlbonStatement, RangesByTheHoopMode) {
   SelectionData selection = Shapes(5, 200);
   const std::string tail = " GROUP BY 太さ,圧接太さ,形状No,伸切寸,予備5 ";
   EXPECT_THAT(ShapeUlbonStatement(selection), EndsWith(" AND 形状No Between 5 And 200" + tail));
-  selection.HoopMode = 1;
+  selection.HoopMode = ShapeFilter::left_out;
   EXPECT_THAT(ShapeUlbonStatement(selection),
               EndsWith(" AND ((形状No Between 5 AND 86) OR (形状No Between 88 AND 200))" + tail));
-  selection.HoopMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
   EXPECT_THAT(ShapeUlbonStatement(selection), EndsWith(" AND 形状No=87" + tail));
 }
 
@@ -68,7 +68,7 @@ TEST(ShapeStatements, GiveBothTheRangeOfTheHoopModeWhenTheRangeHasHoops) {
                                 " AND (形状No Between 1 AND 86 OR 形状No Between 88 AND 99)",
                                 " AND 形状No =87"};
   for (int mode = 0; mode < 3; ++mode) {
-    selection.HoopMode = mode;
+    selection.HoopMode = ShapeFilterOf(mode);
     const GroupStatements statements = ShapeStatements(selection, true, false);
     EXPECT_THAT(statements.main, EndsWith(ranges[mode]));
     EXPECT_THAT(statements.cuts, EndsWith(ranges[mode]));
@@ -78,10 +78,10 @@ TEST(ShapeStatements, GiveBothTheRangeOfTheHoopModeWhenTheRangeHasHoops) {
 
 TEST(ShapeStatements, LookAtThePlateModeOnlyWhenTheRangeHasPlates) {
   SelectionData selection = Shapes(1, 9);
-  selection.AnchorPlateMode = 1;
+  selection.AnchorPlateMode = ShapeFilter::left_out;
   EXPECT_THAT(ShapeStatements(selection, false, true).cuts, HasSubstr("IsNull(形状No) OR 形状No=0"));
   EXPECT_THAT(ShapeStatements(selection, false, false).main, Not(HasSubstr("138")));
-  selection.AnchorPlateMode = 2;
+  selection.AnchorPlateMode = ShapeFilter::alone;
   EXPECT_THAT(ShapeStatements(selection, false, true).main, HasSubstr("AND (形状No=138 OR"));
 }
 
@@ -93,7 +93,7 @@ TEST(ShapeProbeStatement, AsksForTheRangeAndTheKindsWithoutClosingParenthesis) {
 TEST(PageShapeUlbonStatement, KnowsTheLinesAndTheHoopModeAlone) {
   SelectionData selection;
   selection.MaterialKindMask = KindMask(4);
-  selection.HoopMode = 1;
+  selection.HoopMode = ShapeFilter::left_out;
   EXPECT_THAT(PageShapeUlbonStatement(selection, {3, 40}),
               EndsWith("AND 本数>0 AND 行No Between 3AND 40  AND 形状No<>87 "
                        " GROUP BY 太さ,圧接太さ,形状No,伸切寸,予備5,伸定尺 "));
@@ -101,7 +101,7 @@ TEST(PageShapeUlbonStatement, KnowsTheLinesAndTheHoopModeAlone) {
 
 TEST(PageShapeStatements, TakeTheHoopModeWhetherThereAreHoopsOrNot) {
   SelectionData selection;
-  selection.HoopMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
   const GroupStatements statements = PageShapeStatements(selection, {3, 40});
   EXPECT_THAT(statements.main, EndsWith("行No Between 3 AND 40  AND 形状No=87  AND 予備2<>2 "));
   EXPECT_THAT(statements.cuts, EndsWith("行No Between 3 AND 40  AND 形状No=87  AND 予備2<>2 "));
@@ -128,7 +128,7 @@ TEST(PageShapeStatements, HaveTheirOwnWordsForTheFirstThreeKinds) {
 
 TEST(PageShapeStatements, LeavePlatesOutWithoutAskingForNoShape) {
   SelectionData selection;
-  selection.AnchorPlateMode = 1;
+  selection.AnchorPlateMode = ShapeFilter::left_out;
   EXPECT_THAT(PageShapeStatements(selection, {1, 2}).cuts, HasSubstr(" AND (形状No<138 OR"));
   EXPECT_THAT(PageShapeStatementsSoFar(selection, {1, 2}).cuts, Not(HasSubstr("138")));
 }

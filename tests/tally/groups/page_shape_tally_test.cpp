@@ -45,12 +45,12 @@ TEST(PKeijou_Jyuuryo_Syukei, LeavesOutThePlateShapesAloneWhenPlatesAreOut) {
     if (!plate) ++others;
     site.AddRow({{"形状No", Number(shape)}, {"ネジ数", Number(1)}});
   }
-  Selection.AnchorPlateMode = 1;
+  Selection.AnchorPlateMode = ShapeFilter::left_out;
   TallyLines(44);
   EXPECT_EQ(TallyGrid.TotalThreadCount, others);
   TallyShapes();
   EXPECT_EQ(TallyGrid.TotalThreadCount, others);
-  Selection.AnchorPlateMode = 2;
+  Selection.AnchorPlateMode = ShapeFilter::alone;
   TallyLines(44);
   EXPECT_EQ(TallyGrid.TotalThreadCount, 44 - others);
 }
@@ -106,7 +106,7 @@ TEST(PKeijou_Jyuuryo_Syukei, ShowsHighStrengthInsteadOfThreadedForMask11) {
 TEST(PKeijou_Jyuuryo_Syukei, ShowsNothingWhenHoopsAloneAreAskedForAndThereAreNone) {
   ScheduleSite site;
   site.AddRow(kSevenOf2m);
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   TallyLines(1);
   EXPECT_EQ(TallyGrid, TallyTable());
   TallyShapes();
@@ -120,7 +120,7 @@ TEST(PKeijou_Jyuuryo_Syukei, FindsNoHoopsWhereTheyAreLeftOut) {
   const bool found[] = {true, false, true};
   const std::int32_t bars[] = {9, 4, 5};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.HoopMode = mode;
+    Selection.HoopMode = ShapeFilterOf(mode);
     TallyLines(2);
     EXPECT_EQ(RunState.HasHoopRows, found[mode]) << mode;
     EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
@@ -134,7 +134,7 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesThePlateModeWhetherPlatesWereFoundOrNot) {
   Selection.StartMode = TraitsOfStartMode(1);
   const std::int32_t bars[] = {9, 4, 5};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.AnchorPlateMode = mode;
+    Selection.AnchorPlateMode = ShapeFilterOf(mode);
     TallyLines(2);
     EXPECT_FALSE(RunState.HasAnchorPlateRows);
     EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
@@ -146,7 +146,7 @@ TEST(PKeijou_Jyuuryo_Syukei, TakesAShapeOf0ForAPlateInItsProbeAlone) {
   site.AddRow(With(kSevenOf2m, {{"形状No", Number(0)}}));
   TallyLines(1);
   EXPECT_TRUE(RunState.HasAnchorPlateRows);
-  Selection.AnchorPlateMode = 2;
+  Selection.AnchorPlateMode = ShapeFilter::alone;
   TallyLines(1);
   EXPECT_EQ(TallyGrid, TallyTable());
   EXPECT_TRUE(RunState.HasAnchorPlateRows);

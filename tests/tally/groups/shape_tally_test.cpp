@@ -124,7 +124,7 @@ TEST(Keijou_Jyuuryo_Syukei, TakesUlbonForEveryKindAndSelection) {
   ScheduleSite site;
   site.AddRow(With(kUlbon, {{"圧接", Number(2)}, {"ネジ数", Number(3)}, {"定着板数", Number(4)}}));
   Selection.MaterialKindMask = KindMask(4);
-  Selection.IncludeUlbon = 0;
+  Selection.IncludeUlbon = false;
   TallyShapes();
   EXPECT_EQ(TallyGrid.UlbonLengthM[14], 15.0);
   EXPECT_EQ(TallyGrid.UlbonWeight[14], 7.5);
@@ -174,7 +174,7 @@ TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesHoopsOutAndHoopsOnly) {
   const std::int32_t bars[] = {9, 4, 5};
   const std::int32_t welds[] = {10, 1, 9};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.HoopMode = mode;
+    Selection.HoopMode = ShapeFilterOf(mode);
     TallyShapes();
     EXPECT_TRUE(RunState.HasHoopRows);
     EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
@@ -185,7 +185,7 @@ TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesHoopsOutAndHoopsOnly) {
 TEST(Keijou_Jyuuryo_Syukei, ShowsThePlainRangeWhenHoopsAloneAreAskedForAndThereAreNone) {
   ScheduleSite site;
   site.AddRow(kSevenOf2m);
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   TallyShapes();
   EXPECT_FALSE(RunState.HasHoopRows);
   EXPECT_EQ(TallyGrid.BarCount[3][1], 4);
@@ -206,7 +206,7 @@ TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesPlatesOutAndPlatesOnly) {
   site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
   const std::int32_t bars[] = {9, 4, 5};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.AnchorPlateMode = mode;
+    Selection.AnchorPlateMode = ShapeFilterOf(mode);
     TallyShapes();
     EXPECT_TRUE(RunState.HasAnchorPlateRows);
     EXPECT_EQ(TallyGrid.BarCount[3][1], bars[mode]) << mode;
@@ -220,8 +220,8 @@ TEST(Keijou_Jyuuryo_Syukei, ProbesNothingInStartModes1And3AndThenKnowsNoModes) {
   site.AddRow(With(kHoops, {{"形状No", Number(140)}}));
   for (const int mode : {1, 3}) {
     Selection.StartMode = TraitsOfStartMode(mode);
-    Selection.HoopMode = 2;
-    Selection.AnchorPlateMode = 2;
+    Selection.HoopMode = ShapeFilter::alone;
+    Selection.AnchorPlateMode = ShapeFilter::alone;
     TallyShapes();
     EXPECT_FALSE(RunState.HasHoopRows);
     EXPECT_FALSE(RunState.HasAnchorPlateRows);

@@ -38,24 +38,25 @@ TEST(BulkStatement, LetsTheUlbonRowsOfTheSlitMaskLeaveEveryOtherCondition) {
 
 TEST(BulkStatement, LimitsToHoopsOnlyWhenTheSiteHasHoops) {
   SelectionData selection;
-  selection.HoopMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
   EXPECT_EQ(BulkStatement(selection, true), std::string(kHead) + " AND 形状No=87 ");
   EXPECT_EQ(BulkStatement(selection, false), kHead);
-  selection.HoopMode = 1;  // left out row by row, so that their threads, plates and cuts stay
+  selection.HoopMode =
+      ShapeFilter::left_out;  // left out row by row, so that their threads, plates and cuts stay
   EXPECT_EQ(BulkStatement(selection, true), kHead);
 }
 
 TEST(BulkStatement, LimitsByAnchorPlatesWhetherThereAreAnyOrNot) {
   SelectionData selection;
-  selection.AnchorPlateMode = 1;
+  selection.AnchorPlateMode = ShapeFilter::left_out;
   EXPECT_EQ(
       BulkStatement(selection, false),
       std::string(kHead) +
           " AND (IsNull(形状No) OR 形状No=0 or 形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR "
           "(形状No Between 148 And 160) OR (形状No Between 162 And 163) OR (形状No Between 170 And 174) OR "
           "形状No >=177)");
-  selection.AnchorPlateMode = 2;
-  selection.HoopMode = 2;
+  selection.AnchorPlateMode = ShapeFilter::alone;
+  selection.HoopMode = ShapeFilter::alone;
   EXPECT_EQ(
       BulkStatement(selection, true),
       std::string(kHead) +
@@ -65,8 +66,8 @@ TEST(BulkStatement, LimitsByAnchorPlatesWhetherThereAreAnyOrNot) {
 
 TEST(BulkStatementSoFar, LeavesTheModesToTheStatement) {
   SelectionData selection = Masks(2, 4);
-  selection.HoopMode = 2;
-  selection.AnchorPlateMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
+  selection.AnchorPlateMode = ShapeFilter::alone;
   EXPECT_EQ(BulkStatementSoFar(selection), std::string(kHead) + " AND 予備3 = 3 AND (予備2=4 or 予備2=2)");
 }
 
@@ -102,9 +103,11 @@ TEST(ResetMeaninglessModes, TakesPlatesAloneBackWhenTheKindsBecomeOnesWithoutPla
   for (int mask = 1; mask <= 15; ++mask) {
     SelectionData selection = Masks(mask, 15);
     selection.PrevMaterialKindMask = KindMask(0);
-    selection.AnchorPlateMode = 2;
+    selection.AnchorPlateMode = ShapeFilter::alone;
     ResetMeaninglessModes(selection);
-    EXPECT_EQ(selection.AnchorPlateMode, mask == 4 || mask == 8 || mask == 12 ? 0 : 2) << mask;
+    EXPECT_EQ(selection.AnchorPlateMode,
+              mask == 4 || mask == 8 || mask == 12 ? ShapeFilter::with_others : ShapeFilter::alone)
+        << mask;
   }
 }
 
@@ -112,25 +115,27 @@ TEST(ResetMeaninglessModes, TakesHoopsAloneBackWhenTheKindsBecomeOnesWithoutHoop
   for (int mask = 1; mask <= 15; ++mask) {
     SelectionData selection = Masks(mask, 15);
     selection.PrevMaterialKindMask = KindMask(0);
-    selection.HoopMode = 2;
+    selection.HoopMode = ShapeFilter::alone;
     ResetMeaninglessModes(selection);
-    EXPECT_EQ(selection.HoopMode, mask == 2 || mask == 8 || mask == 10 ? 0 : 2) << mask;
+    EXPECT_EQ(selection.HoopMode,
+              mask == 2 || mask == 8 || mask == 10 ? ShapeFilter::with_others : ShapeFilter::alone)
+        << mask;
   }
 }
 
 TEST(ResetMeaninglessModes, LeavesModesAloneThatLeaveShapesOutAndKindsThatDidNotChange) {
   SelectionData selection = Masks(8, 15);
-  selection.HoopMode = 1;
-  selection.AnchorPlateMode = 1;
+  selection.HoopMode = ShapeFilter::left_out;
+  selection.AnchorPlateMode = ShapeFilter::left_out;
   ResetMeaninglessModes(selection);
-  EXPECT_EQ(selection.HoopMode, 1);
-  EXPECT_EQ(selection.AnchorPlateMode, 1);
+  EXPECT_EQ(selection.HoopMode, ShapeFilter::left_out);
+  EXPECT_EQ(selection.AnchorPlateMode, ShapeFilter::left_out);
   selection.PrevMaterialKindMask = KindMask(8);
-  selection.HoopMode = 2;
-  selection.AnchorPlateMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
+  selection.AnchorPlateMode = ShapeFilter::alone;
   ResetMeaninglessModes(selection);
-  EXPECT_EQ(selection.HoopMode, 2);
-  EXPECT_EQ(selection.AnchorPlateMode, 2);
+  EXPECT_EQ(selection.HoopMode, ShapeFilter::alone);
+  EXPECT_EQ(selection.AnchorPlateMode, ShapeFilter::alone);
 }
 
 }  // namespace

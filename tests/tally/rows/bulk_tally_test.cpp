@@ -94,10 +94,10 @@ TEST(Jyuuryo_Syukei, KeepsUlbonForEveryKindAndLetsTheSelectionDecide) {
   site.AddRow(kUlbon);
   for (int mask = 1; mask <= 15; ++mask) {
     Selection.MaterialKindMask = KindMask(mask);
-    Selection.IncludeUlbon = 1;
+    Selection.IncludeUlbon = true;
     Jyuuryo_Syukei();
     EXPECT_EQ(TallyGrid.UlbonWeight[14], 7.5) << mask;
-    Selection.IncludeUlbon = 0;
+    Selection.IncludeUlbon = false;
     Jyuuryo_Syukei();
     EXPECT_EQ(TallyGrid.UlbonWeight[14], 0.0) << mask;
   }
@@ -138,7 +138,7 @@ TEST(Jyuuryo_Syukei, ShowsAllRowsHoopsOutAndHoopsOnly) {
   const std::int32_t bars[] = {4, 2, 2};
   const std::int32_t welds[] = {5, 1, 4};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.HoopMode = mode;
+    Selection.HoopMode = ShapeFilterOf(mode);
     Jyuuryo_Syukei();
     EXPECT_TRUE(RunState.HasHoopRows);
     EXPECT_EQ(TallyGrid.BarCount[3][5], bars[mode]) << mode;
@@ -150,7 +150,7 @@ TEST(Jyuuryo_Syukei, KeepsThreadsPlatesAndCutsOfHoopsThatAreLeftOut) {
   ScheduleSite site;
   site.AddRow(With(
       kHoop, {{"予備2", Number(4)}, {"ネジ数", Number(5)}, {"定着板数", Number(6)}, {"切断", Number(7)}}));
-  Selection.HoopMode = 1;
+  Selection.HoopMode = ShapeFilter::left_out;
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(0));
   EXPECT_EQ(TallyGrid.TotalThreadCount, 5);
@@ -161,7 +161,7 @@ TEST(Jyuuryo_Syukei, KeepsThreadsPlatesAndCutsOfHoopsThatAreLeftOut) {
 TEST(Jyuuryo_Syukei, ShowsEverythingWhenHoopsAloneAreAskedForAndThereAreNone) {
   ScheduleSite site;
   site.AddRow();
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
 }
@@ -200,7 +200,7 @@ TEST(Jyuuryo_Syukei, ShowsAllRowsPlatesOutAndPlatesOnly) {
   site.AddRow({{"形状No", Number(0)}, {"伸総計", Number(20)}});
   const std::int32_t bars[] = {35, 32, 3};
   for (int mode = 0; mode < 3; ++mode) {
-    Selection.AnchorPlateMode = mode;
+    Selection.AnchorPlateMode = ShapeFilterOf(mode);
     Jyuuryo_Syukei();
     EXPECT_TRUE(RunState.HasAnchorPlateRows);
     EXPECT_EQ(TallyGrid.BarCount[3][5], bars[mode]) << mode;
@@ -226,7 +226,7 @@ TEST(Jyuuryo_Syukei, ProbesNothingInStartModes1And3) {
   site.AddRow({{"形状No", Number(140)}});
   for (const int mode : {-1, 0, 1, 2, 3, 4}) {
     Selection.StartMode = TraitsOfStartMode(mode);
-    Selection.HoopMode = 2;
+    Selection.HoopMode = ShapeFilter::alone;
     Jyuuryo_Syukei();
     const bool probes = mode != 1 && mode != 3;
     EXPECT_EQ(RunState.HasHoopRows, probes) << mode;
@@ -335,7 +335,7 @@ TEST(Jyuuryo_Syukei, AddsTheSpiralsOfTheCompanionFile) {
   EXPECT_EQ(TallyGrid.SpiralUlbonByDia[14], Kg(5.25));
   EXPECT_EQ(TallyGrid.SpiralKinds, 7);
   EXPECT_EQ(TallyGrid.SpiralTotal, Kg(34));
-  Selection.AnchorPlateMode = 2;
+  Selection.AnchorPlateMode = ShapeFilter::alone;
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.SpiralTotal, Kg(0));
 }

@@ -85,7 +85,7 @@ TEST(PG_Jyuuryo_Syukei, KeepsThreadsPlatesAndCutsOfHoopsThatAreLeftOut) {
   ScheduleSite site;
   site.AddRow(With(
       kHoop, {{"予備2", Number(4)}, {"ネジ数", Number(5)}, {"定着板数", Number(6)}, {"切断", Number(7)}}));
-  Selection.HoopMode = 1;
+  Selection.HoopMode = ShapeFilter::left_out;
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(0));
   EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
@@ -99,7 +99,7 @@ TEST(PG_Jyuuryo_Syukei, ShowsHoopsAloneWhereThereAreSome) {
   site.AddRow();
   site.AddRow(kHoop);
   site.AddRow({{"太さ", Number(22)}});
-  Selection.HoopMode = 2;
+  Selection.HoopMode = ShapeFilter::alone;
   TallyLines(1, 3);
   EXPECT_TRUE(RunState.HasHoopRows);
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
@@ -113,7 +113,7 @@ TEST(PG_Jyuuryo_Syukei, LooksAtThePlateModeOnlyWhereItFoundPlates) {
   ScheduleSite site;
   site.AddRow();
   site.AddRow({{"形状No", Number(140)}, {"太さ", Number(22)}});
-  Selection.AnchorPlateMode = 2;
+  Selection.AnchorPlateMode = ShapeFilter::alone;
   TallyLines(1, 2);
   EXPECT_EQ(TallyGrid.BarCount[3][5], 0);
   EXPECT_EQ(TallyGrid.BarCount[4][5], 2);
@@ -164,7 +164,7 @@ TEST(PG_Jyuuryo_Syukei, FollowsTheSelectionForUlbonWithAColumn) {
   site.AddRow(kUlbon);
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.UlbonWeight[14], 7.5);
-  Selection.IncludeUlbon = 0;
+  Selection.IncludeUlbon = false;
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.UlbonWeight[14], 0.0);
 }
@@ -244,7 +244,7 @@ TEST(PG_Jyuuryo_Syukei, DropsTheWeldsOfHoopsByTheSetting) {
 TEST(PG_Jyuuryo_Syukei, DoesNotLookAtTheMaterialChoice) {
   ScheduleSite site;
   site.AddRow({{"伸定尺", Value{0.0}}, {"切断", Number(7)}});
-  Selection.MaterialCalcChoice = 1;
+  Selection.MaterialCalcChoice = CalcChoice::high_strength_alone;
   TallyLines(1, 1);
   EXPECT_EQ(TallyGrid.TotalCutCount, 7);
 }

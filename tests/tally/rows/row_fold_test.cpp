@@ -24,7 +24,7 @@ using test::U9Row;
 /// The bulk tally's rules at the defaults of the selection.
 RowRules Bulk() {
   RowRules rules;
-  rules.counts_without_column_by_choice = 2;
+  rules.counts_without_column_by_choice = CalcChoice::high_strength_with_others;
   return rules;
 }
 
@@ -131,7 +131,7 @@ TEST(FoldRow, FaultsAtAWeldToAThickerBarOfNoDiameterUnlessThereIsNoWeld) {
 
 TEST(FoldRow, LeavesHoopsOutOfBarsAndWeldsButNotOfTheOtherCounts) {
   RowRules rules = Bulk();
-  rules.hoop_mode = 1;
+  rules.hoops = ShapeFilter::left_out;
   BarRow row = WithKind(D19Hoop(), kThreaded);
   row.threads = 5;
   row.plates = 6;
@@ -158,7 +158,7 @@ TEST(FoldRow, DropsOnlyTheWeldsOfHoopsWhenTheyAreNotToBeCounted) {
 
 TEST(FoldRow, DropsTheWeldsOfHoopsAlsoWhenHoopsAloneAreTallied) {
   RowRules rules = Bulk();
-  rules.hoop_mode = 2;
+  rules.hoops = ShapeFilter::alone;
   EXPECT_EQ(Folded(D19Hoop(), rules).WeldCount[3], 4);
   rules.count_hoop_welds = false;
   EXPECT_EQ(Folded(D19Hoop(), rules).WeldCount[3], 0);
@@ -211,7 +211,7 @@ TEST(FoldRow, PassesOverACutOfPart2AtNoDeformedDiameter) {
 
 TEST(FoldRow, CountsHighStrengthRowsHoopsToo) {
   RowRules rules = Bulk();
-  rules.hoop_mode = 1;
+  rules.hoops = ShapeFilter::left_out;
   EXPECT_EQ(Folded(WithKind(D19Hoop(), kHighStrength), rules).HighStrengthRowCount, 1);
   EXPECT_EQ(Folded(WithKind(D19Row(), kHighStrength)).HighStrengthRowCount, 1);
   EXPECT_EQ(Folded(WithKind(D19Row(), kThreaded)).HighStrengthRowCount, 0);
@@ -248,9 +248,9 @@ TEST(FoldRow, AppliesTheHoopRulesToUlbon) {
   row.shape = kWeldedHoopShape;
   row.welds = 10;
   RowRules rules = Bulk();
-  rules.hoop_mode = 1;
+  rules.hoops = ShapeFilter::left_out;
   EXPECT_EQ(Folded(row, rules), TallyTable());
-  rules.hoop_mode = 0;
+  rules.hoops = ShapeFilter::with_others;
   rules.count_hoop_welds = false;
   EXPECT_EQ(Folded(row, rules).UlbonLengthM[14], 15.0);
   EXPECT_EQ(Folded(row, rules).UlbonWeldCount[14], 0);
@@ -292,31 +292,34 @@ TEST(FoldRow, CountsWithoutColumnOnlyTheKindsOfTheChoice) {
   row.plates = 1;
   row.cuts = 1;
   const std::optional<std::int32_t> null_kind;
+  constexpr CalcChoice without = CalcChoice::without_high_strength;
+  constexpr CalcChoice alone = CalcChoice::high_strength_alone;
+  constexpr CalcChoice with_others = CalcChoice::high_strength_with_others;
   struct Case {
-    std::int32_t choice = 0;
+    CalcChoice choice = without;
     std::optional<std::int32_t> kind = std::nullopt;
     bool counts = false;
   };
-  for (const Case& c : std::initializer_list<Case>{{0, null_kind, true},
-                                                   {0, 0, true},
-                                                   {0, 1, true},
-                                                   {0, 3, false},
-                                                   {0, 4, false},
-                                                   {0, 5, false},
-                                                   {1, null_kind, false},
-                                                   {1, 1, false},
-                                                   {1, 3, true},
-                                                   {1, 4, false},
-                                                   {2, null_kind, true},
-                                                   {2, 1, true},
-                                                   {2, 3, true},
-                                                   {2, 4, false},
-                                                   {2, 5, false}}) {
+  for (const Case& c : std::initializer_list<Case>{{without, null_kind, true},
+                                                   {without, 0, true},
+                                                   {without, 1, true},
+                                                   {without, 3, false},
+                                                   {without, 4, false},
+                                                   {without, 5, false},
+                                                   {alone, null_kind, false},
+                                                   {alone, 1, false},
+                                                   {alone, 3, true},
+                                                   {alone, 4, false},
+                                                   {with_others, null_kind, true},
+                                                   {with_others, 1, true},
+                                                   {with_others, 3, true},
+                                                   {with_others, 4, false},
+                                                   {with_others, 5, false}}) {
     RowRules rules = Bulk();
     rules.counts_without_column_by_choice = c.choice;
     const TallyTable table = Folded(WithKind(row, c.kind), rules);
     const int expected = c.counts ? 1 : 0;
-    EXPECT_EQ(table.WeldCount[3], expected) << c.choice << ' ' << c.kind.value_or(-1);
+    EXPECT_EQ(table.WeldCount[3], expected) << static_cast<int>(c.choice) << ' ' << c.kind.value_or(-1);
     EXPECT_EQ(table.PlateCount[3], expected);
     EXPECT_EQ(table.CutCount[3], expected);
     EXPECT_EQ(table.CutLengthM[3][0], 12.0);  // the length in any case
@@ -332,14 +335,14 @@ TEST(FoldRow, CountsThreadsOfAnyKindWithoutColumn) {
 
 TEST(FoldRow, AppliesTheHoopRulesToTheWeldsWithoutColumnButKeepsTheLength) {
   RowRules rules = Bulk();
-  rules.hoop_mode = 1;
+  rules.hoops = ShapeFilter::left_out;
   BarRow row = WithStock(D19Hoop(), 0.0);
   row.cuts = 7;
   TallyTable table = Folded(row, rules);
   EXPECT_EQ(table.WeldCount[3], 0);
   EXPECT_EQ(table.CutCount[3], 7);
   EXPECT_EQ(table.CutLengthM[3][0], 12.0);
-  rules.hoop_mode = 0;
+  rules.hoops = ShapeFilter::with_others;
   EXPECT_EQ(Folded(row, rules).WeldCount[3], 4);
   rules.count_hoop_welds = false;
   EXPECT_EQ(Folded(row, rules).WeldCount[3], 0);
@@ -357,7 +360,7 @@ TEST(FoldRow, CountsUlbonWithoutColumnWhetherItIsTalliedOrNotAndWarns) {
 
 TEST(FoldRow, LeavesUlbonHoopsWithoutColumnOutButWarns) {
   RowRules rules = Bulk();
-  rules.hoop_mode = 1;
+  rules.hoops = ShapeFilter::left_out;
   BarRow row = WithStock(U9Row(), 0.0);
   row.shape = kWeldedHoopShape;
   TallyTable expected;

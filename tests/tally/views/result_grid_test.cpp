@@ -81,7 +81,7 @@ TEST(ShowTally, ShowsTheUlbonRowsBelowAndTheGrandTotalLast) {
 
 TEST(ShowTally, LeavesUlbonOutOfTheGrandTotalWhenItsRowsAreNotShown) {
   SelectionData selection;
-  selection.IncludeUlbon = 0;
+  selection.IncludeUlbon = false;
   const GridRows rows = ShowTally(Sample(), selection, {});
   ASSERT_EQ(rows.size(), 15U);
   EXPECT_EQ(rows[14][2], "3,213 kg");
@@ -109,7 +109,7 @@ TEST(ShowTally, ShowsUlbonAloneInTheUlbonView) {
   GridView view;
   view.show_ulbon_only = true;
   SelectionData selection;
-  selection.IncludeUlbon = 0;  // the view does not ask
+  selection.IncludeUlbon = false;  // the view does not ask
   const GridRows rows = ShowTally(Sample(), selection, view);
   ASSERT_EQ(rows.size(), 7U);
   EXPECT_THAT(rows[0], ElementsAre("U 6", "", "100 ", "", "7", ""));
@@ -161,10 +161,10 @@ TEST(ShowTally, ShowsSpiralWeightsAndAddsThemToTheGrandTotal) {
 
 TEST(ShowTally, ShowsNoSpiralsWhenHoopsOrPlatesAloneAreTallied) {
   SelectionData selection;
-  selection.HoopMode = 2;
+  selection.HoopMode = ShapeFilter::alone;
   EXPECT_EQ(ShowTally(WithSpirals(7), selection, {}).size(), 22U);
-  selection.HoopMode = 0;
-  selection.AnchorPlateMode = 2;
+  selection.HoopMode = ShapeFilter::with_others;
+  selection.AnchorPlateMode = ShapeFilter::alone;
   EXPECT_EQ(ShowTally(WithSpirals(7), selection, {}).size(), 22U);
 }
 
