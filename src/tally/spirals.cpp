@@ -6,17 +6,17 @@
 namespace rbt {
 namespace {
 
-enum Spiral : int { kDeformed = 0, kUlbon = 1, kHighStrength = 2 };
+bool IsTakenIn(MaterialKind spiral, const SelectionData& selection) {
+  return spiral == MaterialKind::ulbon ? selection.IncludeUlbon : selection.MaterialKindMask.Has(spiral);
+}
 
 void AddSpiral(TallyTable& table, const SpiralRow& row, const SelectionData& selection) {
-  if (row.IsOf(MaterialKind::deformed) && selection.MaterialKindMask.Has(MaterialKind::deformed)) {
-    table.SpiralWeight[kDeformed] += row.weight;
-  } else if (row.IsOf(MaterialKind::ulbon) && selection.IncludeUlbon) {
-    table.SpiralWeight[kUlbon] += row.weight;
-    table.SpiralUlbonByDia[row.diameter_code ? UlbonIndex(*row.diameter_code) : -1] += row.weight;
-  } else if (row.IsOf(MaterialKind::high_strength) &&
-             selection.MaterialKindMask.Has(MaterialKind::high_strength)) {
-    table.SpiralWeight[kHighStrength] += row.weight;
+  for (std::size_t i = 0; i < kSpiralKinds.size(); ++i) {
+    if (!row.IsOf(kSpiralKinds[i]) || !IsTakenIn(kSpiralKinds[i], selection)) continue;
+    table.SpiralWeight[static_cast<int>(i)] += row.weight;
+    if (kSpiralKinds[i] == MaterialKind::ulbon) {
+      table.SpiralUlbonByDia[row.diameter_code ? UlbonIndex(*row.diameter_code) : -1] += row.weight;
+    }
   }
 }
 
@@ -30,16 +30,17 @@ void FoldSpirals(TallyTable& table, std::span<const SpiralRow> rows, const Selec
   table.SpiralTotal = Currency();
   table.SpiralWeight.Clear();
   table.SpiralUlbonByDia.Clear();
-  table.SpiralKinds = 0;
+  table.SpiralKinds = SpiralMask();
   if (LeavesSpiralsOut(selection)) return;
   for (const SpiralRow& row : rows) AddSpiral(table, row, selection);
-  for (const int spiral : {kDeformed, kUlbon, kHighStrength}) {
-    table.SpiralWeight[spiral] = WholeKilograms(table.SpiralWeight[spiral]);
-    if (table.SpiralWeight[spiral] > Currency()) {
-      table.SpiralKinds |= 1 << spiral;
-      table.SpiralTotal += table.SpiralWeight[spiral];
-    }
+  SpiralMask::Ticks have_weight{};
+  for (std::size_t i = 0; i < kSpiralKinds.size(); ++i) {
+    Currency& weight = table.SpiralWeight[static_cast<int>(i)];
+    weight = WholeKilograms(weight);
+    have_weight[i] = weight > Currency();
+    if (have_weight[i]) table.SpiralTotal += weight;
   }
+  table.SpiralKinds = SpiralMask::OfTicks(have_weight);
 }
 
 }  // namespace rbt

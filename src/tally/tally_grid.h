@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "data/spiral_mask.h"
 #include "platform/numbers/checked_array.h"
 #include "platform/numbers/currency.h"
 
@@ -31,9 +32,9 @@ struct TallyTable {
   CheckedArray<std::int32_t, 20> UlbonWeldCount;
   CheckedArray<std::int32_t, 20> UlbonThreadCount;  ///< shape tallies
   CheckedArray<std::int32_t, 20> UlbonPlateCount;   ///< shape tallies
-  CheckedArray<Currency, 3> SpiralWeight;           ///< 0 deformed, 1 Ulbon, 2 high strength
+  CheckedArray<Currency, 3> SpiralWeight;           ///< by `kSpiralKinds`
   CheckedArray<Currency, 18> SpiralUlbonByDia;
-  std::int32_t SpiralKinds = 0;  ///< bit 1 deformed, 2 Ulbon, 4 high strength have weight
+  SpiralMask SpiralKinds;  ///< which of them have weight
   Currency SpiralTotal;
   Currency TotalStockWeight;  ///< whole kilograms of the twelve deformed diameters
   Currency TotalInstalledWeight;

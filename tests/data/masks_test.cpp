@@ -6,6 +6,7 @@
 
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
+#include "data/spiral_mask.h"
 
 namespace rbt {
 namespace {
@@ -14,6 +15,7 @@ using enum MaterialKind;
 
 // One is never taken for the other, nor a number for either.
 static_assert(!std::convertible_to<KindMask, FormMask> && !std::convertible_to<FormMask, KindMask>);
+static_assert(!std::convertible_to<KindMask, SpiralMask>);
 static_assert(!std::convertible_to<int, KindMask> && !std::convertible_to<KindMask, int>);
 static_assert(sizeof(KindMask) == sizeof(std::int32_t) && sizeof(FormMask) == sizeof(std::int16_t));
 
@@ -46,6 +48,13 @@ TEST(FormMask, CountsTheFormsInTheirOrderAs1And2And4And8) {
   EXPECT_EQ(FormMask::Of({MaterialForm::cut_bent}).AsNumber(), 8);
   EXPECT_EQ(kAllForms.AsNumber(), 15);
   EXPECT_TRUE(FormMask::Of({MaterialForm::unclassified}).IsNone());
+}
+
+TEST(SpiralMask, HasPlacesOfItsOwn) {
+  EXPECT_EQ(SpiralMask::Of({deformed}).AsNumber(), 1);
+  EXPECT_EQ(SpiralMask::Of({ulbon}).AsNumber(), 2);
+  EXPECT_EQ(SpiralMask::Of({high_strength}).AsNumber(), 4);
+  EXPECT_EQ(SpiralMask::All().AsNumber(), 7);
 }
 
 TEST(CodeMask, IsTickedInTheOrderOfItsCodes) {

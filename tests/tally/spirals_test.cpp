@@ -15,7 +15,7 @@ const std::vector<SpiralRow> kAllMaterials = {
 
 TallyTable Folded(const std::vector<SpiralRow>& rows, const SelectionData& selection) {
   TallyTable table;
-  table.SpiralKinds = 9;
+  table.SpiralKinds = SpiralMask(9);
   table.SpiralTotal = Kg(9);
   table.SpiralWeight[0] = Kg(9);
   table.SpiralUlbonByDia[0] = Kg(9);
@@ -28,7 +28,7 @@ TEST(FoldSpirals, SumEachMaterialThenRoundToWholeKilograms) {
   EXPECT_EQ(table.SpiralWeight[0], Kg(21));  // 20.6
   EXPECT_EQ(table.SpiralWeight[1], Kg(11));  // 10.5
   EXPECT_EQ(table.SpiralWeight[2], Kg(8));   // 7.5
-  EXPECT_EQ(table.SpiralKinds, 7);
+  EXPECT_EQ(table.SpiralKinds, SpiralMask(7));
   EXPECT_EQ(table.SpiralTotal, Kg(40));
 }
 
@@ -44,18 +44,18 @@ TEST(FoldSpirals, FollowTheKindsOfTheSelection) {
   selection.MaterialKindMask = KindMask(4);
   selection.IncludeUlbon = false;
   TallyTable table = Folded(kAllMaterials, selection);
-  EXPECT_EQ(table.SpiralKinds, 4);
+  EXPECT_EQ(table.SpiralKinds, SpiralMask(4));
   EXPECT_EQ(table.SpiralTotal, Kg(8));
   EXPECT_EQ(table.SpiralUlbonByDia[12], Kg(0));
   selection.MaterialKindMask = KindMask(9);
   table = Folded(kAllMaterials, selection);
-  EXPECT_EQ(table.SpiralKinds, 1);
+  EXPECT_EQ(table.SpiralKinds, SpiralMask(1));
   EXPECT_EQ(table.SpiralTotal, Kg(21));
 }
 
 TEST(FoldSpirals, CountOnlyMaterialsWithWeight) {
   const TallyTable table = Folded({{1, 10, Kg(0.4)}, {3, 10, Kg(-2)}, {9, 10, Kg(5)}}, {});
-  EXPECT_EQ(table.SpiralKinds, 0);
+  EXPECT_EQ(table.SpiralKinds, SpiralMask(0));
   EXPECT_EQ(table.SpiralTotal, Kg(0));
 }
 

@@ -21,7 +21,7 @@ struct ComparisonSheet {
   std::array<std::string, 12> grades;  ///< steel grade of D10 to D51
   double ulbon_weight = 0.0;           ///< UlbonWeightSum under the uplift of the arguments
   std::int32_t ulbon_welds = 0;        ///< UlbonWeldSum
-  bool hides_cuts = false;             ///< no cut column: start modes 1 and 3
+  bool hides_cuts = false;             ///< no cut column
 };
 
 /// 総重量 of a sheet in kilograms: the installed weight for kind 'C', the stock weight for the others, with

@@ -82,7 +82,7 @@ inline constexpr IniKey kOnesRoundingKey{"加工帳", "１の位まるめ", "2"}
 
 /// The keys of `STEEL.INI` that bound the stock lengths of a diameter, in mm.
 struct StockLimitKey {
-  int diameter = 0;  ///< diameter code, 10 to 51
+  int diameter_code = 0;  ///< 10 to 51
   IniKey shortest;
   IniKey longest;
 };

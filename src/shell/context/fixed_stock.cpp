@@ -55,11 +55,11 @@ void OpenFixedStockForReading() {
   SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::OpenReadOnly(MapPath(file)));
 }
 
-std::array<std::string, 4> FixedStockStatements(std::int32_t cut_length, std::int32_t diameter) {
+std::array<std::string, 4> FixedStockStatements(std::int32_t cut_mm, std::int32_t diameter_code) {
   const std::string head = "SELECT * FROM 固定定尺テーブル WHERE 太さ = ";
   const std::string tail = " AND 材質 = 1 ";
-  const std::string d = std::to_string(diameter);
-  const std::string c = std::to_string(cut_length);
+  const std::string d = std::to_string(diameter_code);
+  const std::string c = std::to_string(cut_mm);
   const std::string range = " AND 開始切り寸 <= " + c + " AND 終了切り寸 >= " + c;
   return {head + d + " AND 開始切り寸 = " + c + " AND 終了切り寸 = 0 " + tail, head + d + range + tail,
           head + "0 AND 開始切り寸 = " + c + " AND 終了切り寸 = 0" + tail, head + "0" + range + tail};

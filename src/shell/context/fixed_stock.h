@@ -18,7 +18,7 @@ void OpenFixedStockForReading();
 
 /// The statements over `固定定尺テーブル` in the order in which they are asked: this diameter at this exact
 /// cut length, this diameter in a range, any diameter at this exact length, any diameter in a range.
-std::array<std::string, 4> FixedStockStatements(std::int32_t cut_length, std::int32_t diameter);
+std::array<std::string, 4> FixedStockStatements(std::int32_t cut_mm, std::int32_t diameter_code);
 
 /// Fixed stock length in mm of a cut length in mm and a diameter code: `定尺` of the first row in table order
 /// that the first fruitful statement finds, 0 when that is null, -1 when no statement finds a row. An error

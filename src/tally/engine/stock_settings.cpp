@@ -16,7 +16,7 @@ namespace {
 
 static_assert(std::equal(StockLimitKeys.begin(), StockLimitKeys.end(), kDeformedDiameters.begin(),
                          kDeformedDiameters.end(), [](const StockLimitKey& key, const Diameter& deformed) {
-                           return key.diameter == deformed.code;
+                           return key.diameter_code == deformed.code;
                          }));
 
 std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSteelIni(key)), key.key); }
@@ -26,7 +26,7 @@ std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSt
 StockLengthLimits GetStockLengthLimits() {
   StockLengthLimits limits;
   for (const StockLimitKey& key : StockLimitKeys) {
-    limits.Set(key.diameter, ReadNumber(key.shortest), ReadNumber(key.longest));
+    limits.Set(key.diameter_code, ReadNumber(key.shortest), ReadNumber(key.longest));
   }
   limits.ones_rounding = ReadNumber(kOnesRoundingKey);
   for (const int thin : kUlbonOnlyCodes) limits.Set(thin, limits.Min(10), limits.Max(10));

@@ -18,8 +18,8 @@ void ForEachGroup(Database& site, std::string_view statement, FoldGroup fold_gro
   for (; !groups.Eof(); groups.MoveNext()) fold_group(reader.Read(groups));
 }
 
-/// The diameter that a cut counts at; `weld_diameter` is not 0.
-using CutDiameter = std::int32_t (*)(std::int32_t diameter, std::int32_t weld_diameter);
+/// The diameter code that a cut counts at; that of the weld is not 0.
+using CutDiameter = std::int32_t (*)(std::int32_t diameter_code, std::int32_t weld_diameter_code);
 
 void FoldCutsOfPart(TallyTable& table, Database& site, const std::string& statement,
                     CutDiameter cut_diameter) {
@@ -53,11 +53,13 @@ void FoldCuts(TallyTable& table, Database& site, std::string_view cut_statement)
   const auto of_part = [&](std::string_view part) {
     return std::string(cut_statement).append(part).append(kGroupByWeld);
   };
-  FoldCutsOfPart(table, site, of_part(kCutsOfPart5), [](std::int32_t diameter, std::int32_t weld_diameter) {
-    return std::max(diameter, weld_diameter);
-  });
-  FoldCutsOfPart(table, site, of_part(kCutsOfPart2),
-                 [](std::int32_t /*diameter*/, std::int32_t weld_diameter) { return weld_diameter; });
+  FoldCutsOfPart(table, site, of_part(kCutsOfPart5),
+                 [](std::int32_t diameter_code, std::int32_t weld_diameter_code) {
+                   return std::max(diameter_code, weld_diameter_code);
+                 });
+  FoldCutsOfPart(
+      table, site, of_part(kCutsOfPart2),
+      [](std::int32_t /*diameter_code*/, std::int32_t weld_diameter_code) { return weld_diameter_code; });
 }
 
 }  // namespace rbt

@@ -16,7 +16,7 @@ constexpr std::string_view kLossRateLabel = "ロ      ス 率(％)";
 constexpr std::string_view kGrandTotalLabel = "総　　合　　計";
 constexpr std::string_view kSpiralHead = "スパイラル ";
 constexpr std::string_view kSpiralIndent = "　　　　　　";
-constexpr std::string_view kSpiralNames[] = {"異形", "ｳﾙﾎﾞﾝ", "高強度"};
+constexpr std::array<std::string_view, kSpiralKinds.size()> kSpiralNames = {"異形", "ｳﾙﾎﾞﾝ", "高強度"};
 constexpr std::string_view kSpiralTotalLabel = "スパイラル 合計";
 
 std::string Count(std::int32_t count) { return FormatNumber(std::int64_t{count}, "#,##0"); }
@@ -73,11 +73,11 @@ void AppendUlbonRows(GridRows& rows, const TallyTable& table, double percent) {
 /// One line for each material that has weight, the word スパイラル on the first alone.
 void AppendSpiralRows(GridRows& rows, const TallyTable& table) {
   bool first = true;
-  for (int material = 0; material < 3; ++material) {
-    if ((table.SpiralKinds & (1 << material)) == 0) continue;
+  for (std::size_t i = 0; i < kSpiralKinds.size(); ++i) {
+    if (!table.SpiralKinds.Has(kSpiralKinds[i])) continue;
     std::string label(first ? kSpiralHead : kSpiralIndent);
-    label.append(kSpiralNames[material]);
-    rows.push_back({label, "", Weight(table.SpiralWeight[material]), "", "", ""});
+    label.append(kSpiralNames[i]);
+    rows.push_back({label, "", Weight(table.SpiralWeight[static_cast<int>(i)]), "", "", ""});
     first = false;
   }
   rows.push_back({std::string(kSpiralTotalLabel), "", Weight(table.SpiralTotal), "", "", ""});
@@ -85,8 +85,8 @@ void AppendSpiralRows(GridRows& rows, const TallyTable& table) {
 
 }  // namespace
 
-double UpliftedUlbonWeight(const TallyTable& table, int d, double percent) {
-  const double weight = table.UlbonWeight[d] + table.SpiralUlbonByDia[d].ToDouble();
+double UpliftedUlbonWeight(const TallyTable& table, int ulbon_row, double percent) {
+  const double weight = table.UlbonWeight[ulbon_row] + table.SpiralUlbonByDia[ulbon_row].ToDouble();
   return Fix(weight + weight * percent / 100.0 + 0.5);
 }
 
@@ -103,7 +103,7 @@ GridRows ShowTally(const TallyTable& table, const SelectionData& selection, cons
     AppendUlbonRows(rows, table, view.percent);
     grand_total += UlbonSum(table, view.percent);
   }
-  if (table.SpiralKinds > 0 && !LeavesSpiralsOut(selection)) {
+  if (!table.SpiralKinds.IsNone() && !LeavesSpiralsOut(selection)) {
     AppendSpiralRows(rows, table);
     grand_total += table.SpiralTotal.ToDouble();
   }

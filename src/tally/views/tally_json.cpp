@@ -56,7 +56,7 @@ void AddDiameters(JsonObject& object, const TallyTable& table) {
 }
 
 void AddTotals(JsonObject& object, const TallyTable& table) {
-  object.Add("SpiralKinds", JsonText(table.SpiralKinds));
+  object.Add("SpiralKinds", JsonText(table.SpiralKinds.AsNumber()));
   object.Add("SpiralTotal", JsonText(table.SpiralTotal));
   object.Add("TotalStockWeight", JsonText(table.TotalStockWeight));
   object.Add("TotalInstalledWeight", JsonText(table.TotalInstalledWeight));

@@ -234,7 +234,7 @@ TEST_F(Configuration, ReadsIniTextsIntoAnEightyCharacterBuffer) {
 
 TEST_F(Configuration, NamesTheStockLimitsOfTheTwelveDeformedDiameters) {
   for (const StockLimitKey& limit : StockLimitKeys) {
-    const std::string name = "D" + std::to_string(limit.diameter);
+    const std::string name = "D" + std::to_string(limit.diameter_code);
     EXPECT_EQ(limit.shortest.key, name + "最小値");
     EXPECT_EQ(limit.longest.key, name + "最大値");
     EXPECT_EQ(ReadSteelIni(limit.shortest), "3500");

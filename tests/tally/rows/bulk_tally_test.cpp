@@ -333,7 +333,7 @@ TEST(Jyuuryo_Syukei, AddsTheSpiralsOfTheCompanionFile) {
   EXPECT_EQ(TallyGrid.SpiralWeight[1], Kg(5));
   EXPECT_EQ(TallyGrid.SpiralWeight[2], Kg(8));
   EXPECT_EQ(TallyGrid.SpiralUlbonByDia[14], Kg(5.25));
-  EXPECT_EQ(TallyGrid.SpiralKinds, 7);
+  EXPECT_EQ(TallyGrid.SpiralKinds, SpiralMask(7));
   EXPECT_EQ(TallyGrid.SpiralTotal, Kg(34));
   Selection.AnchorPlateMode = ShapeFilter::alone;
   Jyuuryo_Syukei();
@@ -344,7 +344,7 @@ TEST(Jyuuryo_Syukei, HasNoSpiralsWhereTheCompanionFileHasNoSuchTable) {
   ScheduleSite site;
   site.AddRow();
   Jyuuryo_Syukei();
-  EXPECT_EQ(TallyGrid.SpiralKinds, 0);
+  EXPECT_EQ(TallyGrid.SpiralKinds, SpiralMask(0));
   EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(27));
 }
 

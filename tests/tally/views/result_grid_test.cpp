@@ -124,7 +124,7 @@ TEST(ShowTally, AddsTheUlbonSpiralsToTheirDiameter) {
 
 TallyTable WithSpirals(std::int32_t kinds) {
   TallyTable table = Sample();
-  table.SpiralKinds = kinds;
+  table.SpiralKinds = SpiralMask(kinds);
   for (int material = 0; material < 3; ++material) {
     if ((kinds & (1 << material)) != 0) table.SpiralWeight[material] = Kg(1000 + material);
     table.SpiralTotal += table.SpiralWeight[material];
