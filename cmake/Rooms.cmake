@@ -67,7 +67,12 @@ function(rbtally_finish_house)
   file(WRITE ${CMAKE_BINARY_DIR}/house.txt "${house}")
 endfunction()
 
-add_custom_target(check_rooms
-  COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -DHOUSE=${CMAKE_BINARY_DIR}/house.txt
-          -P ${CMAKE_SOURCE_DIR}/cmake/CheckRooms.cmake
-  COMMENT "Checking that every file includes what its room uses")
+# Without the desktop the house is told in part, and there is nothing to hold its files against.
+if(RBTALLY_DESKTOP)
+  add_custom_target(check_rooms
+    COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -DHOUSE=${CMAKE_BINARY_DIR}/house.txt
+            -P ${CMAKE_SOURCE_DIR}/cmake/CheckRooms.cmake
+    COMMENT "Checking that every file includes what its room uses")
+else()
+  add_custom_target(check_rooms)
+endif()

@@ -23,11 +23,14 @@ constexpr std::string_view kLossLabel = "ロス率";
 constexpr float kTextSize = 12;
 constexpr std::int32_t kLossRuleWidth = 2;
 
+/// How the sheet names diameter row `d`: "D 10".
+std::string RowName(int d) { return "D " + std::to_string(DiameterCode(d)); }
+
 CellValue DiameterValue(const ComparisonSheet& sheet, Figure figure, int d) {
   const TallyTable& table = sheet.table;
   switch (figure) {
     case Figure::diameter:
-      return "D " + std::to_string(DiameterCode(d));
+      return RowName(d);
     case Figure::grade:
       return sheet.grades[static_cast<std::size_t>(d)];
     case Figure::stock_weight:
@@ -101,7 +104,8 @@ class Table {
     for (const Columns& columns : {Names(), Figures()}) {
       for (int d = 0; d < kDeformedRows; ++d) {
         const auto value_of = [&](Figure figure) { return DiameterValue(sheet_, figure, d); };
-        DrawRow(pen_, columns, place_, {kFirstDiameterRow + d, kDiameterLabels[d]}, value_of);
+        const std::string name = RowName(d);
+        DrawRow(pen_, columns, place_, {kFirstDiameterRow + d, name}, value_of);
       }
     }
   }
