@@ -11,10 +11,10 @@
 #include <gtest/gtest.h>
 
 #include "desktop/preview_form.h"
+#include "platform/files/files.h"
 #include "platform/print/paper.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
-#include "platform/system/paths.h"
 #include "platform/text/characters.h"
 #include "support/desktop/key_press.h"
 #include "support/environment_variable.h"

@@ -11,7 +11,7 @@
 #include "jet/import/swap_in.h"
 #include "jet/lock_file.h"
 #include "platform/fault.h"
-#include "platform/system/system_error.h"
+#include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {

@@ -10,8 +10,8 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "platform/system/file_sync.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/system_error.h"
 
 namespace rbt::jet {
 

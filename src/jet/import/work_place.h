@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "platform/system/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 
 namespace rbt::jet {
 

@@ -5,10 +5,10 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+#include "platform/files/file_descriptor.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/profile/ini_text.h"
-#include "platform/system/file_descriptor.h"
-#include "platform/system/paths.h"
-#include "platform/system/system_error.h"
 
 namespace rbt {
 

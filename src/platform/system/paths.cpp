@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/fault.h"
-#include "platform/system/system_error.h"
+#include "platform/files/system_error.h"
 
 namespace rbt {
 

@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/files/system_error.h"
 #include "platform/system/paths.h"
-#include "platform/system/system_error.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration): POSIX leaves it to the program
 

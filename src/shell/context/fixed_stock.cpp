@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
 

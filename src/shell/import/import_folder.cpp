@@ -14,9 +14,9 @@
 #include "jet/import/work_place.h"
 #include "jet/jet_file.h"
 #include "platform/fault.h"
-#include "platform/system/file_sync.h"
-#include "platform/system/paths.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 #include "store/database.h"
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/paths.h"
 #include "support/root_folder.h"
 

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/colour.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "screens/settings/colour_box.h"
 #include "shell/config/settings.h"
 #include "support/desktop/key_press.h"

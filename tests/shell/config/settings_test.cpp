@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/clock.h"
 #include "platform/system/paths.h"
 #include "platform/text/cp932.h"

@@ -10,7 +10,7 @@
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "store/database.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Reading whole files and replacing them atomically.
+#include "platform/files/files.h"
+
 #include <array>
 #include <atomic>
 #include <fcntl.h>
@@ -8,10 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/system/file_descriptor.h"
-#include "platform/system/file_sync.h"
-#include "platform/system/paths.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_descriptor.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/system_error.h"
 
 namespace rbt {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "platform/system/file_sync.h"
+#include "platform/files/file_sync.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/system/file_descriptor.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_descriptor.h"
+#include "platform/files/system_error.h"
 
 namespace rbt {
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/files/files.h"
+
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -8,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
