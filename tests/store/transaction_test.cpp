@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/failure_log.h"
 #include "store/connection.h"
 #include "store/database.h"
 #include "store/database_impl.h"
@@ -107,7 +108,7 @@ TEST_F(Transactions, commit_while_recordsets_are_open) {
 TEST_F(Transactions, roll_back_while_recordsets_are_open) {
   Database site = Site(5);
   Recordset snapshot = site.OpenSnapshot("SELECT * FROM T");
-  const std::int64_t failed_before = FailedRollbacks();
+  const std::int64_t failed_before = LoggedFailures();
   {
     const Transaction given_up(site);
     site.Execute("UPDATE T SET n=4");
@@ -116,7 +117,7 @@ TEST_F(Transactions, roll_back_while_recordsets_are_open) {
   for (; !snapshot.Eof(); snapshot.MoveNext()) ++rest;
   EXPECT_EQ(rest, 5);
   EXPECT_EQ(Numbers(), "0");
-  EXPECT_EQ(FailedRollbacks(), failed_before);
+  EXPECT_EQ(LoggedFailures(), failed_before);
 }
 
 TEST_F(Transactions, of_a_second_program_wait_a_little_and_then_fault) {
@@ -184,9 +185,9 @@ TEST_F(Transactions, lose_nothing_when_the_file_may_not_grow) {
 TEST_F(Transactions, count_a_rollback_that_fails) {
   const Database site = Site(1);
   const Connection connection(file_, OpenMode::read_write);
-  const std::int64_t before = FailedRollbacks();
+  const std::int64_t before = LoggedFailures();
   RollBackQuietly(connection, "ROLLBACK");  // nothing is open
-  EXPECT_EQ(FailedRollbacks(), before + 1);
+  EXPECT_EQ(LoggedFailures(), before + 1);
 }
 
 /// A child that counts all rows up, one transaction after another, until it is killed. Tells by a byte that

@@ -4,7 +4,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/files/file_descriptor.h"
 #include "platform/files/system_error.h"
 
 namespace rbt {
@@ -13,12 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void Sync(const fs::path& path, int flags) {
-  const FileDescriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | flags));
-  if (!descriptor.IsOpen()) throw FileFault(path, "cannot be synced");
-  // Some network file systems do not sync folders and say so with EINVAL.
-  if (::fsync(descriptor.Number()) != 0 && errno != EINVAL) throw FileFault(path, "cannot be synced");
-}
+constexpr std::string_view kNotSynced = "cannot be synced";
 
 }  // namespace
 
@@ -27,8 +21,15 @@ fs::path FolderOf(const fs::path& file) {
   return folder.empty() ? fs::path(".") : folder;
 }
 
-void SyncFile(const fs::path& file) { Sync(file, 0); }
+void Sync(const FileDescriptor& open, const fs::path& name) {
+  // Some network file systems do not sync folders and say so with EINVAL.
+  if (::fsync(open.Number()) != 0 && errno != EINVAL) throw FileFault(name, kNotSynced);
+}
 
-void SyncFolder(const fs::path& folder) { Sync(folder, O_DIRECTORY); }
+void SyncFolder(const fs::path& folder) {
+  const FileDescriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!open.IsOpen()) throw FileFault(folder, kNotSynced);
+  Sync(open, folder);
+}
 
 }  // namespace rbt

@@ -11,9 +11,9 @@
 #include <gtest/gtest.h>
 
 #include "jet/import/import_file.h"
-#include "jet/import/swap_in.h"
 #include "jet/jet_file.h"
 #include "platform/fault.h"
+#include "platform/files/file_in_work.h"
 #include "platform/files/files.h"
 #include "store/database.h"
 #include "support/child_process.h"
@@ -137,7 +137,8 @@ TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderThe
 }
 
 TEST_F(StoppedImport, WhatAnotherImportHasInWorkIsLeftAlone) {
-  const FileInWork other(target_);
+  const WorkPlace place(folder_.Path());
+  FileInWork other(target_, place, ReadOnlyTarget::replaced);
   other.Write("half");
   ImportJetFile(source_, target_);
   EXPECT_EQ(ReadFileBytes(other.Path()), "half");
