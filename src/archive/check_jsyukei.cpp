@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
@@ -98,16 +99,6 @@ void CheckAgainstTemplate() {
   for (const TableDef& table : wanted.TableDefs()) BringUpToDate(table);
 }
 
-/// The check's error trap: tallies can be run on a site whose archive is not up to date, only saving fails.
-template <typename Check>
-void EndWithoutMessageOnFault(Check check) {
-  try {
-    check();
-  } catch (const Fault&) {
-    return;
-  }
-}
-
 }  // namespace
 
 bool Table_Exists(std::string_view TableName, Database& database) {
@@ -146,7 +137,8 @@ void Check_JSyukei() {
     MsgBox(kNoTemplateText, kNoTemplateTitle);
     return;
   }
-  EndWithoutMessageOnFault(CheckAgainstTemplate);
+  // Tallies can be run on a site whose archive is not up to date, only saving fails.
+  PassOverFaults(CheckAgainstTemplate);
 }
 
 }  // namespace rbt

@@ -11,6 +11,7 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
 
@@ -134,12 +135,7 @@ DecodedText TextOfJet4(std::span<const unsigned char> bytes) {
 }
 
 bool KnowsCodePage(std::uint16_t code_page) {
-  try {
-    const Conversion conversion(code_page);
-    return true;
-  } catch (const Fault&) {
-    return false;
-  }
+  return !PassOverFaults([&] { const Conversion conversion(code_page); });
 }
 
 DecodedText TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t code_page) {

@@ -9,6 +9,7 @@
 
 #include "jet/index.h"
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "store/database_impl.h"
 #include "store/dialect/quoting.h"
 #include "store/stored_value.h"
@@ -37,11 +38,10 @@ std::vector<RowPointer> InKeyOrder(JetFile& file, const TableMapping& mapping, s
     if (!taken[at]) ordered.push_back(entry.row);
     taken[at] = true;
   };
-  try {
-    WalkIndex(file, mapping.source.physical_indexes[*mapping.key], take);
-  } catch (const Fault& fault) {
+  const auto walk = [&] { WalkIndex(file, mapping.source.physical_indexes[*mapping.key], take); };
+  if (const auto fault = PassOverFaults(walk)) {
     warnings.push_back(fmt::format("the primary key of {} is damaged ({}); rows stand as they lie",
-                                   mapping.source.name, fault.what()));
+                                   mapping.source.name, fault->what()));
     return places;
   }
   if (ordered.size() < places.size()) {
