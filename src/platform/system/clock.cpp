@@ -9,15 +9,11 @@
 #include <string_view>
 
 #include "platform/fault.h"
+#include "platform/system/services.h"
 
 namespace rbt {
 
 namespace {
-
-std::optional<DateTime>& FixedClock() {
-  static std::optional<DateTime> fixed;
-  return fixed;
-}
 
 bool ReadNumber(std::string_view text, int& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -47,8 +43,9 @@ DateTime ParseClock(std::string_view text) {
 
 }  // namespace
 
-DateTime Now() {
-  if (FixedClock()) return *FixedClock();
+DateTime Now() { return Services.Clock(); }
+
+DateTime SystemClock() {
   if (const char* fixed = std::getenv("RBK_CLOCK"); fixed != nullptr && *fixed != '\0')
     return ParseClock(fixed);
   const std::time_t seconds = std::time(nullptr);
@@ -57,7 +54,5 @@ DateTime Now() {
   return {local.tm_year + 1900, local.tm_mon + 1,          local.tm_mday, local.tm_hour,
           local.tm_min,         std::min(local.tm_sec, 59)};  // a leap second is the 59th once more
 }
-
-void SetClock(std::optional<DateTime> fixed) { FixedClock() = fixed; }
 
 }  // namespace rbt

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
-
 #include "platform/date_time.h"
 
 namespace rbt {
 
-/// The one source of the current date and time; `RBK_CLOCK` ("2026-11-21T09:00:00") or a test may fix it.
+/// The one source of the current date and time.
 DateTime Now();
-/// Fixes `Now` until it is called again with nothing.
-void SetClock(std::optional<DateTime> fixed);
+
+/// The system's time, unless `RBK_CLOCK` ("2026-11-21T09:00:00") fixes it; one that cannot be read throws
+/// `type mismatch`.
+DateTime SystemClock();
 
 }  // namespace rbt

@@ -8,11 +8,10 @@
 
 namespace rbt {
 
-/// The folder that `\RBK\` stands for, as an absolute path. Starts as `$RBK_ROOT`, empty when that is not
-/// set.
-const std::filesystem::path& Root();
-/// Forgets the family directory, which lay below the old root.
-void SetRoot(std::filesystem::path root);
+/// The folder that `\RBK\` stands for, as an absolute path; empty when nobody has named one.
+std::filesystem::path Root();
+/// `$RBK_ROOT`, empty when that is not set.
+std::filesystem::path RootOfEnvironment();
 
 /// A path of the family, `\RBK\DATA\STEEL.INI` or `C:\rbk\kakou\x.exe`, as a path on this machine: the drive
 /// letter is dropped, the first component `\RBK` is the root itself, and every component is matched without

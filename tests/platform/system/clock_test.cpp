@@ -5,6 +5,7 @@
 
 #include "platform/fault.h"
 #include "support/environment_variable.h"
+#include "support/kept_services.h"
 
 namespace rbt {
 namespace {
@@ -16,11 +17,13 @@ TEST(Clock, StandsWhereTheEnvironmentFixesIt) {
   EXPECT_EQ(Now(), (DateTime{2026, 11, 21, 9, 8, 7}));
 }
 
-TEST(Clock, StandsWhereACallerFixesItUntilReleased) {
+TEST(Clock, IsAService) {
   const EnvironmentVariable fixed("RBK_CLOCK", "2026-11-21T09:00:00");
-  SetClock(DateTime{2019, 5, 1, 0, 0, 0});
-  EXPECT_EQ(Now(), (DateTime{2019, 5, 1, 0, 0, 0}));
-  SetClock(std::nullopt);
+  {
+    const test::KeptServices services;
+    Services.Clock = test::StandingClock({2019, 5, 1, 0, 0, 0});
+    EXPECT_EQ(Now(), (DateTime{2019, 5, 1, 0, 0, 0}));
+  }
   EXPECT_EQ(Now().year, 2026);
 }
 

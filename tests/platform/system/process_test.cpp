@@ -25,8 +25,6 @@ class Sibling : public testing::Test {
   }
   std::string Written(const std::string& name) const { return ReadFileBytes(root / name); }
 
-  void TearDown() override { SetPendingEventsHook({}); }
-
   RootFolder root;
 };
 
@@ -58,7 +56,7 @@ TEST_F(Sibling, GetsRootAndSettingsInItsEnvironment) {
 TEST_F(Sibling, LetsPendingEventsRunOnceAfterABlockingWait) {
   Put("x.exe", "sleep 0.05");
   int events = 0;
-  SetPendingEventsHook([&] { ++events; });
+  Services.PendingEvents = [&] { ++events; };
   RunAndWait("\\rbk\\x.exe", WindowStyle::normal);
   EXPECT_EQ(events, 1);
 }
@@ -66,7 +64,7 @@ TEST_F(Sibling, LetsPendingEventsRunOnceAfterABlockingWait) {
 TEST_F(Sibling, LetsPendingEventsRunAgainAndAgainDuringAPollingWait) {
   Put("x.exe", "sleep 0.1; echo done > \"$RBK_ROOT/out\"");
   int events = 0;
-  SetPendingEventsHook([&] { ++events; });
+  Services.PendingEvents = [&] { ++events; };
   RunAndWaitPoll("\\rbk\\x.exe", WindowStyle::normal);
   EXPECT_GT(events, 5);
   EXPECT_EQ(Written("out"), "done\n");
@@ -106,13 +104,12 @@ TEST_F(Sibling, ThatIsNotExecutableOrAFolderIsNamed) {
 
 TEST_F(Sibling, GoesToATestsLauncherInstead) {
   std::string seen;
-  SetLauncher([&](std::string_view line, WindowStyle style, bool polling) {
+  Services.Launch = [&](std::string_view line, WindowStyle style, bool polling) {
     seen +=
         std::string(line) + "," + std::to_string(static_cast<int>(style)) + (polling ? ",poll;" : ",block;");
-  });
+  };
   RunAndWait("\\rbk\\a.exe 2", WindowStyle::maximised);
   RunAndWaitPoll("\\rbk\\b.exe", WindowStyle::hidden);
-  SetLauncher({});
   EXPECT_EQ(seen, "\\rbk\\a.exe 2,3,block;\\rbk\\b.exe,0,poll;");
 }
 

@@ -319,9 +319,8 @@ TEST_F(Load, ReadsTheSettings) {
 
 TEST_F(Load, LetsPendingEventsRunBetweenItsSteps) {
   int times = 0;
-  SetPendingEventsHook([&] { ++times; });
+  Services.PendingEvents = [&] { ++times; };
   Run();
-  SetPendingEventsHook({});
   EXPECT_GT(times, 10);
 }
 

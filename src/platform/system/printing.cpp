@@ -1,30 +1,24 @@
 // SPDX-License-Identifier: MIT
-#include "platform/print/pdf_writer.h"
-
-#include <utility>
+#include "platform/system/printing.h"
 
 #include "platform/fault.h"
+#include "platform/system/services.h"
 
 namespace rbt {
 
-namespace {
+PrinterList& Printers() { return Services.Printers; }
 
-PdfWriter& Writer() {
-  static PdfWriter writer;
-  return writer;
+void RefreshPrinters() {
+  if (Services.FindPrinters) Services.Printers.Update(Services.FindPrinters());
 }
 
-}  // namespace
-
-void SetPdfWriter(PdfWriter writer) { Writer() = std::move(writer); }
-
-bool CanWritePdf() { return static_cast<bool>(Writer()); }
+bool CanWritePdf() { return static_cast<bool>(Services.PaintPdf); }
 
 void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file) {
   if (!CanWritePdf()) {
     throw Fault(FaultKind::file, file.string() + ": PDF is not available, this program was built without it");
   }
-  Writer()(documents, file);
+  Services.PaintPdf(documents, file);
 }
 
 }  // namespace rbt
