@@ -44,6 +44,10 @@ DateTime FromDayNumber(double days) {
   if (!(days > kFirstDay - 1 && days < kBehindLastDay)) {
     throw Fault(FaultKind::overflow, "day number " + std::to_string(days));
   }
+  return DateOfDayNumber(days);
+}
+
+DateTime DateOfDayNumber(double days) {
   const double whole = std::trunc(days);
   auto date = EpochOfDayNumbers() + std::chrono::days{static_cast<int>(whole)};
   long seconds = std::lround(std::fabs(days - whole) * kSecondsPerDay);

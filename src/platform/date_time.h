@@ -20,7 +20,10 @@ bool IsValid(const DateTime& at);
 
 /// Days since 1899-12-30, as the store's DATETIME counts them; the time of day is the fraction.
 double DayNumber(const DateTime& at);
-/// Throws `overflow` outside the years 100 to 9999.
+/// Throws `overflow` outside the years 100 to 9999, which are all that a DATETIME holds.
 DateTime FromDayNumber(double days);
+/// The same without that limit, for numbers that a damaged file may hold: their absolute value below 3
+/// million.
+DateTime DateOfDayNumber(double days);
 
 }  // namespace rbt

@@ -34,6 +34,11 @@ TEST(DayNumber, CarriesARoundedUpSecondIntoTheNextDay) {
   EXPECT_EQ(FromDayNumber(1.9999999), (DateTime{1900, 1, 1, 0, 0, 0}));
 }
 
+TEST(DayNumber, OfADamagedFileIsADateAllTheSame) {
+  EXPECT_EQ(DateOfDayNumber(2958466.5), (DateTime{10000, 1, 1, 12, 0, 0}));
+  EXPECT_EQ(DateOfDayNumber(-657435.0), (DateTime{99, 12, 31, 0, 0, 0}));
+}
+
 TEST(DayNumber, OutsideTheYears100To9999Overflows) {
   EXPECT_THROW(FromDayNumber(2958466.0), Fault);
   EXPECT_THROW(FromDayNumber(-657435.5), Fault);
