@@ -8,7 +8,6 @@
 
 #include "platform/pass_over_faults.h"
 #include "store/database_impl.h"
-#include "store/dialect/quoting.h"
 #include "store/stored_value.h"
 #include "store/table_sql.h"
 
@@ -17,7 +16,10 @@ namespace rbt {
 class BulkInsert::Impl {
  public:
   Impl(Database::Impl& database, const TableDef& table)
-      : connection_(database.Connected()), table_(table), insert_(PrepareInsert()) {}
+      : connection_(database.Connected()),
+        table_(table),
+        insert_(connection_.Prepare(InsertSql(table.name, table.FieldNames()),
+                                    fmt::format("a row of {}", table.name))) {}
 
   std::optional<std::string> Append(std::span<const Value> values) {
     if (const auto refused = PassOverFaults([&] { BindRow(values); })) return refused->what();
@@ -48,18 +50,6 @@ class BulkInsert::Impl {
   }
 
  private:
-  Statement PrepareInsert() const {
-    std::string names;
-    std::string places;
-    for (const FieldDef& field : table_.fields) {
-      names += (names.empty() ? "" : ", ") + dialect::QuoteName(field.name);
-      places += places.empty() ? "?" : ", ?";
-    }
-    const std::string sql =
-        fmt::format("INSERT INTO {} ({}) VALUES ({})", dialect::QuoteName(table_.name), names, places);
-    return connection_.Prepare(sql, fmt::format("a row of {}", table_.name));
-  }
-
   void BindRow(std::span<const Value> values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       const FieldDef& field = table_.fields[i];
