@@ -3,8 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -171,13 +169,9 @@ TEST_F(FilesInWork, KilledAtAnyMomentLeaveTheFreeNameFreeOrTheWholeFile) {
 
 TEST_F(FilesInWork, OnAFullDiskTellTheTargetAndLeaveNothing) {
   Put("x", "old");
-  EXPECT_TRUE(test::InChild([&] {
-    // A limit on file sizes stands in for the full disk.
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{4096, 4096};
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-    const std::string fault = test::FaultTextOf([&] { FileInWork(target_).Write(std::string(10'000, 'n')); });
-    return fault == target_.string() + ": cannot be written: File too large";
+  EXPECT_TRUE(test::WithFilesOfAtMost(4096, [&] {
+    EXPECT_EQ(test::FaultTextOf([&] { FileInWork(target_).Write(std::string(10'000, 'n')); }),
+              target_.string() + ": cannot be written: File too large");
   }));
   EXPECT_EQ(ReadFileBytes(target_), "old");
   EXPECT_THAT(Names(), ElementsAre("x"));
