@@ -52,7 +52,7 @@ class JsonWriter {
 
  private:
   struct Level {
-    char closes;
+    char closes = 0;
     bool entry_a_line = false;
     bool empty = true;
   };

@@ -12,10 +12,8 @@ void RefreshPrinters() {
   if (Services.FindPrinters) Services.Printers.Update(Services.FindPrinters());
 }
 
-bool CanWritePdf() { return static_cast<bool>(Services.PaintPdf); }
-
 void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file) {
-  if (!CanWritePdf()) {
+  if (!Services.PaintPdf) {
     throw Fault(FaultKind::file, file.string() + ": PDF is not available, this program was built without it");
   }
   Services.PaintPdf(documents, file);

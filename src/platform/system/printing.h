@@ -14,8 +14,6 @@ PrinterList& Printers();
 /// Brings that list up to date with what the system has now.
 void RefreshPrinters();
 
-/// Whether this program can paint PDF files at all.
-bool CanWritePdf();
 /// Paints documents into one PDF file, see `PdfWriter`. Throws `file`, also where nothing can paint.
 void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file);
 

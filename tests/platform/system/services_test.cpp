@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/fault.h"
 #include "platform/system/accumulation.h"
 #include "platform/system/printing.h"
 #include "support/kept_services.h"
@@ -14,7 +15,7 @@ TEST(Services, AreAtFirstThoseOfTheCommandLine) {
   const test::KeptServices services;
   Services = ServicesData();
   EXPECT_EQ(Printers().Current().DeviceName(), kPdfDeviceName);
-  EXPECT_FALSE(CanWritePdf());
+  EXPECT_THROW(WritePdf({}, "a.pdf"), Fault);
   EXPECT_EQ(ChooseColour("色選択", 255), std::nullopt);
   EXPECT_NO_THROW(RunPendingEvents());
   EXPECT_NO_THROW(LoadAccumulation());
