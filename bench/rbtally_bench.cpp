@@ -14,7 +14,7 @@
 #include <benchmark/benchmark.h>
 
 #include "platform/numbers/number_words.h"
-#include "platform/system/paths.h"
+#include "platform/system/services.h"
 #include "session/startup/startup.h"
 #include "shell/context/site_context.h"
 #include "tally/engine/stock_engine.h"
@@ -62,7 +62,7 @@ void CloseSite() { SiteContext = SiteContextData(); }
 void Bind(const fs::path& root) {
   CloseSite();
   setenv("RBK_SETTINGS", (root / "settings.ini").c_str(), 1);
-  SetRoot(root);
+  Services.Root = root;
   Selection = SelectionData();
 }
 

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 cmake_minimum_required(VERSION 3.25)
-# Fails at a file that includes from a room which its own room does not use, or Qt below the desktop; and at tests that
-# do not mirror the house. HOUSE has a line per room: its folder, its floor, qt or -, the rooms that it uses.
+# Fails at a file that includes from a room which its own room does not use, or Qt below the desktop, or that could set
+# the services, which is main's and the tests', or that knows a library which one place knows; and at tests that do not
+# mirror the house. HOUSE has a line per room: its folder, its floor, qt or -, the rooms that it uses.
 file(STRINGS ${HOUSE} house)
 set(rooms "")
 foreach(line IN LISTS house)
@@ -13,6 +14,10 @@ foreach(line IN LISTS house)
 endforeach()
 
 set(faults "")
+# What is set by main and by tests alone; the doors of its own room read it.
+set(services_header platform/system/services.h)
+# Libraries that one place knows, by the beginning of their headers' names and of its files'.
+set(known_once "sqlite3 src/store/" "nlohmann/ src/platform/json/" "CLI/ src/cli/command_line.cpp")
 
 function(check_file file room)
   file(STRINGS ${file} lines REGEX "^ *# *include")
@@ -20,11 +25,25 @@ function(check_file file room)
     if(line MATCHES "include *\"([^\"]+)\"")
       set(header ${CMAKE_MATCH_1})
       get_filename_component(used ${header} DIRECTORY)
+      if(header STREQUAL services_header AND NOT used STREQUAL room)
+        list(APPEND faults "${file}: only a main sets the services, others use their doors")
+      endif()
       if(header MATCHES "^ui_" OR used STREQUAL room OR used IN_LIST uses_${room})
         continue()
       endif()
       list(APPEND faults "${file}: ${room} does not use the room of ${header}")
-    elseif(line MATCHES "include *<Q" AND NOT qt_${room} STREQUAL "qt")
+      continue()
+    endif()
+    foreach(entry IN LISTS known_once)
+      string(REPLACE " " ";" entry "${entry}")
+      list(GET entry 0 library)
+      list(GET entry 1 place)
+      string(FIND "${file}" "${ROOT}/${place}" at)
+      if(line MATCHES "include *<${library}" AND NOT at EQUAL 0)
+        list(APPEND faults "${file}: only ${place} knows ${library}")
+      endif()
+    endforeach()
+    if(line MATCHES "include *<Q" AND NOT qt_${room} STREQUAL "qt")
       list(APPEND faults "${file}: only rooms above the rules may include Qt")
     endif()
   endforeach()

@@ -12,7 +12,7 @@
 #include "demo/schedule_generator.h"
 #include "demo/shapes.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
 #include "store/database.h"

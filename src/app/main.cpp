@@ -10,11 +10,15 @@
 #include "app/arguments.h"
 #include "data/start_mode.h"
 #include "desktop/action.h"
+#include "desktop/colour.h"
 #include "desktop/look.h"
+#include "desktop/message_box.h"
+#include "desktop/pending_events.h"
 #include "desktop/preview_form.h"
 #include "desktop/system_printers.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "platform/system/services.h"
 #include "screens/menu/jsmenu.h"
 #include "session/menu/captions.h"
 
@@ -51,7 +55,7 @@ std::optional<int> AnswerWithoutWindow(const Arguments& arguments) {
 
 /// False, after a message, when there is no root folder to work on.
 bool UseRoot(const Arguments& arguments) {
-  if (arguments.root) SetRoot(*arguments.root);
+  if (arguments.root) Services.Root = *arguments.root;
   if (Root().empty()) {
     MsgBox("フォルダ「\\RBK」の場所が分かりません。\r\n--root か環境変数 RBK_ROOT で指定して下さい。",
            kMenuTitle);
@@ -64,6 +68,16 @@ bool UseRoot(const Arguments& arguments) {
   return true;
 }
 
+/// What this program has in place of what the command line has.
+void SetUpServices() {
+  const auto preview = [](const PrintedDocument& document) { ShowPreview({document}); };
+  Services.Messages = ShowMessage;
+  Services.Colours = AskColour;
+  Services.PendingEvents = ProcessEventsWithoutInput;
+  Services.Printers = PdfDeviceAlone(preview);
+  Services.FindPrinters = [preview] { return SystemPrinters(preview); };
+}
+
 int RunMenu(const Arguments& arguments) {
   bool root_known = false;
   StartOptions options;
@@ -72,7 +86,6 @@ int RunMenu(const Arguments& arguments) {
     options.start_mode = TraitsOfStartMode(ParseStartMode(arguments.command_line));
   });
   if (!ready || !root_known) return EXIT_FAILURE;
-  UseSystemPrinters([](const PrintedDocument& document) { ShowPreview({document}); });
   JSMENU menu(MenuPartsFor(options));
   QTimer::singleShot(0, [&menu] { menu.Open(); });
   return QApplication::exec();
@@ -89,5 +102,6 @@ int main(int argc, char** argv) {
   int own_name_only = 1;
   const QApplication application(own_name_only, argv);
   rbt::PrepareDesktop();
+  rbt::SetUpServices();
   return rbt::RunMenu(arguments);
 }

@@ -7,7 +7,9 @@
 
 #include <fmt/format.h>
 
+#include "data/table_layouts.h"
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
@@ -19,20 +21,6 @@ namespace {
 constexpr std::string_view kTemplate = "\\RBK\\DATA\\JSyukeiORG.mdb";
 constexpr std::string_view kNoTemplateTitle = "ファイル無し";
 constexpr std::string_view kNoTemplateText = "ひな形ファイル[JSyukeiORG.mdb]が無いため、集計保存が出来ません";
-
-struct PrimaryKey {
-  std::string_view table;
-  std::string_view fields;  ///< in key order
-};
-
-constexpr std::array<PrimaryKey, 6> kPrimaryKeys{{
-    {"重量集計名称", "作成日,作成時間"},
-    {"重量集計", "太さ,ＳＤ,メーカー,階,部位,材質,作成日,作成時間"},
-    {"階部位重量集計", "階,部位,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
-    {"階別重量集計", "階,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
-    {"部位別重量集計", "太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
-    {"部位別本重集計", "部位,太さ,ＳＤ,メーカー,材質,作成日,作成時間"},
-}};
 
 /// A table that is dropped when it has no rows, with the statements that find out and do it.
 struct Leftover {
@@ -55,6 +43,14 @@ TableDef SiteTable(std::string_view name) {
   const auto table = OpenSite().FindTable(name);
   if (!table) throw Fault(FaultKind::database, fmt::format("{}: the site has no such table", name));
   return *table;
+}
+
+/// The primary key of one of the archive's tables.
+IndexDef ArchiveKey(std::string_view table_name) {
+  for (const TableDef& table : ArchiveTables()) {
+    if (table.name == table_name) return table.indexes.front();
+  }
+  throw Fault(FaultKind::database, fmt::format("{}: no table of saved tallies", table_name));
 }
 
 /// What a field of a site's table takes from the template: name, type and size, and the default without which
@@ -98,16 +94,6 @@ void CheckAgainstTemplate() {
   for (const TableDef& table : wanted.TableDefs()) BringUpToDate(table);
 }
 
-/// The check's error trap: tallies can be run on a site whose archive is not up to date, only saving fails.
-template <typename Check>
-void EndWithoutMessageOnFault(Check check) {
-  try {
-    check();
-  } catch (const Fault&) {
-    return;
-  }
-}
-
 }  // namespace
 
 bool Table_Exists(std::string_view TableName, Database& database) {
@@ -124,13 +110,9 @@ void Drop_Indexes(std::string_view TableName) {
 }
 
 void Add_PrimaryKey(std::string_view TableName) {
-  const auto* key = std::find_if(kPrimaryKeys.begin(), kPrimaryKeys.end(),
-                                 [&](const PrimaryKey& candidate) { return candidate.table == TableName; });
-  if (key == kPrimaryKeys.end()) {
-    throw Fault(FaultKind::database, fmt::format("{}: no table of saved tallies", TableName));
-  }
-  OpenSite().Execute(
-      fmt::format("ALTER TABLE {0} ADD CONSTRAINT {0}_pkey PRIMARY KEY({1})", TableName, key->fields));
+  const IndexDef key = ArchiveKey(TableName);
+  OpenSite().Execute(fmt::format("ALTER TABLE {} ADD CONSTRAINT {} PRIMARY KEY({})", TableName, key.name,
+                                 fmt::join(key.fields, ",")));
 }
 
 void DropEmptyArchiveTables() {
@@ -146,7 +128,8 @@ void Check_JSyukei() {
     MsgBox(kNoTemplateText, kNoTemplateTitle);
     return;
   }
-  EndWithoutMessageOnFault(CheckAgainstTemplate);
+  // Tallies can be run on a site whose archive is not up to date, only saving fails.
+  PassOverFaults(CheckAgainstTemplate);
 }
 
 }  // namespace rbt

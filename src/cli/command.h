@@ -6,11 +6,9 @@
 #include <stdexcept>
 #include <string_view>
 
-namespace CLI {
-class App;
-}
-
 namespace rbt {
+
+class CommandLine;
 
 /// Wrong usage that only shows once all options are known; ends the program with status 2.
 class UsageError : public std::runtime_error {
@@ -26,19 +24,19 @@ using Action = std::function<void()>;
 struct Command {
   std::string_view name;
   std::string_view description;
-  Action (*define)(CLI::App& line);
+  Action (*define)(CommandLine& line);
 };
 
 /// The commands, as `--help` lists them.
 std::span<const Command> Commands();
 
-Action DefineDemo(CLI::App& line);
-Action DefinePrepare(CLI::App& line);
-Action DefineTally(CLI::App& line);
-Action DefineStock(CLI::App& line);
-Action DefineReport(CLI::App& line);
-Action DefineImport(CLI::App& line);
-Action DefineCheck(CLI::App& line);
-Action DefineDump(CLI::App& line);
+Action DefineDemo(CommandLine& line);
+Action DefinePrepare(CommandLine& line);
+Action DefineTally(CommandLine& line);
+Action DefineStock(CommandLine& line);
+Action DefineReport(CommandLine& line);
+Action DefineImport(CommandLine& line);
+Action DefineCheck(CommandLine& line);
+Action DefineDump(CommandLine& line);
 
 }  // namespace rbt

@@ -6,10 +6,9 @@
 #include <system_error>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include "cli/command.h"
+#include "cli/command_line.h"
 #include "cli/output.h"
 #include "jet/check.h"
 #include "jet/csv_dump.h"
@@ -86,12 +85,8 @@ class ResultWriter {
 
  private:
   std::string InCp932(std::string_view text) const {
-    try {
-      return ToCp932(text);
-    } catch (const Fault& fault) {
-      // Behind the header line the number of the record is that of the row.
-      throw Fault(fault.Kind(), fmt::format("{}: row {}: {}", name_, records_, fault.Where()));
-    }
+    // Behind the header line the number of the record is that of the row.
+    return At([&] { return fmt::format("{}: row {}", name_, records_); }, [&] { return ToCp932(text); });
   }
 
   bool cp932_;
@@ -116,37 +111,35 @@ void Dump(const std::string& name, const std::string& table, bool cp932) {
 
 }  // namespace
 
-Action DefineImport(CLI::App& line) {
+Action DefineImport(CommandLine& line) {
   struct Options {
     std::string source;
     std::string target;
   };
   auto options = std::make_shared<Options>();
-  line.add_option("SOURCE", options->source, "a real Jet file, or a DATA folder of such files")->required();
-  line.add_option(
-          "TARGET", options->target,
-          "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
-          "replaced and kept as SOURCE.jet")
-      ->required();
+  line.Argument("SOURCE", options->source, "a real Jet file, or a DATA folder of such files");
+  line.Argument("TARGET", options->target,
+                "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
+                "replaced and kept as SOURCE.jet");
   return [options] { Import(options->source, options->target); };
 }
 
-Action DefineCheck(CLI::App& line) {
+Action DefineCheck(CommandLine& line) {
   auto file = std::make_shared<std::string>();
-  line.add_option("FILE", *file, "a real Jet file")->required();
+  line.Argument("FILE", *file, "a real Jet file");
   return [file] { Check(*file); };
 }
 
-Action DefineDump(CLI::App& line) {
+Action DefineDump(CommandLine& line) {
   struct Options {
     std::string file;
     std::string table;
     bool cp932 = false;
   };
   auto options = std::make_shared<Options>();
-  line.add_option("FILE", options->file, "a real Jet file")->required();
-  line.add_option("TABLE", options->table, "the table whose rows to print; without it, the tables");
-  line.add_flag("--cp932", options->cp932, "in code page 932 in place of UTF-8");
+  line.Argument("FILE", options->file, "a real Jet file");
+  line.OptionalArgument("TABLE", options->table, "the table whose rows to print; without it, the tables");
+  line.Flag("--cp932", options->cp932, "in code page 932 in place of UTF-8");
   return [options] { Dump(options->file, options->table, options->cp932); };
 }
 

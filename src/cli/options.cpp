@@ -4,7 +4,7 @@
 #include <charconv>
 #include <string_view>
 
-#include <CLI/CLI.hpp>
+#include "cli/command_line.h"
 
 namespace rbt {
 
@@ -28,47 +28,37 @@ std::optional<std::pair<std::int32_t, std::int32_t>> ParsePair(std::string_view 
 
 /// An option whose text is a pair; any other text is wrong usage.
 template <typename Target>
-void AddPair(CLI::App& line, const std::string& name, std::optional<Target>& target, char sign,
+void AddPair(CommandLine& line, const std::string& name, std::optional<Target>& target, char sign,
              const std::string& form, const std::string& description) {
-  line.add_option_function<std::string>(
-          name,
-          [&target, name, sign, form](const std::string& text) {
-            const auto pair = ParsePair(text, sign);
-            if (!pair) throw CLI::ValidationError(name, text + " is not of the form " + form);
-            target = Target{pair->first, pair->second};
-          },
-          description)
-      ->type_name(form);
-}
-
-template <typename Number>
-void AddNumber(CLI::App& line, const std::string& name, Number& number, int highest,
-               const std::string& description) {
-  AddNumberOption(line, name, number, 0, highest, description);
+  const auto take = [&target, sign](const std::string& text) {
+    const auto pair = ParsePair(text, sign);
+    if (pair) target = Target{pair->first, pair->second};
+    return pair.has_value();
+  };
+  line.FormOption(name, form, take, description);
 }
 
 }  // namespace
 
-void AddCommonOptions(CLI::App& line, CommonOptions& options) {
-  line.add_option("--root", options.root, "the root folder; default $RBK_ROOT")->type_name("DIR");
-  line.add_option("--site", options.site, "schedule file name in place of the site STEEL.INI names")
-      ->type_name("FILE");
-  line.add_option("--start-mode", options.start_mode, "start mode of the calling program")
-      ->type_name("N")
-      ->capture_default_str();
-  line.add_flag("--no-prepare", options.no_prepare, "leave the schedule as it is: no classification");
+void AddCommonOptions(CommandLine& line, CommonOptions& options) {
+  line.RootOption();
+  line.TextOption("--site", "FILE", options.site, "schedule file name in place of the site STEEL.INI names");
+  line.NumberOption("--start-mode", "N", options.start_mode, "start mode of the calling program");
+  line.Flag("--no-prepare", options.no_prepare, "leave the schedule as it is: no classification");
 }
 
-void AddSelectionOptions(CLI::App& line, SelectionOptions& options) {
-  AddNumber(line, "--kinds", options.kinds, 15,
-            "material kinds, a sum of 1 deformed, 2 threaded, 4 high strength, 8 slit");
-  AddNumber(line, "--forms", options.forms, 15,
-            "material forms, a sum of 1 raw, 2 raw and bent, 4 cut, 8 cut and bent");
-  AddNumber(line, "--ulbon", options.ulbon, 1, "1 with thin high-strength bars, 0 without");
-  AddNumber(line, "--calc", options.calc, 2,
-            "rows without a stock length that count: 0 not of high strength, 1 of it alone, 2 both");
-  AddNumber(line, "--hoops", options.hoops, 2, "welded closed hoops: 0 with others, 1 left out, 2 alone");
-  AddNumber(line, "--plates", options.plates, 2, "anchor-plate shapes: 0 with others, 1 left out, 2 alone");
+void AddSelectionOptions(CommandLine& line, SelectionOptions& options) {
+  line.NumberOption("--kinds", options.kinds, 0, 15,
+                    "material kinds, a sum of 1 deformed, 2 threaded, 4 high strength, 8 slit");
+  line.NumberOption("--forms", options.forms, 0, 15,
+                    "material forms, a sum of 1 raw, 2 raw and bent, 4 cut, 8 cut and bent");
+  line.NumberOption("--ulbon", options.ulbon, 0, 1, "1 with thin high-strength bars, 0 without");
+  line.NumberOption("--calc", options.calc, 0, 2,
+                    "rows without a stock length that count: 0 not of high strength, 1 of it alone, 2 both");
+  line.NumberOption("--hoops", options.hoops, 0, 2,
+                    "welded closed hoops: 0 with others, 1 left out, 2 alone");
+  line.NumberOption("--plates", options.plates, 0, 2,
+                    "anchor-plate shapes: 0 with others, 1 left out, 2 alone");
   AddPair(line, "--shapes", options.shapes, '-', "A-B",
           "first and last shape number of the shape tally; default all");
   AddPair(line, "--from", options.from, '/', "P/L",
@@ -76,11 +66,8 @@ void AddSelectionOptions(CLI::App& line, SelectionOptions& options) {
   AddPair(line, "--to", options.to, '/', "P/L", "last page and line; default the last of the schedule");
 }
 
-void AddFormatOption(CLI::App& line, std::string& format) {
-  line.add_option("--format", format, "how the result is written")
-      ->type_name("table|json|csv")
-      ->check(CLI::IsMember({"table", "json", "csv"}).description(""))
-      ->capture_default_str();
+void AddFormatOption(CommandLine& line, std::string& format) {
+  line.WordOption("--format", "", format, {"table", "json", "csv"}, "how the result is written");
 }
 
 void ApplySelection(const SelectionOptions& options, SelectionData& selection) {

@@ -5,8 +5,6 @@
 #include <optional>
 #include <string>
 
-#include <CLI/CLI.hpp>
-
 #include "data/shapes.h"
 #include "data/start_mode.h"
 #include "tally/schedule_positions.h"
@@ -14,9 +12,10 @@
 
 namespace rbt {
 
-/// The options that every command on a site takes.
+class CommandLine;
+
+/// The options that every command on a site takes beside `--root`.
 struct CommonOptions {
-  std::string root;  ///< root folder; empty: $RBK_ROOT
   std::string site;  ///< schedule file in place of 選択ＤＢ名; empty: as STEEL.INI says
   std::int32_t start_mode = kNoStartMode;
   bool no_prepare = false;  ///< leave the schedule as it stands
@@ -35,20 +34,10 @@ struct SelectionOptions {
   std::optional<SchedulePosition> to;    ///< nothing: the last
 };
 
-/// A whole number from `lowest` to `highest`, with its present value as the default.
-template <typename Number>
-void AddNumberOption(CLI::App& line, const std::string& name, Number& number, std::int64_t lowest,
-                     std::int64_t highest, const std::string& description) {
-  line.add_option(name, number, description)
-      ->type_name(std::to_string(lowest) + ".." + std::to_string(highest))
-      ->check(CLI::Range(lowest, highest).description(""))
-      ->capture_default_str();
-}
-
-void AddCommonOptions(CLI::App& line, CommonOptions& options);
-void AddSelectionOptions(CLI::App& line, SelectionOptions& options);
+void AddCommonOptions(CommandLine& line, CommonOptions& options);
+void AddSelectionOptions(CommandLine& line, SelectionOptions& options);
 /// `--format`: "table", "json" or "csv".
-void AddFormatOption(CLI::App& line, std::string& format);
+void AddFormatOption(CommandLine& line, std::string& format);
 
 /// Takes the filters over as given; what a screen would reset stays.
 void ApplySelection(const SelectionOptions& options, SelectionData& selection);

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,16 +10,14 @@
 #include <utility>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
-#include "cli/command.h"
+#include "cli/command_line.h"
 #include "cli/options.h"
 #include "cli/tally_kinds.h"
-#include "platform/print/pdf_writer.h"
+#include "platform/files/files.h"
+#include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
-#include "platform/print/printer_list.h"
 #include "platform/system/clock.h"
-#include "platform/system/paths.h"
+#include "platform/system/printing.h"
 #include "reports/comparison/taihi.h"
 #include "reports/frame/print_frame.h"
 #include "reports/frame/report_site.h"
@@ -87,15 +84,12 @@ std::optional<DateTexts> TypedDate(const std::string& date) {
 
 using Documents = std::vector<PrintedDocument>;
 
-/// A report goes to the PDF device, whatever printers there are; returns where the documents that it ends
-/// come to stand.
-std::shared_ptr<const Documents> UsePdfDevice() {
-  auto ended = std::make_shared<Documents>();
-  std::list<PrinterSurface> printers;
-  printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
-                        [ended](const PrintedDocument& document) { ended->push_back(document); });
-  SetPrinters(PrinterList(std::move(printers)));
-  return ended;
+/// The documents that a report ends. This program knows no printers but the PDF device.
+Documents DocumentsOf(const ReportForm& form, const ReportArguments& arguments) {
+  DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
+  PrintReport(form.orientation, form.paper_kind,
+              [&](PrinterSurface& Printer) { form.draw(Printer, arguments); });
+  return diverted.Take();
 }
 
 /// All documents of a report stand in one file, one after the other.
@@ -124,39 +118,31 @@ void RunReport(const ReportOptions& options) {
   RequireFiles(options);
   FillTallyGrid(options.tally, options.common, options.selection);
   RunState.ReportBody = options.body;
-  const std::shared_ptr<const Documents> documents = UsePdfDevice();
-
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
   const ReportArguments arguments =
       Trimmed({options.sub_project, date.year, date.month, date.day, RunState.ReportBody, options.percent});
   const ReportForm& form = *std::find_if(kReportForms.begin(), kReportForms.end(),
                                          [&](const ReportForm& row) { return row.name == options.name; });
-  PrintReport(form.orientation, form.paper_kind,
-              [&](PrinterSurface& Printer) { form.draw(Printer, arguments); });
-  WriteDocuments(*documents, options);
+  WriteDocuments(DocumentsOf(form, arguments), options);
 }
 
 }  // namespace
 
-Action DefineReport(CLI::App& line) {
+Action DefineReport(CommandLine& line) {
   constexpr std::int64_t kHighestPercent = 999999;
   auto options = std::make_shared<ReportOptions>();
-  line.add_option("NAME", options->name, "the report form")->required()->check(CLI::IsMember(ReportNames()));
+  line.WordArgument("NAME", options->name, ReportNames(), "the report form");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
-  line.add_option("--tally", options->tally, "the kind of tally that fills the report")
-      ->type_name("KIND")
-      ->check(CLI::IsMember(GridTallyNames()))
-      ->capture_default_str();
-  AddNumberOption(line, "--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
-  AddNumberOption(line, "--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
-  line.add_option("--subproject", options->sub_project, "a line under the project's name")->type_name("TEXT");
-  line.add_option("--date", options->date,
-                  "the date as typed, the year of the era with era dates; default today")
-      ->type_name("YEAR/MONTH/DAY");
-  line.add_option("-o", options->pdf, "the PDF file to write")->type_name("FILE.pdf");
-  line.add_option("--trace", options->trace, "writes what the report drew, one operation a line")
-      ->type_name("FILE");
+  line.WordOption("--tally", "KIND", options->tally, GridTallyNames(),
+                  "the kind of tally that fills the report");
+  line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
+  line.NumberOption("--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
+  line.TextOption("--subproject", "TEXT", options->sub_project, "a line under the project's name");
+  line.TextOption("--date", "YEAR/MONTH/DAY", options->date,
+                  "the date as typed, the year of the era with era dates; default today");
+  line.TextOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
+  line.TextOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
   return [options] { RunReport(*options); };
 }
 

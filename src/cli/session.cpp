@@ -10,8 +10,7 @@
 
 namespace rbt {
 
-void UseRoot(const std::string& root) {
-  if (!root.empty()) SetRoot(root);
+void RequireRoot() {
   if (Root().empty()) throw UsageError("no root folder: give --root DIR or set RBK_ROOT");
   if (!std::filesystem::is_directory(Root())) {
     throw Fault(FaultKind::file, "the root " + Root().string() + " is no folder");
@@ -19,7 +18,7 @@ void UseRoot(const std::string& root) {
 }
 
 void OpenSite(const CommonOptions& options) {
-  UseRoot(options.root);
+  RequireRoot();
   StartOptions start;
   start.start_mode = TraitsOfStartMode(options.start_mode);
   start.prepare = !options.no_prepare;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "cli/options.h"
 
 namespace rbt {
@@ -12,8 +10,7 @@ namespace rbt {
 /// Throws `UsageError` when no root folder is named, `file` when it does not exist.
 void OpenSite(const CommonOptions& options);
 
-/// The root folder alone, for commands that need no site: `root`, or $RBK_ROOT when it is empty. Throws like
-/// `OpenSite`.
-void UseRoot(const std::string& root);
+/// The root folder alone, for commands that need no site. Throws like `OpenSite`.
+void RequireRoot();
 
 }  // namespace rbt

@@ -3,9 +3,7 @@
 #include <memory>
 #include <string>
 
-#include <CLI/CLI.hpp>
-
-#include "cli/command.h"
+#include "cli/command_line.h"
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/session.h"
@@ -35,7 +33,7 @@ std::string StockText(const StockResult& stock, const std::string& format) {
 }
 
 void RunStock(const StockOptions& options) {
-  UseRoot(options.common.root);
+  RequireRoot();
   Settings.UseFixedTable = ReadSetting(kUseFixedTableKey);
   if (Settings.UseFixedTable == 1) OpenFixedStockForReading();
   Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(options.count), options.diameter);
@@ -44,13 +42,11 @@ void RunStock(const StockOptions& options) {
 
 }  // namespace
 
-Action DefineStock(CLI::App& line) {
+Action DefineStock(CommandLine& line) {
   auto options = std::make_shared<StockOptions>();
-  line.add_option("CUT", options->cut_mm, "cut length in mm")->type_name("MM")->required();
-  line.add_option("COUNT", options->count, "number of pieces")->type_name("N")->required();
-  line.add_option("DIAMETER", options->diameter, "diameter code: 10 to 51, 6 to 16")
-      ->type_name("D")
-      ->required();
+  line.NumberArgument("CUT", "MM", options->cut_mm, "cut length in mm");
+  line.NumberArgument("COUNT", "N", options->count, "number of pieces");
+  line.NumberArgument("DIAMETER", "D", options->diameter, "diameter code: 10 to 51, 6 to 16");
   AddCommonOptions(line, options->common);
   AddFormatOption(line, options->format);
   return [options] { RunStock(*options); };

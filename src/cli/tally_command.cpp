@@ -2,9 +2,7 @@
 #include <memory>
 #include <string>
 
-#include <CLI/CLI.hpp>
-
-#include "cli/command.h"
+#include "cli/command_line.h"
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/tally_kinds.h"
@@ -45,11 +43,9 @@ void RunTally(const TallyOptions& options) {
 
 }  // namespace
 
-Action DefineTally(CLI::App& line) {
+Action DefineTally(CommandLine& line) {
   auto options = std::make_shared<TallyOptions>();
-  line.add_option("KIND", options->kind, "the kind of tally")
-      ->required()
-      ->check(CLI::IsMember(GridTallyNames()));
+  line.WordArgument("KIND", options->kind, GridTallyNames(), "the kind of tally");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
   AddFormatOption(line, options->format);

@@ -7,22 +7,18 @@
 #include <QWidget>
 
 #include "platform/system/message.h"
+#include "shell/context/run_state.h"
 
 namespace rbt {
 
 namespace {
 
-int& RunningActions() {
-  static int running = 0;
-  return running;
-}
-
 class Running {
  public:
-  Running() { ++RunningActions(); }
+  Running() { ++RunState.RunningActions; }
   Running(const Running&) = delete;
   Running& operator=(const Running&) = delete;
-  ~Running() { --RunningActions(); }
+  ~Running() { --RunState.RunningActions; }
 };
 
 }  // namespace
@@ -45,6 +41,6 @@ bool RunAction(const QWidget& form, const std::function<void()>& action) {
   return RunAction(title, action);
 }
 
-bool ActionRunning() { return RunningActions() > 0; }
+bool ActionRunning() { return RunState.RunningActions > 0; }
 
 }  // namespace rbt

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/colour.h"
 
-#include <utility>
-
+#include <QApplication>
 #include <QColorDialog>
 
 namespace rbt {
@@ -12,11 +11,6 @@ namespace {
 constexpr std::int32_t kByte = 0xFF;
 constexpr int kGreenShift = 8;
 constexpr int kBlueShift = 16;
-
-ColourHandler& Handler() {
-  static ColourHandler handler;
-  return handler;
-}
 
 }  // namespace
 
@@ -28,9 +22,8 @@ std::int32_t RgbOfColour(const QColor& colour) {
   return colour.red() | (colour.green() << kGreenShift) | (colour.blue() << kBlueShift);
 }
 
-std::optional<std::int32_t> AskColour(QWidget& form, std::string_view title, std::int32_t rgb) {
-  if (Handler()) return Handler()(title, rgb);
-  QColorDialog dialog(ColourOfRgb(rgb), &form);
+std::optional<std::int32_t> AskColour(std::string_view title, std::int32_t rgb) {
+  QColorDialog dialog(ColourOfRgb(rgb), QApplication::activeWindow());
   dialog.setObjectName("cdgcolor");
   dialog.setWindowTitle(QString::fromUtf8(title));
   // One dialog everywhere: the desktop's own may know neither the title nor Esc.
@@ -38,7 +31,5 @@ std::optional<std::int32_t> AskColour(QWidget& form, std::string_view title, std
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return RgbOfColour(dialog.currentColor());
 }
-
-ColourHandler SetColourHandler(ColourHandler handler) { return std::exchange(Handler(), std::move(handler)); }
 
 }  // namespace rbt

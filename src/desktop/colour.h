@@ -2,13 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string_view>
 
 #include <QColor>
-
-class QWidget;
 
 namespace rbt {
 
@@ -16,12 +13,7 @@ namespace rbt {
 QColor ColourOfRgb(std::int32_t rgb);
 std::int32_t RgbOfColour(const QColor& colour);
 
-/// Lets the user choose a colour in a dialog over the form, `rgb` at first; nothing when they turn back.
-std::optional<std::int32_t> AskColour(QWidget& form, std::string_view title, std::int32_t rgb);
-
-using ColourHandler = std::function<std::optional<std::int32_t>(std::string_view title, std::int32_t rgb)>;
-/// A test's script in place of the dialog; an empty one is the dialog again. Returns the one that was in
-/// place.
-ColourHandler SetColourHandler(ColourHandler handler);
+/// Asks for a colour in a dialog over the active window: for `ChooseColour`.
+std::optional<std::int32_t> AskColour(std::string_view title, std::int32_t rgb);
 
 }  // namespace rbt

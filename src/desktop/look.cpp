@@ -8,9 +8,6 @@
 #include <QStyleFactory>
 #include <QTranslator>
 
-#include "desktop/message_box.h"
-#include "desktop/pending_events.h"
-
 namespace rbt {
 
 namespace {
@@ -55,9 +52,9 @@ QPalette Colours() {
 
 /// The toolkit's own dialogs speak Japanese where its translation is installed, else English.
 void InstallTranslation() {
-  static QTranslator translator;
-  if (translator.load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&translator);
+  auto* translator = new QTranslator(qApp);
+  if (translator->load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(translator);
   }
 }
 
@@ -76,8 +73,6 @@ void PrepareDesktop() {
   QApplication::setPalette(Colours());
   qApp->setStyleSheet(kStyleSheet);
   InstallTranslation();
-  InstallMessageBox();
-  InstallPendingEvents();
 }
 
 }  // namespace rbt

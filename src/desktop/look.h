@@ -4,8 +4,8 @@
 namespace rbt {
 
 /// Readies the application object for the forms: display name, fixed-pitch Japanese font ("ＭＳ ゴシック"
-/// where it is installed, else IPAGothic), colours, the visible focus, message boxes and pending events. The
-/// program does not end with its last window: a hidden menu comes back.
+/// where it is installed, else IPAGothic), colours, the visible focus. The program does not end with its last
+/// window: a hidden menu comes back.
 void PrepareDesktop();
 
 }  // namespace rbt

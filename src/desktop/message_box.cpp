@@ -13,8 +13,6 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include "platform/system/message.h"
-
 namespace rbt {
 
 namespace {
@@ -66,6 +64,8 @@ void KeepLines(QMessageBox& box) {
   label->setMinimumWidth(std::min(text, widest));
 }
 
+}  // namespace
+
 MessageAnswer ShowMessage(std::string_view text, std::string_view title, MessageButtons buttons) {
   const QPointer<QWidget> below = QApplication::activeWindow();
   QMessageBox box(below);
@@ -90,10 +90,6 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   }
   return answers.back().answer;
 }
-
-}  // namespace
-
-void InstallMessageBox() { SetMessageHandler(ShowMessage); }
 
 bool MessageBoxOpen() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; }
 

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
+#include "platform/system/message.h"
+
 namespace rbt {
 
-/// Lets `MsgBox` show a box over the active window. Enter takes the focused answer (the first), Esc the
-/// cautious one: cancel, else no, else ok. Runs of blanks and line breaks stand as they are told.
-void InstallMessageBox();
+/// Shows a message in a box over the active window: for `MsgBox`. Enter takes the focused answer (the first),
+/// Esc the cautious one: cancel, else no, else ok. Runs of blanks and line breaks stand as they are told.
+MessageAnswer ShowMessage(std::string_view text, std::string_view title, MessageButtons buttons);
 
 /// True while such a box is shown.
 bool MessageBoxOpen();

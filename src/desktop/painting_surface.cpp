@@ -20,9 +20,9 @@
 #include <QPen>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/print/paper.h"
 #include "platform/print/printer_surface.h"
-#include "platform/system/paths.h"
 #include "platform/text/characters.h"
 
 namespace rbt {

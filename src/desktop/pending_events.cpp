@@ -8,8 +8,6 @@
 #include <QEvent>
 #include <QObject>
 
-#include "platform/system/process.h"
-
 namespace rbt {
 
 namespace {
@@ -35,13 +33,11 @@ class InputDropper : public QObject {
   }
 };
 
-void ProcessWithoutInput() {
+}  // namespace
+
+void ProcessEventsWithoutInput() {
   const InputDropper dropper;
   QCoreApplication::processEvents();
 }
-
-}  // namespace
-
-void InstallPendingEvents() { SetPendingEventsHook(ProcessWithoutInput); }
 
 }  // namespace rbt

@@ -3,8 +3,8 @@
 
 namespace rbt {
 
-/// Lets `RunPendingEvents` keep the windows painted. What the user types, clicks or closes meanwhile is
+/// Keeps the windows painted: for `RunPendingEvents`. What the user types, clicks or closes meanwhile is
 /// dropped: a key pressed while the program waits must not start a second action afterwards.
-void InstallPendingEvents();
+void ProcessEventsWithoutInput();
 
 }  // namespace rbt

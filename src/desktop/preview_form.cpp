@@ -15,8 +15,8 @@
 #include "desktop/printer_choice.h"
 #include "desktop/system_printers.h"
 #include "platform/print/paper.h"
-#include "platform/print/printer_list.h"
 #include "platform/system/message.h"
+#include "platform/system/printing.h"
 #include "ui_preview_form.h"
 
 namespace rbt {

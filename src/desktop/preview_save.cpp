@@ -7,7 +7,7 @@
 #include <fmt/format.h>
 
 #include "desktop/painting_surface.h"
-#include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
@@ -54,14 +54,9 @@ bool MayReplace(const fs::path& file, const std::string& title) {
 
 /// False, after a message, when the file cannot be written.
 bool Write(std::span<const PrintedDocument> documents, const fs::path& file, const std::string& title) {
-  try {
-    PaintPdf(documents, file);
-    return true;
-  } catch (const Fault& fault) {
-    if (fault.Kind() != FaultKind::file) throw;
-    MsgBox("「" + file.string() + "」に保存できません。\r\n" + fault.what(), title);
-    return false;
-  }
+  const auto fault = PassOverFaults(FaultKind::file, [&] { PaintPdf(documents, file); });
+  if (fault) MsgBox("「" + file.string() + "」に保存できません。\r\n" + fault->what(), title);
+  return !fault;
 }
 
 }  // namespace

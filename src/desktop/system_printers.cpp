@@ -25,10 +25,6 @@ constexpr double kTwipsPerPoint = 20.0;
 /// How a document is called in the print queue.
 constexpr const char* kDocumentName = "重量集計";
 
-PrinterSurface PdfDevice(PrinterSurface::Delivery deliver) {
-  return {std::string(kPdfDeviceName), DeviceKind::pdf, std::move(deliver)};
-}
-
 /// The printer with the paper of its own defaults. Print systems keep no orientation: it starts in portrait.
 PrinterSurface InstalledPrinter(const QPrinterInfo& info) {
   const std::string name = info.printerName().toStdString();
@@ -74,15 +70,8 @@ PrinterList SystemPrinters(PrinterSurface::Delivery pdf) {
   for (const QPrinterInfo& info : QPrinterInfo::availablePrinters()) {
     printers.insert(info.isDefault() ? printers.begin() : printers.end(), InstalledPrinter(info));
   }
-  printers.push_back(PdfDevice(std::move(pdf)));
+  printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf, std::move(pdf));
   return PrinterList(std::move(printers));
-}
-
-void UseSystemPrinters(PrinterSurface::Delivery pdf) {
-  std::list<PrinterSurface> alone;
-  alone.push_back(PdfDevice(pdf));
-  SetPrinters(PrinterList(std::move(alone)));
-  SetPrinterSource([pdf = std::move(pdf)] { return SystemPrinters(pdf); });
 }
 
 void PrintDocument(const std::string& device_name, const PrintedDocument& document) {

@@ -15,9 +15,6 @@ namespace rbt {
 /// of a program.
 PrinterList SystemPrinters(PrinterSurface::Delivery pdf);
 
-/// Puts the device "PDF" in force, and the printers of the system from the next `RefreshPrinters` on.
-void UseSystemPrinters(PrinterSurface::Delivery pdf);
-
 /// Prints one copy on an installed printer, on the document's paper; on the printer's own where that is a
 /// custom one. The origin is the corner of the printable area. Throws `file` when the printer is gone, the
 /// print server does not take the document, or it cannot be painted; then nothing is printed.

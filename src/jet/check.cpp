@@ -10,7 +10,7 @@
 #include "jet/page_owners.h"
 #include "jet/table.h"
 #include "jet/usage_map.h"
-#include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 
 namespace rbt::jet {
 
@@ -55,11 +55,7 @@ class Checker {
   /// Faults are what the check is there to find: each becomes a line and the next object is looked at.
   template <typename Step>
   void Guard(const std::string& what, Step step) {
-    try {
-      step();
-    } catch (const Fault& fault) {
-      Damage(fmt::format("{}: {}", what, fault.what()));
-    }
+    if (const auto fault = PassOverFaults(step)) Damage(fmt::format("{}: {}", what, fault->what()));
   }
 
   void CheckTable(const CatalogEntry& entry) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "jet/csv_dump.h"
 
-#include <chrono>
 #include <cmath>
 
 #include <fmt/format.h>
 
+#include "platform/date_time.h"
 #include "platform/text/csv.h"
 
 namespace rbt::jet {
@@ -15,21 +15,14 @@ namespace {
 /// The empty text is told from null.
 std::string TextCell(const std::string& text) { return text.empty() ? "\"\"" : CsvCell(text); }
 
-/// Day 0 is 1899-12-30; the fraction of a day before it counts forward all the same.
+/// The date, and the time of day where there is one; a number beyond all dates as it is.
 std::string DateText(double days) {
-  if (!(std::fabs(days) < 3e6)) return fmt::format("{}", days);
-  double whole = std::trunc(days);
-  auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(days - whole) * 86400.0));
-  if (seconds == 86400) {
-    whole += 1;
-    seconds = 0;
-  }
-  const std::chrono::sys_days zero = std::chrono::year(1899) / 12 / 30;
-  const std::chrono::year_month_day date(zero + std::chrono::days(static_cast<int>(whole)));
-  std::string text = fmt::format("{:04}-{:02}-{:02}", static_cast<int>(date.year()),
-                                 static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
-  if (seconds != 0) {
-    text += fmt::format(" {:02}:{:02}:{:02}", seconds / 3600, seconds / 60 % 60, seconds % 60);
+  constexpr double kBeyondAllDates = 3e6;
+  if (!(std::fabs(days) < kBeyondAllDates)) return fmt::format("{}", days);
+  const DateTime at = DateOfDayNumber(days);
+  std::string text = fmt::format("{:04}-{:02}-{:02}", at.year, at.month, at.day);
+  if (at.hour != 0 || at.minute != 0 || at.second != 0) {
+    text += fmt::format(" {:02}:{:02}:{:02}", at.hour, at.minute, at.second);
   }
   return text;
 }
@@ -50,31 +43,30 @@ std::string Cell(const Column& column, const Value& value) {
 }  // namespace
 
 void DumpTables(JetFile& file, const TextSink& sink) {
-  sink("table,rows,columns");
-  sink(kCsvRecordEnd);
+  sink(CsvRecord().Add("table").Add("rows").Add("columns").Text());
   for (const CatalogEntry& entry : ReadCatalog(file)) {
     if (entry.kind != CatalogEntry::Kind::table || entry.system) continue;
     const TableDefinition table = ReadTableDefinition(file, entry.id & 0xFFFFFF);
-    sink(
-        fmt::format("{},{},{}{}", CsvCell(entry.name), table.row_count, table.columns.size(), kCsvRecordEnd));
+    sink(CsvRecord()
+             .Add(entry.name)
+             .Add(std::to_string(table.row_count))
+             .Add(std::to_string(table.columns.size()))
+             .Text());
   }
 }
 
 std::string DumpRows(JetFile& file, std::string_view name, const TextSink& sink) {
   const TableDefinition table = FindTable(file, name);
-  std::string line;
-  for (const Column& column : table.columns) line += (line.empty() ? "" : ",") + CsvCell(column.name);
-  sink(line);
-  sink(kCsvRecordEnd);
+  CsvRecord head;
+  for (const Column& column : table.columns) head.Add(column.name);
+  sink(head.Text());
   return ScanTable(file, table,
                    [&](RowPointer, std::vector<Value>& fields) {
-                     line.clear();
+                     CsvRecord record;
                      for (std::size_t i = 0; i < fields.size(); ++i) {
-                       if (i > 0) line += ',';
-                       line += Cell(table.columns[i], fields[i]);
+                       record.AddWritten(Cell(table.columns[i], fields[i]));
                      }
-                     line += kCsvRecordEnd;
-                     sink(line);
+                     sink(record.Text());
                    })
       .warning;
 }

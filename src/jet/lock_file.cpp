@@ -5,7 +5,7 @@
 #include <string>
 #include <system_error>
 
-#include "platform/system/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {

@@ -10,6 +10,7 @@
 #include "jet/data_page.h"
 #include "jet/usage_map.h"
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {
@@ -49,12 +50,9 @@ bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
 
 /// The pages of a usage map, none and the cause when it cannot be read.
 std::vector<std::uint32_t> PagesOrCause(JetFile& file, RowPointer map, std::string& cause) {
-  try {
-    return PagesOfUsageMap(file, map);
-  } catch (const Fault& fault) {
-    cause = fault.what();
-    return {};
-  }
+  std::vector<std::uint32_t> pages;
+  if (const auto fault = PassOverFaults([&] { pages = PagesOfUsageMap(file, map); })) cause = fault->what();
+  return pages;
 }
 
 std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& table,

@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "jet/text.h"
 
-#include <array>
-#include <cerrno>
-#include <iconv.h>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include <fmt/format.h>
-
-#include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
+#include "platform/text/code_page.h"
 #include "platform/text/cp932.h"
 
 namespace rbt::jet {
 
 namespace {
+
+using Direction = CodePageConverter::Direction;
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
@@ -76,40 +74,6 @@ void NoCharacter(unsigned char byte, DecodedText& result) {
   result.exact = false;
 }
 
-class Conversion {
- public:
-  explicit Conversion(std::uint16_t code_page)
-      : handle_(iconv_open("UTF-8", fmt::format("CP{}", code_page).c_str())) {
-    if (reinterpret_cast<std::intptr_t>(handle_) == -1) {
-      throw Fault(FaultKind::file, fmt::format("code page {} is not known on this machine", code_page));
-    }
-  }
-  Conversion(const Conversion&) = delete;
-  Conversion& operator=(const Conversion&) = delete;
-  ~Conversion() { iconv_close(handle_); }
-
-  DecodedText Decode(std::string_view input) {
-    DecodedText result;
-    char* from = const_cast<char*>(input.data());  // iconv only reads there
-    std::size_t left = input.size();
-    while (left > 0) {
-      std::array<char, 256> buffer{};
-      char* to = buffer.data();
-      std::size_t room = buffer.size();
-      const bool stopped = iconv(handle_, &from, &left, &to, &room) == static_cast<std::size_t>(-1);
-      result.text.append(buffer.data(), to);
-      if (!stopped || errno == E2BIG) continue;
-      NoCharacter(static_cast<unsigned char>(*from), result);
-      ++from;
-      --left;
-    }
-    return result;
-  }
-
- private:
-  iconv_t handle_;
-};
-
 }  // namespace
 
 DecodedText TextOfJet4(std::span<const unsigned char> bytes) {
@@ -134,12 +98,7 @@ DecodedText TextOfJet4(std::span<const unsigned char> bytes) {
 }
 
 bool KnowsCodePage(std::uint16_t code_page) {
-  try {
-    const Conversion conversion(code_page);
-    return true;
-  } catch (const Fault&) {
-    return false;
-  }
+  return !PassOverFaults([&] { const CodePageConverter converter(code_page, Direction::to_utf8); });
 }
 
 DecodedText TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t code_page) {
@@ -150,7 +109,14 @@ DecodedText TextOfCodePage(std::span<const unsigned char> bytes, std::uint16_t c
     result.exact = result.text.find(kReplacement) == std::string::npos;
     return result;
   }
-  return Conversion(code_page).Decode(text);
+  CodePageConverter converter(code_page, Direction::to_utf8);
+  DecodedText result;
+  for (std::string_view left = text;;) {
+    left.remove_prefix(converter.Convert(left, result.text));
+    if (left.empty()) return result;
+    NoCharacter(static_cast<unsigned char>(left.front()), result);
+    left.remove_prefix(1);
+  }
 }
 
 }  // namespace rbt::jet

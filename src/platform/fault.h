@@ -37,4 +37,15 @@ class Fault : public std::runtime_error {
   std::string where_;
 };
 
+/// Runs an action and gives what it gives; a fault of it gets the text of `place()`, which nobody asks for
+/// before, put in front: "PLACE: WHERE".
+template <typename Place, typename Action>
+decltype(auto) At(const Place& place, Action&& action) {
+  try {
+    return action();
+  } catch (const Fault& fault) {
+    throw Fault(fault.Kind(), place() + ": " + fault.Where());
+  }
+}
+
 }  // namespace rbt

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
@@ -13,6 +12,8 @@
 
 #include <fmt/format.h>
 
+#include "platform/failure_log.h"
+#include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 #include "store/dialect/functions.h"
 
@@ -22,15 +23,6 @@ namespace {
 constexpr int kBusyMilliseconds = 1000;
 /// Rows of a mid-size site stay in memory between the statements of one run.
 constexpr const char* kCacheSize = "PRAGMA cache_size=-32768";
-
-std::string Utf8Of(const std::filesystem::path& file) {
-  const std::u8string text = file.u8string();
-  return {text.begin(), text.end()};
-}
-
-Fault FileFault(const std::filesystem::path& file, std::string_view cause) {
-  return {FaultKind::file, fmt::format("{}: {}", Utf8Of(file), cause)};
-}
 
 /// A word that a shell hands on as it is; plain paths are left alone.
 std::string ShellWord(const std::string& word) {
@@ -47,25 +39,23 @@ void RequireDatabaseFile(const std::filesystem::path& file) {
 
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
-  if (!std::filesystem::exists(status)) throw FileFault(file, "the file does not exist");
-  if (!std::filesystem::is_regular_file(status)) throw FileFault(file, "is not a file");
+  if (!std::filesystem::exists(status)) throw FileFaultText(file, "the file does not exist");
+  if (!std::filesystem::is_regular_file(status)) throw FileFaultText(file, "is not a file");
 
   std::array<char, 20> head{};
   std::ifstream in(file, std::ios::binary);
-  if (!in) throw FileFault(file, std::generic_category().message(errno));
+  if (!in) throw FileFaultText(file, std::generic_category().message(errno));
   in.read(head.data(), head.size());
   const std::string_view bytes(head.data(), static_cast<std::size_t>(in.gcount()));
-  if (bytes.empty()) throw FileFault(file, "the file is empty, not a database");
+  if (bytes.empty()) throw FileFaultText(file, "the file is empty, not a database");
   if (bytes.substr(std::min(kJetMarkAt, bytes.size())).starts_with(kJetMark)) {
-    throw FileFault(file,
-                    fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
-                                "to take it over: rbtally import {0} {0}",
-                                ShellWord(file.string())));
+    throw FileFaultText(
+        file, fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
+                          "to take it over: rbtally import {0} {0}",
+                          ShellWord(file.string())));
   }
-  if (!bytes.starts_with(kSqliteMark)) throw FileFault(file, "the file is not a database");
+  if (!bytes.starts_with(kSqliteMark)) throw FileFaultText(file, "the file is not a database");
 }
-
-std::atomic<std::int64_t> failed_rollbacks = 0;
 
 /// A runtime's word at the beginning of the store's message, as `RegisterJetFunctions` puts it there.
 std::optional<FaultKind> KindOfMessage(std::string_view message) {
@@ -147,10 +137,10 @@ Connection::Connection(const std::filesystem::path& file, OpenMode mode) : file_
   RequireDatabaseFile(file);
   const int access = mode == OpenMode::read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
   sqlite3* connection = nullptr;
-  const int code = sqlite3_open_v2(Utf8Of(file).c_str(), &connection,
+  const int code = sqlite3_open_v2(file.string().c_str(), &connection,
                                    access | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
-  if (code != SQLITE_OK) throw FileFault(file, sqlite3_errstr(code));
+  if (code != SQLITE_OK) throw FileFaultText(file, sqlite3_errstr(code));
   Configure(mode);
   RegisterJetFunctions(connection);
 }
@@ -164,7 +154,7 @@ void Connection::Configure(OpenMode mode) const {
   sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
   const auto run = [&](const char* sql) {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK) return;
-    throw FileFault(file_, sqlite3_errmsg(connection));
+    throw FileFaultText(file_, sqlite3_errmsg(connection));
   };
   run("PRAGMA cell_size_check=ON");  // damaged pages are told, not followed
   run(kCacheSize);
@@ -194,9 +184,9 @@ std::int64_t Connection::IntegerOf(std::string_view sql) const {
 }
 
 void CreateDatabaseFile(const std::filesystem::path& file) {
-  const std::string name = Utf8Of(file);
+  const std::string name = file.string();
   std::FILE* const fresh = std::fopen(name.c_str(), "wbx");
-  if (fresh == nullptr) throw FileFault(file, std::generic_category().message(errno));
+  if (fresh == nullptr) throw FileFaultText(file, std::generic_category().message(errno));
   std::fclose(fresh);
 
   sqlite3* connection = nullptr;
@@ -207,7 +197,7 @@ void CreateDatabaseFile(const std::filesystem::path& file) {
   if (code == SQLITE_OK) return;
   std::error_code ignored;
   std::filesystem::remove(file, ignored);
-  throw FileFault(file, sqlite3_errstr(code));
+  throw FileFaultText(file, sqlite3_errstr(code));
 }
 
 Savepoint::Savepoint(const Connection& connection) : connection_(connection) {
@@ -227,11 +217,7 @@ void Savepoint::Release() {
 
 void RollBackQuietly(const Connection& connection, const char* sql) {
   if (sqlite3_exec(connection.Handle(), sql, nullptr, nullptr, nullptr) == SQLITE_OK) return;
-  ++failed_rollbacks;
-  std::fprintf(stderr, "%s: %s: %s\n", Utf8Of(connection.File()).c_str(), sql,
-               sqlite3_errmsg(connection.Handle()));
+  LogFailure(fmt::format("{}: {}: {}", connection.File().string(), sql, sqlite3_errmsg(connection.Handle())));
 }
-
-std::int64_t FailedRollbacks() { return failed_rollbacks; }
 
 }  // namespace rbt

@@ -100,9 +100,7 @@ class Savepoint {
   bool open_ = true;
 };
 
-/// Undoes without throwing, for destructors. What fails is written to standard error and counted.
+/// Undoes without throwing, for destructors; what fails is told by `LogFailure`.
 void RollBackQuietly(const Connection& connection, const char* sql);
-/// How often `RollBackQuietly` failed in this run.
-std::int64_t FailedRollbacks();
 
 }  // namespace rbt

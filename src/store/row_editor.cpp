@@ -106,19 +106,13 @@ void RowEditor::Update(std::int64_t row, const Values& values) {
 }
 
 Statement RowEditor::PrepareInsert(const std::vector<std::size_t>& columns) const {
-  std::string names;
-  std::string places;
-  const auto add = [&](const std::string& name) {
-    names += (names.empty() ? "" : ", ") + QuoteName(name);
-    places += places.empty() ? "?" : ", ?";
-  };
-  for (const std::size_t c : columns) add(columns_[c]);
+  std::vector<std::string> names;
+  names.reserve(columns.size() + autonumbers_.size());
+  for (const std::size_t c : columns) names.push_back(columns_[c]);
   for (const Autonumber& autonumber : autonumbers_) {
-    if (!autonumber.column && !autonumber.is_key) add(autonumber.field);
+    if (!autonumber.column && !autonumber.is_key) names.push_back(autonumber.field);
   }
-  const std::string values =
-      names.empty() ? "DEFAULT VALUES" : fmt::format("({}) VALUES ({})", names, places);
-  return database_.Connected().Prepare(fmt::format("INSERT INTO {} {}", QuoteName(table_), values), text_);
+  return database_.Connected().Prepare(InsertSql(table_, names), text_);
 }
 
 std::int64_t RowEditor::Insert(const Values& values) {

@@ -14,24 +14,7 @@
 namespace rbt {
 namespace {
 
-constexpr double kCurrencyLimit = 9e11;
-
-struct WholeRange {
-  FieldType type;
-  std::int64_t low;
-  std::int64_t high;
-};
-constexpr WholeRange kWholeRanges[] = {
-    {FieldType::byte, 0, 255},
-    {FieldType::integer16, -32768, 32767},
-    {FieldType::integer32, std::numeric_limits<std::int32_t>::min(),
-     std::numeric_limits<std::int32_t>::max()},
-};
-
-bool IsWhole(FieldType type) {
-  return type == FieldType::boolean || type == FieldType::byte || type == FieldType::integer16 ||
-         type == FieldType::integer32;
-}
+bool IsWhole(FieldType type) { return WholeRangeOf(type).has_value(); }
 
 bool IsText(FieldType type) {
   return type == FieldType::text || type == FieldType::memo || type == FieldType::guid ||
@@ -82,7 +65,7 @@ std::int64_t RoundedWhole(double x, const FieldPlace& place) {
 }
 
 Currency CheckedCurrency(double x, const FieldPlace& place) {
-  if (!(std::fabs(x) <= kCurrencyLimit)) throw Overflow(place, x);
+  if (!(std::fabs(x) <= static_cast<double>(kLargestCurrency))) throw Overflow(place, x);
   return Currency::FromDouble(x);
 }
 
@@ -109,11 +92,9 @@ std::int64_t WholeOf(const Value& value, const FieldPlace& place) {
 Value CheckedWhole(FieldType type, const Value& value, const FieldPlace& place) {
   if (type == FieldType::boolean) return std::int64_t{NumberOf(value, place.Text()) == 0.0 ? 0 : -1};
   const std::int64_t whole = WholeOf(value, place);
-  for (const WholeRange& range : kWholeRanges) {
-    if (range.type != type) continue;
-    if (whole < range.low || whole > range.high) {
-      throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
-    }
+  const WholeRange range = *WholeRangeOf(type);
+  if (whole < range.low || whole > range.high) {
+    throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
   }
   return whole;
 }

@@ -15,18 +15,13 @@
 namespace rbt {
 
 using dialect::QuoteName;
+using dialect::QuoteNames;
 namespace {
 
 std::vector<IndexDef>::const_iterator FindIndex(const TableDef& table, std::string_view name) {
   const std::string folded = FoldIdentifier(name);
   return std::find_if(table.indexes.begin(), table.indexes.end(),
                       [&](const IndexDef& index) { return FoldIdentifier(index.name) == folded; });
-}
-
-std::string FieldList(const std::vector<FieldDef>& fields) {
-  std::string list;
-  for (const FieldDef& field : fields) list += (list.empty() ? "" : ", ") + QuoteName(field.name);
-  return list;
 }
 
 /// The declared types for the rebuilt table: a column that was the row's own number and is the key no longer
@@ -144,17 +139,15 @@ void TableChange::RequireKeyable(const TableDef& table, const IndexDef& key) con
   for (const IndexDef& index : table.indexes) {
     if (index.primary) throw Refusal(fmt::format("table {} has the primary key {}", table.name, index.name));
   }
-  std::string fields;
   for (const std::string& field : key.fields) {
     if (connection_.IntegerOf(fmt::format("SELECT EXISTS (SELECT 1 FROM {} WHERE {} IS NULL)",
                                           QuoteName(table.name), QuoteName(field))) != 0) {
       throw Fault{FaultKind::invalid_use_of_null,
                   fmt::format("{}.{}, a field of the key {}: {}", table.name, field, key.name, text_)};
     }
-    fields += (fields.empty() ? "" : ", ") + QuoteName(field);
   }
   if (connection_.IntegerOf(fmt::format("SELECT EXISTS (SELECT 1 FROM {} GROUP BY {} HAVING count(*) > 1)",
-                                        QuoteName(table.name), fields)) != 0) {
+                                        QuoteName(table.name), QuoteNames(key.fields))) != 0) {
     throw Refusal(fmt::format("table {} has rows of one key, so that {} cannot stand", table.name, key.name));
   }
 }
@@ -165,7 +158,7 @@ void TableChange::Rebuild(const StoredTable& before, const TableDef& after) cons
   const std::string rebuilt = "rebuilt." + name;
   const std::vector<std::string> types = TypesAfter(before, after);
   const bool key_is_row_number = KeyIsRowNumber(after, types);
-  const std::string columns = (key_is_row_number ? "" : "rowid, ") + FieldList(after.fields);
+  const std::string columns = (key_is_row_number ? "" : "rowid, ") + QuoteNames(after.FieldNames());
 
   Run(CreateTableSql(after, rebuilt, types));
   Run(fmt::format("INSERT INTO {}({}) SELECT {} FROM {} NOT INDEXED ORDER BY rowid", QuoteName(rebuilt),

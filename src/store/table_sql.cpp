@@ -13,6 +13,7 @@
 namespace rbt {
 
 using dialect::QuoteName;
+using dialect::QuoteNames;
 namespace {
 
 struct Token {
@@ -263,6 +264,13 @@ std::string CreateTableSql(const TableDef& table, std::string_view stored_name,
         fmt::format(", CONSTRAINT {} PRIMARY KEY({})", QuoteName(ConstraintName(*key)), KeyFieldList(*key));
   }
   return sql + ")";
+}
+
+std::string InsertSql(std::string_view table, std::span<const std::string> fields) {
+  if (fields.empty()) return fmt::format("INSERT INTO {} DEFAULT VALUES", QuoteName(table));
+  std::string places = "?";
+  for (std::size_t i = 1; i < fields.size(); ++i) places += ", ?";
+  return fmt::format("INSERT INTO {} ({}) VALUES ({})", QuoteName(table), QuoteNames(fields), places);
 }
 
 std::string CreateIndexSql(std::string_view table, const IndexDef& index) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,10 @@ std::string ColumnSql(const FieldDef& field, std::string_view declared_type);
 /// parallel to the fields; empty: each by its field.
 std::string CreateTableSql(const TableDef& table, std::string_view stored_name,
                            const std::vector<std::string>& declared_types = {});
+
+/// INSERT of one row, its values bound to parameters in the order of the fields; without fields it gets its
+/// defaults.
+std::string InsertSql(std::string_view table, std::span<const std::string> fields);
 
 /// CREATE INDEX. Index names are one table's own here, but a whole file's in SQLite: the stored name is the
 /// table's, a point and the index's.

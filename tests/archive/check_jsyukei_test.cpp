@@ -6,7 +6,7 @@
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "shell/context/site_context.h"
 #include "support/site_fixture.h"
 

@@ -173,12 +173,11 @@ TEST_F(MasterDatabase, TrimsGradeNamesAndTellsOfEachMissingOne) {
   }
   Run("UPDATE T_SD SET SD名 = Null WHERE SDコード = 10");
   std::vector<std::string> messages;
-  auto old = SetMessageHandler([&](std::string_view text, std::string_view, MessageButtons) {
+  Services.Messages = [&](std::string_view text, std::string_view, MessageButtons) {
     messages.emplace_back(text);
     return MessageAnswer::ok;
-  });
+  };
   const std::array<std::string, 11> names = ReadGradeNames(Master());
-  SetMessageHandler(std::move(old));
   EXPECT_EQ(names,
             (std::array<std::string, 11>{"", "SD1", "SD2", "", "SD4", "SD5", "SD6", "SD7", "SD8", "", ""}));
   EXPECT_EQ(messages, (std::vector<std::string>(2, "ＳＤ名が登録されていません。")));

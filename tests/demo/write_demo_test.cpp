@@ -11,8 +11,8 @@
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/profile/ini_file.h"
-#include "platform/system/paths.h"
 #include "platform/text/cp932.h"
 #include "store/database.h"
 #include "support/temporary_folder.h"

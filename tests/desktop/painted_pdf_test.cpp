@@ -7,8 +7,8 @@
 
 #include "desktop/painting_surface.h"
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/print/paper.h"
-#include "platform/system/paths.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::test {

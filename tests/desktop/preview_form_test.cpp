@@ -15,6 +15,7 @@
 #include "platform/print/paper.h"
 #include "platform/system/message.h"
 #include "support/desktop/key_press.h"
+#include "support/kept_services.h"
 
 namespace rbt::test {
 
@@ -35,12 +36,12 @@ PrintedDocument Document(const std::string& device, std::int32_t paper, std::int
 /// A preview with everything around it scripted.
 class Preview : public testing::Test {
  protected:
-  Preview()
-      : old_messages_(SetMessageHandler([this](std::string_view text, std::string_view, MessageButtons) {
-          messages.emplace_back(text);
-          return MessageAnswer::ok;
-        })) {}
-  ~Preview() override { SetMessageHandler(old_messages_); }
+  Preview() {
+    Services.Messages = [this](std::string_view text, std::string_view, MessageButtons) {
+      messages.emplace_back(text);
+      return MessageAnswer::ok;
+    };
+  }
 
   void Open(std::vector<PrintedDocument> documents) {
     PreviewParts parts;
@@ -78,7 +79,7 @@ class Preview : public testing::Test {
   std::unique_ptr<PreviewForm> form;
 
  private:
-  MessageHandler old_messages_;
+  test::KeptServices services_;
 };
 
 using Clock = std::chrono::steady_clock;

@@ -11,13 +11,14 @@
 #include <gtest/gtest.h>
 
 #include "desktop/preview_form.h"
+#include "platform/files/files.h"
 #include "platform/print/paper.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
-#include "platform/system/paths.h"
 #include "platform/text/characters.h"
 #include "support/desktop/key_press.h"
 #include "support/environment_variable.h"
+#include "support/kept_services.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::test {
@@ -33,20 +34,15 @@ using testing::StartsWith;
 /// A preview whose user has a documents folder; dialogs and messages are scripted.
 class SavedPreview : public testing::Test {
  protected:
-  SavedPreview()
-      : old_messages_(
-            SetMessageHandler([this](std::string_view text, std::string_view title, MessageButtons) {
-              messages.emplace_back(text);
-              EXPECT_EQ(title, "印刷プレビュー");
-              return answer;
-            })) {
+  SavedPreview() {
     fs::create_directory(documents);
-    SetClock(DateTime{.year = 2026, .month = 11, .day = 21});
+    Services.Messages = [this](std::string_view text, std::string_view title, MessageButtons) {
+      messages.emplace_back(text);
+      EXPECT_EQ(title, "印刷プレビュー");
+      return answer;
+    };
+    Services.Clock = test::StandingClock({.year = 2026, .month = 11, .day = 21});
     Open("");
-  }
-  ~SavedPreview() override {
-    SetMessageHandler(old_messages_);
-    SetClock(std::nullopt);
   }
 
   void Open(const std::string& document_title) {
@@ -87,7 +83,7 @@ class SavedPreview : public testing::Test {
   std::unique_ptr<PreviewForm> form;
 
  private:
-  MessageHandler old_messages_;
+  test::KeptServices services_;
 };
 
 }  // namespace

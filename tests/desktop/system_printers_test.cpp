@@ -17,29 +17,16 @@ namespace {
 /// A machine on which no print server answers. What an answering one leads to is tested end to end.
 class WithoutPrintServer : public ::testing::Test {
  protected:
-  WithoutPrintServer() : before_(SetPrinters(Alone())) {
-    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
-    UseSystemPrinters([this](const PrintedDocument& document) { documents_.push_back(document); });
-  }
-  ~WithoutPrintServer() override {
-    SetPrinterSource({});
-    SetPrinters(std::move(before_));
-  }
-
-  static PrinterList Alone() {
-    std::list<PrinterSurface> printers;
-    printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf, [](const PrintedDocument&) {});
-    return PrinterList(std::move(printers));
-  }
+  WithoutPrintServer() { qputenv("CUPS_SERVER", "/nonexistent/cups.sock"); }
 
   std::vector<PrintedDocument> documents_;
-  PrinterList before_;
 };
 
 TEST_F(WithoutPrintServer, PdfAloneIsThereAndHasItsDelivery) {
-  RefreshPrinters();
-  ASSERT_EQ(Printers().Installed().size(), 1U);
-  PrinterSurface& printer = Printers().Current();
+  PrinterList printers =
+      SystemPrinters([this](const PrintedDocument& document) { documents_.push_back(document); });
+  ASSERT_EQ(printers.Installed().size(), 1U);
+  PrinterSurface& printer = printers.Current();
   EXPECT_EQ(printer.DeviceName(), "PDF");
   EXPECT_EQ(printer.Kind(), DeviceKind::pdf);
   printer.Print({"一"});

@@ -14,10 +14,11 @@
 #include <QWidget>
 
 #include "desktop/look.h"
+#include "desktop/pending_events.h"
 #include "desktop/system_printers.h"
 #include "platform/fault.h"
-#include "platform/print/printer_list.h"
-#include "platform/system/message.h"
+#include "platform/system/printing.h"
+#include "platform/system/services.h"
 #include "screens/result/result_forms.h"
 #include "session/startup/startup.h"
 #include "support/desktop/key_press.h"
@@ -69,9 +70,12 @@ void PrintSheets(std::span<char*> buttons) {
 
 int Run(std::span<char*> words) {
   try {
-    UseSystemPrinters([](const PrintedDocument& document) {
+    const auto preview = [](const PrintedDocument& document) {
       throw Fault(FaultKind::file, document.device_name + ": a preview has nobody to look at it here");
-    });
+    };
+    Services.PendingEvents = ProcessEventsWithoutInput;
+    Services.Printers = PdfDeviceAlone(preview);
+    Services.FindPrinters = [preview] { return SystemPrinters(preview); };
     if (words.size() == 1 && std::string_view(words[0]) == "list") {
       TellPrinters();
     } else {
@@ -93,6 +97,5 @@ int main(int argc, char** argv) {
   int own_name_only = 1;
   const QApplication application(own_name_only, argv);
   rbt::PrepareDesktop();
-  rbt::SetMessageHandler({});
   return rbt::Run(words.subspan(1));
 }

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 
 namespace rbt::test {
 

@@ -16,5 +16,30 @@ TEST(Fault, ADatabaseFaultIsItsMessageAlone) {
                "no such table: 加工テーブル");
 }
 
+TEST(At, PutsThePlaceBeforeWhereAFaultHappened) {
+  try {
+    At([] { return std::string("頁 3 行 4"); }, [] { throw Fault(FaultKind::overflow, "圧接"); });
+    FAIL() << "no fault";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::overflow);
+    EXPECT_EQ(fault.Where(), "頁 3 行 4: 圧接");
+  }
+}
+
+TEST(At, GivesWhatTheActionGivesAndDoesNotAskForThePlace) {
+  int asked = 0;
+  const auto place = [&] {
+    ++asked;
+    return std::string("頁 3");
+  };
+  EXPECT_EQ(At(place, [] { return 7; }), 7);
+  EXPECT_EQ(asked, 0);
+}
+
+TEST(At, LeavesWhatIsNoFaultAsItIs) {
+  EXPECT_THROW(At([] { return std::string("頁 3"); }, [] { throw std::out_of_range("ours"); }),
+               std::out_of_range);
+}
+
 }  // namespace
 }  // namespace rbt

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "store/database.h"
 #include "store/plain_file.h"
 #include "support/temporary_folder.h"

@@ -59,5 +59,21 @@ TEST(TableDef, FindsAFieldWithoutRegardToLetterCaseAndWidth) {
   EXPECT_EQ(table.FindField("形状"), nullptr);
 }
 
+TEST(WholeRangeOf, IsWhatTheTypesHold) {
+  EXPECT_EQ(WholeRangeOf(FieldType::boolean)->low, -1);
+  EXPECT_EQ(WholeRangeOf(FieldType::byte)->high, 255);
+  EXPECT_EQ(WholeRangeOf(FieldType::integer16)->low, -32768);
+  EXPECT_EQ(WholeRangeOf(FieldType::integer32)->high, 2147483647);
+  EXPECT_FALSE(WholeRangeOf(FieldType::real));
+  EXPECT_FALSE(WholeRangeOf(FieldType::currency)) << "of ten-thousandths";
+}
+
+TEST(TableDef, NamesItsFieldsInTheirOrder) {
+  TableDef table{"T", {*FieldOfDeclaredType("LONG"), *FieldOfDeclaredType("TEXT")}, {}};
+  table.fields[0].name = "頁";
+  table.fields[1].name = "名称";
+  EXPECT_EQ(table.FieldNames(), (std::vector<std::string>{"頁", "名称"}));
+}
+
 }  // namespace
 }  // namespace rbt

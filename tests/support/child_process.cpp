@@ -17,9 +17,12 @@
 #include <string>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <gtest/gtest.h>
 
 namespace rbt::test {
 
@@ -135,6 +138,16 @@ bool InChild(const std::function<bool()>& action) {
   int status = 0;
   waitpid(child, &status, 0);
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+bool WithFilesOfAtMost(std::uint64_t bytes, const std::function<void()>& action) {
+  return InChild([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
+    action();
+    return !::testing::Test::HasFailure();
+  });
 }
 
 bool KilledBeforeChange(int n, const std::function<void()>& action) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 namespace rbt::test {
@@ -20,5 +21,9 @@ void MeddleBeforeChange(int n, const std::function<void()>& action, const std::f
 /// From now on the file system of this process, which is to be a child, gives no file a second name: as where
 /// it knows none, or where the file is another user's.
 void ForbidHardLinks();
+
+/// Runs an action in a child process in which no file may grow beyond a size: a full disk. True when it came
+/// to its end and no expectation failed.
+bool WithFilesOfAtMost(std::uint64_t bytes, const std::function<void()>& action);
 
 }  // namespace rbt::test

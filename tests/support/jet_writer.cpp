@@ -8,7 +8,7 @@
 #include <stdexcept>
 
 #include "jet/table_definition.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
 

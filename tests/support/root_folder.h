@@ -4,23 +4,21 @@
 #include <fstream>
 #include <string>
 
-#include "platform/system/paths.h"
 #include "support/environment_variable.h"
+#include "support/kept_services.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::test {
 
 /// A fresh root folder with a DATA folder, in force for the life of the object, with settings of its own
-/// outside the root.
+/// outside the root. Its end brings all services back.
 class RootFolder {
  public:
-  RootFolder() : settings_("RBK_SETTINGS", (settings_folder_ / "settings.ini").string()), old_(Root()) {
+  RootFolder() : settings_("RBK_SETTINGS", (settings_folder_ / "settings.ini").string()) {
     std::filesystem::create_directories(folder_ / "DATA");
-    SetRoot(folder_.Path());
+    Services.Root = folder_.Path();
+    Services.FamilyDirectory.reset();
   }
-  RootFolder(const RootFolder&) = delete;
-  RootFolder& operator=(const RootFolder&) = delete;
-  ~RootFolder() { SetRoot(old_); }
 
   const std::filesystem::path& Path() const { return folder_.Path(); }
   std::filesystem::path operator/(const std::string& name) const { return folder_ / name; }
@@ -39,7 +37,7 @@ class RootFolder {
   TemporaryFolder folder_;
   TemporaryFolder settings_folder_;
   EnvironmentVariable settings_;
-  std::filesystem::path old_;
+  KeptServices services_;
 };
 
 }  // namespace rbt::test

@@ -91,21 +91,20 @@ Cells Completed(const Cells& cells, std::int64_t number) {
 
 SiteFixture::SiteFixture() {
   ResetGlobalState();
-  SetClock(DateTime{2026, 11, 21, 9, 0, 0});
-  old_messages_ =
-      SetMessageHandler([this](std::string_view text, std::string_view title, MessageButtons buttons) {
-        messages_.push_back({std::string(text), std::string(title), buttons});
-        if (answers_.empty()) {
-          const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
-          return asks ? MessageAnswer::yes : MessageAnswer::ok;
-        }
-        const MessageAnswer answer = answers_.front();
-        answers_.pop_front();
-        return answer;
-      });
-  SetLauncher([this](std::string_view command_line, WindowStyle style, bool polling) {
+  Services.Clock = StandingClock({2026, 11, 21, 9, 0, 0});
+  Services.Messages = [this](std::string_view text, std::string_view title, MessageButtons buttons) {
+    messages_.push_back({std::string(text), std::string(title), buttons});
+    if (answers_.empty()) {
+      const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
+      return asks ? MessageAnswer::yes : MessageAnswer::ok;
+    }
+    const MessageAnswer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+  };
+  Services.Launch = [this](std::string_view command_line, WindowStyle style, bool polling) {
     launches_.push_back({std::string(command_line), style, polling});
-  });
+  };
 
   MakeDatabase(Data(kScheduleFile), ScheduleFileTables());
   MakeDatabase(Data(kCompanionFile), CompanionFileTables());
@@ -120,12 +119,7 @@ SiteFixture::SiteFixture() {
            "[データ]\r\n選択ＤＢ名=GENBA001.MDB\r\n\r\n[加工帳]\r\n行の背景色=16777152\r\n");
 }
 
-SiteFixture::~SiteFixture() {
-  ResetGlobalState();
-  SetMessageHandler(old_messages_);
-  SetLauncher({});
-  SetClock(std::nullopt);
-}
+SiteFixture::~SiteFixture() { ResetGlobalState(); }
 
 void SiteFixture::AddRows(const std::vector<Cells>& rows) {
   Database database = Database::Open(Data(kScheduleFile));

@@ -86,7 +86,6 @@ class SiteFixture {
 
  private:
   RootFolder root_;
-  MessageHandler old_messages_;
   std::deque<MessageAnswer> answers_;
   std::vector<ShownMessage> messages_;
   std::vector<Launch> launches_;

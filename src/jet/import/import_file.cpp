@@ -7,11 +7,14 @@
 
 #include <fmt/format.h>
 
+#include "jet/import/kept_original.h"
 #include "jet/import/row_copy.h"
-#include "jet/import/swap_in.h"
 #include "jet/lock_file.h"
 #include "platform/fault.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {
@@ -114,19 +117,17 @@ ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path
 }
 
 void RequireFree(const fs::path& target) {
-  std::error_code error;
-  if (fs::exists(fs::symlink_status(target, error))) {
-    throw FileFaultText(target, "is there already and is not overwritten");
-  }
+  if (IsTaken(target)) throw FileFaultText(target, kIsThereAlready);
 }
 
 }  // namespace
 
 ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
   RequireFree(target);
-  FileInWork work(target);
+  const WorkPlace place(FolderOf(target));
+  FileInWork work(target, place, ReadOnlyTarget::replaced);
   ImportReport report = Copy(source, work, target);
-  OnTarget(work, target, [&] { work.PutInPlace(target); });
+  OnTarget(work, target, [&] { work.PutInPlace(); });
   return report;
 }
 
@@ -149,17 +150,18 @@ ImportReport ImportJetFileInPlace(const fs::path& name) {
   // What the other program saves later would go into the Jet file that nobody reads any more.
   if (IsOpenElsewhere(file)) throw FileFaultText(file, "is open in another program; close it there first");
   RequireKeepable(file, kept);
-  FileInWork work(file);
+  const WorkPlace place(FolderOf(file));
+  FileInWork work(file, place, ReadOnlyTarget::replaced);
   ImportReport report = Copy(file, work, file);
   const bool kept_now = KeepUnder(file, kept);
   try {
     // Before the swap: what was refused is not to be forgotten, whatever happens behind it.
-    FileInWork text(ReportFile(file));
+    FileInWork text(ReportFile(file), place, ReadOnlyTarget::replaced);
     OnTarget(text, ReportFile(file), [&] {
       text.Write(ReportText(report));
-      text.PutInPlaceOf(ReportFile(file));
+      text.Replace();
     });
-    OnTarget(work, file, [&] { work.PutInPlaceOf(file); });
+    OnTarget(work, file, [&] { work.Replace(); });
   } catch (const Fault&) {
     // Behind the swap the Jet file stands under its second name alone.
     if (IsJetFile(file)) {

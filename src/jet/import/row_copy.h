@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "jet/import/import_report.h"
 #include "jet/import/table_mapping.h"
+#include "store/bulk_insert.h"
 #include "store/database.h"
 
 namespace rbt::jet {
@@ -21,7 +21,6 @@ class RowCopy {
   RowCopy(JetFile& file, const TableMapping& mapping, Database& target, std::vector<std::string>& warnings);
   RowCopy(const RowCopy&) = delete;
   RowCopy& operator=(const RowCopy&) = delete;
-  ~RowCopy();
 
   /// Reads a row; false behind the last one.
   bool ReadNext();
@@ -33,14 +32,12 @@ class RowCopy {
   const ImportedTable& Result() const { return imported_; }
 
  private:
-  class Writer;
-
   JetFile& file_;
   const TableMapping& mapping_;
   std::vector<RowPointer> places_;
   std::size_t next_ = 0;
   std::vector<Value> values_;
-  std::unique_ptr<Writer> writer_;
+  BulkInsert insert_;
   ImportedTable imported_;
 };
 

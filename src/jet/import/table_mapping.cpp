@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "jet/properties.h"
-#include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {
@@ -46,12 +46,10 @@ class Mapper {
     mapping_.source.name = entry.name;
     mapping_.target.name = entry.name;
     // Default values and rules are no reason to leave a table's rows where they are.
-    try {
-      properties_ = ReadProperties(file, entry.properties);
-    } catch (const Fault& fault) {
-      mapping_.warnings.push_back(
-          fmt::format("table {}: default values and rules cannot be read: {}", entry.name, fault.what()));
-    }
+    const auto fault = PassOverFaults([&] { properties_ = ReadProperties(file, entry.properties); });
+    if (!fault) return;
+    mapping_.warnings.push_back(
+        fmt::format("table {}: default values and rules cannot be read: {}", entry.name, fault->what()));
   }
 
   TableMapping Map() {

@@ -3,12 +3,13 @@
 
 namespace rbt {
 
-DivertedDeliveries::DivertedDeliveries(From from)
-    : from_(from), outer_(SetDiversion([this](DeviceKind kind, const PrintedDocument& document) {
-        return Keep(kind, document);
-      })) {}
+DivertedDeliveries::DivertedDeliveries(PrinterList& printers, From from)
+    : printers_(printers),
+      from_(from),
+      outer_(printers.Divert(
+          [this](DeviceKind kind, const PrintedDocument& document) { return Keep(kind, document); })) {}
 
-DivertedDeliveries::~DivertedDeliveries() { SetDiversion(std::move(outer_)); }
+DivertedDeliveries::~DivertedDeliveries() { printers_.Divert(std::move(outer_)); }
 
 bool DivertedDeliveries::Keep(DeviceKind kind, const PrintedDocument& document) {
   if (from_ == From::pdf_device && kind != DeviceKind::pdf) return outer_ && outer_(kind, document);

@@ -5,17 +5,17 @@
 #include <vector>
 
 #include "platform/print/printed_document.h"
-#include "platform/print/printer_surface.h"
+#include "platform/print/printer_list.h"
 
 namespace rbt {
 
-/// Keeps what printers would deliver, as long as it lives: of all of them, also of those that are found only
-/// meanwhile, or of the PDF device alone. Inside another one it goes first.
+/// Keeps what the printers of a list would deliver, as long as it lives: of all of them, also of those that
+/// are found only meanwhile, or of the PDF device alone. Inside another one it goes first.
 class DivertedDeliveries {
  public:
   enum class From { pdf_device, every_device };
 
-  explicit DivertedDeliveries(From from);
+  DivertedDeliveries(PrinterList& printers, From from);
   DivertedDeliveries(const DivertedDeliveries&) = delete;
   DivertedDeliveries& operator=(const DivertedDeliveries&) = delete;
   ~DivertedDeliveries();
@@ -26,6 +26,7 @@ class DivertedDeliveries {
  private:
   bool Keep(DeviceKind kind, const PrintedDocument& document);
 
+  PrinterList& printers_;
   From from_;
   std::vector<PrintedDocument> documents_;
   Diversion outer_;

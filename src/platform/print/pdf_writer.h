@@ -14,10 +14,4 @@ namespace rbt {
 using PdfWriter =
     std::function<void(std::span<const PrintedDocument> documents, const std::filesystem::path& file)>;
 
-/// What `WritePdf` calls: the desktop library paints, the core only knows that it can be done.
-void SetPdfWriter(PdfWriter writer);
-bool CanWritePdf();
-/// Throws `file` where nothing can paint.
-void WritePdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file);
-
 }  // namespace rbt

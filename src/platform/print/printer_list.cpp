@@ -2,6 +2,7 @@
 #include "platform/print/printer_list.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -12,28 +13,18 @@ namespace rbt {
 
 namespace {
 
-PrinterList WithoutDestination() {
-  std::list<PrinterSurface> printers;
-  printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf, [](const PrintedDocument&) {
-    throw Fault(FaultKind::file, "no printer is set up: the document has nowhere to go");
-  });
-  return PrinterList(std::move(printers));
-}
-
-PrinterSource& Source() {
-  static PrinterSource source;
-  return source;
-}
-
 bool IsSameDevice(const PrinterSurface& a, const PrinterSurface& b) {
   return a.Kind() == b.Kind() && a.DeviceName() == b.DeviceName();
 }
 
 }  // namespace
 
-PrinterList::PrinterList(std::list<PrinterSurface> printers)
-    : printers_(std::move(printers)), current_(printers_.begin()) {
+PrinterList::PrinterList(std::list<PrinterSurface> printers) : printers_(std::move(printers)) {
   if (printers_.empty()) throw std::invalid_argument("a list of no printers");
+}
+
+PrinterSurface& PrinterList::Current() {
+  return *std::next(printers_.begin(), static_cast<std::ptrdiff_t>(current_));
 }
 
 bool PrinterList::MakeCurrent(std::string_view device_name) {
@@ -41,13 +32,13 @@ bool PrinterList::MakeCurrent(std::string_view device_name) {
     return printer.DeviceName() == device_name;
   });
   if (found == printers_.end()) return false;
-  current_ = found;
+  current_ = static_cast<std::size_t>(std::distance(printers_.begin(), found));
   return true;
 }
 
 void PrinterList::Update(PrinterList now) {
-  const bool for_want_of_any = printers_.size() == 1 && current_->Kind() == DeviceKind::pdf;
-  const PrinterSurface* const current = for_want_of_any ? nullptr : &*current_;
+  const bool for_want_of_any = printers_.size() == 1 && Current().Kind() == DeviceKind::pdf;
+  const PrinterSurface* const current = for_want_of_any ? nullptr : &Current();
   std::list<PrinterSurface> updated;
   while (!now.printers_.empty()) {
     const auto staying = std::find_if(printers_.begin(), printers_.end(), [&](const PrinterSurface& printer) {
@@ -55,6 +46,7 @@ void PrinterList::Update(PrinterList now) {
     });
     if (staying == printers_.end()) {
       updated.splice(updated.end(), now.printers_, now.printers_.begin());
+      updated.back().Divert(diversion_);
     } else {
       updated.splice(updated.end(), printers_, staying);
       now.printers_.pop_front();
@@ -62,21 +54,27 @@ void PrinterList::Update(PrinterList now) {
   }
   const auto still_there = std::find_if(updated.begin(), updated.end(),
                                         [&](const PrinterSurface& printer) { return &printer == current; });
-  current_ = still_there == updated.end() ? updated.begin() : still_there;
+  current_ = still_there == updated.end()
+                 ? 0
+                 : static_cast<std::size_t>(std::distance(updated.begin(), still_there));
   printers_ = std::move(updated);
 }
 
-PrinterList& Printers() {
-  static PrinterList printers = WithoutDestination();
-  return printers;
+Diversion PrinterList::Divert(Diversion diversion) {
+  for (PrinterSurface& printer : printers_) printer.Divert(diversion);
+  return std::exchange(diversion_, std::move(diversion));
 }
 
-PrinterList SetPrinters(PrinterList printers) { return std::exchange(Printers(), std::move(printers)); }
+PrinterList PdfDeviceAlone(PrinterSurface::Delivery deliver) {
+  std::list<PrinterSurface> printers;
+  printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf, std::move(deliver));
+  return PrinterList(std::move(printers));
+}
 
-void SetPrinterSource(PrinterSource source) { Source() = std::move(source); }
-
-void RefreshPrinters() {
-  if (Source()) Printers().Update(Source()());
+PrinterList PdfDeviceWithoutDestination() {
+  return PdfDeviceAlone([](const PrintedDocument&) {
+    throw Fault(FaultKind::file, "no printer is set up: the document has nowhere to go");
+  });
 }
 
 }  // namespace rbt

@@ -11,11 +11,6 @@ namespace {
 
 constexpr float kTwipsPerPoint = 20.0F;
 
-Diversion& DiversionInPlace() {
-  static Diversion diversion;
-  return diversion;
-}
-
 }  // namespace
 
 float LineHeight(float font_size) { return font_size * kTwipsPerPoint; }
@@ -57,8 +52,7 @@ void PrinterSurface::EndDoc() {
   finished.title = DocumentTitle;
   KillDoc();
   if (finished.pages.empty()) return;
-  const Diversion& diversion = DiversionInPlace();
-  if (diversion && diversion(kind_, finished)) return;
+  if (diversion_ && diversion_(kind_, finished)) return;
   deliver_(finished);
 }
 
@@ -79,10 +73,6 @@ PrintedPage& PrinterSurface::Page() {
   if (at_new_page_) document_.pages.emplace_back();
   at_new_page_ = false;
   return document_.pages.back();
-}
-
-Diversion SetDiversion(Diversion diversion) {
-  return std::exchange(DiversionInPlace(), std::move(diversion));
 }
 
 }  // namespace rbt

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/print/paper.h"
 #include "platform/print/printed_document.h"
@@ -24,6 +25,10 @@ inline constexpr double kTwipsPerDrawWidth = kTwipsPerInch / 360.0;
 /// Whether a device is a printer of the system or this program's own PDF device.
 enum class DeviceKind { installed_printer, pdf };
 inline constexpr std::string_view kPdfDeviceName = "PDF";
+
+/// Sees a finished document before its device delivers it; true when it has taken it, and the device does not
+/// get it.
+using Diversion = std::function<bool(DeviceKind from, const PrintedDocument& document)>;
 
 /// A printer as reports see it: a pen on a page. Coordinates are twips from the top left of the printable
 /// page, in single precision. What is drawn is kept until `EndDoc` delivers it as one finished document (to
@@ -72,6 +77,8 @@ class PrinterSurface {
   void EndDoc();
   /// Forgets what was drawn since the last `EndDoc`.
   void KillDoc();
+  /// Shows finished documents to `diversion` first; an empty one lets all pass.
+  void Divert(Diversion diversion) { diversion_ = std::move(diversion); }
 
  private:
   PrintedPage& Page();
@@ -79,14 +86,9 @@ class PrinterSurface {
   std::string device_name_;
   DeviceKind kind_;
   Delivery deliver_;
+  Diversion diversion_;
   PrintedDocument document_;
   bool at_new_page_ = true;
 };
-
-/// Sees every finished document before its device delivers it; true when it has taken it, and the device does
-/// not get it.
-using Diversion = std::function<bool(DeviceKind from, const PrintedDocument& document)>;
-/// An empty one lets all documents pass. Returns the one that was in place.
-Diversion SetDiversion(Diversion diversion);
 
 }  // namespace rbt

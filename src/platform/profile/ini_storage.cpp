@@ -5,10 +5,12 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+#include "platform/files/file_descriptor.h"
+#include "platform/files/file_lock.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/profile/ini_text.h"
-#include "platform/system/file_descriptor.h"
-#include "platform/system/paths.h"
-#include "platform/system/system_error.h"
 
 namespace rbt {
 
@@ -25,13 +27,10 @@ class FolderLock {
   explicit FolderLock(const fs::path& folder)
       : descriptor_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (!descriptor_.IsOpen()) throw FileFault(folder, "cannot be opened");
-    int result = 0;
-    do {
-      result = ::flock(descriptor_.Number(), LOCK_EX);
-    } while (result != 0 && errno == EINTR);
+    if (Lock(descriptor_, LOCK_EX)) return;
     // A file system without locks leaves the change unguarded against a second writer, not against a kill.
     const bool without_locks = errno == ENOLCK || errno == EINVAL || errno == EOPNOTSUPP || errno == EBADF;
-    if (result != 0 && !without_locks) throw FileFault(folder, "cannot be locked");
+    if (!without_locks) throw FileFault(folder, "cannot be locked");
   }
 
  private:
@@ -54,7 +53,7 @@ std::optional<std::string> ReadIniBytes(const fs::path& file) {
 
 void UpdateIniFile(const fs::path& file, IniEncoding encoding, std::string_view section, std::string_view key,
                    std::optional<std::string_view> value) {
-  const FolderLock lock(file.has_parent_path() ? file.parent_path() : fs::path("."));
+  const FolderLock lock(FolderOf(file));
   const std::optional<std::string> old = ReadIniBytes(file);
   IniText text(old.value_or(""), encoding);
   if (value) {

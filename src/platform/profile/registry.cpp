@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
+#include "platform/files/system_error.h"
 #include "platform/profile/ini_text.h"
 #include "platform/system/paths.h"
-#include "platform/system/system_error.h"
 #include "platform/text/characters.h"
 
 namespace rbt {

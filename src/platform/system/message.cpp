@@ -3,16 +3,13 @@
 
 #include <algorithm>
 #include <iostream>
-#include <utility>
+#include <string>
+
+#include "platform/system/services.h"
 
 namespace rbt {
 
 namespace {
-
-MessageHandler& Handler() {
-  static MessageHandler handler;
-  return handler;
-}
 
 MessageAnswer DefaultAnswer(MessageButtons buttons) {
   const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
@@ -32,13 +29,12 @@ void WriteOneLine(std::string_view text, std::string_view title) {
 }  // namespace
 
 MessageAnswer MsgBox(std::string_view text, std::string_view title, MessageButtons buttons) {
-  if (Handler()) return Handler()(text, title, buttons);
-  WriteOneLine(text, title);
-  return DefaultAnswer(buttons);
+  return Services.Messages(text, title, buttons);
 }
 
-MessageHandler SetMessageHandler(MessageHandler handler) {
-  return std::exchange(Handler(), std::move(handler));
+MessageAnswer TellOnStandardError(std::string_view text, std::string_view title, MessageButtons buttons) {
+  WriteOneLine(text, title);
+  return DefaultAnswer(buttons);
 }
 
 }  // namespace rbt

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "platform/fault.h"
-#include "platform/system/system_error.h"
+#include "platform/files/system_error.h"
+#include "platform/system/services.h"
 
 namespace rbt {
 
@@ -21,21 +22,6 @@ fs::path Absolute(fs::path path) {
   if (path.empty()) return path;
   path = fs::absolute(path).lexically_normal();
   return path.has_filename() ? path : path.parent_path();
-}
-
-fs::path EnvironmentPath(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? fs::path() : fs::path(value);
-}
-
-fs::path& RootSlot() {
-  static fs::path root = Absolute(EnvironmentPath("RBK_ROOT"));
-  return root;
-}
-
-std::optional<fs::path>& FamilyDirectorySlot() {
-  static std::optional<fs::path> directory;
-  return directory;
 }
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -91,22 +77,22 @@ fs::path Entry(const fs::path& folder, std::string_view component) {
 
 }  // namespace
 
-const fs::path& Root() { return RootSlot(); }
+fs::path Root() { return Absolute(Services.Root); }
 
-void SetRoot(fs::path root) {
-  RootSlot() = Absolute(std::move(root));
-  FamilyDirectorySlot().reset();
+fs::path RootOfEnvironment() {
+  const char* root = std::getenv("RBK_ROOT");
+  return root == nullptr ? fs::path() : fs::path(root);
 }
 
 fs::path MapPath(std::string_view family_path) {
-  if (Root().empty()) {
+  fs::path mapped = Root();
+  if (mapped.empty()) {
     throw Fault(FaultKind::file, std::string(family_path) + ": no root folder is set (RBK_ROOT, --root)");
   }
   if (family_path.find('\0') != std::string_view::npos) {
     throw Fault(FaultKind::file, std::string(family_path.substr(0, family_path.find('\0'))) +
                                      ": a path cannot hold a NUL character");
   }
-  fs::path mapped = Root();
   for (const std::string_view component : Normalised(family_path)) mapped = Entry(mapped, component);
   return mapped;
 }
@@ -122,9 +108,9 @@ void ChangeFamilyDirectory(std::string_view family_path) {
   if (!fs::is_directory(directory, error)) {
     throw FileFault(directory, "cannot become the working directory", error ? error.value() : ENOENT);
   }
-  FamilyDirectorySlot() = std::move(directory);
+  Services.FamilyDirectory = std::move(directory);
 }
 
-const std::optional<fs::path>& FamilyDirectory() { return FamilyDirectorySlot(); }
+const std::optional<fs::path>& FamilyDirectory() { return Services.FamilyDirectory; }
 
 }  // namespace rbt

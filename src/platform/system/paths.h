@@ -8,11 +8,10 @@
 
 namespace rbt {
 
-/// The folder that `\RBK\` stands for, as an absolute path. Starts as `$RBK_ROOT`, empty when that is not
-/// set.
-const std::filesystem::path& Root();
-/// Forgets the family directory, which lay below the old root.
-void SetRoot(std::filesystem::path root);
+/// The folder that `\RBK\` stands for, as an absolute path; empty when nobody has named one.
+std::filesystem::path Root();
+/// `$RBK_ROOT`, empty when that is not set.
+std::filesystem::path RootOfEnvironment();
 
 /// A path of the family, `\RBK\DATA\STEEL.INI` or `C:\rbk\kakou\x.exe`, as a path on this machine: the drive
 /// letter is dropped, the first component `\RBK` is the root itself, and every component is matched without
@@ -36,13 +35,5 @@ std::filesystem::path DocumentsFolder();
 /// Where the user's settings stand: `$RBK_SETTINGS`, or else `rbtally/settings.ini` in `$XDG_CONFIG_HOME`
 /// (`~/.config` when that is not set).
 std::filesystem::path SettingsFile();
-
-/// Writes the whole file by way of a temporary one in the same folder, synced, then renamed over it: a kill
-/// at any moment leaves the old or the new file, and so does a full disk. An existing file keeps its
-/// permissions; a symbolic link stays and its target is replaced. Throws `file` with the path and the
-/// system's cause.
-void WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes);
-/// The bytes of a file; throws `file`.
-std::string ReadFileBytes(const std::filesystem::path& file);
 
 }  // namespace rbt

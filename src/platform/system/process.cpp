@@ -9,11 +9,11 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-#include <utility>
 #include <vector>
 
+#include "platform/files/system_error.h"
 #include "platform/system/paths.h"
-#include "platform/system/system_error.h"
+#include "platform/system/services.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration): POSIX leaves it to the program
 
@@ -22,16 +22,6 @@ namespace rbt {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::function<void()>& PendingEventsHook() {
-  static std::function<void()> hook;
-  return hook;
-}
-
-Launcher& TestLauncher() {
-  static Launcher launcher;
-  return launcher;
-}
 
 std::vector<std::string> SplitAtBlanks(std::string_view text) {
   std::vector<std::string> words;
@@ -120,32 +110,26 @@ bool HasEnded(pid_t child, int options) {
 }  // namespace
 
 void RunAndWait(std::string_view command_line, WindowStyle style) {
-  if (TestLauncher()) {
-    TestLauncher()(command_line, style, false);
-  } else {
-    HasEnded(Start(command_line), 0);
-  }
+  Services.Launch(command_line, style, false);
   RunPendingEvents();
 }
 
 void RunAndWaitPoll(std::string_view command_line, WindowStyle style) {
-  if (TestLauncher()) {
-    TestLauncher()(command_line, style, true);
+  Services.Launch(command_line, style, true);
+}
+
+void LaunchProgram(std::string_view command_line, WindowStyle /*style*/, bool polling) {
+  const pid_t child = Start(command_line);
+  if (!polling) {
+    HasEnded(child, 0);
     return;
   }
-  const pid_t child = Start(command_line);
   while (!HasEnded(child, WNOHANG)) {
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     RunPendingEvents();
   }
 }
 
-void RunPendingEvents() {
-  if (PendingEventsHook()) PendingEventsHook()();
-}
-
-void SetPendingEventsHook(std::function<void()> hook) { PendingEventsHook() = std::move(hook); }
-
-void SetLauncher(Launcher launcher) { TestLauncher() = std::move(launcher); }
+void RunPendingEvents() { Services.PendingEvents(); }
 
 }  // namespace rbt

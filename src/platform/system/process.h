@@ -16,13 +16,12 @@ void RunAndWait(std::string_view command_line, WindowStyle style);
 /// The same, with pending events run about every millisecond, so that the window stays painted.
 void RunAndWaitPoll(std::string_view command_line, WindowStyle style);
 
-/// Lets pending events of the window run; does nothing until the desktop sets its hook.
+/// Lets pending events of the windows run, if there are any.
 void RunPendingEvents();
-void SetPendingEventsHook(std::function<void()> hook);
 
-/// What tests put in place of starting programs; empty restores the system's own start. The second argument
-/// is true for the polling form.
+/// What starts a sibling and returns when it has ended, `polling` with pending events run meanwhile: the
+/// system's own start, or a test's note.
 using Launcher = std::function<void(std::string_view command_line, WindowStyle style, bool polling)>;
-void SetLauncher(Launcher launcher);
+void LaunchProgram(std::string_view command_line, WindowStyle style, bool polling);
 
 }  // namespace rbt

@@ -1,59 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text/cp932.h"
 
-#include <array>
-#include <cerrno>
 #include <cstdint>
-#include <iconv.h>
 
 #include <fmt/format.h>
 
 #include "platform/fault.h"
 #include "platform/text/characters.h"
+#include "platform/text/code_page.h"
 
 namespace rbt {
 
 namespace {
 
-/// A conversion that is opened once for each thread; between calls it has no state, as both sides have none.
-class Converter {
- public:
-  Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {
-    if (reinterpret_cast<std::intptr_t>(handle_) == -1) {
-      throw Fault(FaultKind::file, "code page 932 is not known on this machine");
-    }
-  }
-  Converter(const Converter&) = delete;
-  Converter& operator=(const Converter&) = delete;
-  ~Converter() { iconv_close(handle_); }
+using Direction = CodePageConverter::Direction;
+constexpr std::uint16_t kCodePage = 932;
 
-  /// Appends what converts and returns the number of input bytes taken; less than all when a character does
-  /// not.
-  std::size_t Convert(std::string_view input, std::string& output) {
-    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-    char* from = const_cast<char*>(input.data());  // iconv only reads there
-    std::size_t left = input.size();
-    std::array<char, 1024> buffer{};
-    for (bool full = true; full;) {
-      char* to = buffer.data();
-      std::size_t room = buffer.size();
-      full = iconv(handle_, &from, &left, &to, &room) == static_cast<std::size_t>(-1) && errno == E2BIG;
-      output.append(buffer.data(), to);
-    }
-    return input.size() - left;
-  }
-
- private:
-  iconv_t handle_;
-};
-
-Converter& Encoder() {
-  thread_local Converter converter("CP932", "UTF-8");
+/// Opened once for each thread; between calls they have no state, as both sides have none.
+CodePageConverter& Encoder() {
+  thread_local CodePageConverter converter(kCodePage, Direction::from_utf8);
   return converter;
 }
 
-Converter& Decoder() {
-  thread_local Converter converter("UTF-8", "CP932");
+CodePageConverter& Decoder() {
+  thread_local CodePageConverter converter(kCodePage, Direction::to_utf8);
   return converter;
 }
 

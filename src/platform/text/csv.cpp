@@ -10,4 +10,11 @@ std::string CsvCell(std::string_view text) {
   return '"' + ReplaceAll(text, "\"", "\"\"") + '"';
 }
 
+CsvRecord& CsvRecord::AddWritten(std::string_view cell) {
+  if (!empty_) text_ += ',';
+  text_ += cell;
+  empty_ = false;
+  return *this;
+}
+
 }  // namespace rbt

@@ -12,4 +12,19 @@ inline constexpr std::string_view kCsvRecordEnd = "\r\n";
 /// or a line break, else as it is.
 std::string CsvCell(std::string_view text);
 
+/// One record, cell after cell.
+class CsvRecord {
+ public:
+  CsvRecord& Add(std::string_view text) { return AddWritten(CsvCell(text)); }
+  /// A cell that stands as it is to be read.
+  CsvRecord& AddWritten(std::string_view cell);
+
+  /// The record with its end.
+  std::string Text() const { return text_ + std::string(kCsvRecordEnd); }
+
+ private:
+  std::string text_;
+  bool empty_ = true;
+};
+
 }  // namespace rbt

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/system/clock.h"
+#include "platform/date_time.h"
 
 namespace rbt {
 

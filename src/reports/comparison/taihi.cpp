@@ -2,9 +2,9 @@
 #include "reports/comparison/taihi.h"
 
 #include "reports/comparison/comparison_report.h"
-#include "reports/ulbon/ulbon_sums.h"
 #include "shell/context/reference_names.h"
 #include "tally/selection.h"
+#include "tally/ulbon_totals.h"
 
 namespace rbt {
 

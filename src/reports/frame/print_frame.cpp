@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/frame/print_frame.h"
 
-#include "platform/print/printer_list.h"
+#include "platform/system/printing.h"
 #include "shell/config/settings.h"
 
 namespace rbt {

@@ -14,7 +14,7 @@
 #include "reports/frame/grid_head_parts.h"
 #include "reports/frame/page_flow.h"
 #include "reports/frame/paper_table.h"
-#include "reports/ulbon/ulbon_sums.h"
+#include "tally/ulbon_totals.h"
 
 namespace rbt {
 

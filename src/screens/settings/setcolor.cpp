@@ -5,9 +5,9 @@
 #include <string>
 
 #include "desktop/action.h"
-#include "desktop/colour.h"
 #include "desktop/form.h"
 #include "desktop/key_table.h"
+#include "platform/system/colour_choice.h"
 #include "shell/config/settings.h"
 #include "ui_setcolor.h"
 
@@ -48,7 +48,7 @@ void SETCOLOR::picRowColor_Click() { ChooseColour(*ui_->picRowColor); }
 void SETCOLOR::picForeColor_Click() { ChooseColour(*ui_->picForeColor); }
 
 void SETCOLOR::ChooseColour(ColourBox& box) {
-  if (const auto chosen = AskColour(*this, "色選択", box.Rgb())) box.SetRgb(*chosen);
+  if (const auto chosen = rbt::ChooseColour("色選択", box.Rgb())) box.SetRgb(*chosen);
 }
 
 void SETCOLOR::btnRejist_Click() {

@@ -10,7 +10,7 @@
 #include "desktop/action.h"
 #include "desktop/form.h"
 #include "desktop/key_table.h"
-#include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/text/cp932.h"
 #include "screens/settings/setcolor.h"
@@ -30,12 +30,7 @@ constexpr std::size_t kTitleBytes = 20;
 std::int32_t OneOrZero(bool on) { return on ? 1 : 0; }
 
 bool CodePageHolds(std::string_view text) {
-  try {
-    ToCp932(text);
-    return true;
-  } catch (const Fault&) {
-    return false;
-  }
+  return !PassOverFaults([&] { ToCp932(text); });
 }
 
 /// What the form may have changed, as it is stored now.

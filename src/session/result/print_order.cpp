@@ -2,6 +2,7 @@
 #include "session/result/print_order.h"
 
 #include "platform/print/diverted_deliveries.h"
+#include "platform/system/printing.h"
 #include "reports/forms/print_buttons.h"
 #include "shell/context/run_state.h"
 
@@ -19,7 +20,7 @@ void Print(const PrintOrder& order) {
 /// The documents that are for the user's eyes.
 std::vector<PrintedDocument> PrintKeepingPreviews(const PrintOrder& order) {
   using From = DivertedDeliveries::From;
-  DivertedDeliveries diverted(order.preview ? From::every_device : From::pdf_device);
+  DivertedDeliveries diverted(Printers(), order.preview ? From::every_device : From::pdf_device);
   Print(order);
   return diverted.Take();
 }

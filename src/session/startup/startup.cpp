@@ -9,13 +9,13 @@
 #include "archive/check_jsyukei.h"
 #include "data/reference.h"
 #include "data/shapes.h"
-#include "platform/fault.h"
+#include "platform/files/system_error.h"
 #include "platform/numbers/number_words.h"
+#include "platform/pass_over_faults.h"
 #include "platform/profile/ini_file.h"
 #include "platform/system/clock.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
-#include "platform/system/system_error.h"
 #include "session/startup/offer_import.h"
 #include "session/startup/sibling_programs.h"
 #include "shell/calendar/new_era_function.h"
@@ -40,16 +40,6 @@ template <typename Action>
 void Step(Action action) {
   action();
   RunPendingEvents();
-}
-
-/// For reads of tables that older sites lack: their absence, in whatever form, counts as nothing.
-template <typename Read>
-void PassOverFaults(Read read) {
-  try {
-    read();
-  } catch (const Fault&) {
-    return;
-  }
 }
 
 void OfferSharedImports() {
@@ -79,7 +69,7 @@ void BindSite(const StartOptions& options) {
   OpenWorkDatabase();
 }
 
-/// The format of the site database, 0 when the file does not tell.
+/// The format of the site database, 0 when the file does not tell: older sites lack the table.
 double ReadSiteVersion() {
   double version = 0.0;
   PassOverFaults([&] {

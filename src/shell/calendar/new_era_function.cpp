@@ -8,6 +8,7 @@
 
 #include "platform/fault.h"
 #include "platform/numbers/number_mask.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 
 namespace rbt {
@@ -56,12 +57,9 @@ bool PlatformKnows(const DateTime& date, KnownEras eras) {
 /// Nothing for a date that the platform refuses: such an error is passed over.
 std::optional<std::string> FormattedUnlessRefused(const DateTime& date, std::string_view format,
                                                   KnownEras eras) {
-  try {
-    return PlatformFormat(date, format, eras);
-  } catch (const Fault& fault) {
-    if (fault.Kind() != FaultKind::type_mismatch) throw;
-    return std::nullopt;
-  }
+  std::optional<std::string> formatted;
+  PassOverFaults(FaultKind::type_mismatch, [&] { formatted = PlatformFormat(date, format, eras); });
+  return formatted;
 }
 
 std::string FormatOnOldPlatform(const DateTime& date, std::string_view format, KnownEras eras) {

@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
 
@@ -24,13 +26,13 @@ struct Answer {
 /// Asks one statement. Its failure is an outcome, not a fault: without a readable table the stock lengths are
 /// worked out instead.
 Answer AskPassingOverErrors(Database& database, const std::string& statement) {
-  try {
+  Answer answer{Outcome::failed, 0};
+  PassOverFaults([&] {
     Recordset rows = database.OpenSnapshot(statement);
-    if (rows.Eof()) return {Outcome::no_row, 0};
-    return {Outcome::found, rows.Int32(rows.Field("定尺")).value_or(0)};
-  } catch (const Fault&) {
-    return {Outcome::failed, 0};
-  }
+    answer = rows.Eof() ? Answer{Outcome::no_row, 0}
+                        : Answer{Outcome::found, rows.Int32(rows.Field("定尺")).value_or(0)};
+  });
+  return answer;
 }
 
 }  // namespace

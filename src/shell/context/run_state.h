@@ -7,7 +7,7 @@
 namespace rbt {
 
 /// What is held for the run beside the selection: presence flags, the accumulation, the report body, date and
-/// time of the load.
+/// time of the load, the actions that run.
 struct RunStateData {
   bool HasAnchorPlateRows = false;  ///< the site, or the last tally's rows, hold an anchor-plate shape
   bool HasHoopRows = false;         ///< ... hold shape 87
@@ -18,6 +18,7 @@ struct RunStateData {
   std::int32_t ReportBody = 1;      ///< 1 totals with Ulbon, 0 deformed only
   std::string RunDate;              ///< "yyyymmdd" at load
   std::string RunTime;              ///< "hhnnss" at load
+  std::int32_t RunningActions = 0;  ///< of forms, also while they wait in a message box or for a sibling
 };
 
 extern RunStateData RunState;

@@ -11,12 +11,13 @@
 
 #include "data/table_layouts.h"
 #include "jet/import/import_file.h"
-#include "jet/import/work_place.h"
 #include "jet/jet_file.h"
+#include "platform/failure_log.h"
 #include "platform/fault.h"
-#include "platform/system/file_sync.h"
-#include "platform/system/paths.h"
-#include "platform/system/system_error.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 #include "store/database.h"
 
@@ -88,47 +89,16 @@ class RootInWork {
   RootInWork(const RootInWork&) = delete;
   RootInWork& operator=(const RootInWork&) = delete;
   ~RootInWork() {
-    std::error_code not_empty;
-    if (made_) fs::remove(path_, not_empty);
+    std::error_code error;
+    if (made_) fs::remove(path_, error);
+    if (error && error != std::errc::directory_not_empty) {
+      LogFailure(FileFault(path_, "cannot be removed", error.value()).what());
+    }
   }
 
  private:
   fs::path path_;
   bool made_;
-};
-
-/// A folder beside the one it is to become; it goes with the object unless it was put in place.
-class FolderInWork {
- public:
-  explicit FolderInWork(const fs::path& root) : root_(root), place_(root), path_(place_.NewName()) {
-    std::error_code error;
-    fs::create_directory(path_, error);
-    if (error) throw FileFault(path_, "cannot be made", error.value());
-  }
-  FolderInWork(const FolderInWork&) = delete;
-  FolderInWork& operator=(const FolderInWork&) = delete;
-  ~FolderInWork() {
-    std::error_code error;
-    if (!path_.empty()) fs::remove_all(path_, error);
-  }
-
-  fs::path operator/(std::string_view name) const { return path_ / name; }
-  const fs::path& Path() const { return path_; }
-
-  /// An empty folder may stand there already.
-  void PutInPlace(const fs::path& target) {
-    std::error_code error;
-    SyncFolder(path_);
-    fs::rename(path_, target, error);
-    if (error) throw FileFault(target, "cannot be put in place", error.value());
-    path_.clear();
-    SyncFolder(FolderOf(target));
-  }
-
- private:
-  RootInWork root_;
-  jet::WorkPlace place_;
-  fs::path path_;
 };
 
 /// File names are the same without regard to the case of ASCII letters; full-width letters are themselves.
@@ -177,7 +147,7 @@ fs::path FreeDataFolderOf(const fs::path& root) {
   std::error_code error;
   if (!fs::exists(fs::symlink_status(folder))) return folder;
   if (!fs::is_directory(folder, error) || !fs::is_empty(folder, error)) {
-    throw FileFaultText(folder, "is there already and is not overwritten");
+    throw FileFaultText(folder, kIsThereAlready);
   }
   return folder;
 }
@@ -185,7 +155,12 @@ fs::path FreeDataFolderOf(const fs::path& root) {
 class FolderImport {
  public:
   FolderImport(const fs::path& data_folder, const fs::path& root)
-      : source_(data_folder), target_(FreeDataFolderOf(root)), files_(FilesOf(data_folder)), work_(root) {}
+      : source_(data_folder),
+        target_(FreeDataFolderOf(root)),
+        files_(FilesOf(data_folder)),
+        root_(root),
+        place_(root),
+        work_(place_) {}
 
   FolderReport Run() {
     const std::string in_work = work_.Path().string();
@@ -327,6 +302,8 @@ class FolderImport {
   fs::path source_;
   fs::path target_;
   FilesByName files_;
+  RootInWork root_;
+  WorkPlace place_;
   FolderInWork work_;
   FolderReport report_;
 };

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/dialect/assignment.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 
 #include <fmt/format.h>
 
@@ -12,34 +10,10 @@
 namespace rbt::dialect {
 namespace {
 
-struct WholeRange {
-  FieldType type;
-  std::int64_t low;
-  std::int64_t high;
-};
-/// A BOOLEAN is here as a source: -1 or 0.
-constexpr WholeRange kWholeRanges[] = {
-    {FieldType::boolean, -1, 0},
-    {FieldType::byte, 0, 255},
-    {FieldType::integer16, std::numeric_limits<std::int16_t>::min(),
-     std::numeric_limits<std::int16_t>::max()},
-    {FieldType::integer32, std::numeric_limits<std::int32_t>::min(),
-     std::numeric_limits<std::int32_t>::max()},
-};
-constexpr std::int64_t kLargestCurrency = 900'000'000'000;
-
-const WholeRange* RangeOf(FieldType type) {
-  const auto* const range =
-      std::ranges::find_if(kWholeRanges, [&](const WholeRange& candidate) { return candidate.type == type; });
-  return range == std::end(kWholeRanges) ? nullptr : range;
-}
-
 /// The smallest range that surely holds the value; null when nothing is known.
 std::optional<WholeRange> KnownRange(const WrittenValue& value) {
-  if (value.whole) return WholeRange{FieldType::integer32, *value.whole, *value.whole};
-  if (value.field == nullptr) return std::nullopt;
-  const WholeRange* const range = RangeOf(value.field->type);
-  return range == nullptr ? std::nullopt : std::optional(*range);
+  if (value.whole) return WholeRange{*value.whole, *value.whole};
+  return value.field == nullptr ? std::nullopt : WholeRangeOf(value.field->type);
 }
 
 bool Within(const std::optional<WholeRange>& range, std::int64_t low, std::int64_t high) {
@@ -56,7 +30,7 @@ bool Fits(const WrittenValue& value, const FieldDef& target) {
     case FieldType::byte:
     case FieldType::integer16:
     case FieldType::integer32: {
-      const WholeRange& range = *RangeOf(target.type);
+      const WholeRange range = *WholeRangeOf(target.type);
       return Within(KnownRange(value), range.low, range.high);
     }
     case FieldType::currency:
@@ -84,7 +58,7 @@ std::optional<std::string> Conversion(const WrittenValue& value, const FieldDef&
     case FieldType::byte:
     case FieldType::integer16:
     case FieldType::integer32: {
-      const WholeRange& range = *RangeOf(target.type);
+      const WholeRange range = *WholeRangeOf(target.type);
       return fmt::format("jet_to_whole({}, {}, {}, {})", value.sql, range.low, range.high, name);
     }
     case FieldType::currency:

@@ -16,6 +16,13 @@ std::string Quote(std::string_view text, char quote) {
 }  // namespace
 
 std::string QuoteName(std::string_view name) { return Quote(name, '"'); }
+
+std::string QuoteNames(std::span<const std::string> names) {
+  std::string list;
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + QuoteName(name);
+  return list;
+}
+
 std::string QuoteText(std::string_view text) { return Quote(text, '\''); }
 
 }  // namespace rbt::dialect

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 #include <fmt/format.h>
 
@@ -105,11 +106,35 @@ bool ApplyExtent(const TypeWord& word, const std::vector<int>& numbers, FieldDef
 
 }  // namespace
 
+std::optional<WholeRange> WholeRangeOf(FieldType type) {
+  using Short = std::numeric_limits<std::int16_t>;
+  using Long = std::numeric_limits<std::int32_t>;
+  switch (type) {
+    case FieldType::boolean:
+      return WholeRange{-1, 0};
+    case FieldType::byte:
+      return WholeRange{0, 255};
+    case FieldType::integer16:
+      return WholeRange{Short::min(), Short::max()};
+    case FieldType::integer32:
+      return WholeRange{Long::min(), Long::max()};
+    default:
+      return std::nullopt;
+  }
+}
+
 const FieldDef* TableDef::FindField(std::string_view field_name) const {
   const std::string wanted = FoldIdentifier(field_name);
   const auto found = std::ranges::find_if(
       fields, [&](const FieldDef& field) { return FoldIdentifier(field.name) == wanted; });
   return found == fields.end() ? nullptr : &*found;
+}
+
+std::vector<std::string> TableDef::FieldNames() const {
+  std::vector<std::string> names;
+  names.reserve(fields.size());
+  for (const FieldDef& field : fields) names.push_back(field.name);
+  return names;
 }
 
 std::string DeclaredType(const FieldDef& field) {

@@ -27,6 +27,16 @@ enum class FieldType {
   ole,        ///< OLE_BLOB
 };
 
+/// The whole numbers that a type holds.
+struct WholeRange {
+  std::int64_t low;
+  std::int64_t high;
+};
+/// Nothing for a type that is not of whole numbers; a BOOLEAN holds -1 and 0.
+std::optional<WholeRange> WholeRangeOf(FieldType type);
+/// A CURRENCY is at most this, up or down.
+inline constexpr std::int64_t kLargestCurrency = 900'000'000'000;
+
 struct FieldDef {
   std::string name;
   FieldType type = FieldType::integer32;
@@ -58,6 +68,7 @@ struct TableDef {
 
   /// Finds by name, letter case and the width of ASCII letters and digits ignored; null when there is none.
   const FieldDef* FindField(std::string_view field_name) const;
+  std::vector<std::string> FieldNames() const;
 };
 
 /// The declared type of a column, as it stands in CREATE TABLE: "TEXT(50)", "CURRENCY", ...

@@ -27,14 +27,9 @@ bool CountsWelds(const BarGroup& group, bool count_hoop_welds) {
   return count_hoop_welds || group.shape != kWeldedHoopShape;
 }
 
-/// Runs one step of a fold; a fault of it names the group.
-template <typename Step>
-void AtPlaceOf(const BarGroup& group, Step step) {
-  try {
-    step();
-  } catch (const Fault& fault) {
-    throw Fault(fault.Kind(), PlaceOf(group) + ": " + fault.Where());
-  }
+/// For faults of a step of a fold: they name the group.
+auto PlaceIn(const BarGroup& group) {
+  return [&group] { return PlaceOf(group); };
 }
 
 /// The statement gives the sum of ネジ数 another name than the one that is read for a thin bar: a gap that
@@ -59,7 +54,7 @@ void AddUlbonGroup(TallyTable& table, const BarGroup& group, bool count_hoop_wel
 }  // namespace
 
 void FoldUlbonGroup(TallyTable& table, const BarGroup& group, bool count_hoop_welds) {
-  AtPlaceOf(group, [&] { AddUlbonGroup(table, group, count_hoop_welds); });
+  At(PlaceIn(group), [&] { AddUlbonGroup(table, group, count_hoop_welds); });
 }
 
 GroupFold::GroupFold(TallyTable& table, GroupRules rules) : table_(table), rules_(std::move(rules)) {}
@@ -69,14 +64,14 @@ void GroupFold::Add(const BarGroup& group) {
     held_ = group;
     held_->pieces = Currency();
   }
-  if (DiameterIndex(held_->diameter_code) < 0) AtPlaceOf(*held_, [&] { ThrowThinBar(*held_); });
+  if (DiameterIndex(held_->diameter_code) < 0) At(PlaceIn(*held_), [&] { ThrowThinBar(*held_); });
   if (HasSamePieces(group)) {
     held_->pieces += group.pieces;
   } else {
     Finish();
     held_ = group;
   }
-  AtPlaceOf(group, [&] { CountWeldsThreadsPlates(group); });
+  At(PlaceIn(group), [&] { CountWeldsThreadsPlates(group); });
 }
 
 bool GroupFold::HasSamePieces(const BarGroup& group) const {
@@ -107,7 +102,7 @@ void GroupFold::BuyStock() {
 
 void GroupFold::Finish() {
   if (!held_) return;
-  AtPlaceOf(*held_, [&] { BuyStock(); });
+  At(PlaceIn(*held_), [&] { BuyStock(); });
 }
 
 }  // namespace rbt

@@ -49,23 +49,22 @@ BarRow BarRowReader::Read(const Recordset& rows) const {
   BarRow row;
   row.page = number(kPage);
   row.line = number(kLine);
-  try {
-    row.part = number(kPart);
-    row.diameter_code = number(kDiameter);
-    row.weld_diameter_code = number(kWeldDiameter);
-    row.shape = number(kShape);
-    row.pieces = number(kPieces);
-    row.cut_length_mm = number(kCutLength);
-    row.stock_length_m = rows.Double(*fields_[kStockLength]);
-    row.stock_bars = number(kStockBars);
-    row.welds = number(kWelds);
-    row.threads = number(kThreads);
-    row.plates = number(kPlates);
-    row.cuts = number(kCuts);
-    row.kind = number(kKind);
-  } catch (const Fault& fault) {
-    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
-  }
+  At([&] { return PlaceOf(row); },
+     [&] {
+       row.part = number(kPart);
+       row.diameter_code = number(kDiameter);
+       row.weld_diameter_code = number(kWeldDiameter);
+       row.shape = number(kShape);
+       row.pieces = number(kPieces);
+       row.cut_length_mm = number(kCutLength);
+       row.stock_length_m = rows.Double(*fields_[kStockLength]);
+       row.stock_bars = number(kStockBars);
+       row.welds = number(kWelds);
+       row.threads = number(kThreads);
+       row.plates = number(kPlates);
+       row.cuts = number(kCuts);
+       row.kind = number(kKind);
+     });
   return row;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "data/shapes.h"
+#include "platform/system/accumulation.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "shell/config/settings.h"
@@ -18,12 +19,11 @@
 namespace rbt {
 namespace {
 
-AccumulationLoader accumulation_loader;
-
+/// Nothing, or the sums of the sites that were tallied before; `TallyGrid` itself stays empty until the end.
 TallyTable StartingTable() {
-  TallyTable table;
-  if (RunState.AccumulateFlag != 0 && accumulation_loader) accumulation_loader(table);
-  return table;
+  TallyGrid = TallyTable();
+  if (RunState.AccumulateFlag != 0) LoadAccumulation();
+  return std::exchange(TallyGrid, TallyTable());
 }
 
 void ProbePresence(Database& site, const SelectionData& selection) {
@@ -46,10 +46,7 @@ RowRules BulkRowRules(const SelectionData& selection) {
 
 }  // namespace
 
-void SetAccumulationLoader(AccumulationLoader loader) { accumulation_loader = std::move(loader); }
-
 void Jyuuryo_Syukei() {
-  TallyGrid = TallyTable();
   const RowRules rules = BulkRowRules(Selection);
   TallyTable table = StartingTable();
   Database& site = *SiteContext.WorkDatabase;

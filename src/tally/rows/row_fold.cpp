@@ -138,11 +138,7 @@ void FoldPlacedRow(TallyTable& table, const BarRow& row, const RowRules& rules) 
 }  // namespace
 
 void FoldRow(TallyTable& table, const BarRow& row, const RowRules& rules) {
-  try {
-    FoldPlacedRow(table, row, rules);
-  } catch (const Fault& fault) {
-    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
-  }
+  At([&] { return PlaceOf(row); }, [&] { FoldPlacedRow(table, row, rules); });
 }
 
 }  // namespace rbt

@@ -35,17 +35,6 @@ std::string WithoutThousandsSeparators(std::string_view cell) {
   return text;
 }
 
-template <typename Cells, typename CellText>
-void AppendRecord(std::string& csv, const Cells& cells, CellText cell_text) {
-  bool first = true;
-  for (const auto& cell : cells) {
-    if (!first) csv += ',';
-    csv += CsvCell(cell_text(cell));
-    first = false;
-  }
-  csv += kCsvRecordEnd;
-}
-
 }  // namespace
 
 std::string GridTable(const GridRows& rows) {
@@ -68,10 +57,13 @@ std::string GridTable(const GridRows& rows) {
 }
 
 std::string GridCsv(std::span<const std::string_view> captions, const GridRows& rows) {
-  std::string csv;
-  AppendRecord(csv, captions, [](std::string_view caption) { return std::string(caption); });
+  CsvRecord head;
+  for (const std::string_view caption : captions) head.Add(caption);
+  std::string csv = head.Text();
   for (const auto& row : rows) {
-    AppendRecord(csv, row, [](std::string_view cell) { return WithoutThousandsSeparators(Trim(cell)); });
+    CsvRecord record;
+    for (const std::string& cell : row) record.Add(WithoutThousandsSeparators(Trim(cell)));
+    csv += record.Text();
   }
   return csv;
 }

@@ -6,6 +6,7 @@
 #include "platform/numbers/number_words.h"
 #include "tally/captions.h"
 #include "tally/spirals.h"
+#include "tally/ulbon_totals.h"
 
 namespace rbt {
 namespace {
@@ -32,12 +33,6 @@ std::string TotalWeight(Number kilograms) {
   return FormatNumber(kilograms, "#,##0") + " kg";
 }
 
-double UlbonSum(const TallyTable& table, double percent) {
-  double sum = 0.0;
-  for (int d = kDeformedRows; d < kDiameterRows; ++d) sum += UpliftedUlbonWeight(table, d, percent);
-  return sum;
-}
-
 void AppendDeformedRows(GridRows& rows, const TallyTable& table, const GridView& view) {
   for (int d = 0; d < kDeformedRows; ++d) {
     const Currency stock = table.StockWeightByDia[d];
@@ -60,14 +55,12 @@ void AppendTotalRows(GridRows& rows, const TallyTable& table, const SelectionDat
 }
 
 void AppendUlbonRows(GridRows& rows, const TallyTable& table, double percent) {
-  std::int32_t welds = 0;
   for (int d = kDeformedRows; d < kDiameterRows; ++d) {
     rows.push_back({std::string(DiameterLabel(d)), "", Weight(UpliftedUlbonWeight(table, d, percent)), "",
                     Count(table.UlbonWeldCount[d]), ""});
-    welds = AddInt32(welds, table.UlbonWeldCount[d], "UlbonWeldCount");
   }
-  rows.push_back(
-      {std::string(kUlbonTotalLabel), "", TotalWeight(UlbonSum(table, percent)), "", Count(welds), ""});
+  rows.push_back({std::string(kUlbonTotalLabel), "", TotalWeight(UlbonWeightSum(table, percent)), "",
+                  Count(UlbonWeldSum(table)), ""});
 }
 
 /// One line for each material that has weight, the word スパイラル on the first alone.
@@ -85,11 +78,6 @@ void AppendSpiralRows(GridRows& rows, const TallyTable& table) {
 
 }  // namespace
 
-double UpliftedUlbonWeight(const TallyTable& table, int ulbon_row, double percent) {
-  const double weight = table.UlbonWeight[ulbon_row] + table.SpiralUlbonByDia[ulbon_row].ToDouble();
-  return Fix(weight + weight * percent / 100.0 + 0.5);
-}
-
 GridRows ShowTally(const TallyTable& table, const SelectionData& selection, const GridView& view) {
   GridRows rows;
   if (view.show_ulbon_only) {
@@ -101,7 +89,7 @@ GridRows ShowTally(const TallyTable& table, const SelectionData& selection, cons
   double grand_total = table.TotalInstalledWeight.ToDouble();
   if (selection.IncludeUlbon) {
     AppendUlbonRows(rows, table, view.percent);
-    grand_total += UlbonSum(table, view.percent);
+    grand_total += UlbonWeightSum(table, view.percent);
   }
   if (!table.SpiralKinds.IsNone() && !LeavesSpiralsOut(selection)) {
     AppendSpiralRows(rows, table);

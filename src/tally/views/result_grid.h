@@ -27,9 +27,6 @@ struct GridView {
   std::array<std::string, 12> grade_names = {};  ///< steel grade of D10 to D51 at this site
 };
 
-/// Weight of an Ulbon row (12..17), spirals included, raised by `percent`, in whole kilograms.
-double UpliftedUlbonWeight(const TallyTable& table, int ulbon_row, double percent);
-
 /// The rows of a result grid, texts as they stand in the cells. The selection decides the total row's label
 /// and whether Ulbon and spiral rows belong to it; the grand total is the sum of what the grid shows.
 GridRows ShowTally(const TallyTable& table, const SelectionData& selection, const GridView& view);

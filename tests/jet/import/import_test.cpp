@@ -15,7 +15,7 @@
 #include "jet/jet_file.h"
 #include "jet/lock_file.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "store/database.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"

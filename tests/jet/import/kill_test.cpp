@@ -2,19 +2,17 @@
 // Imports that are killed, or that the disk has no room for: the old state or the whole new one, and nothing
 // that stands in the way of the next.
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <stdexcept>
-#include <sys/resource.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "jet/import/import_file.h"
-#include "jet/import/swap_in.h"
 #include "jet/jet_file.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/files.h"
 #include "store/database.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"
@@ -137,7 +135,8 @@ TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderThe
 }
 
 TEST_F(StoppedImport, WhatAnotherImportHasInWorkIsLeftAlone) {
-  const FileInWork other(target_);
+  const WorkPlace place(folder_.Path());
+  FileInWork other(target_, place, ReadOnlyTarget::replaced);
   other.Write("half");
   ImportJetFile(source_, target_);
   EXPECT_EQ(ReadFileBytes(other.Path()), "half");
@@ -161,19 +160,8 @@ TEST_F(StoppedImport, AFileThatAnotherProgramChangesMeanwhileIsNotImported) {
   EXPECT_THAT(Names(), ElementsAre("old.mdb"));
 }
 
-/// Runs where no file may grow beyond a size.
-bool WithFilesOfAtMost(rlim_t bytes, const std::function<void()>& action) {
-  return test::InChild([&] {
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, bytes};
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-    action();
-    return !::testing::Test::HasFailure();
-  });
-}
-
 TEST_F(StoppedImport, WithoutRoomNamesTheTargetAndTheCauseAndLeavesNothing) {
-  EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
+  EXPECT_TRUE(test::WithFilesOfAtMost(8192, [&] {
     EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
                 AllOf(HasSubstr(target_.string()), HasSubstr("disk I/O error")));
   }));
@@ -181,7 +169,7 @@ TEST_F(StoppedImport, WithoutRoomNamesTheTargetAndTheCauseAndLeavesNothing) {
 }
 
 TEST_F(StoppedImport, WithoutRoomInPlaceChangesNothing) {
-  EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
+  EXPECT_TRUE(test::WithFilesOfAtMost(8192, [&] {
     EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
                 AllOf(HasSubstr(source_.string()), HasSubstr("disk I/O error")));
   }));
@@ -193,7 +181,7 @@ TEST_F(StoppedImport, WithoutRoomInPlaceChangesNothing) {
 TEST_F(StoppedImport, WithoutRoomInTheMidstOfTheRowsEndsTheImport) {
   const fs::path large = folder_ / "large.mdb";
   test::WriteJetFile(large, JetVersion::jet4, {Table("加工テーブル", 25000, 1800)});
-  EXPECT_TRUE(WithFilesOfAtMost(1 << 20, [&] {
+  EXPECT_TRUE(test::WithFilesOfAtMost(1 << 20, [&] {
     EXPECT_THAT(
         test::FaultTextOf([&] { ImportJetFile(large, target_); }),
         AllOf(HasSubstr(target_.string()), HasSubstr("File too large"), HasSubstr("a row of 加工テーブル")));

@@ -18,9 +18,6 @@ using From = DivertedDeliveries::From;
 /// A printer and the PDF device, which note what they are given.
 class DivertedDeliveriesTest : public ::testing::Test {
  protected:
-  DivertedDeliveriesTest() : before_(SetPrinters(TwoDevices())) {}
-  ~DivertedDeliveriesTest() override { SetPrinters(std::move(before_)); }
-
   PrinterList TwoDevices() {
     const auto note = [this](const PrintedDocument& document) { delivered_.push_back(document.device_name); };
     std::list<PrinterSurface> printers;
@@ -30,8 +27,8 @@ class DivertedDeliveriesTest : public ::testing::Test {
   }
 
   /// One document from each device.
-  static void PrintOnBoth() {
-    for (PrinterSurface& printer : Printers().Installed()) {
+  void PrintOnBoth() {
+    for (PrinterSurface& printer : printers_.Installed()) {
       printer.Print({"一"});
       printer.EndDoc();
     }
@@ -44,13 +41,13 @@ class DivertedDeliveriesTest : public ::testing::Test {
   }
 
   std::vector<std::string> delivered_;
-  PrinterList before_;
+  PrinterList printers_ = TwoDevices();
 };
 
 using Texts = std::vector<std::string>;
 
 TEST_F(DivertedDeliveriesTest, KeepTheDocumentsOfEveryDevice) {
-  DivertedDeliveries diverted(From::every_device);
+  DivertedDeliveries diverted(printers_, From::every_device);
   PrintOnBoth();
   EXPECT_EQ(delivered_, Texts{});
   const std::vector<PrintedDocument> kept = diverted.Take();
@@ -61,37 +58,31 @@ TEST_F(DivertedDeliveriesTest, KeepTheDocumentsOfEveryDevice) {
 }
 
 TEST_F(DivertedDeliveriesTest, CanLeaveInstalledPrintersAlone) {
-  DivertedDeliveries diverted(From::pdf_device);
+  DivertedDeliveries diverted(printers_, From::pdf_device);
   PrintOnBoth();
   EXPECT_EQ(delivered_, Texts{"甲"});
   EXPECT_EQ(Names(diverted.Take()), Texts{"PDF"});
 }
 
 TEST_F(DivertedDeliveriesTest, EndWithTheirScope) {
-  { const DivertedDeliveries diverted(From::every_device); }
+  { const DivertedDeliveries diverted(printers_, From::every_device); }
   PrintOnBoth();
   EXPECT_EQ(delivered_, (Texts{"甲", "PDF"}));
 }
 
 TEST_F(DivertedDeliveriesTest, KeepThoseOfAPrinterThatCameMeanwhile) {
-  SetPrinters(PrinterList([] {
-    std::list<PrinterSurface> printers;
-    printers.emplace_back("PDF", DeviceKind::pdf, [](const PrintedDocument&) {});
-    return printers;
-  }()));
-  SetPrinterSource([this] { return TwoDevices(); });
-  DivertedDeliveries diverted(From::every_device);
-  RefreshPrinters();
-  SetPrinterSource({});
+  printers_ = PdfDeviceAlone([](const PrintedDocument&) {});
+  DivertedDeliveries diverted(printers_, From::every_device);
+  printers_.Update(TwoDevices());
   PrintOnBoth();
   EXPECT_EQ(delivered_, Texts{});
   EXPECT_EQ(Names(diverted.Take()), (Texts{"甲", "PDF"}));
 }
 
 TEST_F(DivertedDeliveriesTest, OneInsideAnotherGivesBackWhatTheOtherSet) {
-  DivertedDeliveries outer(From::every_device);
+  DivertedDeliveries outer(printers_, From::every_device);
   {
-    DivertedDeliveries inner(From::pdf_device);
+    DivertedDeliveries inner(printers_, From::pdf_device);
     PrintOnBoth();
     EXPECT_EQ(Names(inner.Take()), Texts{"PDF"});
     EXPECT_EQ(delivered_, Texts{});

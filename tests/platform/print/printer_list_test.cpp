@@ -8,9 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fault.h"
-#include "platform/print/pdf_writer.h"
-
 namespace rbt {
 namespace {
 
@@ -89,52 +86,19 @@ TEST(PrinterList, ThePdfDeviceThatStoodAloneGivesWayToThePrinterThatCame) {
   EXPECT_EQ(printers.Current().DeviceName(), "甲");
 }
 
-TEST(PrinterList, ARefreshAsksTheSourceAndAStartDoesNot) {
-  PrinterList before = SetPrinters(ListOf({}));
-  int asked = 0;
-  SetPrinterSource([&] {
-    ++asked;
-    return ListOf({"甲"});
-  });
-  EXPECT_EQ(Printers().Current().DeviceName(), "PDF");
-  EXPECT_EQ(asked, 0);
-  RefreshPrinters();
-  EXPECT_EQ(Printers().Current().DeviceName(), "甲");
-  SetPrinterSource({});
-  RefreshPrinters();
-  EXPECT_EQ(asked, 1);
-  SetPrinters(std::move(before));
-}
-
 TEST(PrinterList, AListOfNoPrintersIsRefused) {
   EXPECT_THROW(PrinterList(std::list<PrinterSurface>{}), std::invalid_argument);
 }
 
-TEST(PrinterList, PutInForceItKeepsItsCurrentPrinter) {
+TEST(PrinterList, ACopyKeepsItsCurrentPrinter) {
   PrinterList printers(TwoPrinters());
   printers.MakeCurrent("乙");
-  PrinterList before = SetPrinters(std::move(printers));
-  EXPECT_EQ(Printers().Current().DeviceName(), "乙");
-  SetPrinters(std::move(before));
-  EXPECT_EQ(Printers().Current().DeviceName(), "PDF");
-}
-
-TEST(PrinterList, WithoutASetUpPrinterADocumentHasNowhereToGo) {
-  PrinterSurface& printer = Printers().Current();
-  EXPECT_EQ(printer.Kind(), DeviceKind::pdf);
-  printer.Print({"一"});
-  EXPECT_THROW(printer.EndDoc(), Fault);
-}
-
-TEST(PdfWriter, WithoutOneAFaultNamesTheFile) {
-  ASSERT_FALSE(CanWritePdf());
-  try {
-    WritePdf({}, "/tmp/a.pdf");
-    FAIL() << "no fault";
-  } catch (const Fault& fault) {
-    EXPECT_EQ(fault.Kind(), FaultKind::file);
-    EXPECT_NE(std::string(fault.what()).find("/tmp/a.pdf"), std::string::npos);
-  }
+  PrinterList copy = printers;
+  printers.MakeCurrent("甲");
+  EXPECT_EQ(copy.Current().DeviceName(), "乙");
+  copy.Current().PaperSize = kPaperA3;
+  EXPECT_TRUE(printers.MakeCurrent("乙"));
+  EXPECT_EQ(printers.Current().PaperSize, kPaperA4);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "platform/text/cp932.h"
 #include "support/temporary_folder.h"
 

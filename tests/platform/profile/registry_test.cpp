@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "support/environment_variable.h"
 #include "support/temporary_folder.h"
 

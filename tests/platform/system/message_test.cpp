@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/kept_services.h"
+
 namespace rbt {
 namespace {
 
@@ -19,15 +21,15 @@ TEST(MsgBox, WithoutATitleIsTheTextAlone) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "終わりました\n");
 }
 
-TEST(MsgBox, GoesToTheHandlerInPlace) {
+TEST(MsgBox, GoesToTheServiceInPlace) {
+  const test::KeptServices services;
   std::string seen;
-  auto old = SetMessageHandler([&](std::string_view text, std::string_view title, MessageButtons buttons) {
+  Services.Messages = [&](std::string_view text, std::string_view title, MessageButtons buttons) {
     seen = std::string(title) + "/" + std::string(text);
     return buttons == MessageButtons::yes_no ? MessageAnswer::no : MessageAnswer::cancel;
-  });
+  };
   EXPECT_EQ(MsgBox("a", "b", MessageButtons::yes_no), MessageAnswer::no);
   EXPECT_EQ(seen, "b/a");
-  EXPECT_TRUE(SetMessageHandler(std::move(old)) != nullptr);
 }
 
 }  // namespace

@@ -67,7 +67,7 @@ TEST(MapPath, FollowsParentsInsideTheRootAndRefusesToLeaveIt) {
 TEST(MapPath, RefusesANulAndAMissingRoot) {
   const RootFolder root;
   EXPECT_THROW(MapPath(std::string_view("\\rbk\\a\0b", 8)), Fault);
-  SetRoot({});
+  Services.Root.clear();
   EXPECT_THROW(MapPath("\\rbk\\data"), Fault);
 }
 
@@ -80,8 +80,17 @@ TEST(MapPath, TakesAComponentThatIsTooLongAsItStands) {
 
 TEST(Root, BecomesAbsolute) {
   const RootFolder root;
-  SetRoot("somewhere/");
+  Services.Root = "somewhere/";
   EXPECT_EQ(Root(), fs::current_path() / "somewhere");
+}
+
+TEST(Root, IsThatOfTheEnvironmentUnlessMainNamesAnother) {
+  const EnvironmentVariable variable("RBK_ROOT", "/srv/rbk");
+  const test::KeptServices services;
+  Services = ServicesData();
+  EXPECT_EQ(Root(), "/srv/rbk");
+  Services.Root = "/home/rbk";
+  EXPECT_EQ(Root(), "/home/rbk");
 }
 
 TEST(FamilyFileExists, IsTrueForFilesAlone) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/paths.h"
 #include "support/root_folder.h"
 
@@ -23,8 +24,6 @@ class Sibling : public testing::Test {
     fs::permissions(root.Put(name, "#!/bin/sh\n" + script), permissions);
   }
   std::string Written(const std::string& name) const { return ReadFileBytes(root / name); }
-
-  void TearDown() override { SetPendingEventsHook({}); }
 
   RootFolder root;
 };
@@ -57,7 +56,7 @@ TEST_F(Sibling, GetsRootAndSettingsInItsEnvironment) {
 TEST_F(Sibling, LetsPendingEventsRunOnceAfterABlockingWait) {
   Put("x.exe", "sleep 0.05");
   int events = 0;
-  SetPendingEventsHook([&] { ++events; });
+  Services.PendingEvents = [&] { ++events; };
   RunAndWait("\\rbk\\x.exe", WindowStyle::normal);
   EXPECT_EQ(events, 1);
 }
@@ -65,7 +64,7 @@ TEST_F(Sibling, LetsPendingEventsRunOnceAfterABlockingWait) {
 TEST_F(Sibling, LetsPendingEventsRunAgainAndAgainDuringAPollingWait) {
   Put("x.exe", "sleep 0.1; echo done > \"$RBK_ROOT/out\"");
   int events = 0;
-  SetPendingEventsHook([&] { ++events; });
+  Services.PendingEvents = [&] { ++events; };
   RunAndWaitPoll("\\rbk\\x.exe", WindowStyle::normal);
   EXPECT_GT(events, 5);
   EXPECT_EQ(Written("out"), "done\n");
@@ -105,13 +104,12 @@ TEST_F(Sibling, ThatIsNotExecutableOrAFolderIsNamed) {
 
 TEST_F(Sibling, GoesToATestsLauncherInstead) {
   std::string seen;
-  SetLauncher([&](std::string_view line, WindowStyle style, bool polling) {
+  Services.Launch = [&](std::string_view line, WindowStyle style, bool polling) {
     seen +=
         std::string(line) + "," + std::to_string(static_cast<int>(style)) + (polling ? ",poll;" : ",block;");
-  });
+  };
   RunAndWait("\\rbk\\a.exe 2", WindowStyle::maximised);
   RunAndWaitPoll("\\rbk\\b.exe", WindowStyle::hidden);
-  SetLauncher({});
   EXPECT_EQ(seen, "\\rbk\\a.exe 2,3,block;\\rbk\\b.exe,0,poll;");
 }
 

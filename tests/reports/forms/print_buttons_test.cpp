@@ -11,7 +11,7 @@
 #include "data/reference.h"
 #include "platform/fault.h"
 #include "platform/print/print_trace.h"
-#include "platform/print/printer_list.h"
+#include "platform/system/printing.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
 #include "support/site_fixture.h"
@@ -23,22 +23,15 @@ namespace {
 /// The PDF device alone, and the site of the fixture.
 class PrintButtonsTest : public ::testing::Test {
  protected:
-  PrintButtonsTest() : before_(SetPrinters(PdfAlone())) {
+  PrintButtonsTest() {
+    Services.Printers = PdfDeviceAlone([this](const PrintedDocument& document) {
+      documents_.push_back(document);
+      traces_.push_back(TraceText(document));
+    });
     SelectSite(test::kScheduleFile);
     OpenMasterDatabase();
     TallyGrid.TotalStockWeight = Currency::FromInteger(500);
     TallyGrid.TotalInstalledWeight = Currency::FromInteger(400);
-  }
-  ~PrintButtonsTest() override { SetPrinters(std::move(before_)); }
-
-  PrinterList PdfAlone() {
-    std::list<PrinterSurface> printers;
-    printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
-                          [this](const PrintedDocument& document) {
-                            documents_.push_back(document);
-                            traces_.push_back(TraceText(document));
-                          });
-    return PrinterList(std::move(printers));
   }
 
   std::string Print(const char* control, std::int32_t kind) {
@@ -50,7 +43,6 @@ class PrintButtonsTest : public ::testing::Test {
   test::SiteFixture site_;
   std::vector<PrintedDocument> documents_;
   std::vector<std::string> traces_;
-  PrinterList before_;
 };
 
 TEST_F(PrintButtonsTest, ButtonsSetOrientationAndPaper) {

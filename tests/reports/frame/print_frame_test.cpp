@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/print/printer_list.h"
+#include "platform/system/printing.h"
 #include "shell/config/settings.h"
 #include "support/site_fixture.h"
 
@@ -18,12 +18,12 @@ namespace {
 /// Two installed printers, 甲 current, and the documents that either was given.
 class PrintFrame : public ::testing::Test {
  protected:
-  PrintFrame() : before_(SetPrinters(PrinterList(Installed()))) {
+  PrintFrame() {
+    Services.Printers = PrinterList(Installed());
     SavedPrinter = {};
     Printers().Current().PaperSize = kPaperA3;
   }
   ~PrintFrame() override {
-    SetPrinters(std::move(before_));
     SavedPrinter = {};
     test::SiteFixture::ResetGlobalState();
   }
@@ -38,14 +38,12 @@ class PrintFrame : public ::testing::Test {
   }
 
   void UsePdfAlone() {
-    std::list<PrinterSurface> printers;
-    printers.emplace_back(std::string(kPdfDeviceName), DeviceKind::pdf,
-                          [this](const PrintedDocument& document) { documents_.push_back(document); });
-    SetPrinters(PrinterList(std::move(printers)));
+    Services.Printers =
+        PdfDeviceAlone([this](const PrintedDocument& document) { documents_.push_back(document); });
   }
 
   std::vector<PrintedDocument> documents_;
-  PrinterList before_;
+  test::KeptServices services_;
 };
 
 TEST_F(PrintFrame, PaperKindsStandForPrinterCodes) {
@@ -94,7 +92,7 @@ TEST_F(PrintFrame, ThePdfDeviceAnswersToANameThatNoPrinterBears) {
 TEST_F(PrintFrame, AnInstalledPrinterCalledPdfDoesNotAnswerToOtherNames) {
   std::list<PrinterSurface> printers;
   printers.emplace_back("PDF", DeviceKind::installed_printer, [](const PrintedDocument&) {});
-  SetPrinters(PrinterList(std::move(printers)));
+  Services.Printers = PrinterList(std::move(printers));
   Settings.TallyPrinter = "EPSON VP-4200";
   Set_Printer(2, 3);
   EXPECT_EQ(Printers().Current().Orientation, kPortrait);
@@ -137,11 +135,10 @@ TEST_F(PrintFrame, OfACustomPaperOnlyItsEmptySidesAreWrittenBack) {
 }
 
 TEST_F(PrintFrame, APrinterThatCameSinceTheStartAnswersToItsName) {
-  SetPrinterSource([this] { return PrinterList(Installed()); });
+  Services.FindPrinters = [this] { return PrinterList(Installed()); };
   UsePdfAlone();
   Settings.TallyPrinter = "乙";
   Set_Printer(2, 2);
-  SetPrinterSource({});
   EXPECT_EQ(SavedPrinter.SavedDeviceName, "甲");
   EXPECT_EQ(Printers().Current().DeviceName(), "乙");
   EXPECT_EQ(Printers().Current().Orientation, kLandscape);

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "reports/ulbon/ulbon_sums.h"
 #include "support/drawn_page.h"
 #include "support/sheet_samples.h"
 #include "support/site_fixture.h"
@@ -135,17 +134,6 @@ TEST_F(UlbonReport, ABlockOfManyLinesNeverRunsIntoTheTable) {
       EXPECT_LE(text.y + LineHeight(text.font_size), table) << client << " " << text.text;
     }
   }
-}
-
-TEST(UlbonSums, TheGridsTotalRoundsEachRaisedRow) {
-  TallyTable table;
-  table.UlbonWeight[12] = 10.4;
-  table.UlbonWeight[13] = 10.4;
-  table.UlbonWeldCount[12] = 2;
-  table.UlbonWeldCount[17] = 3;
-  EXPECT_EQ(UlbonWeightSum(table, 0), 20);
-  EXPECT_EQ(UlbonWeightSum(table, 10), 22);  // 11.44 each
-  EXPECT_EQ(UlbonWeldSum(table), 5);
 }
 
 }  // namespace

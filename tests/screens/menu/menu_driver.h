@@ -66,22 +66,20 @@ class MenuDriver {
     parts.write_accumulated = [this] { ++accumulations_written; };
     parts.screens = kNoneReady;
     parts.end_program = [this](int status) { end_status = status; };
-    old_messages_ = SetMessageHandler([this](auto text, auto title, MessageButtons buttons) {
+    Services.Messages = [this](auto text, auto title, MessageButtons buttons) {
       messages.push_back({std::string(text), std::string(title), buttons});
       return MessageAnswer::ok;
-    });
-    SetLauncher([this](std::string_view command_line, WindowStyle style, bool polling) {
+    };
+    Services.Launch = [this](std::string_view command_line, WindowStyle style, bool polling) {
       const bool visible = menu != nullptr && menu->isVisible();
       launches.push_back({{std::string(command_line), style, polling}, FamilyDirectory(), visible});
       if (on_launch) on_launch();
-    });
+    };
   }
   MenuDriver(const MenuDriver&) = delete;
   MenuDriver& operator=(const MenuDriver&) = delete;
   ~MenuDriver() {
     menu.reset();
-    SetLauncher({});
-    SetMessageHandler(old_messages_);
     SiteFixture::ResetGlobalState();
   }
 
@@ -112,7 +110,7 @@ class MenuDriver {
 
  private:
   const RootFolder& root_;
-  MessageHandler old_messages_;
+  KeptServices services_;
 };
 
 struct OwnRoot {

@@ -12,7 +12,7 @@
 
 #include <QCheckBox>
 
-#include "platform/print/printer_list.h"
+#include "platform/system/printing.h"
 #include "platform/text/characters.h"
 #include "screens/result/result_form_driver.h"
 #include "session/result/print_order.h"
@@ -91,15 +91,11 @@ class PrintDriver : public ResultFormDriver {
   }
   PrintDriver(const PrintDriver&) = delete;
   PrintDriver& operator=(const PrintDriver&) = delete;
-  ~PrintDriver() {
-    form.reset();
-    SetPrinterSource({});
-    SetPrinters(std::move(before_));
-  }
+  ~PrintDriver() { form.reset(); }
 
   /// The printers of the machine, the first current.
   void Install(const std::vector<std::pair<std::string, DeviceKind>>& devices) {
-    SetPrinters(Devices(devices));
+    Services.Printers = Devices(devices);
   }
   PrinterList Devices(const std::vector<std::pair<std::string, DeviceKind>>& devices) {
     std::list<PrinterSurface> printers;
@@ -138,13 +134,6 @@ class PrintDriver : public ResultFormDriver {
 
  private:
   const ResultScreen& screen_;
-  PrinterList before_ = SetPrinters(PrinterList(Nothing()));
-
-  static std::list<PrinterSurface> Nothing() {
-    std::list<PrinterSurface> printers;
-    printers.emplace_back("none", DeviceKind::installed_printer, [](const PrintedDocument&) {});
-    return printers;
-  }
 };
 
 }  // namespace rbt::test

@@ -356,7 +356,7 @@ TEST(ResultPrinting, APrinterThatFailsIsToldAndTheNextSheetPrints) {
     if (out_of_paper) throw Fault(FaultKind::file, "甲: no paper");
     js.printed.push_back(document);
   });
-  SetPrinters(PrinterList(std::move(printers)));
+  Services.Printers = PrinterList(std::move(printers));
   js.Start();
   js.Keys({kOpen, kB5Landscape});
   ASSERT_EQ(js.site.Messages().size(), 1U);
@@ -446,9 +446,9 @@ TEST(ResultPreview, OpensByItselfForThePdfDevice) {
 TEST(ResultPreview, OfAPrinterThatIsFoundOnlyNowPrintsNothingEither) {
   PrintDriver js;
   js.Install({{"PDF", DeviceKind::pdf}});
-  SetPrinterSource([&js] {
+  Services.FindPrinters = [&js] {
     return js.Devices({{"甲", DeviceKind::installed_printer}, {"PDF", DeviceKind::pdf}});
-  });
+  };
   js.Start();
   js.Keys({kOpen, kPreviewKey, kB5Landscape});
   EXPECT_TRUE(js.printed.empty());

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/colour.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "screens/settings/colour_box.h"
 #include "shell/config/settings.h"
 #include "support/desktop/key_press.h"
@@ -27,13 +27,13 @@ constexpr std::int32_t kBlue = 16711680;
 /// SETCOLOR over a root, the colour dialog scripted.
 class ColourForm : public testing::Test {
  protected:
-  ColourForm()
-      : old_(SetColourHandler([this](std::string_view title, std::int32_t rgb) {
-          titles.emplace_back(title);
-          offered.push_back(rgb);
-          return answer;
-        })) {}
-  ~ColourForm() override { SetColourHandler(old_); }
+  ColourForm() {
+    Services.Colours = [this](std::string_view title, std::int32_t rgb) {
+      titles.emplace_back(title);
+      offered.push_back(rgb);
+      return answer;
+    };
+  }
 
   void Open() {
     form = std::make_unique<SETCOLOR>();
@@ -49,9 +49,6 @@ class ColourForm : public testing::Test {
   std::vector<std::string> titles;
   std::vector<std::int32_t> offered;
   std::unique_ptr<SETCOLOR> form;
-
- private:
-  ColourHandler old_;
 };
 
 }  // namespace
@@ -157,7 +154,7 @@ TEST_F(ColourForm, AFileThatCannotBeWrittenIsNamedAndTheFormStays) {
 
 TEST_F(ColourForm, TheDialogBearsItsTitleAndGivesTheColourThatWasTaken) {
   Open();
-  SetColourHandler({});
+  Services.Colours = AskColour;
   QString title;
   QTimer::singleShot(0, [&] {
     auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/profile/registry.h"
-#include "platform/system/paths.h"
 #include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"

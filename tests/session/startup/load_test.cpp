@@ -4,8 +4,8 @@
 
 #include "archive/check_jsyukei.h"
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/profile/registry.h"
-#include "platform/system/paths.h"
 #include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -319,9 +319,8 @@ TEST_F(Load, ReadsTheSettings) {
 
 TEST_F(Load, LetsPendingEventsRunBetweenItsSteps) {
   int times = 0;
-  SetPendingEventsHook([&] { ++times; });
+  Services.PendingEvents = [&] { ++times; };
   Run();
-  SetPendingEventsHook({});
   EXPECT_GT(times, 10);
 }
 

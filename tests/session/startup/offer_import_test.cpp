@@ -6,7 +6,7 @@
 
 #include "jet/jet_file.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "session/startup/startup.h"
 #include "shell/context/site_context.h"
 #include "support/child_process.h"

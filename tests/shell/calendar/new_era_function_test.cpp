@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/kept_services.h"
 
 namespace rbt {
 namespace {
@@ -218,8 +219,10 @@ TEST(EraNameOfYear, ABlankCountsAsZero) {
 /// The clock stands still for a test.
 class Stamps : public testing::Test {
  protected:
-  void SetUp() override { SetClock(DateTime{2026, 1, 2, 3, 4, 5}); }
-  void TearDown() override { SetClock(std::nullopt); }
+  void SetUp() override { Services.Clock = test::StandingClock({2026, 1, 2, 3, 4, 5}); }
+
+ private:
+  test::KeptServices services_;
 };
 
 TEST_F(Stamps, AreTheDateAndTheTimeInDigits) {
@@ -233,9 +236,9 @@ TEST_F(Stamps, OfAGivenMomentDoNotAskTheClock) {
 }
 
 TEST_F(Stamps, GoFromMidnightToTheLastSecond) {
-  SetClock(DateTime{2026, 12, 31, 0, 0, 0});
+  Services.Clock = test::StandingClock({2026, 12, 31, 0, 0, 0});
   EXPECT_EQ(TodayStamp() + TimeStamp(), "20261231000000");
-  SetClock(DateTime{2026, 12, 31, 23, 59, 59});
+  Services.Clock = test::StandingClock({2026, 12, 31, 23, 59, 59});
   EXPECT_EQ(TodayStamp() + TimeStamp(), "20261231235959");
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/clock.h"
 #include "platform/system/paths.h"
 #include "platform/text/cp932.h"
@@ -16,12 +17,9 @@ class Configuration : public testing::Test {
  protected:
   Configuration() {
     Settings = SettingsData{};
-    SetClock(DateTime{2026, 11, 21, 9, 0, 0});
+    Services.Clock = test::StandingClock({2026, 11, 21, 9, 0, 0});
   }
-  ~Configuration() override {
-    Settings = SettingsData{};
-    SetClock(std::nullopt);
-  }
+  ~Configuration() override { Settings = SettingsData{}; }
   void PutSteelIni(const std::string& text) const { root.Put("DATA/STEEL.INI", ToCp932(text)); }
 
   test::RootFolder root;

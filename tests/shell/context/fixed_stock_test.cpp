@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "shell/context/site_context.h"
 #include "support/root_folder.h"
 

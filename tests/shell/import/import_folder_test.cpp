@@ -3,14 +3,13 @@
 
 #include <csignal>
 #include <functional>
-#include <sys/resource.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "store/database.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"
@@ -255,13 +254,9 @@ TEST_F(ImportFolder, KilledAtAnyMomentLeavesNoDataFolderOrAWholeOneAndTheNextOne
 
 TEST_F(ImportFolder, WithoutRoomNamesTheFileAndTheCauseAndLeavesNothing) {
   PutWholeFolder();
-  EXPECT_TRUE(InChild([&] {
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{8192, 8192};
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
+  EXPECT_TRUE(WithFilesOfAtMost(8192, [&] {
     EXPECT_THAT(FaultTextOf([&] { Take(); }),
                 AllOf(HasSubstr((root_ / "DATA" / "GENBA001.MDB").string()), HasSubstr("disk I/O error")));
-    return !HasFailure();
   }));
   EXPECT_FALSE(fs::exists(root_));
 }

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "platform/files/files.h"
 #include "shell/preparation/preparation.h"
 #include "shell/preparation/random_schedule.h"
 #include "support/site_fixture.h"

@@ -2,7 +2,11 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "desktop/colour.h"
 #include "desktop/look.h"
+#include "desktop/message_box.h"
+#include "desktop/pending_events.h"
+#include "platform/system/services.h"
 
 /// One application object for all tests of the program; no display is needed.
 int main(int argc, char** argv) {
@@ -10,5 +14,8 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   rbt::PrepareDesktop();
+  rbt::Services.Messages = rbt::ShowMessage;
+  rbt::Services.Colours = rbt::AskColour;
+  rbt::Services.PendingEvents = rbt::ProcessEventsWithoutInput;
   return RUN_ALL_TESTS();
 }

@@ -354,24 +354,16 @@ TEST(Jyuuryo_Syukei, FaultsWithoutTheCompanionFile) {
   EXPECT_THROW(Jyuuryo_Syukei(), Fault);
 }
 
-class AccumulationLoaderInPlace {
- public:
-  explicit AccumulationLoaderInPlace(AccumulationLoader loader) { SetAccumulationLoader(std::move(loader)); }
-  AccumulationLoaderInPlace(const AccumulationLoaderInPlace&) = delete;
-  AccumulationLoaderInPlace& operator=(const AccumulationLoaderInPlace&) = delete;
-  ~AccumulationLoaderInPlace() { SetAccumulationLoader(nullptr); }
-};
-
 TEST(Jyuuryo_Syukei, AddsToTheAccumulatedValuesWhileTheFlagIsSet) {
   ScheduleSite site;
   site.AddRow({{"圧接", Number(1)}});
-  const AccumulationLoaderInPlace loader([](TallyTable& table) {
-    EXPECT_EQ(table, TallyTable());
-    table.BarCount[3][5] = 10;
-    table.StockWeight[3][5] = Kg(135);
-    table.InstalledWeight[3][5] = Kg(100.5);
-    table.WeldCount[3] = 5;
-  });
+  Services.Accumulation = [] {
+    EXPECT_EQ(TallyGrid, TallyTable());
+    TallyGrid.BarCount[3][5] = 10;
+    TallyGrid.StockWeight[3][5] = Kg(135);
+    TallyGrid.InstalledWeight[3][5] = Kg(100.5);
+    TallyGrid.WeldCount[3] = 5;
+  };
   Jyuuryo_Syukei();
   EXPECT_EQ(TallyGrid.BarCount[3][5], 2);
   RunState.AccumulateFlag = 1;
@@ -381,6 +373,15 @@ TEST(Jyuuryo_Syukei, AddsToTheAccumulatedValuesWhileTheFlagIsSet) {
   EXPECT_EQ(TallyGrid.InstalledWeight[3][5], Kg(127.5));
   EXPECT_EQ(TallyGrid.TotalInstalledWeight, Kg(128));
   EXPECT_EQ(TallyGrid.TotalWeldCount, 6);
+}
+
+TEST(Jyuuryo_Syukei, AFaultBehindTheAccumulatedValuesLeavesTheGridEmpty) {
+  ScheduleSite site;
+  Services.Accumulation = [] { TallyGrid.BarCount[3][5] = 10; };
+  RunState.AccumulateFlag = 1;
+  std::filesystem::remove(site.Folder().Data("HIROI001.mdb"));
+  EXPECT_THROW(Jyuuryo_Syukei(), Fault);
+  EXPECT_EQ(TallyGrid, TallyTable());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "platform/files/files.h"
+
 #include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -8,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/paths.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -55,31 +56,10 @@ TEST(WriteFileAtomically, FollowsALinkToTheFileItStandsFor) {
   EXPECT_EQ(ReadFileBytes(folder / "real.ini"), "new");
 }
 
-/// A limit on file sizes stands in for the full disk: the write fails half-way.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit limited{bytes, old_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limited);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit old_{};
-  void (*handler_)(int);
-};
-
 TEST(WriteFileAtomically, OnAFullDiskFaultsAndLeavesTheOldFileIntact) {
   const TemporaryFolder folder;
   WriteFileAtomically(folder / "x.ini", "old");
-  {
-    const FileSizeLimit full(4096);
+  EXPECT_TRUE(test::WithFilesOfAtMost(4096, [&] {
     try {
       WriteFileAtomically(folder / "x.ini", std::string(10000, 'n'));
       ADD_FAILURE() << "no fault";
@@ -87,7 +67,7 @@ TEST(WriteFileAtomically, OnAFullDiskFaultsAndLeavesTheOldFileIntact) {
       EXPECT_EQ(fault.Kind(), FaultKind::file);
       EXPECT_NE(std::string(fault.what()).find("x.ini"), std::string::npos) << fault.what();
     }
-  }
+  }));
   EXPECT_EQ(ReadFileBytes(folder / "x.ini"), "old");
   EXPECT_EQ(FilesIn(folder.Path()), 1U);
 }

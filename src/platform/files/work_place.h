@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
-#include "platform/system/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 
-namespace rbt::jet {
+namespace rbt {
 
 /// The folder in which an import has its files in work, under names of its own that no program of the family
 /// looks for. What an import that was killed has left there goes first, unless another import is at work in
@@ -23,4 +23,4 @@ class WorkPlace {
   FileDescriptor lock_;  ///< shared by all imports that are at work in the folder, held until the end
 };
 
-}  // namespace rbt::jet
+}  // namespace rbt

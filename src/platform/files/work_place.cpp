@@ -1,33 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include "jet/import/work_place.h"
+#include "platform/files/work_place.h"
 
-#include <atomic>
-#include <cerrno>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/file.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
-#include <fmt/format.h>
+#include "platform/files/file_lock.h"
+#include "platform/files/new_name.h"
 
-namespace rbt::jet {
+namespace rbt {
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr std::string_view kMark = ".rbk-import-";
-
-bool Lock(const FileDescriptor& folder, int how) {
-  int result = 0;
-  do {
-    result = ::flock(folder.Number(), how);
-  } while (result != 0 && errno == EINTR);
-  return result == 0;
-}
 
 /// What cannot be removed disturbs nobody and is met again next time.
 void RemoveLeftovers(const fs::path& folder) {
@@ -49,13 +39,6 @@ WorkPlace::WorkPlace(fs::path folder)
   Lock(lock_, LOCK_SH);
 }
 
-fs::path WorkPlace::NewName() const {
-  static std::atomic<unsigned> counter{0};
-  for (;;) {
-    fs::path name = folder_ / fmt::format("{}{}-{}", kMark, ::getpid(), counter++);
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(name, error))) return name;
-  }
-}
+fs::path WorkPlace::NewName() const { return NewNameIn(folder_, kMark); }
 
-}  // namespace rbt::jet
+}  // namespace rbt

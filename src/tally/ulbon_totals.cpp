@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "reports/ulbon/ulbon_sums.h"
+#include "tally/ulbon_totals.h"
 
 #include "data/diameters.h"
 #include "platform/numbers/number_words.h"
-#include "tally/views/result_grid.h"
 
 namespace rbt {
+
+double UpliftedUlbonWeight(const TallyTable& table, int d, double percent) {
+  const double weight = table.UlbonWeight[d] + table.SpiralUlbonByDia[d].ToDouble();
+  return Fix(weight + weight * percent / 100.0 + 0.5);
+}
 
 double UlbonWeightSum(const TallyTable& table, double percent) {
   double sum = 0.0;

@@ -8,7 +8,10 @@
 #include <QPixmap>
 
 #include "desktop/look.h"
+#include "desktop/message_box.h"
+#include "desktop/pending_events.h"
 #include "platform/fault.h"
+#include "platform/system/services.h"
 #include "session/startup/startup.h"
 #include "showroom/all_forms.h"
 
@@ -54,5 +57,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   rbt::PrepareDesktop();
+  rbt::Services.Messages = rbt::ShowMessage;
+  rbt::Services.PendingEvents = rbt::ProcessEventsWithoutInput;
   return rbt::TakePictures(argv[1]);
 }

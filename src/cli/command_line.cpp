@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "cli/command_line.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/output.h"
+
+namespace rbt {
+
+namespace {
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : "|") + word;
+  return text;
+}
+
+/// False when help was asked for and given.
+bool Parse(CLI::App& app, int argc, char** argv) {
+  try {
+    app.parse(argc, argv);
+    return true;
+  } catch (const CLI::CallForHelp&) {
+    WriteResult(app.help());
+    return false;
+  } catch (const CLI::ExtrasError&) {
+    throw UsageError("unexpected argument " + app.remaining(true).front());
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(error.what());
+  }
+}
+
+/// A word that is no command would only be told as a missing one.
+void RequireCommand(std::span<const Command> commands, int argc, char** argv) {
+  const std::string first = argc > 1 ? argv[1] : "";
+  const auto named_so = [&](const Command& command) { return command.name == first; };
+  if (first.empty() || first[0] == '-' || std::ranges::any_of(commands, named_so)) return;
+  throw UsageError("unknown command " + first);
+}
+
+}  // namespace
+
+void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
+  line_.add_option(name, target, description)->required();
+}
+
+void CommandLine::OptionalArgument(const std::string& name, std::string& target,
+                                   const std::string& description) {
+  line_.add_option(name, target, description);
+}
+
+void CommandLine::WordArgument(const std::string& name, std::string& target,
+                               const std::vector<std::string>& words, const std::string& description) {
+  line_.add_option(name, target, description)->required()->check(CLI::IsMember(words));
+}
+
+void CommandLine::NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
+                                 const std::string& description) {
+  line_.add_option(name, target, description)->type_name(form)->required();
+}
+
+void CommandLine::Flag(const std::string& name, bool& target, const std::string& description) {
+  line_.add_flag(name, target, description);
+}
+
+void CommandLine::TextOption(const std::string& name, const std::string& form, std::string& target,
+                             const std::string& description) {
+  line_.add_option(name, target, description)->type_name(form);
+}
+
+void CommandLine::WordOption(const std::string& name, const std::string& form, std::string& target,
+                             const std::vector<std::string>& words, const std::string& description) {
+  CLI::Validator is_word = CLI::IsMember(words);
+  if (form.empty()) is_word.description("");
+  line_.add_option(name, target, description)
+      ->type_name(form.empty() ? Joined(words) : form)
+      ->check(is_word)
+      ->capture_default_str();
+}
+
+void CommandLine::NumberOption(const std::string& name, const std::string& form, std::int32_t& target,
+                               const std::string& description) {
+  line_.add_option(name, target, description)->type_name(form)->capture_default_str();
+}
+
+template <typename Number>
+void CommandLine::NumberOption(const std::string& name, Number& target, std::int64_t lowest,
+                               std::int64_t highest, const std::string& description) {
+  line_.add_option(name, target, description)
+      ->type_name(std::to_string(lowest) + ".." + std::to_string(highest))
+      ->check(CLI::Range(lowest, highest).description(""))
+      ->capture_default_str();
+}
+template void CommandLine::NumberOption(const std::string&, std::int16_t&, std::int64_t, std::int64_t,
+                                        const std::string&);
+template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::int64_t, std::int64_t,
+                                        const std::string&);
+
+void CommandLine::FormOption(const std::string& name, const std::string& form,
+                             std::function<bool(const std::string& text)> take,
+                             const std::string& description) {
+  line_
+      .add_option_function<std::string>(
+          name,
+          [take = std::move(take), name, form](const std::string& text) {
+            if (!take(text)) throw CLI::ValidationError(name, text + " is not of the form " + form);
+          },
+          description)
+      ->type_name(form);
+}
+
+void CommandLine::RootOption() { TextOption("--root", "DIR", root_, "the root folder; default $RBK_ROOT"); }
+
+std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc, char** argv) {
+  Order order;
+  CLI::App app("Tallies the reinforcing bars of a construction site from its bar schedule.", "rbtally");
+  app.require_subcommand(1);
+  std::vector<std::pair<CLI::App*, Action>> lines;
+  for (const Command& command : commands) {
+    CLI::App* line = app.add_subcommand(std::string(command.name), std::string(command.description));
+    CommandLine command_line(*line, order.root);
+    lines.emplace_back(line, command.define(command_line));
+  }
+  RequireCommand(commands, argc, argv);
+  if (!Parse(app, argc, argv)) return std::nullopt;
+  const auto given = std::ranges::find_if(lines, [](const auto& line) { return line.first->parsed(); });
+  order.action = std::move(given->second);
+  return order;
+}
+
+}  // namespace rbt

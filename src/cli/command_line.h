@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "cli/command.h"
+
+namespace CLI {
+class App;
+}
+
+namespace rbt {
+
+/// One command's part of the command line, as its help lists it. Arguments stand by their place, options by
+/// their name. A target keeps its value where nothing is given for it; it must live until the line is read.
+/// What a target does not take is wrong usage.
+class CommandLine {
+ public:
+  /// `root` gets the folder of `--root`.
+  CommandLine(CLI::App& line, std::string& root) : line_(line), root_(root) {}
+
+  void Argument(const std::string& name, std::string& target, const std::string& description);
+  void OptionalArgument(const std::string& name, std::string& target, const std::string& description);
+  /// One of the words, which the help lists.
+  void WordArgument(const std::string& name, std::string& target, const std::vector<std::string>& words,
+                    const std::string& description);
+  /// `form` stands for the value in the help: "MM".
+  void NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
+                      const std::string& description);
+
+  void Flag(const std::string& name, bool& target, const std::string& description);
+  void TextOption(const std::string& name, const std::string& form, std::string& target,
+                  const std::string& description);
+  /// One of the words. The help lists them behind `form`, or in its place where it is empty, and the default.
+  void WordOption(const std::string& name, const std::string& form, std::string& target,
+                  const std::vector<std::string>& words, const std::string& description);
+  /// A whole number, with its present value as the default.
+  void NumberOption(const std::string& name, const std::string& form, std::int32_t& target,
+                    const std::string& description);
+  /// A whole number of `lowest` to `highest`, with its present value as the default. Of 16 or 32 bits.
+  template <typename Number>
+  void NumberOption(const std::string& name, Number& target, std::int64_t lowest, std::int64_t highest,
+                    const std::string& description);
+  /// A text of a form of its own, "A-B": `take` says whether it is one.
+  void FormOption(const std::string& name, const std::string& form,
+                  std::function<bool(const std::string& text)> take, const std::string& description);
+  /// `--root`, the folder that main puts in force.
+  void RootOption();
+
+ private:
+  CLI::App& line_;
+  std::string& root_;
+};
+
+/// What a program was told to do.
+struct Order {
+  std::string root;  ///< of `--root`; empty when it was not given
+  Action action;
+};
+
+/// Reads a program's words by its commands. Nothing when help was asked for, which is then given. Wrong usage
+/// leaves as `UsageError`, whose text names the word.
+std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc, char** argv);
+
+}  // namespace rbt

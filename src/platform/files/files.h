@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace rbt {
+
+/// Whether anything stands under a name, be it a link that leads nowhere.
+bool IsTaken(const std::filesystem::path& name);
+
+/// The bytes of a file; throws `file`.
+std::string ReadFileBytes(const std::filesystem::path& file);
+/// Writes the whole file or leaves the old one, see `FileInWork`. An existing file keeps its permissions; a
+/// symbolic link stays and its target is replaced. Throws `file` with the path and the system's cause.
+void WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes);
+
+}  // namespace rbt

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/services.h"
+
+namespace rbt {
+
+ServicesData Services;
+
+}  // namespace rbt

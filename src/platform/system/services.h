@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "platform/date_time.h"
+#include "platform/print/pdf_writer.h"
+#include "platform/print/printer_list.h"
+#include "platform/system/clock.h"
+#include "platform/system/colour_choice.h"
+#include "platform/system/message.h"
+#include "platform/system/paths.h"
+#include "platform/system/process.h"
+
+namespace rbt {
+
+/// What comes from outside and what tests replace. A program's main puts here what it has in place of the
+/// defaults, tests put what they script; nobody else includes this header. Everybody goes through the doors
+/// named here.
+struct ServicesData {
+  /// `Root()`, `MapPath()`: the folder that `\RBK\` stands for; empty: nobody has said.
+  std::filesystem::path Root = RootOfEnvironment();
+  /// `FamilyDirectory()`: where siblings start, as `ChangeFamilyDirectory` has last said.
+  std::optional<std::filesystem::path> FamilyDirectory;
+  /// `Now()`.
+  std::function<DateTime()> Clock = SystemClock;
+  /// `MsgBox()`.
+  MessageHandler Messages = TellOnStandardError;
+  /// `ChooseColour()`: without a desktop nothing is chosen.
+  ColourChooser Colours = ChooseNoColour;
+  /// `RunAndWait()`, `RunAndWaitPoll()`.
+  Launcher Launch = LaunchProgram;
+  /// `RunPendingEvents()`: without windows there are none.
+  std::function<void()> PendingEvents = [] {};
+  /// `Printers()`: at first the PDF device alone, whose documents have nowhere to go: delivering one throws
+  /// `file`.
+  PrinterList Printers = PdfDeviceWithoutDestination();
+  /// `RefreshPrinters()`: tells which printers there are now; empty: the list stays as it is. It is not asked
+  /// before, so that a start never waits for a print server.
+  PrinterSource FindPrinters;
+  /// `WritePdf()`; empty: nothing can paint.
+  PdfWriter PaintPdf;
+  /// `LoadAccumulation()`: brings the sums of the sites that were tallied before into the current result, all
+  /// of them or, with a fault, none; empty: there are none.
+  std::function<void()> Accumulation;
+};
+
+extern ServicesData Services;
+
+}  // namespace rbt
