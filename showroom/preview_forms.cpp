@@ -8,37 +8,40 @@
 #include "desktop/printer_choice.h"
 #include "platform/print/printer_surface.h"
 #include "platform/system/clock.h"
-#include "reports/forms/print_buttons.h"
+#include "reports/forms/report_forms.h"
 #include "reports/frame/print_frame.h"
 #include "screens/result/result_forms.h"
+#include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
 
 namespace {
 
-constexpr std::string_view kA4Portrait = "btnA4T";
-constexpr std::string_view kA4Landscape = "btnA4Y";
-constexpr std::string_view kB5Landscape = "btnB5Y";
+constexpr std::string_view kA4Portrait = "taihi-a-a4t";
+constexpr std::string_view kA4Landscape = "taihi-a-a4y";
+constexpr std::string_view kB5Landscape = "taihi-a-b5y";
 
 std::vector<std::string> SamplePrinters() { return {"事務所レーザー", "現場 A3 プリンタ", "EPSON VP-4200"}; }
 
-PrintedDocument Drawn(std::string_view paper_button) {
-  const PrintButton& button = FindPrintButton(paper_button);
+PrintedDocument Drawn(std::string_view word, const TallyResult& result) {
+  const ReportForm& form = FindReportForm(word);
+  const PaperSetting paper = SettingOf(form.paper);
   PrintedDocument drawn;
   PrinterSurface printer(std::string(kPdfDeviceName), DeviceKind::pdf,
                          [&drawn](const PrintedDocument& document) { drawn = document; });
-  printer.Orientation = button.orientation;
-  printer.PaperSize = PaperCodeOfKind(button.paper_kind);
+  printer.Orientation = paper.orientation;
+  printer.PaperSize = PaperCodeOfKind(paper.paper_kind);
   const DateTexts date = DefaultDateTexts(Now());
-  button.kind_a(printer, {.SubProject = {}, .Year = date.year, .Month = date.month, .Day = date.day});
+  form.draw(printer, {.SubProject = {}, .Year = date.year, .Month = date.month, .Day = date.day}, result);
   return drawn;
 }
 
-std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> paper_buttons,
+std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> forms,
                               std::vector<std::string> printers) {
-  MakeJS();  // fills the table that the sheets show
+  MakeJS();  // binds the site
+  const TallyResult result = CountTally(TallyKind::bulk);
   std::vector<PrintedDocument> documents;
-  for (const std::string_view button : paper_buttons) documents.push_back(Drawn(button));
+  for (const std::string_view word : forms) documents.push_back(Drawn(word, result));
   PreviewParts parts = SystemPreviewParts();
   parts.printers = std::move(printers);
   parts.print = [](const std::string&, const PrintedDocument&) {};

@@ -34,6 +34,7 @@ struct SelectionOptions {
   std::optional<SchedulePosition> to;    ///< nothing: the last
 };
 
+/// Adds the options of a group to a command; what is given there ends in `options`.
 void AddCommonOptions(CommandLine& line, CommonOptions& options);
 void AddSelectionOptions(CommandLine& line, SelectionOptions& options);
 /// `--format`: "table", "json" or "csv".

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -10,44 +8,21 @@
 #include <utility>
 #include <vector>
 
+#include "cli/asked_tally.h"
 #include "cli/command_line.h"
 #include "cli/options.h"
-#include "cli/tally_kinds.h"
 #include "platform/files/files.h"
 #include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
 #include "platform/system/clock.h"
 #include "platform/system/printing.h"
-#include "reports/comparison/taihi.h"
-#include "reports/frame/print_frame.h"
+#include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
-#include "reports/ulbon/ulbon_report.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
 
 namespace {
-
-/// A report form by its word on the command line, with the paper that its print button sets.
-struct ReportForm {
-  std::string_view name;
-  std::int32_t orientation;
-  std::int32_t paper_kind;
-  void (*draw)(PrinterSurface& Printer, const ReportArguments& arguments);
-};
-
-constexpr std::array kReportForms = {
-    ReportForm{"taihi-a-a4t", kPortrait, kPaperKindA4, Taihi_A_A4T},
-    ReportForm{"taihi-a-a4y", kLandscape, kPaperKindA4, Taihi_A_A4Y},
-    ReportForm{"taihi-a-b5y", kLandscape, kPaperKindB5, Taihi_A_B5Y},
-    ReportForm{"taihi-b-a4t", kPortrait, kPaperKindA4, Taihi_B_A4T},
-    ReportForm{"taihi-b-a4y", kLandscape, kPaperKindA4, Taihi_B_A4Y},
-    ReportForm{"taihi-b-b5y", kLandscape, kPaperKindB5, Taihi_B_B5Y},
-    ReportForm{"taihi-c-a4t", kPortrait, kPaperKindA4, Taihi_C_A4T},
-    ReportForm{"taihi-c-a4y", kLandscape, kPaperKindA4, Taihi_C_A4Y},
-    ReportForm{"taihi-c-b5y", kLandscape, kPaperKindB5, Taihi_C_B5Y},
-    ReportForm{"ulbon", kLandscape, kPaperKindA4, Ulbon_Report},
-};
 
 struct ReportOptions {
   std::string name;
@@ -64,8 +39,7 @@ struct ReportOptions {
 
 std::vector<std::string> ReportNames() {
   std::vector<std::string> names;
-  names.reserve(kReportForms.size());
-  for (const ReportForm& form : kReportForms) names.emplace_back(form.name);
+  for (const ReportForm& form : ReportForms()) names.emplace_back(form.word);
   return names;
 }
 
@@ -85,10 +59,9 @@ std::optional<DateTexts> TypedDate(const std::string& date) {
 using Documents = std::vector<PrintedDocument>;
 
 /// The documents that a report ends. This program knows no printers but the PDF device.
-Documents DocumentsOf(const ReportForm& form, const ReportArguments& arguments) {
+Documents DocumentsOf(const ReportForm& form, const ReportArguments& arguments, const TallyResult& result) {
   DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
-  PrintReport(form.orientation, form.paper_kind,
-              [&](PrinterSurface& Printer) { form.draw(Printer, arguments); });
+  PrintForm(form, arguments, result);
   return diverted.Take();
 }
 
@@ -116,14 +89,13 @@ void RequireFiles(const ReportOptions& options) {
 void RunReport(const ReportOptions& options) {
   const std::optional<DateTexts> typed = TypedDate(options.date);
   RequireFiles(options);
-  FillTallyGrid(options.tally, options.common, options.selection);
+  const TallyResult result =
+      WithUlbonRaised(CountAskedTally(options.tally, options.common, options.selection), options.percent);
   RunState.ReportBody = options.body;
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
-  const ReportArguments arguments =
-      Trimmed({options.sub_project, date.year, date.month, date.day, RunState.ReportBody, options.percent});
-  const ReportForm& form = *std::find_if(kReportForms.begin(), kReportForms.end(),
-                                         [&](const ReportForm& row) { return row.name == options.name; });
-  WriteDocuments(DocumentsOf(form, arguments), options);
+  const ReportArguments arguments{options.sub_project, date.year,           date.month, date.day,
+                                  RunState.ReportBody, result.ulbon_percent};
+  WriteDocuments(DocumentsOf(FindReportForm(options.name), arguments, result), options);
 }
 
 }  // namespace
@@ -134,8 +106,7 @@ Action DefineReport(CommandLine& line) {
   line.WordArgument("NAME", options->name, ReportNames(), "the report form");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
-  line.WordOption("--tally", "KIND", options->tally, GridTallyNames(),
-                  "the kind of tally that fills the report");
+  line.WordOption("--tally", "KIND", options->tally, TallyWords(), "the kind of tally that fills the report");
   line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
   line.NumberOption("--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
   line.TextOption("--subproject", "TEXT", options->sub_project, "a line under the project's name");

@@ -2,17 +2,13 @@
 #include <memory>
 #include <string>
 
+#include "cli/asked_tally.h"
 #include "cli/command_line.h"
 #include "cli/options.h"
 #include "cli/output.h"
-#include "cli/tally_kinds.h"
 #include "shell/context/reference_names.h"
-#include "shell/context/run_state.h"
-#include "tally/selection.h"
-#include "tally/tally_grid.h"
 #include "tally/views/grid_text.h"
-#include "tally/views/result_grid.h"
-#include "tally/views/tally_json.h"
+#include "tally/views/result_views.h"
 
 namespace rbt {
 
@@ -25,27 +21,22 @@ struct TallyOptions {
   std::string format = "table";
 };
 
-/// `TallyGrid` in the asked form.
-std::string TallyGridText(const TallyOptions& options) {
-  if (options.format == "json") {
-    return TallyJson(TallyGrid, options.kind, RunState.HasHoopRows, RunState.HasAnchorPlateRows);
-  }
-  GridView view;
-  view.grade_names = DiameterGradeNames();
-  const GridRows rows = ShowTally(TallyGrid, Selection, view);
-  return options.format == "csv" ? GridCsv(kResultCaptions, rows) : GridTable(rows);
+/// The result in the asked form.
+std::string TextOf(const TallyResult& result, const std::string& format) {
+  if (format == "json") return ResultJson(result);
+  const GridRows rows = ResultRows(result, {.grade_names = DiameterGradeNames()});
+  return format == "csv" ? GridCsv(ResultCaptions(result), rows) : GridTable(rows);
 }
 
 void RunTally(const TallyOptions& options) {
-  FillTallyGrid(options.kind, options.common, options.selection);
-  WriteResult(TallyGridText(options));
+  WriteResult(TextOf(CountAskedTally(options.kind, options.common, options.selection), options.format));
 }
 
 }  // namespace
 
 Action DefineTally(CommandLine& line) {
   auto options = std::make_shared<TallyOptions>();
-  line.WordArgument("KIND", options->kind, GridTallyNames(), "the kind of tally");
+  line.WordArgument("KIND", options->kind, TallyWords(), "the kind of tally");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
   AddFormatOption(line, options->format);

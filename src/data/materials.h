@@ -11,6 +11,7 @@ namespace rbt {
 /// Material kind, column `予備2`. Null and 0 count as deformed.
 enum class MaterialKind : std::int32_t { deformed = 1, ulbon = 2, high_strength = 3, threaded = 4, slit = 5 };
 
+/// The word by which captions and totals name a kind, a form likewise.
 struct KindWord {
   MaterialKind kind;
   std::string_view word;

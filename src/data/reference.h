@@ -27,6 +27,7 @@ SiteHead ReadSiteHead(Database& master, std::string_view file_name);
 /// 会社名 of a client, empty when it is null or the code has no row.
 std::string ClientName(Database& master, std::int32_t code);
 
+/// The second, longer name of a site as sheets print it.
 struct LongName {
   std::string name;         ///< 長い工事名, empty when null
   std::int32_t width = 50;  ///< 工事名区切り文字数, characters on the first line
@@ -48,6 +49,7 @@ std::optional<std::string> GradeName(Database& master, std::int32_t code);
 /// The names of grades 1 to 10 under their codes. A code without a row is told by a message and stays empty.
 std::array<std::string, 11> ReadGradeNames(Database& master);
 
+/// The table that a part's name is looked up in.
 enum class PartNaming { first, second };  ///< 部位名テーブル, 部位名２テーブル
 /// 部位名 of a part, empty when it is null or the code has no row.
 std::string PartName(Database& master, std::int32_t part, PartNaming naming);

@@ -33,6 +33,7 @@ inline constexpr std::string_view kNoAnchorPlateClause =
 /// Shapes with a thread at one end or at both.
 inline constexpr std::array<ShapeRange, 3> kThreadedShapes{{{138, 143}, {162, 163}, {166, 177}}};
 
+/// Whether a 形状No has an anchor plate at one end or at both, a thread likewise. Any number may be asked.
 bool IsAnchorPlateShape(int shape);
 bool IsThreadedShape(int shape);
 /// Anchor plates on one bar of a shape: 0, 1 or 2.

@@ -10,6 +10,7 @@
 
 namespace rbt {
 
+/// How a column of a grid shows.
 struct GridColumn {
   std::string caption;
   int characters = 10;                       ///< width in half-width characters

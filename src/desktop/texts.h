@@ -7,6 +7,7 @@
 
 namespace rbt {
 
+/// A text of the logic, UTF-8, as Qt takes it.
 inline QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

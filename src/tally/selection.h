@@ -8,13 +8,14 @@
 #include "data/kind_mask.h"
 #include "data/shape_filter.h"
 #include "data/start_mode.h"
+#include "tally/tally_kind.h"
 
 namespace rbt {
 
 /// What the user picked; outlives a form and is read by every tally.
 struct SelectionData {
   StartModeTraits StartMode = TraitsOfStartMode(kNoStartMode);  ///< of the first number of the command line
-  std::int32_t TallyKind = 0;  ///< 0 bulk, 1 shape, 2 page, 3 shape by page, 4 floor, 5 part
+  rbt::TallyKind TallyKind = rbt::TallyKind::bulk;              ///< the menu's last choice
   KindMask MaterialKindMask = kAllKinds;
   KindMask PrevMaterialKindMask = kAllKinds;  ///< the mask before the last change
   bool IncludeUlbon = true;                   ///< Ulbon rows are tallied
@@ -25,10 +26,12 @@ struct SelectionData {
   ShapeFilter AnchorPlateMode = ShapeFilter::with_others;  ///< of the anchor-plate shapes
   std::int32_t ShapeStart = 0;                             ///< first and last 形状No of the shape tally
   std::int32_t ShapeEnd = 0;
-  std::int16_t StartPage = 0;  ///< first and last 頁 and 行 of the page tallies
-  std::int16_t StartLine = 0;
-  std::int16_t EndPage = 0;
-  std::int16_t EndLine = 0;
+  std::int32_t StartPage = 0;  ///< first and last 頁 and 行 of the page tallies
+  std::int32_t StartLine = 0;
+  std::int32_t EndPage = 0;
+  std::int32_t EndLine = 0;
+
+  friend bool operator==(const SelectionData&, const SelectionData&) = default;
 };
 
 extern SelectionData Selection;

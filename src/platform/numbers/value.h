@@ -16,6 +16,7 @@ using Bytes = std::vector<unsigned char>;
 /// One field of a row: null, a whole number, a double, a Currency, a text (UTF-8) or bytes. Null is a value.
 using Value = std::variant<std::monostate, std::int64_t, double, Currency, std::string, Bytes>;
 
+/// True for null alone: an empty text is a value.
 inline bool IsNull(const Value& value) { return std::holds_alternative<std::monostate>(value); }
 
 /// The number in a value; a text goes through `NumberOfText`. Null throws `invalid use of null`, bytes and a

@@ -7,6 +7,7 @@
 
 namespace rbt {
 
+/// The buttons of a message box and the one that was pressed. The first is the default.
 enum class MessageButtons { ok, ok_cancel, yes_no, yes_no_cancel };
 enum class MessageAnswer { ok, cancel, yes, no };
 

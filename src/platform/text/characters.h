@@ -11,6 +11,7 @@ namespace rbt {
 /// A character is a Unicode code point; texts are UTF-8. Bytes that are no UTF-8 count one character each,
 /// U+FFFD.
 
+/// The characters of a text, one code point each; the bytes of one character; how many a text has.
 std::vector<char32_t> CharactersOf(std::string_view text);
 std::string Utf8Of(char32_t character);
 std::size_t CharacterCount(std::string_view text);

@@ -3,60 +3,61 @@
 
 #include "reports/comparison/comparison_report.h"
 #include "shell/context/reference_names.h"
-#include "tally/selection.h"
 #include "tally/ulbon_totals.h"
 
 namespace rbt {
 
 namespace {
 
-void DrawSite(PrinterSurface& Printer, const ReportArguments& arguments, const ComparisonForm& form) {
+CutFigures DrawSite(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result,
+                    const ComparisonForm& form) {
+  const TallyTable& table = result.Grid();
   const ComparisonSheet sheet{ReadReportSite(),
                               arguments,
-                              TallyGrid,
+                              table,
                               DiameterGradeNames(),
-                              UlbonWeightSum(TallyGrid, arguments.Percent),
-                              UlbonWeldSum(TallyGrid),
-                              Selection.StartMode.hides_cuts};
-  DrawComparison(Printer, form, sheet);
+                              UlbonWeightSum(table, arguments.Percent),
+                              UlbonWeldSum(table),
+                              result.selection.StartMode.hides_cuts};
+  return DrawComparison(Printer, form, sheet);
 }
 
 }  // namespace
 
-void Taihi_A_A4T(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiAA4T);
+CutFigures Taihi_A_A4T(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiAA4T);
 }
 
-void Taihi_A_A4Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiAA4Y);
+CutFigures Taihi_A_A4Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiAA4Y);
 }
 
-void Taihi_A_B5Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiAB5Y);
+CutFigures Taihi_A_B5Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiAB5Y);
 }
 
-void Taihi_B_A4T(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiBA4T);
+CutFigures Taihi_B_A4T(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiBA4T);
 }
 
-void Taihi_B_A4Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiBA4Y);
+CutFigures Taihi_B_A4Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiBA4Y);
 }
 
-void Taihi_B_B5Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiBB5Y);
+CutFigures Taihi_B_B5Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiBB5Y);
 }
 
-void Taihi_C_A4T(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiCA4T);
+CutFigures Taihi_C_A4T(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiCA4T);
 }
 
-void Taihi_C_A4Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiCA4Y);
+CutFigures Taihi_C_A4Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiCA4Y);
 }
 
-void Taihi_C_B5Y(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawSite(Printer, arguments, kTaihiCB5Y);
+CutFigures Taihi_C_B5Y(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result) {
+  return DrawSite(Printer, arguments, result, kTaihiCB5Y);
 }
 
 }  // namespace rbt

@@ -80,6 +80,7 @@ struct WeightPart {
   std::int32_t rule_width = 3;
 };
 
+/// The date, Western or of the era, over its rule.
 struct DatePart {
   RuledText western;
   RuledText era;

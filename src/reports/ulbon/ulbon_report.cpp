@@ -150,8 +150,9 @@ CutFigures DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, cons
   return pen.cut_figures;
 }
 
-void Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments) {
-  DrawUlbonReport(Printer, ReadReportSite(), arguments, TallyGrid);
+CutFigures Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments,
+                        const TallyResult& result) {
+  return DrawUlbonReport(Printer, ReadReportSite(), arguments, result.Grid());
 }
 
 }  // namespace rbt

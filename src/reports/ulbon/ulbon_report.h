@@ -4,15 +4,15 @@
 #include "platform/print/printer_surface.h"
 #include "reports/frame/report_pen.h"
 #include "reports/frame/report_site.h"
-#include "tally/tally_grid.h"
+#include "tally/tally_result.h"
 
 namespace rbt {
 
-/// The Ulbon weights of `TallyGrid` for the bound site, on one page of A4 landscape. The percentage raises
-/// the rows; totals stand as tallied.
-void Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments);
+/// The Ulbon weights of a result of the bound site, on one page of A4 landscape. The percentage raises the
+/// rows; totals stand as tallied. Returns the figures that its fields cut.
+CutFigures Ulbon_Report(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result);
 
-/// The same without the global state but the own-company data. Returns the figures that its fields cut.
+/// The same without the global state but the own-company data.
 CutFigures DrawUlbonReport(PrinterSurface& Printer, const ReportSite& site, const ReportArguments& arguments,
                            const TallyTable& table);
 

@@ -186,12 +186,12 @@ void JSMENU::FocusFirstButton() {
   if (next != nullptr) next->setFocus();
 }
 
-void JSMENU::cmdShuukei_Click() { OpenTally(0, "JS"); }
-void JSMENU::cmdKeijoShuukei_Click() { OpenTally(1, "KEIJOJS"); }
-void JSMENU::cmdPGShuukei_Click() { OpenTally(2, "PGJS"); }
-void JSMENU::cmdKeijoPGShuukeia_Click() { OpenTally(3, "PKEIJOJS"); }
-void JSMENU::cmdKaiShuukei_Click() { OpenTally(4, "KAIJS"); }
-void JSMENU::cmdBuiShuukei_Click() { OpenTally(5, "BUIJS"); }
+void JSMENU::cmdShuukei_Click() { OpenTally(TallyKind::bulk, "JS"); }
+void JSMENU::cmdKeijoShuukei_Click() { OpenTally(TallyKind::shape, "KEIJOJS"); }
+void JSMENU::cmdPGShuukei_Click() { OpenTally(TallyKind::page, "PGJS"); }
+void JSMENU::cmdKeijoPGShuukeia_Click() { OpenTally(TallyKind::page_shape, "PKEIJOJS"); }
+void JSMENU::cmdKaiShuukei_Click() { OpenTally(TallyKind::floor, "KAIJS"); }
+void JSMENU::cmdBuiShuukei_Click() { OpenTally(TallyKind::part, "BUIJS"); }
 
 void JSMENU::cmdAllSites_Click() { CallSibling(kAllSites); }
 void JSMENU::cmdSiteSum_Click() { CallSibling(kSiteSum); }
@@ -228,11 +228,10 @@ void JSMENU::cmdExit_Click() {
   EndProgram(EXIT_SUCCESS);
 }
 
-void JSMENU::OpenTally(int tally_kind, std::string_view form) {
-  constexpr int kBulk = 0;
+void JSMENU::OpenTally(TallyKind tally_kind, std::string_view form) {
   Selection.TallyKind = tally_kind;
   // Without its form the menu stays in sight; the hand-over is the same.
-  if (const MenuScreen* screen = ReadyScreen(form)) OpenScreen(*screen, tally_kind != kBulk);
+  if (const MenuScreen* screen = ReadyScreen(form)) OpenScreen(*screen, tally_kind != TallyKind::bulk);
   WriteHandOver(kMaterialDetailKey, "0");
 }
 

@@ -12,6 +12,7 @@
 
 #include "screens/menu/screens.h"
 #include "session/startup/startup.h"
+#include "tally/tally_kind.h"
 
 namespace Ui {
 class JSMENU;
@@ -76,7 +77,7 @@ class JSMENU : public QWidget {
  private:
   class Hidden;
 
-  void OpenTally(int tally_kind, std::string_view form);
+  void OpenTally(TallyKind tally_kind, std::string_view form);
   const MenuScreen* ReadyScreen(std::string_view form) const;
   void OpenScreen(const MenuScreen& screen, bool hides_menu);
   void CallSibling(const Sibling& sibling);

@@ -17,6 +17,7 @@ struct MenuScreen {
   std::unique_ptr<QWidget> (*make)() = nullptr;
 };
 
+/// All of them, those that are not ready too.
 std::span<const MenuScreen> MenuScreens();
 
 }  // namespace rbt

@@ -22,7 +22,7 @@ constexpr const char* kAllKindsAfterReset = "異形・高強度・ネジ・ス�
 void FilterPanel::ShowKinds() {
   const std::string_view caption = KindCaption(Selection.MaterialKindMask);
   // On the bulk screen the slit word goes in the full program too; the total row keeps it there.
-  const bool is_bulk = screen_.range == RangeKind::none;
+  const bool is_bulk = RangeOf(screen_) == TallyRange::whole_site;
   const bool strips = is_bulk ? Selection.StartMode.hides_slit_in_bulk_kinds : Selection.StartMode.hides_slit;
   ui_.Label8->setText(strips ? Text(StripSlitWord(caption)) : Text(caption));
 }

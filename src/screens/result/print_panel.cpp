@@ -45,12 +45,12 @@ void PrintPanel::Close() {
   dates_->SetEnabled(false);
 }
 
-PrintOrder PrintPanel::Order(std::string_view button, bool ulbon, std::int32_t percent) const {
-  return {.button = button,
+PrintOrder PrintPanel::Order(const TallyResult& result, ReportPaper paper, bool ulbon) const {
+  return {.result = result,
+          .paper = paper,
           .ulbon = ulbon,
           .date = dates_->Texts(),
           .sub_project = ui_.txtSubKojNa->text().toStdString(),
-          .percent = percent,
           .preview = ui_.chkPreview->isChecked()};
 }
 

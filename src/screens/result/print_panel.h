@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
-#include <string_view>
-
 #include "screens/panels/date_boxes.h"
 #include "session/result/print_order.h"
 
@@ -33,7 +30,7 @@ class PrintPanel {
 
   DateBoxes& Dates() { return *dates_; }
   /// What a paper button asks for, as the boxes stand.
-  PrintOrder Order(std::string_view button, bool ulbon, std::int32_t percent) const;
+  PrintOrder Order(const TallyResult& result, ReportPaper paper, bool ulbon) const;
 
  private:
   Ui::ResultForm& ui_;

@@ -24,9 +24,9 @@
 #include "shell/context/reference_names.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
+#include "tally/kinds/tally_kinds.h"
 #include "tally/selection.h"
-#include "tally/tally_grid.h"
-#include "tally/views/result_grid.h"
+#include "tally/views/result_views.h"
 #include "ui_result_form.h"
 
 namespace rbt {
@@ -87,10 +87,10 @@ void ResultForm::TakeControls() {
 }
 
 void ResultForm::PlaceRange() {
-  if (screen_.range == RangeKind::none) return;
+  if (RangeOf(screen_) == TallyRange::whole_site) return;
   // Positions stand in the grid's place until the tally has run, shapes above the filters all the time.
   QWidget* before = nullptr;
-  if (screen_.range == RangeKind::positions) {
+  if (RangeOf(screen_) == TallyRange::positions) {
     before = ui_->cmdTei;
     range_ = new PageRangePanel(this);
     range_->setObjectName("SSPanel4");
@@ -163,7 +163,7 @@ void ResultForm::TakeRange() {
 void ResultForm::RunRange() {
   if (range_->GivesWay()) range_->hide();
   Recalculate([this] {
-    if (screen_.range == RangeKind::shapes) ResetFilters();
+    if (RangeOf(screen_) == TallyRange::shapes) ResetFilters();
     if (screen_.before_first_run != nullptr) screen_.before_first_run();
   });
   filters_.OfferModes();
@@ -210,14 +210,14 @@ void ResultForm::FocusWork() {
 
 void ResultForm::Tally() {
   tally_ran_ = false;
-  screen_.tally();
+  shown_ = CountTally(screen_.kind);
   tally_ran_ = true;
 }
 
 void ResultForm::Fill() {
-  shown_percent_ = static_cast<std::int32_t>(LeadingNumber(ui_->txtPercent->text().toStdString()));
-  const auto percent = static_cast<double>(shown_percent_);
-  ui_->dbgJS->SetRows(ShowTally(TallyGrid, Selection, {show_ulbon_only_, percent, DiameterGradeNames()}));
+  const double percent = LeadingNumber(ui_->txtPercent->text().toStdString());
+  shown_ = WithUlbonRaised(shown_, static_cast<std::int32_t>(percent));
+  ui_->dbgJS->SetRows(ResultRows(shown_, {show_ulbon_only_, DiameterGradeNames()}));
   const bool alternate = Settings.AlternateRowColours == 1;
   ui_->dbgJS->SetAlternateColours(alternate ? ColourOfRgb(Settings.GridRowBackColor) : QColor(),
                                   alternate ? ColourOfRgb(Settings.GridRowForeColor) : QColor());
@@ -225,8 +225,8 @@ void ResultForm::Fill() {
 }
 
 void ResultForm::ShowWarning() {
-  ui_->Lwarning->setText(Text(TallyGrid.StockWarningText));
-  ui_->Lwarning->setVisible(!TallyGrid.StockWarningText.empty());
+  ui_->Lwarning->setText(Text(shown_.Grid().StockWarningText));
+  ui_->Lwarning->setVisible(!shown_.Grid().StockWarningText.empty());
 }
 
 void ResultForm::Recalculate(const std::function<void()>& change) {
@@ -350,13 +350,13 @@ void ResultForm::btnReturn_Click() {
   FocusWork();
 }
 
-void ResultForm::btnA4Y_Click() { PrintPaper("btnA4Y"); }
-void ResultForm::btnA4T_Click() { PrintPaper("btnA4T"); }
-void ResultForm::btnB5Y_Click() { PrintPaper("btnB5Y"); }
+void ResultForm::btnA4Y_Click() { PrintPaper(ReportPaper::a4y); }
+void ResultForm::btnA4T_Click() { PrintPaper(ReportPaper::a4t); }
+void ResultForm::btnB5Y_Click() { PrintPaper(ReportPaper::b5y); }
 
-void ResultForm::PrintPaper(std::string_view button) {
+void ResultForm::PrintPaper(ReportPaper paper) {
   if (!print_panel_->Dates().CheckYear()) return;
-  const bool printed = Print(print_panel_->Order(button, show_ulbon_only_, shown_percent_));
+  const bool printed = Print(print_panel_->Order(shown_, paper, show_ulbon_only_));
   // The scoped screens stay in the panel, for another sheet.
   if (printed && range_ == nullptr) btnReturn_Click();
 }
@@ -373,7 +373,7 @@ bool ResultForm::Print(const PrintOrder& order) {
 void ResultForm::PrintUlbon() {
   RunState.ReportBody = 1;
   print_panel_->Dates().FillToday();
-  Print(print_panel_->Order("btnA4Y", true, shown_percent_));
+  Print(print_panel_->Order(shown_, ReportPaper::a4y, true));
 }
 
 void ResultForm::btnSettei_Click() {

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include <QWidget>
@@ -91,7 +89,7 @@ class ResultForm : public QWidget {
 
   void OpenPrintPanel(int report_body);
   Papers PapersNow() const;
-  void PrintPaper(std::string_view button);
+  void PrintPaper(ReportPaper paper);
   void PrintUlbon();
   bool Print(const PrintOrder& order);
 
@@ -103,7 +101,7 @@ class ResultForm : public QWidget {
   std::unique_ptr<PrintPanel> print_panel_;
   RangePanel* range_ = nullptr;  ///< null on the bulk screen
   bool show_ulbon_only_ = false;
-  std::int32_t shown_percent_ = 0;  ///< the uplift that the grid shows
+  TallyResult shown_;  ///< what the grid shows
   bool tally_ran_ = false;
   bool ended_ = false;
 };

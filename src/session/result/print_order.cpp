@@ -3,7 +3,6 @@
 
 #include "platform/print/diverted_deliveries.h"
 #include "platform/system/printing.h"
-#include "reports/forms/print_buttons.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
@@ -12,9 +11,8 @@ namespace {
 
 void Print(const PrintOrder& order) {
   const ReportArguments arguments{order.sub_project, order.date.year,     order.date.month,
-                                  order.date.day,    RunState.ReportBody, order.percent};
-  if (order.ulbon) return PrintUlbonReport(arguments);
-  PrintComparison(FindPrintButton(order.button), arguments);
+                                  order.date.day,    RunState.ReportBody, order.result.ulbon_percent};
+  PrintForm(order.ulbon ? UlbonForm() : ChosenComparison(order.paper), arguments, order.result);
 }
 
 /// The documents that are for the user's eyes.

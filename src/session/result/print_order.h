@@ -1,33 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/print/printed_document.h"
+#include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
+#include "tally/tally_result.h"
 
 namespace rbt {
 
 /// A sheet that a print button asks for.
 struct PrintOrder {
-  std::string_view button;  ///< btnA4T, btnA4Y or btnB5Y
-  bool ulbon = false;  ///< the Ulbon report, A4 landscape whatever the button; else the comparison report of
+  TallyResult result;  ///< what the screen shows
+  ReportPaper paper = ReportPaper::a4y;
+  bool ulbon = false;  ///< the Ulbon report, A4 landscape whatever the paper; else the comparison report of
                        ///< the setting 対比表項目
   DateTexts date;
   std::string sub_project;
-  std::int32_t percent = 0;  ///< uplift of the Ulbon weights
-  bool preview = false;      ///< to be looked at, not to be printed
+  bool preview = false;  ///< to be looked at, not to be printed
 };
 
 /// Shows documents and returns when the user has left them.
 using Preview = std::function<void(std::vector<PrintedDocument>)>;
 
-/// Draws the sheet from the tally and the bound site, with Ulbon and spiral rows as `RunState.ReportBody` has
-/// it, and prints it. What the user wants to look at first, and what goes to the PDF device, is handed to
+/// Draws the sheet from its result and the bound site, with Ulbon and spiral rows as `RunState.ReportBody`
+/// has it, and prints it. What the user wants to look at first, and what goes to the PDF device, is handed to
 /// `preview` instead, the printer being back as it was. Throws what keeps the sheet from the printer; nothing
 /// is printed or shown then.
 void CarryOut(const PrintOrder& order, const Preview& preview);

@@ -9,11 +9,9 @@
 
 #include "data/form_mask.h"
 #include "session/result/print_order.h"
+#include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
-
-/// The range that a tally asks for before it runs.
-enum class RangeKind { none, positions, shapes };
 
 /// A text that belongs to a control.
 struct ControlText {
@@ -25,8 +23,7 @@ struct ControlText {
 struct ResultScreen {
   std::string_view name;  ///< object name of the form
   std::string_view title;
-  void (*tally)();  ///< fills `TallyGrid` from the selection
-  RangeKind range = RangeKind::none;
+  TallyKind kind = TallyKind::bulk;
   std::span<const std::string_view> absent;          ///< controls that this screen does not have
   std::span<const ControlText> captions = {};        ///< where they differ from the layout's
   std::span<const ControlText> names = {};           ///< object names, likewise
@@ -39,6 +36,10 @@ extern const ResultScreen kPageScreen;       ///< PGJS
 extern const ResultScreen kShapeScreen;      ///< KEIJOJS
 extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
 
+/// The range that the screen asks for before it tallies.
+TallyRange RangeOf(const ResultScreen& screen);
+
+/// False for a control that the shared layout has and this screen does not.
 bool HasControl(const ResultScreen& screen, std::string_view control);
 
 /// What a result form leans on beside the tally. An empty one is not ready yet: its button says so.

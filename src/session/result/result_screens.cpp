@@ -6,9 +6,6 @@
 #include "session/result/result_screen.h"
 #include "shell/context/site_context.h"
 #include "tally/captions.h"
-#include "tally/groups/shape_tally.h"
-#include "tally/rows/bulk_tally.h"
-#include "tally/rows/page_tally.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -48,14 +45,6 @@ constexpr std::array<ControlText, 2> kScopedNames{{{"Label4", "Label11"}, {"SSPa
 /// The shape screen offers one form alone; the shape tally takes none, so only the caption changes.
 std::string_view SingleFormCaption(FormMask forms) { return FormCaption(forms.IsOne() ? forms : kAllForms); }
 
-void TallyPages() {
-  PG_Jyuuryo_Syukei(Selection.StartPage, Selection.StartLine, Selection.EndPage, Selection.EndLine);
-}
-
-void TallyPageShapes() {
-  PKeijou_Jyuuryo_Syukei(Selection.StartPage, Selection.StartLine, Selection.EndPage, Selection.EndLine);
-}
-
 /// The shape tally itself only notes whether the site has any.
 void CountHighStrengthRows() {
   Recordset rows =
@@ -67,14 +56,13 @@ void CountHighStrengthRows() {
 
 constinit const ResultScreen kBulkScreen{.name = "JS",
                                          .title = "重量集計",
-                                         .tally = Jyuuryo_Syukei,
+                                         .kind = TallyKind::bulk,
                                          .absent = kNotOnBulk,
                                          .form_caption = FormCaption};
 
 constinit const ResultScreen kPageScreen{.name = "PGJS",
                                          .title = "頁行別重量集計",
-                                         .tally = TallyPages,
-                                         .range = RangeKind::positions,
+                                         .kind = TallyKind::page,
                                          .absent = kNotOnPage,
                                          .captions = kPageCaptions,
                                          .names = kScopedNames,
@@ -82,8 +70,7 @@ constinit const ResultScreen kPageScreen{.name = "PGJS",
 
 constinit const ResultScreen kShapeScreen{.name = "KEIJOJS",
                                           .title = "形状重量集計",
-                                          .tally = Keijou_Jyuuryo_Syukei,
-                                          .range = RangeKind::shapes,
+                                          .kind = TallyKind::shape,
                                           .absent = kNotOnShape,
                                           .captions = kShapeCaptions,
                                           .names = kScopedNames,
@@ -92,12 +79,13 @@ constinit const ResultScreen kShapeScreen{.name = "KEIJOJS",
 
 constinit const ResultScreen kPageShapeScreen{.name = "PKEIJOJS",
                                               .title = "頁行別形状重量集計",
-                                              .tally = TallyPageShapes,
-                                              .range = RangeKind::positions,
+                                              .kind = TallyKind::page_shape,
                                               .absent = kNotOnPageShape,
                                               .captions = kPageShapeCaptions,
                                               .names = kScopedNames,
                                               .form_caption = FormCaption};
+
+TallyRange RangeOf(const ResultScreen& screen) { return RowOf(screen.kind).range; }
 
 bool HasControl(const ResultScreen& screen, std::string_view control) {
   return std::find(screen.absent.begin(), screen.absent.end(), control) == screen.absent.end();

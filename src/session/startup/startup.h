@@ -10,6 +10,7 @@
 
 namespace rbt {
 
+/// What the command line of a program decides about the start.
 struct StartOptions {
   StartModeTraits start_mode = TraitsOfStartMode(kNoStartMode);
   bool prepare = true;  ///< false: the schedule is not classified, its rows stay as they are

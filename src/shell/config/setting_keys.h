@@ -16,6 +16,7 @@ struct NumberKey {
   std::int32_t fallback;
 };
 
+/// One that holds a text, and one that holds "True" or "False".
 struct TextKey {
   std::string_view app;
   std::string_view section;

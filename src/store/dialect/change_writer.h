@@ -9,6 +9,7 @@
 
 namespace rbt::dialect {
 
+/// One SET of an UPDATE in SQLite's dialect.
 struct WrittenAssignment {
   const FieldDef* field = nullptr;
   WrittenValue value;  ///< as the field takes it
@@ -22,6 +23,7 @@ struct WrittenUpdate {
 WrittenUpdate WriteAssignments(const Update& update, const TableDef& table, const Scope& scope,
                                ListTestWriter list_tests = nullptr);
 
+/// An INSERT, one row of values or the rows of a SELECT. Faults: a field that the table does not have.
 ChangeStatement WriteInsert(const Insert& insert, const Scope& scope);
 /// Rows whose values would stay as they are are not written.
 ChangeStatement WriteUpdate(const Update& update, const Scope& scope);

@@ -26,6 +26,7 @@ enum class ValueClass {
   other,  ///< DECIMAL, BINARY, OLE: may be selected and tested for null
 };
 
+/// Whether arithmetic may take it; the class of a declared column type.
 bool IsNumber(ValueClass value);
 ValueClass ClassOf(FieldType type);
 

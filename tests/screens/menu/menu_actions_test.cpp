@@ -101,9 +101,9 @@ TEST_P(MenuInEveryStartMode, ATallyKeySetsTheTallyKindAndWritesTheHandOverWithou
   for (const TallyKey& row : kTallyKeys) {
     ScriptedMenu driver(GetParam());
     JSMENU& menu = driver.Open();
-    Selection.TallyKind = 9;
+    Selection.TallyKind = TallyKind{9};
     EXPECT_TRUE(Press(menu, row.key)) << row.button;
-    EXPECT_EQ(Selection.TallyKind, row.tally_kind);
+    EXPECT_EQ(Selection.TallyKind, TallyKind{row.tally_kind});
     EXPECT_EQ(driver.HandOver("材料明細"), "0");
     ASSERT_EQ(driver.messages.size(), 1U);
     EXPECT_THAT(driver.messages[0].text, HasSubstr("の画面は、まだご利用いただけません。"));
@@ -212,7 +212,7 @@ TEST(Menu, AHiddenButtonStillAnswersToItsKey) {
   EXPECT_TRUE(Press(menu, Qt::Key_F5));
   Settle();
   EXPECT_NE(OpenForm("KEIJOJS"), nullptr);
-  EXPECT_EQ(Selection.TallyKind, 1);
+  EXPECT_EQ(Selection.TallyKind, TallyKind::shape);
 }
 
 TEST(Menu, ADisabledButtonStillAnswersToItsKey) {

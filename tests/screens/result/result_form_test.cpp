@@ -214,8 +214,10 @@ TEST(BulkScreen, PrintPanelHasItsOwnKeys) {
   ResultFormDriver js;
   std::vector<std::string> printed;
   js.parts.print = [&](const PrintOrder& order) {
-    printed.push_back(std::string(order.button) + (order.ulbon ? " ulbon" : "") + " " + order.date.year +
-                      "/" + order.date.month + "/" + order.date.day + " " + order.sub_project);
+    EXPECT_EQ(order.paper, ReportPaper::a4t);
+    EXPECT_FALSE(order.ulbon);
+    printed.push_back(order.date.year + "/" + order.date.month + "/" + order.date.day + " " +
+                      order.sub_project);
   };
   js.Open();
   js.Key(Qt::Key_F1);
@@ -225,7 +227,7 @@ TEST(BulkScreen, PrintPanelHasItsOwnKeys) {
   EXPECT_EQ(RunState.ReportBody, 1);
   js.Box("txtSubKojNa")->setText(" 二期 ");  // the report trims it
   js.Key(Qt::Key_F3);
-  EXPECT_EQ(printed, std::vector<std::string>{"btnA4T 2026/11/21  二期 "});
+  EXPECT_EQ(printed, std::vector<std::string>{"2026/11/21  二期 "});
   EXPECT_TRUE(js.Shows("SSPanel2"));  // back to the list
   js.Click("cmdPrint2");
   EXPECT_EQ(RunState.ReportBody, 0);

@@ -314,20 +314,28 @@ TEST(ResultPrinting, AHeldKeyPrintsOneSheet) {
   EXPECT_EQ(js.printed.size(), 1U);
 }
 
+TEST(ResultPrinting, PrintsTheResultThatTheScreenShowsWhateverWasTalliedSince) {
+  PrintDriver js;
+  js.Start();
+  js.Keys({kOpen, kA4Portrait});
+  TallyGrid = TallyTable();
+  js.Keys({kOpen, kA4Portrait});
+  ASSERT_EQ(js.printed.size(), 2U);
+  EXPECT_EQ(TraceText(js.printed[0]), TraceText(js.printed[1]));
+}
+
 TEST(ResultPrinting, AFaultInAReportPrintsNothingAndLeavesFormAndPrinterUsable) {
   PrintDriver js;
   js.Start();
   js.Key(kOpen);
-  TallyGrid.UlbonWeldCount[12] = INT32_MAX;
-  TallyGrid.UlbonWeldCount[13] = 1;
+  js.spoils_result = true;
   js.Key(kB5Landscape);
   EXPECT_TRUE(js.printed.empty());
   ASSERT_EQ(js.site.Messages().size(), 1U);
   EXPECT_THAT(js.site.Messages()[0].text, HasSubstr("UlbonWeldCount"));
   EXPECT_EQ(Printers().Current().PaperSize, kPaperA4);
   EXPECT_TRUE(js.Shows("SSPanel3"));
-  TallyGrid.UlbonWeldCount[12] = 0;
-  TallyGrid.UlbonWeldCount[13] = 0;
+  js.spoils_result = false;
   js.Key(kA4Portrait);
   ASSERT_EQ(js.printed.size(), 1U);
   EXPECT_EQ(js.printed[0].pages.size(), 1U);
@@ -336,13 +344,11 @@ TEST(ResultPrinting, AFaultInAReportPrintsNothingAndLeavesFormAndPrinterUsable) 
 TEST(ResultPrinting, AFaultHalfwayDownAPageLeavesNothingOfItOnTheNext) {
   PrintDriver js(kShapeScreen);
   js.Start();
-  TallyGrid.UlbonWeldCount[12] = INT32_MAX;
-  TallyGrid.UlbonWeldCount[13] = 1;
+  js.spoils_result = true;
   js.Key(Qt::Key_F3);  // faults at the total row
   EXPECT_EQ(js.site.Messages().size(), 1U);
   EXPECT_TRUE(js.printed.empty());
-  TallyGrid.UlbonWeldCount[12] = 0;
-  TallyGrid.UlbonWeldCount[13] = 0;
+  js.spoils_result = false;
   js.Keys({Qt::Key_F3, Qt::Key_F3});
   ASSERT_EQ(js.printed.size(), 2U);
   EXPECT_EQ(TraceText(js.printed[0]), TraceText(js.printed[1]));
@@ -477,13 +483,11 @@ TEST(ResultPreview, CountsForTheUlbonButtonOfTheShapeScreenToo) {
 TEST(ResultPreview, OfAReportThatFaultsShowsNothing) {
   PrintDriver js;
   js.Start();
-  TallyGrid.UlbonWeldCount[12] = INT32_MAX;
-  TallyGrid.UlbonWeldCount[13] = 1;
+  js.spoils_result = true;
   js.Keys({kOpen, kPreviewKey, kB5Landscape});
   EXPECT_EQ(js.site.Messages().size(), 1U);
   EXPECT_TRUE(js.shown.empty());
-  TallyGrid.UlbonWeldCount[12] = 0;
-  TallyGrid.UlbonWeldCount[13] = 0;
+  js.spoils_result = false;
   js.Keys({kPreviewKey, kB5Landscape});
   EXPECT_EQ(js.printed.size(), 1U);  // on the printer again
 }

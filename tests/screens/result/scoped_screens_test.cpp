@@ -404,7 +404,7 @@ TEST(ShapeScreen, PrintsTheUlbonReportOfToday) {
   EXPECT_TRUE(orders[0].ulbon);
   EXPECT_EQ(orders[0].date.year + "/" + orders[0].date.month + "/" + orders[0].date.day, "08/11/21");
   EXPECT_EQ(orders[0].sub_project, " 二期 ");  // the report trims it
-  EXPECT_EQ(orders[0].percent, 0);
+  EXPECT_EQ(orders[0].result.ulbon_percent, 0);
   EXPECT_EQ(RunState.ReportBody, 1);
 }
 
@@ -605,11 +605,11 @@ TEST(ScopedScreens, PrintFromThePanelAndStayThere) {
     EXPECT_EQ(RunState.ReportBody, 1);
     for (const int key : {Qt::Key_F1, Qt::Key_F3, Qt::Key_F5}) js.Key(key);
     ASSERT_EQ(orders.size(), 3U);
-    EXPECT_EQ(orders[0].button, "btnA4Y");
-    EXPECT_EQ(orders[1].button, "btnA4T");
-    EXPECT_EQ(orders[2].button, "btnB5Y");
+    EXPECT_EQ(orders[0].paper, ReportPaper::a4y);
+    EXPECT_EQ(orders[1].paper, ReportPaper::a4t);
+    EXPECT_EQ(orders[2].paper, ReportPaper::b5y);
     EXPECT_FALSE(orders[0].ulbon);
-    EXPECT_EQ(orders[0].percent, 0);
+    EXPECT_EQ(orders[0].result.ulbon_percent, 0);
     EXPECT_TRUE(js.Shows("SSPanel3"));
     js.Key(Qt::Key_Escape);
     EXPECT_TRUE(js.Shows("SSPanel2"));

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "reports/forms/report_forms.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <string>
+
+#include "platform/fault.h"
+#include "platform/print/paper.h"
+#include "reports/comparison/taihi.h"
+#include "reports/frame/print_frame.h"
+#include "reports/ulbon/ulbon_report.h"
+#include "shell/config/settings.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::int32_t kKindA = 1;
+constexpr std::int32_t kKindB = 2;
+constexpr std::int32_t kKindC = 3;
+
+constexpr std::array<ReportForm, 10> kReportForms{{
+    {"taihi-a-a4t", ReportFamily::comparison, ReportPaper::a4t, kKindA, Taihi_A_A4T},
+    {"taihi-a-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindA, Taihi_A_A4Y},
+    {"taihi-a-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindA, Taihi_A_B5Y},
+    {"taihi-b-a4t", ReportFamily::comparison, ReportPaper::a4t, kKindB, Taihi_B_A4T},
+    {"taihi-b-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindB, Taihi_B_A4Y},
+    {"taihi-b-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindB, Taihi_B_B5Y},
+    {"taihi-c-a4t", ReportFamily::comparison, ReportPaper::a4t, kKindC, Taihi_C_A4T},
+    {"taihi-c-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindC, Taihi_C_A4Y},
+    {"taihi-c-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindC, Taihi_C_B5Y},
+    {"ulbon", ReportFamily::ulbon, ReportPaper::a4y, 0, Ulbon_Report},
+}};
+
+const ReportForm& FirstForm(const std::function<bool(const ReportForm&)>& fits, std::string_view sought) {
+  const auto* form = std::find_if(kReportForms.begin(), kReportForms.end(), fits);
+  if (form == kReportForms.end()) {
+    throw Fault(FaultKind::subscript_out_of_range, "report form " + std::string(sought));
+  }
+  return *form;
+}
+
+}  // namespace
+
+PaperSetting SettingOf(ReportPaper paper) {
+  switch (paper) {
+    case ReportPaper::a4t:
+      return {kPortrait, kPaperKindA4};
+    case ReportPaper::a4y:
+      return {kLandscape, kPaperKindA4};
+    case ReportPaper::b5y:
+      break;
+  }
+  return {kLandscape, kPaperKindB5};
+}
+
+std::span<const ReportForm> ReportForms() { return kReportForms; }
+
+const ReportForm& FindReportForm(std::string_view word) {
+  return FirstForm([&](const ReportForm& form) { return form.word == word; }, word);
+}
+
+const ReportForm& ChosenComparison(ReportPaper paper) {
+  const std::int32_t setting = ReadSetting(kComparisonKindKey);
+  const std::int32_t choice = setting == kKindA || setting == kKindB ? setting : kKindC;
+  return FirstForm(
+      [&](const ReportForm& form) {
+        return form.family == ReportFamily::comparison && form.paper == paper && form.choice == choice;
+      },
+      "of the comparison reports");
+}
+
+const ReportForm& UlbonForm() { return FindReportForm("ulbon"); }
+
+void PrintForm(const ReportForm& form, const ReportArguments& arguments, const TallyResult& result) {
+  const PaperSetting paper = SettingOf(form.paper);
+  PrintReport(paper.orientation, paper.paper_kind,
+              [&](PrinterSurface& Printer) { form.draw(Printer, Trimmed(arguments), result); });
+}
+
+}  // namespace rbt

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <variant>
+
+#include "tally/selection.h"
+#include "tally/tally_grid.h"
+#include "tally/tally_kind.h"
+
+namespace rbt {
+
+/// How a result came to be.
+enum class ResultOrigin {
+  counted,      ///< from the schedule
+  raised,       ///< by the user's percentage
+  corrected,    ///< by hand
+  loaded,       ///< a saved tally
+  accumulated,  ///< counted, on top of the sites counted before
+};
+
+/// The tables of a result, by the family of its kind.
+using TallyTables = std::variant<TallyTable>;
+
+/// What a tally gives, and all that its readers look at: grids, reports, files. A value: what happens to
+/// `TallyGrid` or to the selection later does not reach it.
+struct TallyResult {
+  TallyKind kind = TallyKind::bulk;
+  SelectionData selection = {};  ///< what was asked for
+  ResultOrigin origin = ResultOrigin::counted;
+  bool has_hoop_rows = false;          ///< what the presence probes of the tally found
+  bool has_anchor_plate_rows = false;  ///< likewise
+  std::int32_t ulbon_percent = 0;      ///< the Ulbon rows are shown and printed so much higher
+  TallyTables tables = {};
+
+  /// The diameter-by-length tables. Throws `std::bad_variant_access` for a result of another family.
+  const TallyTable& Grid() const { return std::get<TallyTable>(tables); }
+
+  friend bool operator==(const TallyResult&, const TallyResult&) = default;
+};
+
+/// The result with its Ulbon rows raised by `percent`, counted from the tables each time: raising twice is
+/// raising by the last. With 0 they stand as tallied.
+TallyResult WithUlbonRaised(TallyResult result, std::int32_t percent);
+
+}  // namespace rbt

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "tally/kinds/tally_kinds.h"
+
+#include <set>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+#include "shell/context/run_state.h"
+#include "support/schedule_site.h"
+
+namespace rbt {
+namespace {
+
+using test::Number;
+using test::ScheduleSite;
+
+TEST(TallyKinds, KeepTheNumbersOfSavedTallies) {
+  EXPECT_EQ(static_cast<int>(TallyKind::bulk), 0);
+  EXPECT_EQ(static_cast<int>(TallyKind::shape), 1);
+  EXPECT_EQ(static_cast<int>(TallyKind::page), 2);
+  EXPECT_EQ(static_cast<int>(TallyKind::page_shape), 3);
+  EXPECT_EQ(static_cast<int>(TallyKind::floor), 4);
+  EXPECT_EQ(static_cast<int>(TallyKind::part), 5);
+}
+
+TEST(TallyKinds, EachHasItsOwnWord) {
+  std::set<std::string_view> words;
+  for (const TallyKindRow& row : TallyKinds()) {
+    EXPECT_TRUE(words.insert(row.word).second) << row.word;
+    EXPECT_EQ(&RowOf(row.kind), &row);
+    EXPECT_EQ(FindTallyKind(row.word), row.count == nullptr ? nullptr : &row) << row.word;
+  }
+  EXPECT_EQ(FindTallyKind("wall"), nullptr);
+  EXPECT_THROW(RowOf(TallyKind{9}), Fault);
+}
+
+void SelectAll(ScheduleSite& site) {
+  Selection.ShapeStart = 1;
+  Selection.ShapeEnd = 99;
+  Selection.StartPage = 1;
+  Selection.StartLine = 1;
+  Selection.EndPage = 1;
+  Selection.EndLine = 2;
+  site.AddRow();
+  site.AddRow();
+}
+
+TEST(CountTally, GivesTheBarsOfEachKindWithWhatWasAskedFor) {
+  for (const TallyKindRow& row : TallyKinds()) {
+    if (row.count == nullptr) continue;
+    ScheduleSite site;
+    SelectAll(site);
+    const TallyResult result = CountTally(row.kind);
+    EXPECT_EQ(result.kind, row.kind);
+    EXPECT_EQ(result.origin, ResultOrigin::counted) << row.word;
+    EXPECT_EQ(result.selection, Selection) << row.word;
+    EXPECT_EQ(result.Grid().BarCount[3][5], 4) << row.word;  // D19 of 6.0 m, two rows of two bars
+  }
+}
+
+TEST(CountTally, TellsThePresenceThatItsProbesFound) {
+  ScheduleSite site;
+  site.AddRow();
+  EXPECT_FALSE(CountTally(TallyKind::bulk).has_hoop_rows);
+  site.AddRow({{"形状No", Number(87)}});
+  const TallyResult result = CountTally(TallyKind::bulk);
+  EXPECT_TRUE(result.has_hoop_rows);
+  EXPECT_FALSE(result.has_anchor_plate_rows);
+}
+
+TEST(CountTally, IsNotReachedByWhatIsTalliedLater) {
+  ScheduleSite site;
+  site.AddRow();
+  const TallyResult first = CountTally(TallyKind::bulk);
+  site.AddRow();
+  CountTally(TallyKind::bulk);
+  EXPECT_EQ(first.Grid().BarCount[3][5], 2);
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
+}
+
+TEST(CountTally, OnTopOfOtherSitesIsAnAccumulation) {
+  ScheduleSite site;
+  site.AddRow();
+  RunState.AccumulateFlag = 1;
+  EXPECT_EQ(CountTally(TallyKind::bulk).origin, ResultOrigin::accumulated);
+  RunState.AccumulateFlag = 0;
+}
+
+TEST(CountTally, APageBeyondSixteenBitsIsAnOverflowOfThePageTallyAlone) {
+  ScheduleSite site;
+  SelectAll(site);
+  Selection.EndPage = 32768;
+  EXPECT_THROW(CountTally(TallyKind::page), Fault);
+  EXPECT_NO_THROW(CountTally(TallyKind::page_shape));
+}
+
+}  // namespace
+}  // namespace rbt
