@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: MIT
 cmake_minimum_required(VERSION 3.25)
 # Fails at a file that includes from a room which its own room does not use, or Qt below the desktop, or that could set
-# the services, which is main's and the tests', or that knows a library which one place knows; and at tests that do not
-# mirror the house. HOUSE has a line per room: its folder, its floor, qt or -, the rooms that it uses.
+# the services, which is main's and the tests', or that knows a library which one place knows, reads the clock, or has a
+# global object of its own; at tests that do not mirror the house; at a map that does not name its rooms. HOUSE has a
+# line per room: its folder, its floor, qt or -, the rooms that it uses.
 file(STRINGS ${HOUSE} house)
 set(rooms "")
 foreach(line IN LISTS house)
@@ -18,6 +19,27 @@ set(faults "")
 set(services_header platform/system/services.h)
 # Libraries that one place knows, by the beginning of their headers' names and of its files'.
 set(known_once "sqlite3 src/store/" "nlohmann/ src/platform/json/" "CLI/ src/cli/command_line.cpp")
+
+# What may change and is seen from everywhere.
+set(global_objects
+  TallyGrid FloorTally PartTally Selection SiteContext Settings EngineState RunState SavedPrinter Services)
+# The clock is a service.
+set(clock_place src/platform/system/)
+set(clock_reads "system_clock::now|std::time\\(|localtime|gmtime|currentDate|::currentTime")
+
+# Reads of the clock and objects declared for everywhere.
+function(check_state file)
+  file(STRINGS ${file} lines REGEX "^extern |${clock_reads}")
+  string(FIND "${file}" "${ROOT}/${clock_place}" at_clock)
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^extern [A-Za-z:]+ ([A-Za-z]+)\;?$" AND NOT CMAKE_MATCH_1 IN_LIST global_objects)
+      list(APPEND faults "${file}: ${CMAKE_MATCH_1} is none of the global objects")
+    elseif(line MATCHES "${clock_reads}" AND NOT at_clock EQUAL 0)
+      list(APPEND faults "${file}: only ${clock_place} reads the clock")
+    endif()
+  endforeach()
+  set(faults "${faults}" PARENT_SCOPE)
+endfunction()
 
 function(check_file file room)
   file(STRINGS ${file} lines REGEX "^ *# *include")
@@ -62,6 +84,7 @@ foreach(file IN LISTS files)
   # A program's main hands down what lower floors need from above.
   if(NOT file MATCHES "/main\\.cpp$")
     check_file(${ROOT}/${file} ${room})
+    check_state(${ROOT}/${file})
   endif()
 endforeach()
 
@@ -72,6 +95,25 @@ foreach(test IN LISTS tests)
   get_filename_component(room ${test} DIRECTORY)
   if(NOT room IN_LIST rooms AND NOT room IN_LIST beside_the_house)
     list(APPEND faults "tests/${test}: there is no room ${room}")
+  endif()
+endforeach()
+
+# The map names the rooms of the house, each in backquotes in a row of its table.
+file(STRINGS ${ROOT}/ARCHITECTURE.md map REGEX "^\\| *[0-9]* *\\| *`")
+set(mapped "")
+foreach(row IN LISTS map)
+  string(REGEX REPLACE "^\\| *[0-9]* *\\|([^|]*)\\|.*" "\\1" cell "${row}")
+  string(REGEX MATCHALL "[a-z_/]+" names "${cell}")
+  list(APPEND mapped ${names})
+endforeach()
+foreach(room IN LISTS rooms)
+  if(NOT room IN_LIST mapped)
+    list(APPEND faults "ARCHITECTURE.md: the map lacks the room ${room}")
+  endif()
+endforeach()
+foreach(room IN LISTS mapped)
+  if(NOT room IN_LIST rooms)
+    list(APPEND faults "ARCHITECTURE.md: the map names ${room}, which is no room")
   endif()
 endforeach()
 
