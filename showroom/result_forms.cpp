@@ -2,6 +2,7 @@
 #include "showroom/result_forms.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "screens/result/result_form.h"
 #include "screens/result/result_forms.h"
@@ -10,39 +11,39 @@ namespace rbt {
 
 namespace {
 
-ResultForm& ResultFormOf(QWidget& form) { return static_cast<ResultForm&>(form); }
+void Click(QWidget& form, const char* button) { form.findChild<QPushButton*>(button)->click(); }
 
 std::vector<FormState> BulkStates() {
   return {{"normal", [](QWidget&) {}},
-          {"print-panel", [](QWidget& form) { ResultFormOf(form).cmdPrint_Click(); }},
-          {"ulbon-view", [](QWidget& form) { ResultFormOf(form).cmdUSum_Click(); }},
+          {"print-panel", [](QWidget& form) { Click(form, "cmdPrint"); }},
+          {"ulbon-view", [](QWidget& form) { Click(form, "cmdUSum"); }},
           {"ulbon-print-panel",
            [](QWidget& form) {
-             ResultFormOf(form).cmdUSum_Click();
-             ResultFormOf(form).cmdPrint_Click();
+             Click(form, "cmdUSum");
+             Click(form, "cmdPrint");
            }},
           {"uplift",
            [](QWidget& form) {
-             ResultFormOf(form).cmdurubon_Click();
+             Click(form, "cmdurubon");
              form.findChild<QLineEdit*>("txtPercent")->setText("10");
            }},
-          {"hoops-left-out", [](QWidget& form) { ResultFormOf(form).cmdHoop_Click(); }}};
+          {"hoops-left-out", [](QWidget& form) { Click(form, "cmdHoop"); }}};
 }
 
-void RunTheRange(QWidget& form) { ResultFormOf(form).TakeRange(); }
+void RunTheRange(QWidget& form) { static_cast<ResultForm&>(form).TakeRange(); }
 
 std::vector<FormState> ScopedStates() {
   return {{"input", [](QWidget&) {}},
-          {"input-print-panel", [](QWidget& form) { ResultFormOf(form).cmdPrint_Click(); }},
+          {"input-print-panel", [](QWidget& form) { Click(form, "cmdPrint"); }},
           {"result", RunTheRange},
           {"print-panel",
            [](QWidget& form) {
              RunTheRange(form);
-             ResultFormOf(form).cmdPrint_Click();
+             Click(form, "cmdPrint");
            }},
           {"hoops-left-out", [](QWidget& form) {
              RunTheRange(form);
-             ResultFormOf(form).cmdHoop_Click();
+             Click(form, "cmdHoop");
            }}};
 }
 

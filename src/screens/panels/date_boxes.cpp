@@ -6,106 +6,100 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include "platform/numbers/number_words.h"
-#include "platform/system/clock.h"
+#include "desktop/action.h"
+#include "desktop/form.h"
+#include "screens/panels/boxes.h"
 #include "screens/panels/digit_box.h"
-#include "shell/config/settings.h"
+#include "ui_date_boxes.h"
 
 namespace rbt {
 
 namespace {
 
-constexpr int kEraYear = 2;
-constexpr double kFirstYearRefused = 32.0;
-
-/// Read each time: the settings form may have saved another one.
-int DateStyle() { return ReadSetting(kDateStyleKey); }
+constexpr std::array<int, ReportDate::kBoxes> kMostDigits{4, 2, 2};
 
 }  // namespace
 
-bool YearPasses(const std::string& year, int date_style) {
-  return date_style != kEraYear || LeadingNumber(year) < kFirstYearRefused;
-}
-
-DateBoxes::DateBoxes(QLineEdit& year, QLineEdit& month, QLineEdit& day)
-    : QObject(&year), boxes_{&year, &month, &day} {
-  TakeDigitsOnly(year, 4);
-  TakeDigitsOnly(month, 2);
-  TakeDigitsOnly(day, 2);
-  for (QLineEdit* box : boxes_) box->installEventFilter(this);
-}
-
-void DateBoxes::FillEmpty() {
-  filled_style_ = DateStyle();
-  const DateTexts today = DefaultDateTexts(Now());
-  const std::array<const std::string*, 3> texts{&today.year, &today.month, &today.day};
-  for (std::size_t i = 0; i < boxes_.size(); ++i) {
-    if (boxes_[i]->text().isEmpty()) boxes_[i]->setText(QString::fromStdString(*texts[i]));
+DateBoxes::DateBoxes(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::DateBoxes>()), boxes_{} {
+  ui_->setupUi(this);
+  boxes_ = {ui_->txtYear, ui_->txtMonth, ui_->txtDay};
+  for (std::size_t box = 0; box < boxes_.size(); ++box) {
+    TakeDigitsOnly(*boxes_[box], kMostDigits[box]);
+    boxes_[box]->installEventFilter(this);
   }
 }
 
-void DateBoxes::FillToday() {
-  for (QLineEdit* box : boxes_) box->clear();
-  FillEmpty();
+DateBoxes::~DateBoxes() = default;
+
+void DateBoxes::Bind(ReportDate& date) {
+  date_ = &date;
+  for (std::size_t box = 0; box < boxes_.size(); ++box) {
+    connect(boxes_[box], &QLineEdit::textChanged, this,
+            [this, box] { date_->Type(box, boxes_[box]->text().toStdString()); });
+  }
 }
 
-void DateBoxes::SetEnabled(bool enabled) {
-  for (QLineEdit* box : boxes_) box->setEnabled(enabled);
+void DateBoxes::Show(const DateTexts& texts, bool enabled) {
+  const std::array<const std::string*, ReportDate::kBoxes> shown{&texts.year, &texts.month, &texts.day};
+  for (std::size_t box = 0; box < boxes_.size(); ++box) {
+    ShowText(*boxes_[box], *shown[box]);
+    boxes_[box]->setEnabled(enabled);
+  }
 }
 
-void DateBoxes::FollowStyle() {
-  if (DateStyle() != filled_style_) boxes_[0]->clear();
-  FillEmpty();
-}
-
-DateTexts DateBoxes::Texts() const {
-  return {boxes_[0]->text().toStdString(), boxes_[1]->text().toStdString(), boxes_[2]->text().toStdString()};
+void DateBoxes::FocusYear() {
+  ui_->txtYear->setFocus();
+  ui_->txtYear->selectAll();
 }
 
 bool DateBoxes::CheckYear() {
-  if (YearPasses(boxes_[0]->text().toStdString(), DateStyle())) return true;
-  boxes_[0]->setFocus();
-  boxes_[0]->selectAll();
+  if (date_->YearPasses()) return true;
+  FocusYear();
   return false;
 }
 
-bool DateBoxes::Move(int from, int step) {
+bool DateBoxes::Move(std::size_t from, int step) {
   if (!CheckYear()) return true;
-  const int to = from + step;
+  const int to = static_cast<int>(from) + step;
   if (to < 0 || to >= static_cast<int>(boxes_.size())) return false;
-  QLineEdit* box = boxes_[static_cast<std::size_t>(to)];
-  box->setFocus(Qt::TabFocusReason);
-  box->selectAll();
+  FocusText(*boxes_[static_cast<std::size_t>(to)]);
   return true;
 }
 
-bool DateBoxes::eventFilter(QObject* receiver, QEvent* event) {
-  if (event->type() == QEvent::FocusOut && receiver == boxes_[0]) {
-    // The mouse can leave the box too; the focus comes back once the move is over.
-    QMetaObject::invokeMethod(
-        this, [this] { CheckYear(); }, Qt::QueuedConnection);
-    return false;
-  }
-  if (event->type() != QEvent::KeyPress) return false;
-  const auto box = std::find(boxes_.begin(), boxes_.end(), receiver);
-  if (box == boxes_.end()) return false;
-  const int from = static_cast<int>(box - boxes_.begin());
-  switch (static_cast<QKeyEvent*>(event)->key()) {
+bool DateBoxes::AnswerKey(std::size_t box, int key) {
+  switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!Move(from, 1)) static_cast<QLineEdit*>(receiver)->nextInFocusChain()->setFocus(Qt::TabFocusReason);
+      if (!Move(box, 1)) MoveFocusOn(*boxes_[box]);
       return true;
     case Qt::Key_Right:
     case Qt::Key_Down:
-      Move(from, 1);
+      Move(box, 1);
       return true;
     case Qt::Key_Left:
     case Qt::Key_Up:
-      Move(from, -1);
+      Move(box, -1);
       return true;
     default:
       return false;
   }
+}
+
+bool DateBoxes::eventFilter(QObject* receiver, QEvent* event) {
+  if (date_ == nullptr) return false;
+  if (event->type() == QEvent::FocusOut && receiver == ui_->txtYear) {
+    // The mouse can leave the box too; the focus comes back once the move is over.
+    QMetaObject::invokeMethod(
+        this, [this] { RunAction(*this, [this] { CheckYear(); }); }, Qt::QueuedConnection);
+    return false;
+  }
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto at = std::find(boxes_.begin(), boxes_.end(), receiver);
+  if (at == boxes_.end()) return false;
+  const auto box = static_cast<std::size_t>(at - boxes_.begin());
+  bool answered = true;  // a fault answers too
+  RunAction(*this, [&] { answered = AnswerKey(box, static_cast<QKeyEvent*>(event)->key()); });
+  return answered;
 }
 
 }  // namespace rbt

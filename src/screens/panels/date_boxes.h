@@ -2,45 +2,44 @@
 #pragma once
 
 #include <array>
-#include <string>
+#include <memory>
 
-#include <QObject>
+#include <QWidget>
 
-#include "reports/frame/report_site.h"
+#include "session/panels/report_date.h"
 
 class QLineEdit;
 
+namespace Ui {
+class DateBoxes;
+}
+
 namespace rbt {
 
-/// True when a year may stand in the year box: an era, which `date_style` (日付表記) 2 counts by, has no year
-/// 32.
-bool YearPasses(const std::string& year, int date_style);
-
-/// The three boxes of the report date, in the style of the setting 日付表記. Digits only; Enter and the arrow
-/// keys move between them, Enter in the last one moves on.
-class DateBoxes : public QObject {
+/// The three boxes of the report date. Digits only; Enter and the arrow keys move between them, Enter in the
+/// last one moves on. A year that does not pass keeps the focus.
+class DateBoxes : public QWidget {
  public:
-  DateBoxes(QLineEdit& year, QLineEdit& month, QLineEdit& day);
+  explicit DateBoxes(QWidget* parent = nullptr);
+  ~DateBoxes() override;
 
-  /// Fills the empty boxes with today.
-  void FillEmpty();
-  /// Fills all boxes with today, whatever was typed.
-  void FillToday();
-  void SetEnabled(bool enabled);
-  /// Empties the year when it was written in the other style, and fills it anew.
-  void FollowStyle();
-  /// As they stand.
-  DateTexts Texts() const;
-  /// Puts the focus back to the year when it does not pass.
-  bool CheckYear();
+  /// What is typed goes to this date, which outlives the boxes.
+  void Bind(ReportDate& date);
+  void Show(const DateTexts& texts, bool enabled);
+  void FocusYear();
+  /// For the order of Tab.
+  QLineEdit* LastBox() const { return boxes_.back(); }
 
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  bool Move(int from, int step);
+  bool CheckYear();
+  bool Move(std::size_t from, int step);
+  bool AnswerKey(std::size_t box, int key);
 
-  std::array<QLineEdit*, 3> boxes_;
-  int filled_style_ = 0;
+  std::unique_ptr<Ui::DateBoxes> ui_;
+  std::array<QLineEdit*, ReportDate::kBoxes> boxes_;
+  ReportDate* date_ = nullptr;
 };
 
 }  // namespace rbt

@@ -1,45 +1,53 @@
 // SPDX-License-Identifier: MIT
-// The buttons and keys of the result form, and what they call.
-#include <QAbstractButton>
-#include <QKeyEvent>
+// The table of the result form: which control and which key stand for which intent.
 #include <QPushButton>
 
-#include "desktop/action.h"
-#include "desktop/key_table.h"
+#include "screens/panels/boxes.h"
+#include "screens/panels/form_actions.h"
 #include "screens/result/result_form.h"
 #include "ui_result_form.h"
 
 namespace rbt {
 
 struct ResultForm::Action {
-  const char* button;
+  const char* control;
   int key;  ///< 0 when it has none
-  void (ResultForm::*handler)();
+  std::function<void(ResultPresenter&)> intent;
+  bool ResultOffers::*offered = nullptr;  ///< null: on every screen
+  ButtonView ResultScreenView::*main_view =
+      nullptr;  ///< how a main button stands; panels show their own buttons
+
+  bool IsOn(const ResultScreen& screen) const { return offered == nullptr || screen.offers.*offered; }
 };
 
 const std::vector<ResultForm::Action>& ResultForm::Actions() {
-  using F = ResultForm;
+  using P = ResultPresenter;
+  using V = ResultScreenView;
+  using O = ResultOffers;
   static const std::vector<Action> actions{
-      {"cmdPrint", Qt::Key_F1, &F::cmdPrint_Click},
-      {"cmdUSum", Qt::Key_F2, &F::cmdUSum_Click},
-      {"cmdurubon", Qt::Key_F3, &F::cmdurubon_Click},
-      {"cmdPrint2", 0, &F::cmdPrint2_Click},
-      {"CmdVReturn", 0, &F::CmdVReturn_Click},
-      {"cmdMeisai", Qt::Key_F5, &F::cmdMeisai_Click},
-      {"cmdPGChange", Qt::Key_F7, &F::cmdPGChange_Click},
-      {"Command6", Qt::Key_F6, &F::Command6_Click},
-      {"cmdExit", Qt::Key_Escape, &F::cmdExit_Click},
-      {"Command1", 0, &F::Command1_Click},
-      {"Command2", 0, &F::Command2_Click},
-      {"Command3", 0, &F::Command3_Click},
-      {"cmdHoop", 0, &F::cmdHoop_Click},
-      {"cmdTei", 0, &F::cmdTei_Click},
-      {"btnA4Y", Qt::Key_F1, &F::btnA4Y_Click},
-      {"btnA4T", Qt::Key_F3, &F::btnA4T_Click},
-      {"btnB5Y", Qt::Key_F5, &F::btnB5Y_Click},
-      {"chkPreview", Qt::Key_F8, &F::chkPreview_Press},
-      {"btnSettei", Qt::Key_F7, &F::btnSettei_Click},
-      {"btnReturn", Qt::Key_Escape, &F::btnReturn_Click},
+      {"cmdPrint", Qt::Key_F1, [](P& screen) { screen.OpenPrint(SheetBody::with_ulbon); }, nullptr,
+       &V::print},
+      {"cmdUSum", Qt::Key_F2, &P::ShowUlbonView, &O::ulbon_view, &V::show_ulbon_view},
+      {"cmdurubon", Qt::Key_F3, &P::BeginUplift, &O::uplift, &V::ulbon},
+      {"cmdurubon", Qt::Key_F3, &P::PrintUlbonOfToday, &O::ulbon_print, &V::ulbon},
+      {"cmdPrint2", 0, [](P& screen) { screen.OpenPrint(SheetBody::deformed_alone); }, &O::deformed_print,
+       &V::print_deformed},
+      {"CmdVReturn", 0, &P::RestoreValues, &O::uplift, &V::restore_values},
+      {"cmdMeisai", Qt::Key_F5, &P::ShowDetail, nullptr, &V::show_detail},
+      {"cmdPGChange", Qt::Key_F7, &P::AskForRange, &O::range_change, &V::change_range},
+      {"Command6", Qt::Key_F6, &P::ToggleAccumulation, &O::accumulation, &V::toggle_accumulation},
+      {"cmdExit", Qt::Key_Escape, &P::Leave, nullptr, &V::leave},
+      {"Command1", 0, &P::Recalculate},
+      {"Command2", 0, &P::ChooseForms, &O::form_choice},
+      {"Command3", 0, &P::ChooseKinds},
+      {"cmdHoop", 0, &P::CycleHoops},
+      {"cmdTei", 0, &P::CyclePlates},
+      {"btnA4Y", Qt::Key_F1, [](P& screen) { screen.Print(ReportPaper::a4y); }},
+      {"btnA4T", Qt::Key_F3, [](P& screen) { screen.Print(ReportPaper::a4t); }},
+      {"btnB5Y", Qt::Key_F5, [](P& screen) { screen.Print(ReportPaper::b5y); }},
+      {"chkPreview", Qt::Key_F8, [](P& screen) { screen.PrintPanel().TogglePreview(); }},
+      {"btnSettei", Qt::Key_F7, &P::OpenSettings},
+      {"btnReturn", Qt::Key_Escape, &P::ClosePrint},
   };
   return actions;
 }
@@ -47,34 +55,25 @@ const std::vector<ResultForm::Action>& ResultForm::Actions() {
 std::vector<int> ResultForm::Keys(const ResultScreen& screen) {
   std::vector<int> keys;
   for (const Action& action : Actions()) {
-    if (action.key != 0 && HasControl(screen, action.button)) keys.push_back(action.key);
+    if (action.key != 0 && action.IsOn(screen)) keys.push_back(action.key);
   }
   return keys;
 }
 
-void ResultForm::ConnectControls() {
+void ResultForm::ConnectActions() {
+  std::vector<FormAction> actions;
   for (const Action& action : Actions()) {
-    const auto* button = findChild<QPushButton*>(action.button);
-    if (button == nullptr) continue;  // a check box turns over by itself
-    connect(button, &QPushButton::clicked, this,
-            [this, handler = action.handler] { RunAction(*this, [&] { (this->*handler)(); }); });
+    if (!action.IsOn(presenter_.Screen())) continue;
+    actions.push_back({action.control, action.key, [this, &action] { Do(action.intent); }});
   }
-  connect(ui_->txtPercent, &QLineEdit::returnPressed, this,
-          [this] { RunAction(*this, [this] { txtPercent_Enter(); }); });
-  new KeyPreview(*this, [this](const QKeyEvent& press) { return AnswerPress(press); });
+  new FormActions(*this, std::move(actions), KeysAct::where_the_control_can_be_pressed);
 }
 
-bool ResultForm::AnswerPress(const QKeyEvent& press) {
-  bool ours = false;
+void ResultForm::ShowMainButtons(const ResultScreenView& view) {
   for (const Action& action : Actions()) {
-    if (action.key == 0 || !IsPress(press, action.key) || !HasControl(screen_, action.button)) continue;
-    ours = true;
-    const auto* button = findChild<QAbstractButton*>(action.button);
-    if (print_panel_->IsOpen() != ui_->SSPanel3->isAncestorOf(button)) continue;
-    if (!IsRepeat(press) && button->isVisibleTo(this) && button->isEnabled()) (this->*action.handler)();
-    break;
+    if (action.main_view == nullptr) continue;
+    ShowButton(*ui_->SSPanel2->findChild<QPushButton*>(action.control), view.*action.main_view);
   }
-  return ours;
 }
 
 }  // namespace rbt

@@ -13,22 +13,39 @@
 
 namespace rbt {
 
-/// A text that belongs to a control.
+/// What one result screen offers and another does not.
+struct ResultOffers {
+  bool ulbon_view = false;      ///< the Ulbon rows alone
+  bool uplift = false;          ///< of the Ulbon rows by a percentage, and the way back
+  bool ulbon_print = false;     ///< the Ulbon report of today by one button
+  bool deformed_print = false;  ///< the report without Ulbon
+  bool accumulation = false;    ///< of several sites
+  bool range_change = false;
+  bool form_choice = false;
+  bool stock_warning = false;  ///< tells of a row whose stock length has no column
+};
+
+/// A text that belongs to a control of the layout that all screens share.
 struct ControlText {
   std::string_view control;
   std::string_view text;
 };
 
-/// What tells one result screen from another. Controls are named as in the layout that all share.
+/// What tells one result screen from another.
 struct ResultScreen {
   std::string_view name;  ///< object name of the form
   std::string_view title;
   TallyKind kind = TallyKind::bulk;
-  std::span<const std::string_view> absent;          ///< controls that this screen does not have
+  ResultOffers offers;
+  std::string_view kinds_at_start;                   ///< how the kinds are told until they are chosen
+  std::string_view (*form_caption)(FormMask forms);  ///< how the forms are told
+  void (*before_first_run)() = nullptr;              ///< of a range, the range standing in the selection
   std::span<const ControlText> captions = {};        ///< where they differ from the layout's
   std::span<const ControlText> names = {};           ///< object names, likewise
-  std::string_view (*form_caption)(FormMask forms);  ///< for Label9
-  void (*before_first_run)() = nullptr;              ///< of a range, the range standing in the selection
+
+  /// The tally runs over a range that is asked for first.
+  bool IsScoped() const { return Range() != TallyRange::whole_site; }
+  TallyRange Range() const { return RowOf(kind).range; }
 };
 
 extern const ResultScreen kBulkScreen;       ///< JS
@@ -36,13 +53,7 @@ extern const ResultScreen kPageScreen;       ///< PGJS
 extern const ResultScreen kShapeScreen;      ///< KEIJOJS
 extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
 
-/// The range that the screen asks for before it tallies.
-TallyRange RangeOf(const ResultScreen& screen);
-
-/// False for a control that the shared layout has and this screen does not.
-bool HasControl(const ResultScreen& screen, std::string_view control);
-
-/// What a result form leans on beside the tally. An empty one is not ready yet: its button says so.
+/// What a result screen leans on beside the tally. An empty one is not ready yet: its button says so.
 struct ResultParts {
   std::function<void()> choose_kinds;   ///< the dialog of material kinds, on the selection
   std::function<void()> choose_forms;   ///< the dialog of material forms

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <array>
 
 #include "session/result/range_rules.h"
@@ -13,30 +12,18 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<std::string_view, 1> kNotOnBulk{"cmdPGChange"};
-constexpr std::array<std::string_view, 8> kNotOnPage{"cmdUSum",  "cmdurubon", "cmdPrint2",  "CmdVReturn",
-                                                     "Command6", "lblUper",   "txtPercent", "hozon"};
-constexpr std::array<std::string_view, 10> kNotOnPageShape{
-    "cmdUSum", "cmdurubon",  "cmdPrint2", "CmdVReturn", "Command6",
-    "lblUper", "txtPercent", "hozon",     "Command2",   "Lwarning"};
-constexpr std::array<std::string_view, 9> kNotOnShape{"cmdUSum",  "cmdPrint2", "CmdVReturn",
-                                                      "Command6", "lblUper",   "txtPercent",
-                                                      "hozon",    "Lwarning",  "cmdPGChange"};
+constexpr std::string_view kAllKindsAtStart = "異形･高強度･ネジ･スリット";
 
-constexpr std::array<ControlText, 4> kPageCaptions{{{"cmdPrint", "印     字 （F1）"},
-                                                    {"cmdMeisai", "明 細 表 示 （F5）"},
-                                                    {"cmdExit", "終    了 （Esc）"},
-                                                    {"Label8", "異形･高強度･ネジ･スリット"}}};
-constexpr std::array<ControlText, 5> kPageShapeCaptions{{{"cmdPrint", "印     字 （F1）"},
+constexpr std::array<ControlText, 3> kPageCaptions{
+    {{"cmdPrint", "印     字 （F1）"}, {"cmdMeisai", "明 細 表 示 （F5）"}, {"cmdExit", "終    了 （Esc）"}}};
+constexpr std::array<ControlText, 4> kPageShapeCaptions{{{"cmdPrint", "印     字 （F1）"},
                                                          {"cmdMeisai", "明 細 表 示 （F5）"},
                                                          {"cmdExit", "終    了 （Esc）"},
-                                                         {"Label8", "異形･高強度･ネジ･スリット"},
                                                          {"WaitMsgL", "計算中！！"}}};
-constexpr std::array<ControlText, 6> kShapeCaptions{{{"cmdPrint", "印     字 （F1）"},
+constexpr std::array<ControlText, 5> kShapeCaptions{{{"cmdPrint", "印     字 （F1）"},
                                                      {"cmdurubon", "ｳﾙﾎﾞﾝ印字 （F3）"},
                                                      {"cmdMeisai", "明 細 表 示 （F5）"},
                                                      {"cmdExit", "終    了 （Esc）"},
-                                                     {"Label8", "異形･高強度･ネジ･スリット"},
                                                      {"WaitMsgL", "計算中！！"}}};
 
 /// `SSPanel4` is the range panel of the scoped screens.
@@ -57,38 +44,42 @@ void CountHighStrengthRows() {
 constinit const ResultScreen kBulkScreen{.name = "JS",
                                          .title = "重量集計",
                                          .kind = TallyKind::bulk,
-                                         .absent = kNotOnBulk,
+                                         .offers = {.ulbon_view = true,
+                                                    .uplift = true,
+                                                    .deformed_print = true,
+                                                    .accumulation = true,
+                                                    .form_choice = true,
+                                                    .stock_warning = true},
+                                         .kinds_at_start = kAllKindsAtDesign,
                                          .form_caption = FormCaption};
 
-constinit const ResultScreen kPageScreen{.name = "PGJS",
-                                         .title = "頁行別重量集計",
-                                         .kind = TallyKind::page,
-                                         .absent = kNotOnPage,
-                                         .captions = kPageCaptions,
-                                         .names = kScopedNames,
-                                         .form_caption = ShortFormCaption};
+constinit const ResultScreen kPageScreen{
+    .name = "PGJS",
+    .title = "頁行別重量集計",
+    .kind = TallyKind::page,
+    .offers = {.range_change = true, .form_choice = true, .stock_warning = true},
+    .kinds_at_start = kAllKindsAtStart,
+    .form_caption = ShortFormCaption,
+    .captions = kPageCaptions,
+    .names = kScopedNames};
 
 constinit const ResultScreen kShapeScreen{.name = "KEIJOJS",
                                           .title = "形状重量集計",
                                           .kind = TallyKind::shape,
-                                          .absent = kNotOnShape,
-                                          .captions = kShapeCaptions,
-                                          .names = kScopedNames,
+                                          .offers = {.ulbon_print = true, .form_choice = true},
+                                          .kinds_at_start = kAllKindsAtStart,
                                           .form_caption = SingleFormCaption,
-                                          .before_first_run = CountHighStrengthRows};
+                                          .before_first_run = CountHighStrengthRows,
+                                          .captions = kShapeCaptions,
+                                          .names = kScopedNames};
 
 constinit const ResultScreen kPageShapeScreen{.name = "PKEIJOJS",
                                               .title = "頁行別形状重量集計",
                                               .kind = TallyKind::page_shape,
-                                              .absent = kNotOnPageShape,
+                                              .offers = {.range_change = true},
+                                              .kinds_at_start = kAllKindsAtStart,
+                                              .form_caption = FormCaption,
                                               .captions = kPageShapeCaptions,
-                                              .names = kScopedNames,
-                                              .form_caption = FormCaption};
-
-TallyRange RangeOf(const ResultScreen& screen) { return RowOf(screen.kind).range; }
-
-bool HasControl(const ResultScreen& screen, std::string_view control) {
-  return std::find(screen.absent.begin(), screen.absent.end(), control) == screen.absent.end();
-}
+                                              .names = kScopedNames};
 
 }  // namespace rbt

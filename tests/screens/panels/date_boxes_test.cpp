@@ -76,11 +76,4 @@ TEST(DateBoxes, AnEraYearOf32OrMoreGetsTheFocusBack) {
   EXPECT_EQ(panel.Focused(), "txtMonth");
 }
 
-TEST(DateBoxes, AWesternYearMayBeAny) {
-  EXPECT_TRUE(YearPasses("2026", 1));
-  EXPECT_TRUE(YearPasses("31", 2));
-  EXPECT_FALSE(YearPasses("32", 2));
-  EXPECT_TRUE(YearPasses("", 2));
-}
-
 }  // namespace rbt::test

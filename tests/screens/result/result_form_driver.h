@@ -10,36 +10,18 @@
 
 #include "desktop/grid_control.h"
 #include "screens/result/result_form.h"
-#include "session/startup/startup.h"
+#include "session/result/result_site.h"
 #include "support/desktop/key_press.h"
-#include "support/site_fixture.h"
 
 namespace rbt::test {
 
 /// The bulk result screen over a small site: a deformed bar, a welded hoop, an anchored bar, a thin bar.
 class ResultFormDriver {
  public:
-  explicit ResultFormDriver(std::int32_t start_mode = -1) {
-    site.AddRows({Bar(19, 1, 3), Bar(13, 87, 3), Bar(25, 138, 3), Bar(9, 2, 3)});
-    options_.start_mode = TraitsOfStartMode(start_mode);
-  }
-
-  static Cells Bar(std::int64_t diameter, std::int64_t shape, std::int64_t welds) {
-    return {{"太さ", diameter},
-            {"形状No", shape},
-            {"本数", std::int64_t{10}},
-            {"ヶ所", std::int64_t{1}},
-            {"合計", std::int64_t{10}},
-            {"伸切寸", std::int64_t{6000}},
-            {"伸定尺", 6.0},
-            {"伸本定", std::int64_t{1}},
-            {"伸総計", std::int64_t{10}},
-            {"圧接", welds}};
-  }
+  explicit ResultFormDriver(std::int32_t start_mode = kNoStartMode) : start_mode_(start_mode) {}
 
   void Open(const ResultScreen& screen = kBulkScreen) {
-    LoadSite(options_);
-    ActivateMenu(options_);
+    ResultSite::Load(start_mode_);
     form = std::make_unique<ResultForm>(screen, parts);
     form->show();
     form->activateWindow();
@@ -81,12 +63,12 @@ class ResultFormDriver {
     return "";
   }
 
-  SiteFixture site;
+  ResultSite site;
   ResultParts parts;
   std::unique_ptr<ResultForm> form;
 
  private:
-  StartOptions options_;
+  std::int32_t start_mode_;
 };
 
 }  // namespace rbt::test

@@ -271,7 +271,7 @@ TEST(BulkScreen, SettingsChosenInThePanelShowInGridAndYear) {
 
 TEST(BulkScreen, WarnsOfTheLastRowWithoutAStockLength) {
   ResultFormDriver js;
-  Cells odd = ResultFormDriver::Bar(19, 1, 0);
+  Cells odd = TenBars(19, 1, 0);
   odd[6].second = 12.5;
   js.site.AddRow(odd);
   js.Open();

@@ -74,7 +74,7 @@ struct Sheet : DrawnPage {
 class PrintDriver : public ResultFormDriver {
  public:
   explicit PrintDriver(const ResultScreen& screen = kBulkScreen) : screen_(screen) {
-    Cells cut = Bar(16, 1, 2);
+    Cells cut = TenBars(16, 1, 2);
     for (auto& [field, value] : cut) {
       if (field == "伸切寸") value = std::int64_t{5000};
     }

@@ -24,19 +24,13 @@ constexpr const char* kD25 = "239 |239 |0 |3|0|";
 constexpr const char* kD32 = "374 |374 |0 |3|0|";
 constexpr const char* kNone = "0 |0 |0 |0|0|";
 
-Cells At(Cells bar, std::int64_t page, std::int64_t line) {
-  bar.emplace_back("頁", page);
-  bar.emplace_back("行", line);
-  return bar;
-}
-
 /// A scoped screen. Page 1 has lines 1 to 4 (D19, hoop D13, anchored D25, U 9), page 2 lines 1 and 2 (D32,
 /// D16), page 4 line 7 (D10). The stock lengths are those of the schedule.
 class Scoped : public ResultFormDriver {
  public:
   explicit Scoped(const ResultScreen& screen, std::int32_t start_mode = -1)
       : ResultFormDriver(start_mode), screen_(screen) {
-    site.AddRows({At(Bar(32, 1, 3), 2, 1), At(Bar(16, 1, 3), 2, 2), At(Bar(10, 5, 3), 4, 7)});
+    site.AddRows({At(TenBars(32, 1, 3), 2, 1), At(TenBars(16, 1, 3), 2, 2), At(TenBars(10, 5, 3), 4, 7)});
     SaveSetting(kStockCheckKey, 1);
   }
 
@@ -239,7 +233,7 @@ TEST(PageScreens, RangeChangeAsksAnewAndTheNextTallyRunsWithAllFiltersReset) {
 
 TEST(PageScreens, OnlyThePageScreenWarnsOfAStockLengthWithoutAColumn) {
   Scoped js(kPageScreen);
-  Cells odd = ResultFormDriver::Bar(19, 1, 0);
+  Cells odd = TenBars(19, 1, 0);
   odd[6].second = 12.5;
   js.site.AddRow(At(odd, 5, 1));
   js.Start();
@@ -253,7 +247,7 @@ TEST(PageScreens, OnlyThePageScreenWarnsOfAStockLengthWithoutAColumn) {
 
 TEST(PageScreens, AFaultOfTheTallyAsksForTheRangeAgain) {
   Scoped js(kPageShapeScreen);
-  Cells odd = ResultFormDriver::Bar(19, 1, 0);
+  Cells odd = TenBars(19, 1, 0);
   odd[6].second = 12.5;  // no column: the tally by groups cannot pass it over
   js.site.AddRow(At(odd, 5, 1));
   js.Start();
@@ -360,7 +354,7 @@ TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
 TEST(ShapeScreen, CountsTheHighStrengthRowsOfItsRange) {
   Scoped js(kShapeScreen);
   for (const std::int64_t shape : {5, 5, 100}) {
-    Cells bar = ResultFormDriver::Bar(19, shape, 0);
+    Cells bar = TenBars(19, shape, 0);
     bar.emplace_back("予備2", std::int64_t{3});
     js.site.AddRow(At(bar, 5, shape));
   }

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "screens/panels/filter_panel.h"
+
+#include "desktop/action.h"
+#include "desktop/texts.h"
+#include "screens/panels/boxes.h"
+#include "screens/panels/digit_box.h"
+#include "ui_filter_panel.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr int kPercentDigits = 6;
+
+}  // namespace
+
+FilterPanel::FilterPanel(QWidget* parent) : QFrame(parent), ui_(std::make_unique<Ui::FilterPanel>()) {
+  ui_->setupUi(this);
+  TakeDigitsOnly(*ui_->txtPercent, kPercentDigits);
+}
+
+FilterPanel::~FilterPanel() = default;
+
+void FilterPanel::OnUplift(std::function<void(std::string text)> typed, std::function<void()> taken) {
+  connect(ui_->txtPercent, &QLineEdit::textChanged, this,
+          [this, typed = std::move(typed)] { typed(ui_->txtPercent->text().toStdString()); });
+  connect(ui_->txtPercent, &QLineEdit::returnPressed, this,
+          [this, taken = std::move(taken)] { RunAction(*this, taken); });
+}
+
+void FilterPanel::Show(const FilterView& view) {
+  ui_->Label8->setText(Text(view.kinds));
+  ui_->Label9->setText(Text(view.forms));
+  ShowButton(*ui_->Command3, view.choose_kinds);
+  ShowButton(*ui_->Command2, view.choose_forms);
+  ShowButton(*ui_->Command1, view.recalculate);
+  ui_->Label4->setText(Text(view.hoops_note));
+  ui_->Label3->setVisible(view.tells_hoops);
+  ui_->Label4->setVisible(view.tells_hoops);
+  ShowButton(*ui_->cmdHoop, view.cycle_hoops);
+  ui_->Label5->setVisible(view.tells_plates);
+  ShowButton(*ui_->cmdTei, view.cycle_plates);
+  ShowText(*ui_->txtPercent, view.uplift.text);
+  ui_->txtPercent->setEnabled(view.uplift.enabled);
+  ui_->txtPercent->setVisible(view.uplift.shown);
+  ui_->lblUper->setVisible(view.uplift.shown);
+  ui_->hozon->setVisible(view.accumulating);
+  ui_->Lwarning->setText(Text(view.warning));
+  ui_->Lwarning->setVisible(!view.warning.empty());
+}
+
+void FilterPanel::FocusUplift() {
+  ui_->txtPercent->setFocus();
+  ui_->txtPercent->selectAll();
+}
+
+QWidget* FilterPanel::LastControl() const { return ui_->cmdTei; }
+
+}  // namespace rbt

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <QObject>
+
+class QKeyEvent;
+class QWidget;
+
+namespace rbt {
+
+/// One row of a form's table: a control by its object name, its key, and what a click and the key do.
+struct FormAction {
+  std::string control;
+  int key;  ///< of the Qt::Key enumeration; 0: none
+  std::function<void()> call;
+};
+
+/// When a key of the table acts. Either way it is eaten.
+enum class KeysAct {
+  where_the_control_can_be_pressed,  ///< in sight and in reach
+  always
+};
+
+/// Wires a form by its table. What is called runs as an action of the form; a held key acts once. A check box
+/// turns over by itself at a click.
+class FormActions : public QObject {
+ public:
+  FormActions(QWidget& form, std::vector<FormAction> actions, KeysAct keys_act);
+
+ private:
+  bool Answer(const QKeyEvent& press) const;
+  bool CanBePressed(const FormAction& action) const;
+
+  QWidget& form_;
+  std::vector<FormAction> actions_;
+  KeysAct keys_act_;
+};
+
+}  // namespace rbt

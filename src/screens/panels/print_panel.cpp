@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "screens/panels/print_panel.h"
+
+#include <initializer_list>
+
+#include "ui_print_panel.h"
+
+namespace rbt {
+
+PrintPanel::PrintPanel(QWidget* parent) : QFrame(parent), ui_(std::make_unique<Ui::PrintPanel>()) {
+  ui_->setupUi(this);
+}
+
+PrintPanel::~PrintPanel() = default;
+
+void PrintPanel::Bind(PrintPanelPresenter& print_panel) {
+  connect(ui_->chkPreview, &QCheckBox::toggled, this,
+          [&print_panel](bool ticked) { print_panel.SetPreview(ticked); });
+}
+
+void PrintPanel::Show(const PrintPanelView& view) {
+  for (QPushButton* button : {ui_->btnA4Y, ui_->btnB5Y}) button->setVisible(view.papers != Papers::ulbon);
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{ui_->btnA4Y, ui_->btnA4T, ui_->btnB5Y, ui_->chkPreview}) {
+    control->setEnabled(view.papers != Papers::none);
+  }
+  ui_->chkPreview->setChecked(view.preview);
+}
+
+void PrintPanel::Focus(FocusTarget target) {
+  switch (target) {
+    case FocusTarget::a4_landscape:
+      return ui_->btnA4Y->setFocus();
+    case FocusTarget::a4_portrait:
+      return ui_->btnA4T->setFocus();
+    case FocusTarget::settings:
+      return ui_->btnSettei->setFocus();
+    default:
+      return;
+  }
+}
+
+}  // namespace rbt

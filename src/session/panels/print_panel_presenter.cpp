@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "session/panels/print_panel_presenter.h"
+
+namespace rbt {
+
+FocusTarget PrintPanelPresenter::Open(Papers papers) {
+  open_ = true;
+  papers_ = papers;
+  date_.FillEmpty();
+  switch (papers) {
+    case Papers::ulbon:
+      return FocusTarget::a4_portrait;
+    case Papers::none:
+      return FocusTarget::settings;
+    case Papers::all:
+      break;
+  }
+  return FocusTarget::a4_landscape;
+}
+
+}  // namespace rbt

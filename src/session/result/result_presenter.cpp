@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "session/result/result_presenter.h"
+
+#include <utility>
+
+#include "platform/numbers/number_words.h"
+#include "platform/system/message.h"
+#include "platform/system/process.h"
+#include "session/panels/at_end.h"
+#include "session/panels/site_head.h"
+#include "shell/config/settings.h"
+#include "shell/context/reference_names.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "tally/captions.h"
+#include "tally/selection.h"
+#include "tally/views/result_views.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
+constexpr std::string_view kHoopsNote = "(形状No87)を";
+constexpr std::string_view kHoopsAloneNote = "(形状No87)";
+
+std::optional<RowColours> AlternateColours() {
+  if (Settings.AlternateRowColours != 1) return std::nullopt;
+  return RowColours{Settings.GridRowBackColor, Settings.GridRowForeColor};
+}
+
+}  // namespace
+
+ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)
+    : screen_(screen), parts_(std::move(parts)), range_(MakeRangeInput(screen.Range())) {
+  SetSelectionDefaults();
+  SelectSite(ReadSteelIni(kSelectedDbNameKey));
+  OpenWorkDatabase();
+  if (!SiteContext.MasterDatabase) OpenMasterDatabase();
+  head_ = ReadHead();
+  filters_.kinds = screen_.kinds_at_start;
+  filters_.hoops_note = kHoopsNote;
+  filters_.accumulating = screen_.offers.accumulation && RunState.AccumulateFlag != 0;
+  TellForms();
+  if (range_ == nullptr) {
+    FirstRun();
+  } else {
+    range_->FillFromSchedule(*SiteContext.WorkDatabase);
+    ShowStage();
+  }
+  FocusWork();
+}
+
+void ResultPresenter::FirstRun() {
+  Tally();
+  Fill();
+  TellModes();
+  OfferModes();
+}
+
+// The tally and what it fills.
+
+void ResultPresenter::Tally() {
+  tally_ran_ = false;
+  result_ = CountTally(screen_.kind);
+  tally_ran_ = true;
+}
+
+void ResultPresenter::Fill() {
+  const double percent = LeadingNumber(filters_.uplift.text);
+  result_ = WithUlbonRaised(std::move(result_), static_cast<std::int32_t>(percent));
+  rows_ = ResultRows(result_, {ulbon_view_, DiameterGradeNames()});
+  colours_ = AlternateColours();
+  filters_.warning = screen_.offers.stock_warning ? result_.Grid().StockWarningText : "";
+}
+
+void ResultPresenter::Rerun(const std::function<void()>& change) {
+  const AtEnd stage([this] {
+    if (range_ == nullptr) return;
+    if (tally_ran_) return ShowStage();
+    AskForRange();  // a fault leaves nothing to look at
+  });
+  const AtEnd idle([this] { busy_ = false; });
+  busy_ = true;
+  if (show_) show_();
+  RunPendingEvents();
+  change();
+  ResetMeaninglessModes(Selection);
+  Tally();
+  Fill();
+  // The scoped screens name the kinds after a choice of kinds alone.
+  if (range_ == nullptr) TellKinds();
+  TellForms();
+  TellModes();
+  DecideAvailability();
+  Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
+}
+
+void ResultPresenter::TellKinds() {
+  const std::string_view caption = KindCaption(Selection.MaterialKindMask);
+  // On the bulk screen the slit word goes in the full program too; the total row keeps it there.
+  const bool strips =
+      screen_.IsScoped() ? Selection.StartMode.hides_slit : Selection.StartMode.hides_slit_in_bulk_kinds;
+  filters_.kinds = strips ? StripSlitWord(caption) : std::string(caption);
+}
+
+void ResultPresenter::TellForms() { filters_.forms = screen_.form_caption(Selection.MaterialFormMask); }
+
+void ResultPresenter::TellModes() {
+  filters_.cycle_hoops.caption = ShapeFilterCaption(Selection.HoopMode);
+  filters_.hoops_note = Selection.HoopMode == ShapeFilter::alone ? kHoopsAloneNote : kHoopsNote;
+  filters_.cycle_plates.caption = ShapeFilterCaption(Selection.AnchorPlateMode);
+}
+
+/// The buttons of hoops and plates, where the last tally's rows hold such shapes. A mode that leaves none of
+/// them must be taken back, so this belongs to the first run alone.
+void ResultPresenter::OfferModes() {
+  filters_.tells_plates = result_.has_anchor_plate_rows && Selection.StartMode.offers_shape_filters;
+  filters_.tells_hoops = result_.has_hoop_rows && Selection.StartMode.offers_shape_filters;
+}
+
+void ResultPresenter::DecideAvailability() {
+  offers_print_ = ShowsWholePicture(ulbon_view_);
+  if (print_panel_.IsOpen()) print_panel_.OfferPapers(PapersNow());
+}
+
+// The selection.
+
+void ResultPresenter::Recalculate() {
+  Rerun([] {});
+}
+
+void ResultPresenter::ChooseForms() {
+  if (!parts_.choose_forms) return SayNotReady("材料変更");
+  Rerun([this] {
+    parts_.choose_forms();
+    Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask);
+  });
+}
+
+void ResultPresenter::ChooseKinds() {
+  if (!parts_.choose_kinds) return SayNotReady("材質変更");
+  parts_.choose_kinds();
+  Recalculate();
+  TellKinds();
+}
+
+void ResultPresenter::CycleHoops() {
+  Rerun([] { Selection.HoopMode = Next(Selection.HoopMode); });
+}
+
+void ResultPresenter::CyclePlates() {
+  Rerun([] { Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode); });
+}
+
+// The Ulbon rows.
+
+void ResultPresenter::ShowUlbonView() {
+  Tally();
+  ulbon_view_ = true;
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
+void ResultPresenter::BeginUplift() {
+  filters_.uplift.shown = true;
+  filters_.uplift.enabled = true;
+  FocusOn(FocusTarget::uplift);
+}
+
+void ResultPresenter::TakeUplift() {
+  Fill();
+  filters_.uplift.enabled = false;
+  FocusOn(FocusTarget::grid);
+}
+
+void ResultPresenter::RestoreValues() {
+  filters_.uplift.text.clear();
+  filters_.uplift.shown = false;
+  Tally();
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
+// The range of a scoped screen.
+
+bool ResultPresenter::Passes(std::size_t box) {
+  const std::optional<RangeRefusal> refusal = range_->Refusal(box);
+  if (!refusal) return true;
+  MsgBox(refusal->text, refusal->title.empty() ? screen_.title : refusal->title);
+  range_->TakeBack(*refusal);
+  FocusOn(FocusTarget::range, refusal->box);
+  return false;
+}
+
+void ResultPresenter::EnterRangeBox(std::size_t box) {
+  if (box + 1 == range_->Boxes()) {
+    TakeRange();
+  } else if (Passes(box)) {
+    FocusOn(FocusTarget::range, box + 1);
+  }
+}
+
+void ResultPresenter::TakeRange() {
+  if (range_ == nullptr || !range_->HasRows()) return;
+  for (std::size_t box = 0; box < range_->Boxes(); ++box) {
+    if (!Passes(box)) return;
+  }
+  range_->WriteTo(Selection);
+  RunRange();
+}
+
+void ResultPresenter::RunRange() {
+  if (range_->GivesWay()) range_shown_ = false;
+  Rerun([this] {
+    if (screen_.Range() == TallyRange::shapes) ResetFilters();
+    if (screen_.before_first_run != nullptr) screen_.before_first_run();
+  });
+  OfferModes();
+  FocusWork();
+}
+
+void ResultPresenter::AskForRange() {
+  ResetFilters();
+  Selection.MaterialFormMask = kAllForms;
+  RunState.HasAnchorPlateRows = false;
+  tally_ran_ = false;
+  TellForms();
+  DecideAvailability();
+  ShowStage();
+  FocusWork();
+}
+
+void ResultPresenter::ResetFilters() {
+  Selection.MaterialKindMask = kAllKinds;
+  Selection.AnchorPlateMode = ShapeFilter::with_others;
+  Selection.HoopMode = ShapeFilter::with_others;
+  filters_.kinds = kAllKindsAfterReset;
+  TellModes();
+}
+
+/// Input or result. While a tally runs the stage before it stays.
+void ResultPresenter::ShowStage() {
+  result_shown_ = tally_ran_;
+  range_shown_ = !tally_ran_ || !range_->GivesWay();
+}
+
+void ResultPresenter::FocusWork() {
+  if (range_ == nullptr || tally_ran_) return FocusOn(FocusTarget::grid);
+  FocusOn(range_->HasRows() ? FocusTarget::range : FocusTarget::leave);
+}
+
+}  // namespace rbt

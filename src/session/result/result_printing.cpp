@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// The result screen's panel of print buttons, its ways out, and the view.
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/system/message.h"
+#include "session/result/result_presenter.h"
+#include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "tally/selection.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
+
+/// The number that reports take.
+std::int32_t NumberOf(SheetBody body) { return body == SheetBody::with_ulbon ? 1 : 0; }
+
+}  // namespace
+
+void ResultPresenter::OpenPrint(SheetBody body) {
+  RunState.ReportBody = NumberOf(body);
+  FocusOn(print_panel_.Open(PapersNow()));
+}
+
+Papers ResultPresenter::PapersNow() const {
+  if (!tally_ran_ || !ShowsWholePicture(false)) return Papers::none;
+  return ulbon_view_ ? Papers::ulbon : Papers::all;
+}
+
+void ResultPresenter::ClosePrint() {
+  print_panel_.Close();
+  FocusWork();
+}
+
+void ResultPresenter::Print(ReportPaper paper) {
+  if (!print_panel_.Date().YearPasses()) return FocusOn(FocusTarget::year);
+  const bool printed = PrintSheet(Order(paper, ulbon_view_));
+  // The scoped screens stay in the panel, for another sheet.
+  if (printed && !screen_.IsScoped()) ClosePrint();
+}
+
+void ResultPresenter::PrintUlbonOfToday() {
+  RunState.ReportBody = NumberOf(SheetBody::with_ulbon);
+  print_panel_.Date().FillToday();
+  PrintSheet(Order(ReportPaper::a4y, true));
+}
+
+PrintOrder ResultPresenter::Order(ReportPaper paper, bool ulbon) const {
+  const PrintPanelView panel = print_panel_.View();
+  return {.result = result_,
+          .paper = paper,
+          .ulbon = ulbon,
+          .date = panel.date,
+          .sub_project = panel.memo,
+          .preview = panel.preview};
+}
+
+bool ResultPresenter::PrintSheet(const PrintOrder& order) {
+  if (!parts_.print) {
+    SayNotReady("印字");
+    return false;
+  }
+  parts_.print(order);
+  return true;
+}
+
+void ResultPresenter::OpenSettings() {
+  if (!parts_.open_settings) return SayNotReady("設定");
+  parts_.open_settings();
+  print_panel_.Date().FollowStyle();
+  Fill();
+}
+
+void ResultPresenter::ShowDetail() {
+  if (!parts_.open_detail) return SayNotReady("明細表示");
+  parts_.open_detail();
+}
+
+void ResultPresenter::ToggleAccumulation() {
+  if (!parts_.toggle_accumulation) return SayNotReady("集計加算");
+  parts_.toggle_accumulation();
+}
+
+void ResultPresenter::Leave() {
+  if (std::exchange(left_, true)) return;
+  Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
+  Selection.MaterialFormMask = kAllForms;
+  SiteContext.WorkDatabase.reset();
+}
+
+void ResultPresenter::SayNotReady(std::string_view what) const {
+  MsgBox(fmt::format("「{}」は、まだご利用いただけません。", what), screen_.title);
+}
+
+ResultScreenView ResultPresenter::View() {
+  ResultScreenView view;
+  view.head = head_;
+  if (range_ != nullptr) view.range = range_->View();
+  view.range.shown = range_ != nullptr && range_shown_;
+  view.range.enabled = !busy_ && !print_panel_.IsOpen();
+  view.result_shown = result_shown_;
+  view.filters = Filters();
+  view.rows = rows_;
+  view.colours = colours_;
+  view.ulbon_view = ulbon_view_;
+  view.busy = busy_;
+  view.main_buttons_shown = !print_panel_.IsOpen();
+  SetMainButtons(view);
+  view.print_panel = print_panel_.View();
+  view.focus = std::exchange(focus_, {});
+  view.left = left_;
+  return view;
+}
+
+FilterView ResultPresenter::Filters() const {
+  FilterView view = filters_;
+  view.choose_kinds.shown = !busy_;
+  view.choose_forms.shown = !busy_ && screen_.offers.form_choice;
+  view.cycle_hoops.shown = !busy_ && filters_.tells_hoops;
+  view.cycle_plates.shown = !busy_ && filters_.tells_plates;
+  return view;
+}
+
+void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
+  const ResultOffers& offers = screen_.offers;
+  const bool idle = !busy_;
+  const bool idle_result = idle && result_shown_;
+  view.print = {offers_print_, idle, ulbon_view_ ? kUlbonPrintCaption : ""};
+  view.show_ulbon_view = {offers.ulbon_view && !ulbon_view_};
+  view.ulbon = {offers.uplift || (offers.ulbon_print && offers_print_), idle_result};
+  view.print_deformed = {offers.deformed_print && offers_print_, idle};
+  view.restore_values = {offers.uplift};
+  view.show_detail = {true, idle_result};
+  view.change_range = {offers.range_change, idle_result};
+  view.toggle_accumulation = {offers.accumulation && offers_print_ && !ulbon_view_, idle};
+  view.leave = {true, idle};
+}
+
+}  // namespace rbt

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "session/panels/views.h"
+#include "tally/views/result_grid.h"
+
+namespace rbt {
+
+/// Colours of every second grid row, RGB with red in the low byte.
+struct RowColours {
+  std::int32_t back = 0;
+  std::int32_t fore = 0;
+
+  friend bool operator==(const RowColours&, const RowColours&) = default;
+};
+
+/// All that a result screen shows.
+struct ResultScreenView {
+  HeadView head;
+  RangeView range;           ///< of a scoped screen
+  bool result_shown = true;  ///< filters and grid; a scoped screen has none before its tally
+  FilterView filters;
+  GridRows rows;
+  std::optional<RowColours> colours;  ///< nothing: all rows are alike
+  bool ulbon_view = false;            ///< the grid holds the Ulbon rows alone
+  bool busy = false;                  ///< a tally runs: the wait notice shows
+
+  bool main_buttons_shown = true;
+  ButtonView print;
+  ButtonView show_ulbon_view;
+  ButtonView ulbon;  ///< begins the uplift, or prints the Ulbon report
+  ButtonView print_deformed;
+  ButtonView restore_values;
+  ButtonView show_detail;
+  ButtonView change_range;
+  ButtonView toggle_accumulation;
+  ButtonView leave;
+
+  PrintPanelView print_panel;
+  FocusRequest focus;
+  bool left = false;  ///< the screen is to be closed
+};
+
+}  // namespace rbt
