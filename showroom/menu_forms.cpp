@@ -31,8 +31,8 @@ std::unique_ptr<QWidget> MakeMenu() {
       MenuParts{.load = [] { return LoadResult{.hand_over_to = {}, .shows_plate_sheet = true}; },
                 .activate = [] { return FullyEquipped(-1, ""); },
                 .write_accumulated = [] {},
-                .screens = MenuScreens(),
-                .end_program = [](int) {}});
+                .end_program = [](int) {}},
+      MenuScreens());
   menu->Open();
   return menu;
 }

@@ -86,7 +86,7 @@ int RunMenu(const Arguments& arguments) {
     options.start_mode = TraitsOfStartMode(ParseStartMode(arguments.command_line));
   });
   if (!ready || !root_known) return EXIT_FAILURE;
-  JSMENU menu(MenuPartsFor(options));
+  JSMENU menu(MenuPartsFor(options, [](int status) { QApplication::exit(status); }), MenuScreens());
   QTimer::singleShot(0, [&menu] { menu.Open(); });
   return QApplication::exec();
 }

@@ -12,14 +12,12 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<MenuScreen, 7> kMenuScreens{{
-    {"JS", "一括集計", MakeJS},
-    {"KEIJOJS", "形状別 一括集計", MakeKEIJOJS},
-    {"PGJS", "頁行別集計", MakePGJS},
-    {"PKEIJOJS", "形状別 頁行別集計", MakePKEIJOJS},
-    {"KAIJS", "階別集計"},
-    {"BUIJS", "部位別集計"},
-    {"SETJS", "年号等集計印刷設定", MakeSETJS},
+constexpr std::array<MenuScreen, 5> kMenuScreens{{
+    {"JS", MakeJS},
+    {"KEIJOJS", MakeKEIJOJS},
+    {"PGJS", MakePGJS},
+    {"PKEIJOJS", MakePKEIJOJS},
+    {"SETJS", MakeSETJS},
 }};
 
 }  // namespace

@@ -9,15 +9,13 @@ class QWidget;
 
 namespace rbt {
 
-/// One form that the menu opens. A form that is ready takes one row with the function that makes and loads
-/// it; until then the menu says that it cannot be used yet.
+/// One form that the menu opens, with the function that makes and loads it.
 struct MenuScreen {
-  std::string_view form;     ///< object name
-  std::string_view caption;  ///< how messages name it
-  std::unique_ptr<QWidget> (*make)() = nullptr;
+  std::string_view form;  ///< object name
+  std::unique_ptr<QWidget> (*make)();
 };
 
-/// All of them, those that are not ready too.
+/// Those that are ready. Of the others the menu says that they cannot be used yet.
 std::span<const MenuScreen> MenuScreens();
 
 }  // namespace rbt

@@ -27,13 +27,9 @@ std::unique_ptr<QWidget> MakePassingDialog() {
 }
 
 constexpr MenuScreen kReadyScreens[] = {
-    {"JS", "一括集計", MakeScreen},
-    {"KEIJOJS", "形状別 一括集計", MakeScreen},
-    {"PGJS", "頁行別集計", MakeScreen},
-    {"PKEIJOJS", "形状別 頁行別集計", MakeScreen},
-    {"KAIJS", "階別集計", MakeFaultyScreen},
-    {"BUIJS", "部位別集計", MakeScreen},
-    {"SETJS", "年号等集計印刷設定", MakePassingDialog},
+    {"JS", MakeScreen},           {"KEIJOJS", MakeScreen},     {"PGJS", MakeScreen},
+    {"PKEIJOJS", MakeScreen},     {"KAIJS", MakeFaultyScreen}, {"BUIJS", MakeScreen},
+    {"SETJS", MakePassingDialog},
 };
 
 QWidget* OpenForm(const char* name) {
@@ -140,7 +136,7 @@ TEST(Menu, ATallyButtonOpensItsFormAndOnlyTheBulkFormLeavesTheMenuInSight) {
   for (const TallyKey& row : kTallyKeys) {
     if (row.tally_kind == 4) continue;  // stands for a form that fails to load, below
     ScriptedMenu driver;
-    driver.parts.screens = kReadyScreens;
+    driver.screens = kReadyScreens;
     JSMENU& menu = driver.Open();
     driver.Click(row.button);
     Settle();
@@ -155,7 +151,7 @@ TEST(Menu, ATallyButtonOpensItsFormAndOnlyTheBulkFormLeavesTheMenuInSight) {
 
 TEST(Menu, ClosingATallyFormShowsTheMenuAndActivatesItAgain) {
   ScriptedMenu driver;
-  driver.parts.screens = kReadyScreens;
+  driver.screens = kReadyScreens;
   JSMENU& menu = driver.Open();
   Press(menu, Qt::Key_F3);
   Settle();
@@ -169,7 +165,7 @@ TEST(Menu, ClosingATallyFormShowsTheMenuAndActivatesItAgain) {
 
 TEST(Menu, AFormThatIsOpenIsNotOpenedTwice) {
   ScriptedMenu driver;
-  driver.parts.screens = kReadyScreens;
+  driver.screens = kReadyScreens;
   JSMENU& menu = driver.Open();
   Press(menu, Qt::Key_F1);
   Settle();
@@ -182,7 +178,7 @@ TEST(Menu, AFormThatIsOpenIsNotOpenedTwice) {
 
 TEST(Menu, AFaultWhileAFormLoadsIsToldAndTheMenuComesBack) {
   ScriptedMenu driver;
-  driver.parts.screens = kReadyScreens;
+  driver.screens = kReadyScreens;
   JSMENU& menu = driver.Open();
   Press(menu, Qt::Key_F8);
   Settle();
@@ -197,7 +193,7 @@ TEST(Menu, AFaultWhileAFormLoadsIsToldAndTheMenuComesBack) {
 
 TEST(Menu, TheSettingsButtonShowsItsFormModallyAndComesBack) {
   ScriptedMenu driver;
-  driver.parts.screens = kReadyScreens;
+  driver.screens = kReadyScreens;
   driver.Open();
   driver.Click("Command1");
   EXPECT_EQ(OpenForm("SETJS"), nullptr);
@@ -206,7 +202,7 @@ TEST(Menu, TheSettingsButtonShowsItsFormModallyAndComesBack) {
 
 TEST(Menu, AHiddenButtonStillAnswersToItsKey) {
   ScriptedMenu driver(-1, "j");
-  driver.parts.screens = kReadyScreens;
+  driver.screens = kReadyScreens;
   JSMENU& menu = driver.Open();
   ASSERT_FALSE(driver.Shows("cmdKeijoShuukei"));
   EXPECT_TRUE(Press(menu, Qt::Key_F5));

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -33,17 +34,6 @@ struct MenuLaunch {
   }
 };
 
-/// The menu's screens as long as none of them can be used.
-inline constexpr MenuScreen kNoneReady[] = {
-    {"JS", "一括集計"},
-    {"KEIJOJS", "形状別 一括集計"},
-    {"PGJS", "頁行別集計"},
-    {"PKEIJOJS", "形状別 頁行別集計"},
-    {"KAIJS", "階別集計"},
-    {"BUIJS", "部位別集計"},
-    {"SETJS", "年号等集計印刷設定"},
-};
-
 /// A menu over a root folder, its load and activation scripted, its messages, starts of programs and its end
 /// kept instead of shown and made. All siblings are on disk and no setting hides a button.
 class MenuDriver {
@@ -64,7 +54,6 @@ class MenuDriver {
       return MenuStateOf(TraitsOfStartMode(start_mode), RunState, Settings, weight_tally);
     };
     parts.write_accumulated = [this] { ++accumulations_written; };
-    parts.screens = kNoneReady;
     parts.end_program = [this](int status) { end_status = status; };
     Services.Messages = [this](auto text, auto title, MessageButtons buttons) {
       messages.push_back({std::string(text), std::string(title), buttons});
@@ -84,7 +73,7 @@ class MenuDriver {
   }
 
   JSMENU& Open() {
-    menu = std::make_unique<JSMENU>(parts);
+    menu = std::make_unique<JSMENU>(parts, screens);
     menu->Open();
     Settle();
     return *menu;
@@ -100,6 +89,7 @@ class MenuDriver {
   bool Shows(const char* name) const { return Control(name).isVisibleTo(menu.get()); }
 
   MenuParts parts;
+  std::span<const MenuScreen> screens;  ///< none of them can be used
   std::unique_ptr<JSMENU> menu;
   std::vector<ShownMessage> messages;
   std::vector<MenuLaunch> launches;

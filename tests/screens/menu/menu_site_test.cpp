@@ -23,7 +23,7 @@ class SiteMenu : public OwnSite, public MenuDriver {
   explicit SiteMenu(std::int32_t start_mode = -1) : MenuDriver(site.Root(), start_mode, "") {
     StartOptions options;
     options.start_mode = TraitsOfStartMode(start_mode);
-    const MenuParts real = MenuPartsFor(options);
+    const MenuParts real = MenuPartsFor(options, [](int) {});
     parts.load = real.load;
     parts.activate = real.activate;
   }

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "session/menu/menu_presenter.h"
+
+#include <cstdlib>
+#include <optional>
+
+#include <fmt/format.h>
+
+#include "platform/fault.h"
+#include "platform/profile/ini_file.h"
+#include "platform/system/message.h"
+#include "platform/system/paths.h"
+#include "platform/system/process.h"
+#include "session/menu/captions.h"
+#include "shell/config/settings.h"
+#include "shell/context/run_state.h"
+#include "tally/kinds/tally_kinds.h"
+#include "tally/selection.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kSettingsForm = "SETJS";
+constexpr std::string_view kSettingsCaption = "年号等集計印刷設定";
+constexpr std::string_view kOwnProgram = "\\rbk\\rbtally1.exe";
+
+void WriteHandOver(std::string_view key, std::string_view value) {
+  WriteProfileText(MapPath(kNextPrgIni), kHandOverSection, key, value);
+}
+
+}  // namespace
+
+/// The menu out of sight; it is shown again whatever ends the action, unless something takes its place.
+class MenuPresenter::OutOfSight {
+ public:
+  explicit OutOfSight(MenuPresenter& menu) : menu_(menu) {
+    menu_.window_.Hide();
+    RunPendingEvents();
+  }
+  OutOfSight(const OutOfSight&) = delete;
+  OutOfSight& operator=(const OutOfSight&) = delete;
+  ~OutOfSight() {
+    if (!given_over_) menu_.window_.ShowAgain();
+  }
+  void GiveOver() { given_over_ = true; }
+
+ private:
+  MenuPresenter& menu_;
+  bool given_over_ = false;
+};
+
+MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int status)> end_program) {
+  return {
+      .load = [options] { return LoadSite(options); },
+      .activate = [options] { return ActivateMenu(options); },
+      .write_accumulated =
+          [] { throw Fault(FaultKind::file, "\\RBK\\DATA\\hozon.MDB: no accumulation can be written yet"); },
+      .end_program = std::move(end_program)};
+}
+
+void MenuPresenter::Load() {
+  const LoadResult result = parts_.load();
+  if (result.hand_over_to) {
+    RunAndWait(*result.hand_over_to, WindowStyle::normal);
+    return End(EXIT_SUCCESS);
+  }
+  window_.ShowLoad({result.shows_plate_sheet, RunState.RunDate, RunState.RunTime});
+}
+
+void MenuPresenter::Activate() {
+  if (ended_) return;
+  if (Selection.StartMode.PassesOn()) window_.Minimise();
+  const MenuState state = parts_.activate();
+  window_.ShowState(state);
+  if (state.pass_on_to) PassOn(*state.pass_on_to);
+}
+
+void MenuPresenter::PassOn(const std::string& command_line) {
+  const bool there = RequireSibling(command_line);
+  if (there) RunSibling({"\\rbk", command_line, WindowStyle::maximised, true, false});
+  End(there ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+void MenuPresenter::Start(std::string_view control) {
+  std::visit([this](const auto& starts) { Begin(starts); }, FindMenuEntry(control).starts);
+}
+
+void MenuPresenter::Begin(const OpensTally& tally) {
+  Selection.TallyKind = tally.kind;
+  // Without its form the menu stays in sight; the hand-over is the same.
+  if (RequireForm(tally.form, RowOf(tally.kind).name) && !window_.RaiseForm(tally.form)) {
+    std::optional<OutOfSight> hidden;
+    if (tally.kind != TallyKind::bulk) hidden.emplace(*this);
+    window_.OpenForm(tally.form);
+    if (hidden) hidden->GiveOver();
+  }
+  WriteHandOver(kMaterialDetailKey, "0");
+}
+
+void MenuPresenter::Begin(const RunsSibling& entry) { CallSibling(entry.sibling); }
+
+void MenuPresenter::Begin(const RunsNameCompanion&) {
+  const Sibling companion = NameCompanion(Selection.StartMode);
+  ChangeFamilyDirectory(companion.directory);
+  WriteHandOver(kMaterialDetailKey, "1");
+  CallSibling(companion);
+}
+
+void MenuPresenter::Begin(const RunsStockFitter&) {
+  WriteHandOver(kCallingProgramKey, kOwnProgram);
+  CallSibling(kStockFit);
+}
+
+void MenuPresenter::Begin(const OpensSettings&) {
+  if (RequireForm(kSettingsForm, kSettingsCaption)) window_.ShowFormModally(kSettingsForm);
+}
+
+void MenuPresenter::Begin(const Leaves&) { Leave(); }
+
+void MenuPresenter::Leave() {
+  OutOfSight hidden(*this);
+  if (RunState.AccumulateFlag == 1) parts_.write_accumulated();
+  hidden.GiveOver();
+  End(EXIT_SUCCESS);
+}
+
+void MenuPresenter::CallSibling(const Sibling& sibling) {
+  if (!RequireSibling(sibling.command_line)) return;
+  std::optional<OutOfSight> hidden;
+  if (sibling.hides_menu) hidden.emplace(*this);
+  RunSibling(sibling);
+  window_.AskForActivation();
+}
+
+/// False, after a message, while a form cannot be used yet.
+bool MenuPresenter::RequireForm(std::string_view form, std::string_view caption) const {
+  if (window_.HasForm(form)) return true;
+  MsgBox(fmt::format("「{}」の画面は、まだご利用いただけません。", caption), kMenuTitle);
+  return false;
+}
+
+void MenuPresenter::End(int status) {
+  ended_ = true;
+  window_.Hide();
+  parts_.end_program(status);
+}
+
+}  // namespace rbt

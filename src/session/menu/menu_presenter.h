@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "session/menu/menu_entries.h"
+#include "session/startup/startup.h"
+
+namespace rbt {
+
+/// What the menu leans on.
+struct MenuParts {
+  std::function<LoadResult()> load;
+  std::function<MenuState()> activate;
+  std::function<void()> write_accumulated;  ///< at the exit, while an accumulation is on
+  std::function<void(int status)> end_program;
+};
+
+/// The real load and activation of the site for a start mode; the end of the program is the caller's.
+MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int status)> end_program);
+
+/// What the load leaves to be shown.
+struct LoadView {
+  bool shows_plate_sheet = false;
+  std::string date;  ///< "yyyymmdd"
+  std::string time;  ///< "hhnnss"
+};
+
+/// What the menu asks of its window.
+class MenuWindow {
+ public:
+  virtual ~MenuWindow() = default;
+
+  virtual void ShowLoad(const LoadView& view) = 0;
+  virtual void ShowState(const MenuState& state) = 0;
+  virtual void Hide() = 0;
+  virtual void Minimise() = 0;
+  /// In sight and in front, with an activation to come.
+  virtual void ShowAgain() = 0;
+  /// An activation once the running action has ended.
+  virtual void AskForActivation() = 0;
+
+  /// Forms are known by their object names. True when there is such a form.
+  virtual bool HasForm(std::string_view form) const = 0;
+  /// Brings a form that is open to the front; false when it is not open.
+  virtual bool RaiseForm(std::string_view form) = 0;
+  /// Makes and loads a form and shows it beside the menu; the menu is shown again when it is closed. Throws
+  /// what keeps it from loading.
+  virtual void OpenForm(std::string_view form) = 0;
+  /// Shows a form over the menu and returns when it is ended.
+  virtual void ShowFormModally(std::string_view form) = 0;
+};
+
+/// The menu without its window: load, activation, and what each entry starts. Entries act in whatever state
+/// their buttons are, hidden ones included. A fault of load or activation is for the caller to end the
+/// program with; one of an entry leaves the menu in sight.
+class MenuPresenter {
+ public:
+  MenuPresenter(MenuParts parts, MenuWindow& window) : parts_(std::move(parts)), window_(window) {}
+
+  /// Once, before the menu is shown. A newer site's program takes over, and this one ends.
+  void Load();
+  /// At every turn of the menu at the focus. A start mode that passes on runs its companion and ends.
+  void Activate();
+  /// What the entry of a control starts.
+  void Start(std::string_view control);
+  /// Writes an accumulation that is on, and ends the program.
+  void Leave();
+
+  void End(int status);
+  bool HasEnded() const { return ended_; }
+
+ private:
+  class OutOfSight;
+
+  void Begin(const OpensTally& tally);
+  void Begin(const RunsSibling& entry);
+  void Begin(const RunsNameCompanion& entry);
+  void Begin(const RunsStockFitter& entry);
+  void Begin(const OpensSettings& entry);
+  void Begin(const Leaves& entry);
+
+  void CallSibling(const Sibling& sibling);
+  void PassOn(const std::string& command_line);
+  bool RequireForm(std::string_view form, std::string_view caption) const;
+
+  MenuParts parts_;
+  MenuWindow& window_;
+  bool ended_ = false;
+};
+
+}  // namespace rbt
