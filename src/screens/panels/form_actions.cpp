@@ -14,6 +14,7 @@ namespace rbt {
 FormActions::FormActions(QWidget& form, std::vector<FormAction> actions, KeysAct keys_act)
     : QObject(&form), form_(form), actions_(std::move(actions)), keys_act_(keys_act) {
   for (const FormAction& action : actions_) {
+    if (action.control.empty()) continue;
     const auto* button = form_.findChild<QPushButton*>(Text(action.control));
     if (button == nullptr) continue;
     connect(button, &QPushButton::clicked, this, [this, &action] { RunAction(form_, action.call); });
@@ -22,6 +23,7 @@ FormActions::FormActions(QWidget& form, std::vector<FormAction> actions, KeysAct
 }
 
 bool FormActions::CanBePressed(const FormAction& action) const {
+  if (action.control.empty()) return true;
   const auto* button = form_.findChild<QAbstractButton*>(Text(action.control));
   return button->isVisibleTo(&form_) && button->isEnabled();
 }

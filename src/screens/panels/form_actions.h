@@ -14,8 +14,8 @@ namespace rbt {
 
 /// One row of a form's table: a control by its object name, its key, and what a click and the key do.
 struct FormAction {
-  std::string control;
-  int key;  ///< of the Qt::Key enumeration; 0: none
+  std::string control;  ///< empty: the key alone
+  int key;              ///< of the Qt::Key enumeration; 0: none
   std::function<void()> call;
 };
 

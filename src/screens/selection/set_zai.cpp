@@ -3,36 +3,32 @@
 
 #include <QCloseEvent>
 
-#include "tally/material_choice.h"
 #include "ui_set_zai.h"
 
 namespace rbt {
 
 namespace {
 
-TickBoxes SetUp(Ui::setZai& ui, QWidget& dialog) {
+std::array<QCheckBox*, 4> SetUp(Ui::setZai& ui, QWidget& dialog) {
   ui.setupUi(&dialog);
-  return TickBoxes({ui.Check1_0, ui.Check1_1, ui.Check1_2, ui.Check1_3});
+  return {ui.Check1_0, ui.Check1_1, ui.Check1_2, ui.Check1_3};
 }
 
 }  // namespace
 
-setZai::setZai() : ui_(std::make_unique<Ui::setZai>()), kinds_(SetUp(*ui_, *this)) {
-  ConnectSelectionDialog(*this, *ui_->Command1, [this] { Command1_Click(); });
-  Selection.PrevMaterialKindMask = Selection.MaterialKindMask;
-  kinds_.Show(Selection.MaterialKindMask.AsTicks());
-  ui_->ChkU->setChecked(Selection.IncludeUlbon);
+setZai::setZai()
+    : ui_(std::make_unique<Ui::setZai>()), kinds_(*this, SetUp(*ui_, *this), choice_, [this] { Show(); }) {
+  Show();
+  connect(ui_->ChkU, &QCheckBox::toggled, this, [this](bool ticked) { choice_.TickUlbon(ticked); });
   ui_->Check1_0->setFocus();
 }
 
 setZai::~setZai() = default;
 
-void setZai::Command1_Click() {
-  if (TakeKinds(Selection, KindMask::OfTicks(kinds_.Ticks()), ui_->ChkU->isChecked())) {
-    hide();
-  } else {
-    kinds_.SayNothingTicked(kNoKindMessage);
-  }
+void setZai::Show() {
+  const ChoiceView view = choice_.View();
+  ui_->ChkU->setChecked(view.ulbon);
+  kinds_.Show(view);
 }
 
 void setZai::closeEvent(QCloseEvent* event) { event->ignore(); }

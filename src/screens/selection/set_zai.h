@@ -13,19 +13,20 @@ class setZai;
 
 namespace rbt {
 
-/// The material kinds and the Ulbon lines that a tally takes in. It opens on the selection and only
-/// `Command1` ends it: a tally without any kind is nothing, so that there is no way round the choice.
+/// The window of the material kinds. Only its button ends it: a tally without any kind is nothing, so that
+/// there is no way round the choice.
 class setZai : public QWidget {
  public:
   setZai();
   ~setZai() override;
 
-  void Command1_Click();
-
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Show();
+
+  KindChoice choice_;
   std::unique_ptr<Ui::setZai> ui_;
   TickBoxes kinds_;
 };

@@ -13,20 +13,19 @@ class setZaiKaiBui;
 
 namespace rbt {
 
-/// The material kinds of the floor and part screens, or Ulbon alone. It opens on the selection and only
-/// `Command1` ends it, as with `setZai`.
+/// The window of the material kinds of the floor and part screens. Only its button ends it, as with `setZai`.
 class setZaiKaiBui : public QWidget {
  public:
   setZaiKaiBui();
   ~setZaiKaiBui() override;
 
-  void Option1_Click();
-  void Command1_Click();
-
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Show();
+
+  FloorPartKindChoice choice_;
   std::unique_ptr<Ui::setZaiKaiBui> ui_;
   TickBoxes kinds_;
 };

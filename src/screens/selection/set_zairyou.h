@@ -13,16 +13,16 @@ class setZairyou;
 
 namespace rbt {
 
-/// The material forms that a tally takes in. It opens on the selection and changes it with `Command1`; closed
-/// otherwise it leaves the selection as it is.
+/// The window of the material forms. Closed without its button it leaves the selection as it is.
 class setZairyou : public QWidget {
  public:
   setZairyou();
   ~setZairyou() override;
 
-  void Command1_Click();
-
  private:
+  void Show();
+
+  FormChoice choice_;
   std::unique_ptr<Ui::setZairyou> ui_;
   TickBoxes forms_;
 };

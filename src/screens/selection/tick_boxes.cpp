@@ -2,38 +2,32 @@
 #include "screens/selection/tick_boxes.h"
 
 #include <QCheckBox>
-#include <QPushButton>
 
-#include "desktop/action.h"
 #include "desktop/form.h"
-#include "desktop/key_table.h"
-#include "platform/system/message.h"
+#include "screens/panels/form_actions.h"
 
 namespace rbt {
 
-void TickBoxes::Show(const States& ticks) {
-  for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setChecked(ticks[i]);
-}
-
-TickBoxes::States TickBoxes::Ticks() const {
-  States ticks{};
-  for (std::size_t i = 0; i < boxes_.size(); ++i) ticks[i] = boxes_[i]->isChecked();
-  return ticks;
-}
-
-void TickBoxes::SayNothingTicked(std::string_view message) const {
-  MsgBox(message, "未選択");
-  boxes_.front()->setFocus(Qt::OtherFocusReason);
-}
-
-void ConnectSelectionDialog(QWidget& dialog, QPushButton& command1, const std::function<void()>& take) {
+TickBoxes::TickBoxes(QWidget& dialog, const std::array<QCheckBox*, 4>& boxes, SelectionChoice& choice,
+                     const std::function<void()>& show)
+    : dialog_(dialog), boxes_(boxes) {
   PrepareForm(dialog);
-  QObject::connect(&command1, &QPushButton::clicked, &dialog, [&dialog, take] { RunAction(dialog, take); });
-  new KeyPreview(dialog, [&dialog](const QKeyEvent& press) {
-    if (!IsPress(press, Qt::Key_Escape)) return false;
-    if (!IsRepeat(press)) dialog.close();
-    return true;
-  });
+  for (std::size_t box = 0; box < boxes_.size(); ++box) {
+    QObject::connect(boxes_[box], &QCheckBox::toggled, &dialog,
+                     [&choice, box](bool ticked) { choice.Tick(box, ticked); });
+  }
+  const auto take = [&choice, show] {
+    choice.Take();
+    show();
+  };
+  new FormActions(dialog, {{"Command1", 0, take}, {"", Qt::Key_Escape, [&dialog] { dialog.close(); }}},
+                  KeysAct::always);
+}
+
+void TickBoxes::Show(const ChoiceView& view) {
+  for (std::size_t box = 0; box < boxes_.size(); ++box) boxes_[box]->setChecked(view.ticks[box]);
+  if (view.back_to_first) boxes_.front()->setFocus(Qt::OtherFocusReason);
+  if (view.done) dialog_.hide();
 }
 
 }  // namespace rbt

@@ -3,34 +3,29 @@
 
 #include <array>
 #include <functional>
-#include <string_view>
+#include <string>
+
+#include "session/selection/selection_choices.h"
 
 class QCheckBox;
-class QPushButton;
 class QWidget;
 
 namespace rbt {
 
-inline constexpr std::string_view kNoKindMessage = "材質が選択されていません";
-inline constexpr std::string_view kNoFormMessage = "材料が選択されていません";
-
-/// The four check boxes of a selection dialog, in the order of the mask's codes.
+/// The four check boxes of a selection dialog and its one button, bound to the dialog's presenter. Esc asks
+/// the dialog to close.
 class TickBoxes {
  public:
-  using States = std::array<bool, 4>;
+  /// `show` is called when the presenter has something new to show.
+  TickBoxes(QWidget& dialog, const std::array<QCheckBox*, 4>& boxes, SelectionChoice& choice,
+            const std::function<void()>& show);
 
-  explicit TickBoxes(const std::array<QCheckBox*, 4>& boxes) : boxes_(boxes) {}
-
-  void Show(const States& ticks);
-  States Ticks() const;
-  /// Tells that nothing is ticked and leads back to the first box.
-  void SayNothingTicked(std::string_view message) const;
+  /// Shows the ticks, leads back to the first box where that is asked for, and hides a dialog that is done.
+  void Show(const ChoiceView& view);
 
  private:
+  QWidget& dialog_;
   std::array<QCheckBox*, 4> boxes_;
 };
-
-/// Wires a selection dialog: `Command1` takes the choice, Esc asks the dialog to close.
-void ConnectSelectionDialog(QWidget& dialog, QPushButton& command1, const std::function<void()>& take);
 
 }  // namespace rbt

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include <QWidget>
+
+#include "session/settings/colours_presenter.h"
 
 namespace Ui {
 class SETCOLOR;
@@ -12,9 +15,7 @@ class SETCOLOR;
 
 namespace rbt {
 
-class ColourBox;
-
-/// The two colours of every second grid row, read from `STEEL.INI` and written there by `btnRejist` alone.
+/// The window of the two colours of every second grid row.
 class SETCOLOR : public QWidget {
  public:
   SETCOLOR();
@@ -23,14 +24,10 @@ class SETCOLOR : public QWidget {
   /// Every key of the form, of the Qt::Key enumeration.
   static std::vector<int> Keys();
 
-  void picRowColor_Click();
-  void picForeColor_Click();
-  void btnRejist_Click();
-  void btnExit_Click();
-
  private:
-  void ChooseColour(ColourBox& box);
+  void Show();
 
+  ColoursPresenter presenter_;
   std::unique_ptr<Ui::SETCOLOR> ui_;
 };
 

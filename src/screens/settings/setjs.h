@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include <QWidget>
 
-#include "shell/config/setting_keys.h"
+#include "session/settings/settings_presenter.h"
 
 namespace Ui {
 class SETJS;
@@ -15,8 +15,7 @@ class SETJS;
 
 namespace rbt {
 
-/// Settings of dates, reports and grids. A choice is saved in its click; one that cannot be saved is taken
-/// back after the message. The title text is written at the end.
+/// The window of the settings. A choice that cannot be saved is taken back after the message.
 class SETJS : public QWidget {
  public:
   SETJS();
@@ -24,12 +23,6 @@ class SETJS : public QWidget {
 
   /// Every key of the form, of the Qt::Key enumeration.
   static std::vector<int> Keys();
-
-  void AtsuCheck_Click();
-  void OptTitleC_Click();
-  void title_Change();
-  void cmdSetColor_Click();
-  void btnExit_Click();
 
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -40,12 +33,17 @@ class SETJS : public QWidget {
   void ConnectControls();
   void ConnectChoices();
   void PrepareHints();
-  void Load();
-  void ShowStored(const NumberKey& key, std::int32_t value);
-  bool Save(const NumberKey& key, std::int32_t value);
-  bool WriteTitle();
+  void Show();
+
+  /// Runs a choice; one that faults is taken back.
+  bool Choose(const std::function<void()>& choose, const std::function<void()>& take_back);
+  void LeadToTheTitle();
+  void CutTitle();
+  void OpenColours();
+  void Leave();
   void ShowHint(const QObject* control);
 
+  SettingsPresenter presenter_;
   std::unique_ptr<Ui::SETJS> ui_;
 };
 

@@ -1,46 +1,34 @@
 // SPDX-License-Identifier: MIT
-#pragma once
+#include "session/settings/setting_options.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdint>
-#include <string_view>
+#include <string>
 
-#include "shell/config/setting_keys.h"
-#include "ui_setjs.h"
+#include "platform/fault.h"
 
 namespace rbt {
 
-/// An option of SETJS and what its click saves.
-struct SettingOption {
-  QRadioButton* Ui::SETJS::*button;
-  const NumberKey& key;
-  std::int32_t value;
-};
+namespace {
 
-inline constexpr std::array<SettingOption, 14> kSettingOptions{{
-    {&Ui::SETJS::optAD, kDateStyleKey, 1},
-    {&Ui::SETJS::optNenGou, kDateStyleKey, 2},
-    {&Ui::SETJS::OptTaihiA, kComparisonKindKey, 1},
-    {&Ui::SETJS::OptTaihiB, kComparisonKindKey, 2},
-    {&Ui::SETJS::OptTaihiC, kComparisonKindKey, 3},
-    {&Ui::SETJS::OptTitleA, kReportTitleChoiceKey, 1},
-    {&Ui::SETJS::OptTitleB, kReportTitleChoiceKey, 2},
-    {&Ui::SETJS::OptTitleC, kReportTitleChoiceKey, 3},
-    {&Ui::SETJS::OptChangeColor_0, kAlternateRowColoursKey, 1},
-    {&Ui::SETJS::OptChangeColor_1, kAlternateRowColoursKey, 0},
-    {&Ui::SETJS::OptShowWeight_0, kDetailShowsWeightKey, 1},
-    {&Ui::SETJS::OptShowWeight_1, kDetailShowsWeightKey, 0},
-    {&Ui::SETJS::OptPrtZero_0, kPrintEmptyDiametersKey, 1},
-    {&Ui::SETJS::OptPrtZero_1, kPrintEmptyDiametersKey, 0},
+constexpr std::array<SettingOption, 14> kOptions{{
+    {"optAD", kDateStyleKey, 1},
+    {"optNenGou", kDateStyleKey, 2},
+    {"OptTaihiA", kComparisonKindKey, 1},
+    {"OptTaihiB", kComparisonKindKey, 2},
+    {"OptTaihiC", kComparisonKindKey, 3},
+    {"OptTitleA", kReportTitleChoiceKey, 1},
+    {"OptTitleB", kReportTitleChoiceKey, 2},
+    {"OptTitleC", kReportTitleChoiceKey, 3},
+    {"OptChangeColor_0", kAlternateRowColoursKey, 1},
+    {"OptChangeColor_1", kAlternateRowColoursKey, 0},
+    {"OptShowWeight_0", kDetailShowsWeightKey, 1},
+    {"OptShowWeight_1", kDetailShowsWeightKey, 0},
+    {"OptPrtZero_0", kPrintEmptyDiametersKey, 1},
+    {"OptPrtZero_1", kPrintEmptyDiametersKey, 0},
 }};
 
-/// What `lblMsg` tells of a control, by its object name.
-struct SettingHint {
-  std::string_view control;
-  std::string_view hint;
-};
-
-inline constexpr std::array<SettingHint, 18> kSettingHints{{
+constexpr std::array<SettingHint, 18> kHints{{
     {"optAD", "印字する日付の年を西暦で表す"},
     {"optNenGou", "印字する日付の年を和暦で表す"},
     {"OptTaihiA", "対比表に定尺重量・取付重量・差引・圧接を印字する"},
@@ -60,5 +48,20 @@ inline constexpr std::array<SettingHint, 18> kSettingHints{{
     {"OptPrtZero_1", "重量が無い太さの行を印字しない"},
     {"btnExit", "設定を終えて元の画面に戻る"},
 }};
+
+}  // namespace
+
+std::span<const SettingOption> SettingOptions() { return kOptions; }
+
+const SettingOption& FindSettingOption(std::string_view control) {
+  const auto* option = std::find_if(kOptions.begin(), kOptions.end(),
+                                    [&](const SettingOption& each) { return each.control == control; });
+  if (option == kOptions.end()) {
+    throw Fault(FaultKind::subscript_out_of_range, "setting option " + std::string(control));
+  }
+  return *option;
+}
+
+std::span<const SettingHint> SettingHints() { return kHints; }
 
 }  // namespace rbt
