@@ -63,12 +63,12 @@ FormEntry Entry(std::function<std::unique_ptr<QWidget>()> make, std::vector<Form
 std::vector<FormEntry> PreviewForms() {
   return {Entry([] { return Make({kA4Portrait}, SamplePrinters()); },
                 {{"portrait", [](QWidget&) {}},
-                 {"actual-size", [](QWidget& form) { Preview(form).cmdActual_Click(); }},
-                 {"page-width", [](QWidget& form) { Preview(form).cmdWidth_Click(); }},
+                 {"actual-size", [](QWidget& form) { Preview(form).ShowActualSize(); }},
+                 {"page-width", [](QWidget& form) { Preview(form).ShowPageWidth(); }},
                  {"zoomed",
                   [](QWidget& form) {
-                    Preview(form).cmdActual_Click();
-                    for (int step = 0; step < 3; ++step) Preview(form).cmdZoomIn_Click();
+                    Preview(form).ShowActualSize();
+                    for (int step = 0; step < 3; ++step) Preview(form).ZoomIn();
                   }}}),
           Entry([] { return Make({kA4Landscape}, {}); }, {{"landscape-without-a-printer", [](QWidget&) {}}}),
           Entry(
@@ -76,7 +76,7 @@ std::vector<FormEntry> PreviewForms() {
                 return Make({kA4Portrait, kB5Landscape, kA4Landscape}, SamplePrinters());
               },
               {{"first-of-three", [](QWidget&) {}},
-               {"second-of-three", [](QWidget& form) { Preview(form).cmdNext_Click(); }}}),
+               {"second-of-three", [](QWidget& form) { Preview(form).ShowNextPage(); }}}),
           {.name = "PrinterChoice",
            .make = [] { return std::make_unique<PrinterChoice>(SamplePrinters()); },
            .first_focus = "lstPrinter",

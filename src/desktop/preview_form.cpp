@@ -27,23 +27,23 @@ constexpr const char* kNoPrinter = "プリンタがないため、印刷でき�
 
 /// Keys that move through the sheets; held down they go on.
 constexpr std::array<KeyBinding<PreviewForm>, 6> kMoveKeys{{
-    {Qt::Key_PageUp, &PreviewForm::cmdPrev_Click},
-    {Qt::Key_PageDown, &PreviewForm::cmdNext_Click},
-    {Qt::Key_Home, &PreviewForm::cmdFirst_Click},
-    {Qt::Key_End, &PreviewForm::cmdLast_Click},
-    {Qt::Key_Plus, &PreviewForm::cmdZoomIn_Click},
-    {Qt::Key_Minus, &PreviewForm::cmdZoomOut_Click},
+    {Qt::Key_PageUp, &PreviewForm::ShowPreviousPage},
+    {Qt::Key_PageDown, &PreviewForm::ShowNextPage},
+    {Qt::Key_Home, &PreviewForm::ShowFirstPage},
+    {Qt::Key_End, &PreviewForm::ShowLastPage},
+    {Qt::Key_Plus, &PreviewForm::ZoomIn},
+    {Qt::Key_Minus, &PreviewForm::ZoomOut},
 }};
 
 constexpr std::array<KeyBinding<PreviewForm>, 8> kActionKeys{{
-    {Qt::Key_F2, &PreviewForm::cmdActual_Click},
-    {Qt::Key_F3, &PreviewForm::cmdWhole_Click},
-    {Qt::Key_F4, &PreviewForm::cmdWidth_Click},
-    {Qt::Key_F5, &PreviewForm::cmdPrint_Click},
-    {Qt::Key_P, &PreviewForm::cmdPrint_Click},
-    {Qt::Key_F7, &PreviewForm::cmdSave_Click},
-    {Qt::Key_S, &PreviewForm::cmdSave_Click},
-    {Qt::Key_Escape, &PreviewForm::cmdEnd_Click},
+    {Qt::Key_F2, &PreviewForm::ShowActualSize},
+    {Qt::Key_F3, &PreviewForm::ShowWholePage},
+    {Qt::Key_F4, &PreviewForm::ShowPageWidth},
+    {Qt::Key_F5, &PreviewForm::Print},
+    {Qt::Key_P, &PreviewForm::Print},
+    {Qt::Key_F7, &PreviewForm::Save},
+    {Qt::Key_S, &PreviewForm::Save},
+    {Qt::Key_Escape, &PreviewForm::Leave},
 }};
 
 bool AnswerPress(PreviewForm& form, const QKeyEvent& press) {
@@ -100,18 +100,18 @@ std::vector<int> PreviewForm::Keys() {
 void PreviewForm::ConnectControls() {
   using F = PreviewForm;
   const std::array<std::pair<QPushButton*, void (F::*)()>, 12> clicks{{
-      {ui_->cmdPrev, &F::cmdPrev_Click},
-      {ui_->cmdNext, &F::cmdNext_Click},
-      {ui_->cmdFirst, &F::cmdFirst_Click},
-      {ui_->cmdLast, &F::cmdLast_Click},
-      {ui_->cmdZoomIn, &F::cmdZoomIn_Click},
-      {ui_->cmdZoomOut, &F::cmdZoomOut_Click},
-      {ui_->cmdWhole, &F::cmdWhole_Click},
-      {ui_->cmdWidth, &F::cmdWidth_Click},
-      {ui_->cmdActual, &F::cmdActual_Click},
-      {ui_->cmdPrint, &F::cmdPrint_Click},
-      {ui_->cmdSave, &F::cmdSave_Click},
-      {ui_->cmdEnd, &F::cmdEnd_Click},
+      {ui_->cmdPrev, &F::ShowPreviousPage},
+      {ui_->cmdNext, &F::ShowNextPage},
+      {ui_->cmdFirst, &F::ShowFirstPage},
+      {ui_->cmdLast, &F::ShowLastPage},
+      {ui_->cmdZoomIn, &F::ZoomIn},
+      {ui_->cmdZoomOut, &F::ZoomOut},
+      {ui_->cmdWhole, &F::ShowWholePage},
+      {ui_->cmdWidth, &F::ShowPageWidth},
+      {ui_->cmdActual, &F::ShowActualSize},
+      {ui_->cmdPrint, &F::Print},
+      {ui_->cmdSave, &F::Save},
+      {ui_->cmdEnd, &F::Leave},
   }};
   for (const auto& [button, handler] : clicks) {
     connect(button, &QPushButton::clicked, this,
@@ -119,7 +119,7 @@ void PreviewForm::ConnectControls() {
   }
   new KeyPreview(*this, [this](const QKeyEvent& press) { return AnswerPress(*this, press); });
   ui_->picSheet->on_zoom = [this] { ShowZoom(); };
-  ui_->picSheet->on_turn = [this](int pages) { pages < 0 ? cmdPrev_Click() : cmdNext_Click(); };
+  ui_->picSheet->on_turn = [this](int pages) { pages < 0 ? ShowPreviousPage() : ShowNextPage(); };
 }
 
 /// As high as the screen allows, and as wide as the first sheet then needs: it shows whole from the start.
@@ -153,21 +153,21 @@ void PreviewForm::ShowZoom() {
       QStringLiteral("%1%2 %").arg(QString::fromUtf8(fit)).arg(qRound(ui_->picSheet->Percent())));
 }
 
-void PreviewForm::cmdPrev_Click() {
+void PreviewForm::ShowPreviousPage() {
   if (page_ > 0) ShowPage(page_ - 1);
 }
 
-void PreviewForm::cmdNext_Click() {
+void PreviewForm::ShowNextPage() {
   if (page_ + 1 < pages_.size()) ShowPage(page_ + 1);
 }
 
-void PreviewForm::cmdFirst_Click() { ShowPage(0); }
-void PreviewForm::cmdLast_Click() { ShowPage(pages_.size() - 1); }
-void PreviewForm::cmdZoomIn_Click() { ui_->picSheet->ZoomIn(); }
-void PreviewForm::cmdZoomOut_Click() { ui_->picSheet->ZoomOut(); }
-void PreviewForm::cmdWhole_Click() { ui_->picSheet->SetFit(PreviewSheet::Fit::whole); }
-void PreviewForm::cmdWidth_Click() { ui_->picSheet->SetFit(PreviewSheet::Fit::width); }
-void PreviewForm::cmdActual_Click() { ui_->picSheet->SetPercent(100.0); }
+void PreviewForm::ShowFirstPage() { ShowPage(0); }
+void PreviewForm::ShowLastPage() { ShowPage(pages_.size() - 1); }
+void PreviewForm::ZoomIn() { ui_->picSheet->ZoomIn(); }
+void PreviewForm::ZoomOut() { ui_->picSheet->ZoomOut(); }
+void PreviewForm::ShowWholePage() { ui_->picSheet->SetFit(PreviewSheet::Fit::whole); }
+void PreviewForm::ShowPageWidth() { ui_->picSheet->SetFit(PreviewSheet::Fit::width); }
+void PreviewForm::ShowActualSize() { ui_->picSheet->SetPercent(100.0); }
 
 /// The installed printer that all documents were made for; nothing when there is no such one.
 std::optional<std::string> PreviewForm::OwnPrinter() const {
@@ -188,7 +188,7 @@ void PreviewForm::ShowPrinter() {
   ui_->lblStatus->setText(QString::fromStdString(can_print ? target : kNoPrinter));
 }
 
-void PreviewForm::cmdPrint_Click() {
+void PreviewForm::Print() {
   if (!ui_->cmdPrint->isEnabled()) {
     MsgBox(kNoPrinter, windowTitle().toStdString());
     return;
@@ -202,9 +202,9 @@ void PreviewForm::cmdPrint_Click() {
   ui_->lblStatus->setText(QString::fromStdString("「" + *printer + "」に送りました。"));
 }
 
-void PreviewForm::cmdSave_Click() { SaveAsPdf(*this, documents_, parts_.ask_file); }
+void PreviewForm::Save() { SaveAsPdf(*this, documents_, parts_.ask_file); }
 
-void PreviewForm::cmdEnd_Click() { hide(); }
+void PreviewForm::Leave() { hide(); }
 
 void ShowPreview(std::vector<PrintedDocument> documents) {
   const bool empty = std::all_of(documents.begin(), documents.end(),

@@ -45,18 +45,18 @@ class PreviewForm : public QWidget {
   /// Every key of the form, of the Qt::Key enumeration.
   static std::vector<int> Keys();
 
-  void cmdPrev_Click();
-  void cmdNext_Click();
-  void cmdFirst_Click();
-  void cmdLast_Click();
-  void cmdZoomIn_Click();
-  void cmdZoomOut_Click();
-  void cmdWhole_Click();
-  void cmdWidth_Click();
-  void cmdActual_Click();
-  void cmdPrint_Click();
-  void cmdSave_Click();
-  void cmdEnd_Click();
+  void ShowPreviousPage();
+  void ShowNextPage();
+  void ShowFirstPage();
+  void ShowLastPage();
+  void ZoomIn();
+  void ZoomOut();
+  void ShowWholePage();
+  void ShowPageWidth();
+  void ShowActualSize();
+  void Print();
+  void Save();
+  void Leave();
 
  private:
   /// Where a page of the walk through all documents stands.

@@ -13,8 +13,8 @@ namespace rbt {
 namespace {
 
 constexpr std::array<KeyBinding<PrinterChoice>, 2> kKeyTable{{
-    {Qt::Key_F1, &PrinterChoice::cmdOk_Click},
-    {Qt::Key_Escape, &PrinterChoice::cmdEnd_Click},
+    {Qt::Key_F1, &PrinterChoice::TakePrinter},
+    {Qt::Key_Escape, &PrinterChoice::TurnBack},
 }};
 
 }  // namespace
@@ -25,11 +25,11 @@ PrinterChoice::PrinterChoice(const std::vector<std::string>& printers)
   PrepareForm(*this);
   for (const std::string& printer : printers) ui_->lstPrinter->addItem(QString::fromStdString(printer));
   ui_->lstPrinter->setCurrentRow(0);
-  const auto take = [this] { RunAction(*this, [this] { cmdOk_Click(); }); };
+  const auto take = [this] { RunAction(*this, [this] { TakePrinter(); }); };
   connect(ui_->cmdOk, &QPushButton::clicked, this, take);
   // Enter in the list, and a double click.
   connect(ui_->lstPrinter, &QListWidget::itemActivated, this, take);
-  connect(ui_->cmdEnd, &QPushButton::clicked, this, [this] { RunAction(*this, [this] { cmdEnd_Click(); }); });
+  connect(ui_->cmdEnd, &QPushButton::clicked, this, [this] { RunAction(*this, [this] { TurnBack(); }); });
   new KeyPreview(
       *this, [this](const QKeyEvent& press) { return AnswerKey<PrinterChoice>(*this, kKeyTable, press); });
   ui_->lstPrinter->setFocus();
@@ -39,14 +39,14 @@ PrinterChoice::~PrinterChoice() = default;
 
 std::vector<int> PrinterChoice::Keys() { return KeysOf<PrinterChoice>(kKeyTable); }
 
-void PrinterChoice::cmdOk_Click() {
+void PrinterChoice::TakePrinter() {
   const QListWidgetItem* item = ui_->lstPrinter->currentItem();
   if (item == nullptr) return;
   chosen_ = item->text().toStdString();
   hide();
 }
 
-void PrinterChoice::cmdEnd_Click() { hide(); }
+void PrinterChoice::TurnBack() { hide(); }
 
 std::optional<std::string> ChoosePrinter(const std::vector<std::string>& printers) {
   PrinterChoice form(printers);

@@ -24,8 +24,8 @@ class PrinterChoice : public QWidget {
   /// Every key of the form, of the Qt::Key enumeration.
   static std::vector<int> Keys();
 
-  void cmdOk_Click();
-  void cmdEnd_Click();
+  void TakePrinter();
+  void TurnBack();
 
   /// The printer that was taken; nothing when the user turned back.
   const std::optional<std::string>& Chosen() const { return chosen_; }
