@@ -142,6 +142,7 @@ void ResultForm::ShowHead() {
 
 void ResultForm::LayOutGrid() {
   std::vector<GridColumn> columns;
+  columns.reserve(kResultCaptions.size());
   for (std::size_t i = 0; i < kResultCaptions.size(); ++i) {
     columns.push_back({std::string(kResultCaptions[i]), kColumnCharacters[i],
                        i == 0 ? Qt::AlignLeft : Qt::AlignRight, true, true});
