@@ -72,7 +72,7 @@ void Compare(benchmark::State& state, const fs::path& site, const std::function<
   double worked = 0.0;
   double bare = 0.0;
   double peak = 0.0;
-  for (auto unused : state) {
+  for ([[maybe_unused]] auto unused : state) {
     set_up();
     bare += BareAggregation(site);
     ResetPeakMemory();
@@ -177,7 +177,7 @@ void EngineCalls(benchmark::State& state) {
   const bool reads_settings = state.range(0) == 1;
   const EngineSettings settings = ReadEngineSettings();
   std::int32_t cut = 0;
-  for (auto unused : state) {
+  for ([[maybe_unused]] auto unused : state) {
     cut = 300 + (cut + 37) % 11700;
     if (reads_settings) {
       Teijyaku_Keisan(cut, Currency::FromInteger(17), 19);

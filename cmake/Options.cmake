@@ -9,6 +9,10 @@ target_compile_options(rbtally_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 target_compile_options(rbtally_options INTERFACE -ffp-contract=off)
 # g++ 12 takes string concatenation for overlapping copies.
 target_compile_options(rbtally_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+# The compiler cache sees precompiled headers in what the preprocessor writes.
+target_compile_options(rbtally_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+# Nearly every room formats by it, and precompiled headers want the same definitions everywhere.
+target_link_libraries(rbtally_options INTERFACE fmt::fmt)
 if(RBTALLY_WERROR)
   target_compile_options(rbtally_options INTERFACE -Werror)
 endif()

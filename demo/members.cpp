@@ -15,7 +15,6 @@ constexpr Codes kD10ToD16[] = {10, 13, 16};
 constexpr Codes kD13ToD16[] = {13, 16};
 constexpr Codes kD13ToD22[] = {13, 16, 19, 22};
 constexpr Codes kD16ToD25[] = {16, 19, 22, 25};
-constexpr Codes kD19ToD25[] = {19, 22, 25};
 constexpr Codes kD22ToD29[] = {22, 25, 29};
 constexpr Codes kD22ToD32[] = {22, 25, 29, 32};
 constexpr Codes kD22ToD35[] = {22, 25, 29, 32, 35};

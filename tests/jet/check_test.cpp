@@ -266,8 +266,8 @@ std::string FaultOfLongValue(std::uint32_t length, unsigned char sort) {
       "片", {Field("次", FieldType::integer32)}, {{Value{std::int64_t{0}}}, {Value{kPieces}}}};
   Bytes image = test::JetImage(JetVersion::jet3, {value, pieces});
   // The row of the value: count of columns, then the field's head: length, sort, pointer.
-  const std::size_t row =
-      4 * kPageSize + (image.at(4 * kPageSize + 10) | (image.at(4 * kPageSize + 11) << 8U));
+  const int within_page = image.at(4 * kPageSize + 10) | (image.at(4 * kPageSize + 11) << 8U);
+  const std::size_t row = 4 * kPageSize + static_cast<std::size_t>(within_page);
   for (std::size_t i = 0; i < 3; ++i) image.at(row + 1 + i) = static_cast<unsigned char>(length >> (8 * i));
   image.at(row + 4) = sort;
   image.at(row + 5) = 1;

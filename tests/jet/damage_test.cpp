@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Damaged copies of every sample: reading them and checking them ends, with a message or without, never with
-// a crash. Each sample is damaged in memory.
+// Damaged copies of every sample file: reading them and checking them ends, with a message or without, never
+// with a crash. Each is damaged in memory.
 #include <algorithm>
 #include <ctime>
 #include <random>
@@ -13,6 +13,7 @@
 #include "jet/table.h"
 #include "jet/usage_map.h"
 #include "platform/fault.h"
+#include "support/sample.h"
 
 namespace rbt::jet {
 namespace {
@@ -94,7 +95,8 @@ TEST_P(DamagedCopies, TheSampleItselfIsSound) {
 
 TEST_P(DamagedCopies, AZeroedPageIsNoticed) {
   const std::size_t size = PageSize(image_);
-  for (std::size_t page = 0; page < image_.size() / size; ++page) {
+  const auto step = static_cast<std::size_t>(test::SampleStep(7));
+  for (std::size_t page = 0; page < image_.size() / size; page += step) {
     SCOPED_TRACE(page);
     Image copy = image_;
     const auto begin = copy.begin() + static_cast<std::ptrdiff_t>(page * size);
@@ -110,7 +112,8 @@ TEST_P(DamagedCopies, AZeroedPageIsNoticed) {
 
 TEST_P(DamagedCopies, AFileCutOffIsNoticed) {
   const std::size_t size = PageSize(image_);
-  for (std::size_t length = 0; length < image_.size(); length += size / 2) {
+  const std::size_t step = size / 2 * static_cast<std::size_t>(test::SampleStep(7));
+  for (std::size_t length = 0; length < image_.size(); length += step) {
     SCOPED_TRACE(length);
     Image copy(image_.begin(), image_.begin() + static_cast<std::ptrdiff_t>(length));
     const bool noticed = Notices(std::move(copy));
@@ -122,7 +125,7 @@ TEST_P(DamagedCopies, AFileCutOffIsNoticed) {
 
 TEST_P(DamagedCopies, FlippedBitsNeverCrash) {
   std::mt19937 random(20261121);  // NOLINT: the same flips in every run
-  for (int copy_number = 0; copy_number < 150; ++copy_number) {
+  for (int copy_number = 0; copy_number < 150 / test::SampleStep(10); ++copy_number) {
     Image copy = image_;
     const int flips = copy_number % 3 == 0 ? 1 : 40;
     for (int flip = 0; flip < flips; ++flip) {
@@ -136,7 +139,7 @@ TEST_P(DamagedCopies, FlippedBitsNeverCrash) {
 TEST_P(DamagedCopies, FlippedBitsInTheHeadsOfPagesNeverCrash) {
   std::mt19937 random(932);  // NOLINT: the same flips in every run
   const std::size_t size = PageSize(image_);
-  for (int copy_number = 0; copy_number < 300; ++copy_number) {
+  for (int copy_number = 0; copy_number < 300 / test::SampleStep(10); ++copy_number) {
     Image copy = image_;
     const std::size_t page = random() % (copy.size() / size);
     copy[page * size + random() % 80] ^= static_cast<unsigned char>(1U << (random() % 8));

@@ -6,6 +6,7 @@
 #include "platform/files/files.h"
 #include "store/database.h"
 #include "store/plain_file.h"
+#include "support/sample.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -70,7 +71,8 @@ TEST_F(ADamagedFile, that_is_sound_after_all_gives_every_row) {
 }
 
 TEST_F(ADamagedFile, cut_short_anywhere_faults) {
-  for (std::size_t length = 0; length < bytes_.size(); length += 997) {
+  const auto step = static_cast<std::size_t>(997 * test::SampleStep(5));
+  for (std::size_t length = 0; length < bytes_.size(); length += step) {
     test::WriteBytes(file_, bytes_.substr(0, length));
     EXPECT_TRUE(UseEverything(file_).faulted) << length << " of " << bytes_.size() << " bytes";
   }
@@ -79,7 +81,7 @@ TEST_F(ADamagedFile, cut_short_anywhere_faults) {
 TEST_F(ADamagedFile, with_bytes_flipped_anywhere_faults_or_is_read_but_never_crashes) {
   std::mt19937 random(932);
   int faults = 0;
-  for (int round = 0; round < 300; ++round) {
+  for (int round = 0; round < 300 / test::SampleStep(10); ++round) {
     std::string damaged = bytes_;
     for (int flip = 0; flip < 8; ++flip) {
       const auto at = std::uniform_int_distribution<std::size_t>(0, damaged.size() - 1)(random);

@@ -15,6 +15,7 @@
 #include "store/database_impl.h"
 #include "store/plain_file.h"
 #include "support/child_process.h"
+#include "support/sample.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -206,13 +207,13 @@ TEST_F(Transactions, count_a_rollback_that_fails) {
 }
 
 TEST_F(Transactions, hold_all_or_none_after_a_kill_at_any_moment) {
-  constexpr int kRounds = 20;
+  const int rounds = 20 / test::SampleStep(2);
   { Site(2000); }
   std::mt19937 random(20261121);
   int journals = 0;
   std::int64_t last = 0;
   std::int64_t advanced = 0;
-  for (int round = 0; round < kRounds; ++round) {
+  for (int round = 0; round < rounds; ++round) {
     int started[2];
     ASSERT_EQ(pipe(started), 0);
     const pid_t child = fork();

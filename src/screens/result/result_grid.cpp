@@ -18,6 +18,7 @@ ResultGrid::ResultGrid(QWidget* parent) : GridControl(parent) { LayOut(); }
 
 void ResultGrid::LayOut() {
   std::vector<GridColumn> columns;
+  columns.reserve(kResultCaptions.size());
   for (std::size_t i = 0; i < kResultCaptions.size(); ++i) {
     columns.push_back({std::string(kResultCaptions[i]), kColumnCharacters[i],
                        i == 0 ? Qt::AlignLeft : Qt::AlignRight, true, true});

@@ -17,6 +17,7 @@
 #include "support/child_process.h"
 #include "support/fault_of.h"
 #include "support/jet_writer.h"
+#include "support/sample.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::jet {
@@ -87,12 +88,12 @@ class StoppedImport : public ::testing::Test {
 TEST_F(StoppedImport, KilledAtAnyMomentLeavesNoTargetOrAWholeOneAndTheNextOneSucceeds) {
   int absent = 0;
   int whole = 0;
-  for (int n = 1;; ++n) {
+  test::TryMoments([&](int n) {
     SCOPED_TRACE(n);
-    if (!test::KilledBeforeChange(n, [&] { ImportJetFile(source_, target_); })) break;
+    const bool killed = test::KilledBeforeChange(n, [&] { ImportJetFile(source_, target_); });
     EXPECT_EQ(ReadFileBytes(source_), jet_);
     if (fs::exists(target_)) {
-      ++whole;
+      whole += killed ? 1 : 0;
       EXPECT_THAT(NamesButInWork(), ElementsAre("new.mdb", "old.mdb"));
       ExpectWhole(target_);
       fs::remove(target_);
@@ -103,8 +104,8 @@ TEST_F(StoppedImport, KilledAtAnyMomentLeavesNoTargetOrAWholeOneAndTheNextOneSuc
     ExpectWhole(target_);
     EXPECT_THAT(Names(), ElementsAre("new.mdb", "old.mdb"));
     fs::remove(target_);
-  }
-  ExpectWhole(target_);
+    return killed;
+  });
   EXPECT_GT(absent, 10);
   EXPECT_GT(whole, 0);
 }
@@ -113,15 +114,15 @@ TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderThe
   const auto import = [&] { ImportJetFileInPlace(source_); };
   int before = 0;
   int after = 0;
-  for (int n = 1;; ++n) {
+  test::TryMoments([&](int n) {
     SCOPED_TRACE(n);
-    if (!test::KilledBeforeChange(n, import)) break;
+    const bool killed = test::KilledBeforeChange(n, import);
     if (IsJetFile(source_)) {
       ++before;
       EXPECT_EQ(ReadFileBytes(source_), jet_);
       import();
     } else {
-      ++after;
+      after += killed ? 1 : 0;
     }
     ExpectWhole(source_);
     EXPECT_EQ(ReadFileBytes(folder_ / "old.mdb.jet"), jet_);
@@ -129,7 +130,8 @@ TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderThe
     EXPECT_THAT(Names(), ElementsAre("old.mdb", "old.mdb.jet", "old.mdb.jet.txt"));
     for (const char* name : {"old.mdb", "old.mdb.jet", "old.mdb.jet.txt"}) fs::remove(folder_ / name);
     WriteFileAtomically(source_, jet_);
-  }
+    return killed;
+  });
   EXPECT_GT(before, 10);
   EXPECT_GT(after, 0);
 }

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "session/startup/startup.h"
+#include "support/sample.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -78,7 +79,7 @@ TEST_F(KilledLoad, LeavesTheScheduleAsBeforeOrAsAfterTheClassification) {
   ASSERT_EQ(Count("予備3 = 1 AND 予備2 = 4 AND 予備5 = '7000,,,,,,,,,,'"), kRows);
   int before = 0;
   int after = 0;
-  for (std::int64_t moment = 0; moment <= kMoments; ++moment) {
+  for (std::int64_t moment = 0; moment <= kMoments; moment += SampleStep(8)) {
     RestoreSite();
     const pid_t child = StartLoad();
     SleepNanoseconds(duration * moment / kMoments);

@@ -14,6 +14,7 @@
 #include "support/child_process.h"
 #include "support/fault_of.h"
 #include "support/jet_writer.h"
+#include "support/sample.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::test {
@@ -227,11 +228,11 @@ TEST_F(ImportFolder, KilledAtAnyMomentLeavesNoDataFolderOrAWholeOneAndTheNextOne
   const auto import = [&] { Take(); };
   int absent = 0;
   int complete = 0;
-  const auto survives = [&](int n) {
+  TryMoments([&](int n) {
     SCOPED_TRACE(n);
-    if (!KilledBeforeChange(n, import)) return false;
+    const bool killed = KilledBeforeChange(n, import);
     if (fs::exists(root_ / "DATA")) {
-      ++complete;
+      complete += killed ? 1 : 0;
     } else {
       ++absent;
       Take();
@@ -240,14 +241,8 @@ TEST_F(ImportFolder, KilledAtAnyMomentLeavesNoDataFolderOrAWholeOneAndTheNextOne
     EXPECT_THAT(NamesIn(root_ / "DATA"), whole);
     EXPECT_NE(Database::Open(root_ / "DATA" / "GENBA001.MDB").FindTable("加工テーブル"), nullptr);
     fs::remove_all(root_);
-    return true;
-  };
-  // Every eighth moment up to the end, and every one of the last.
-  int n = 1;
-  while (survives(n)) n += 8;
-  fs::remove_all(root_);
-  for (n -= 7; survives(n);) ++n;
-  EXPECT_THAT(NamesIn(root_ / "DATA"), whole);
+    return killed;
+  });
   EXPECT_GT(absent, 20);
   EXPECT_GT(complete, 0);
 }

@@ -1,0 +1,54 @@
+# SPDX-License-Identifier: MIT
+# How the tests of a room are built and run.
+option(RBTALLY_SHUFFLE "Run each test program as a whole, its tests in shuffled order" OFF)
+
+rbtally_precompile(tests HEADERS ${kernel_headers} ${test_headers} LIBRARIES GTest::gmock
+                   OPTIONS ${RBTALLY_TEST_OPTIONS})
+if(RBTALLY_DESKTOP)
+  rbtally_precompile(desktop_tests HEADERS ${kernel_headers} ${desktop_headers} ${test_headers}
+                     LIBRARIES GTest::gmock Qt6::Widgets Qt6::PrintSupport OPTIONS ${RBTALLY_TEST_OPTIONS})
+endif()
+
+set(test_environment LC_ALL=C.UTF-8 TZ=Asia/Tokyo QT_QPA_PLATFORM=offscreen)
+
+# What takes long begins early.
+set(long_cost 1000)
+
+# rbtally_tests([QT] SOURCES... [LIBRARIES library...] [LONG] [PARTS n]): the tests of the room of the same folder, one
+# program. ctest runs each test by itself, of kills and damages a sample (tests/support/sample.h). Shuffled, one process
+# runs them all, or n processes a part each; GTEST_RANDOM_SEED repeats an order.
+function(rbtally_tests)
+  cmake_parse_arguments(ARG "QT;LONG" "PARTS" "LIBRARIES" ${ARGN})
+  file(RELATIVE_PATH room ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+  string(REPLACE "/" "_" room "${room}")
+  set(name ${room}_test)
+  add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
+  if(ARG_QT)
+    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support/desktop/desktop_main.cpp)
+    set(main GTest::gtest rbtally_showroom)
+    rbtally_reads_precompiled(${name} desktop_tests)
+  else()
+    set(main GTest::gtest_main)
+    rbtally_reads_precompiled(${name} tests)
+  endif()
+  target_compile_options(${name} PRIVATE ${RBTALLY_TEST_OPTIONS})
+  target_link_libraries(${name} PRIVATE test_support rbtally_${room} ${main} GTest::gmock ${ARG_LIBRARIES})
+  set(cost 100)
+  if(ARG_LONG)
+    set(cost ${long_cost})
+  endif()
+  if(NOT RBTALLY_SHUFFLE)
+    gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
+      PROPERTIES TIMEOUT 300 COST ${cost} ENVIRONMENT "${test_environment};RBTALLY_SAMPLE=1")
+  elseif(NOT ARG_PARTS)
+    add_test(NAME ${name} COMMAND ${name} --gtest_shuffle)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 COST ${cost} ENVIRONMENT "${test_environment}")
+  else()
+    foreach(part RANGE 1 ${ARG_PARTS})
+      math(EXPR index "${part} - 1")
+      add_test(NAME ${name}/${part} COMMAND ${name} --gtest_shuffle)
+      set_tests_properties(${name}/${part} PROPERTIES TIMEOUT 900 COST ${cost}
+        ENVIRONMENT "${test_environment};GTEST_TOTAL_SHARDS=${ARG_PARTS};GTEST_SHARD_INDEX=${index}")
+    endforeach()
+  endif()
+endfunction()

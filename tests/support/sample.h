@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+namespace rbt::test {
+
+// Tests that kill a program or damage a file try many moments and copies: all of them, but a fixed sample
+// where RBTALLY_SAMPLE is set, as ctest does in trees without sanitizers.
+
+/// Of how many moments or copies one is tried: of 1, or of `many` where a sample is enough. Of random copies
+/// these are the first of all.
+int SampleStep(int many);
+
+/// Tries the moments 1, 2, 3, ... until `is_there` says that the action came to its end before. Of a sample
+/// every eighth up to the end and each of the last eight.
+void TryMoments(const std::function<bool(int)>& is_there);
+
+}  // namespace rbt::test
