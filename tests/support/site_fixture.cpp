@@ -12,6 +12,8 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "tally/engine/stock_engine.h"
+#include "tally/floorpart/floor_tables.h"
+#include "tally/floorpart/part_tables.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -179,6 +181,8 @@ void SiteFixture::ResetGlobalState() {
   SiteContext = {};
   RunState = {};
   TallyGrid = {};
+  FloorTally = {};
+  PartTally = {};
   EngineState = {};
 }
 
