@@ -20,7 +20,7 @@ struct FloorClosing {
   bool installed_cells = false;  ///< deformed cells show the installed weight that the walk left, else stock
   bool installed_sums = false;   ///< the second set of sums is filled, from the same cells
   double uplift = 0.0;           ///< ratio that Ulbon weights are raised by; deformed ones never are
-  ColumnRun columns;
+  ColumnRun columns = {};
 };
 
 /// Brings every cell in use to whole kilograms and sums the cells into all tables by floor, part and

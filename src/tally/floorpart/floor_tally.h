@@ -14,10 +14,10 @@ namespace rbt {
 
 /// What a floor tally is made of beside the schedule.
 struct FloorRules {
-  ShareRules rows;
+  ShareRules rows = {};
   bool installed = false;  ///< setting 階別集計定取 is 1: deformed bars show installed weight
   double uplift = 0.0;     ///< a ratio
-  ColumnRun columns;
+  ColumnRun columns = {};
 };
 
 /// Adds one row of the schedule that stands on a floor (階). Faults, which name the row's page and line:

@@ -11,9 +11,9 @@ namespace rbt {
 
 /// What a part tally is made of beside the schedule. Deformed bars always show stock weight.
 struct PartRules {
-  ShareRules rows;
+  ShareRules rows = {};
   double uplift = 0.0;  ///< a ratio
-  ColumnRun columns;
+  ColumnRun columns = {};
 };
 
 /// Adds one row of the schedule. Faults, which name the row's page and line: `subscript out of range` for a
