@@ -5,15 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "support/fault_of.h"
+#include "tally/floorpart/floor_samples.h"
 #include "tally/floorpart/part_list.h"
 
 namespace rbt {
 namespace {
 
 using test::FaultOf;
+using test::Kg;
 using testing::ElementsAre;
-
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
 
 std::vector<std::int16_t> Listed(std::int16_t start, std::int16_t end, std::int16_t lowest,
                                  std::int16_t mask = 0) {

@@ -4,30 +4,25 @@
 #include <gtest/gtest.h>
 
 #include "support/fault_of.h"
+#include "tally/floorpart/floor_samples.h"
 #include "tally/floorpart/floor_tally.h"
 #include "tally/floorpart/part_list.h"
 #include "tally/floorpart/part_tally.h"
-#include "tally/rows/bar_row_samples.h"
 
 namespace rbt {
 namespace {
 
+using test::AtPart;
 using test::D19Row;
 using test::FaultOf;
-
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
-
-BarRow At(BarRow row, std::int32_t part) {
-  row.part = part;
-  return row;
-}
+using test::Kg;
 
 /// 27 kg in part 1 of the floors -1 and 1, 27 kg in part 3 of floor 1.
 FloorTables TwoFloors() {
   FloorTables tables;
   FoldFloorRow(tables, D19Row(), -1, {});
   FoldFloorRow(tables, D19Row(), 1, {});
-  FoldFloorRow(tables, At(D19Row(), 3), 1, {});
+  FoldFloorRow(tables, AtPart(D19Row(), 3), 1, {});
   CloseFloorTally(tables, {});
   ListFloors(tables, {-1, 1});
   return tables;
@@ -36,7 +31,7 @@ FloorTables TwoFloors() {
 PartTables TwoParts(bool thin_rows = false) {
   PartTables tables;
   FoldPartRow(tables, D19Row(), {});
-  FoldPartRow(tables, At(D19Row(), 3), {});
+  FoldPartRow(tables, AtPart(D19Row(), 3), {});
   ClosePartTally(tables, {});
   ListParts(tables, thin_rows);
   return tables;

@@ -3,18 +3,18 @@
 
 #include "support/fault_of.h"
 #include "tally/floorpart/cell_weights.h"
+#include "tally/floorpart/floor_samples.h"
 #include "tally/floorpart/floor_tally.h"
 #include "tally/floorpart/part_tally.h"
-#include "tally/rows/bar_row_samples.h"
 
 namespace rbt {
 namespace {
 
+using test::AtPart;
 using test::D19Row;
 using test::FaultOf;
+using test::Kg;
 using test::U9Row;
-
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
 
 /// D10 (row 0) of stock 3.5 m: a bar weighs 1.96 kg.
 BarRow D10Row(std::int32_t bars) {
@@ -25,7 +25,7 @@ BarRow D10Row(std::int32_t bars) {
   return row;
 }
 
-/// D10 of stock 4.0 m, a bar 2.24 kg; D13 of 4.0 m 3.98 kg.
+/// D10 of stock 4.0 m: a bar weighs 2.24 kg.
 BarRow D10Of4m(std::int32_t bars) {
   BarRow row = D10Row(bars);
   row.stock_length_m = 4.0;
@@ -51,11 +51,6 @@ PartTables Parts(const std::vector<BarRow>& rows, const PartRules& rules = {}) {
   return tables;
 }
 
-BarRow At(BarRow row, std::int32_t part) {
-  row.part = part;
-  return row;
-}
-
 constexpr int kGround = 5;  // table index of the foundation
 constexpr int kFirst = 6;   // of the first storey
 const FloorRules kInstalled{.installed = true};
@@ -72,20 +67,19 @@ TEST(RaisedCount, RoundsHalvesUp) {
 TEST(StockKilograms, RoundsTheProductAsADecimalNotAsABinaryFraction) {
   EXPECT_EQ(StockKilograms(0, 0, 1), Kg(2));  // 1.96
   EXPECT_EQ(StockKilograms(0, 0, 0), Kg(0));
-  EXPECT_EQ(StockKilograms(8, 0, 15), Kg(395));  // 26.3 x 15 = 394.5: up
-  EXPECT_EQ(StockKilograms(0, 1, 25), Kg(56));   // 2.24 x 25 = 56
+  EXPECT_EQ(StockKilograms(1, 12, 50), Kg(473));  // 9.45 x 50 = 472.5, as a double 472.49999999999994
 }
 
 TEST(FloorSums, RoundEachCellBeforeAnySum) {
   // Two parts of 2.24 kg: 2 + 2.
-  const FloorTables tables = Floors({{1, At(D10Of4m(1), 1)}, {1, At(D10Of4m(1), 2)}});
+  const FloorTables tables = Floors({{1, AtPart(D10Of4m(1), 1)}, {1, AtPart(D10Of4m(1), 2)}});
   EXPECT_EQ(tables.KaiBuiGoukei[kFirst][1], Kg(2));
   EXPECT_EQ(tables.KaiGoukei[kFirst], Kg(4));
   EXPECT_EQ(tables.SouGoukei, Kg(4));
 }
 
 TEST(FloorSums, ByDiameterComeFromTheCountOfAllFloorsAndMayDiffer) {
-  // U-turn of halves: three floors of a 2.24 kg bar are 2 + 2 + 2, together 6.72.
+  // Three floors of a 2.24 kg bar are 2 + 2 + 2, together 6.72.
   const FloorTables tables = Floors({{1, D10Of4m(1)}, {2, D10Of4m(1)}, {3, D10Of4m(1)}});
   EXPECT_EQ(tables.SouGoukei, Kg(6));
   EXPECT_EQ(tables.TaisaTeiGoukei[0][1], Kg(7));
@@ -176,8 +170,8 @@ TEST(FloorSums, LeaveTheWeightOfColumnsThatAreNotInUseAsTheRowsLeftIt) {
 
 TEST(FloorUplift, RaisesEachCellOfDeformedBarsAndSumsThem) {
   // Two parts of 5 bars: 6 + 6 on the floor, not 11.
-  const FloorTables tables =
-      Floors({{1, At(D10Row(5), 1)}, {1, At(D10Row(5), 2)}, {2, At(D10Row(5), 2)}}, {.uplift = 0.1});
+  const FloorTables tables = Floors(
+      {{1, AtPart(D10Row(5), 1)}, {1, AtPart(D10Row(5), 2)}, {2, AtPart(D10Row(5), 2)}}, {.uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][0][0], 6);
   EXPECT_EQ(tables.KaiHonsu[kFirst][0][0], 12);
   EXPECT_EQ(tables.SouHonsu[0][0], 18);
@@ -188,7 +182,7 @@ TEST(FloorUplift, RaisesEachCellOfDeformedBarsAndSumsThem) {
 TEST(FloorUplift, RaisesThinCellsAndTheirFloorEachFromItsOwnCount) {
   BarRow thin = U9Row();
   thin.stock_bars = 5;
-  const FloorTables tables = Floors({{1, At(thin, 1)}, {1, At(thin, 2)}}, {.uplift = 0.1});
+  const FloorTables tables = Floors({{1, AtPart(thin, 1)}, {1, AtPart(thin, 2)}}, {.uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][14][4], 6);
   EXPECT_EQ(tables.KaiBuiHonsu[2][kFirst][14][4], 6);
   EXPECT_EQ(tables.KaiHonsu[kFirst][14][4], 11);
@@ -246,7 +240,7 @@ TEST(FloorRows, CountFittingsByDiameterFloorAndPart) {
   row.threads = 2;
   row.plates = 3;
   row.cuts = 4;
-  const FloorTables tables = Floors({{0, row}, {1, At(row, 2)}});
+  const FloorTables tables = Floors({{0, row}, {1, AtPart(row, 2)}});
   EXPECT_EQ(tables.Assetu.Taisa[5], 2);
   EXPECT_EQ(tables.Assetu.Kai[kGround][5], 1);
   EXPECT_EQ(tables.Assetu.KaiBui[1][kGround][5], 1);
@@ -303,7 +297,7 @@ TEST(PartSums, ShowStockWeightOfDeformedBarsAndInstalledWeightOfThinOnes) {
 TEST(PartSums, RoundEachCellBeforeAnySum) {
   BarRow longer = D10Of4m(1);
   longer.stock_length_m = 4.5;  // 2.52 kg
-  const PartTables tables = Parts({D10Of4m(1), longer, At(D10Of4m(1), 5)});
+  const PartTables tables = Parts({D10Of4m(1), longer, AtPart(D10Of4m(1), 5)});
   EXPECT_EQ(tables.BuiTaisaGoukei[0][1], Kg(5));
   EXPECT_EQ(tables.BuiTaisaGoukei[0][5], Kg(2));
   EXPECT_EQ(tables.TaisaGoukei[0], Kg(7));
@@ -339,7 +333,7 @@ TEST(PartUplift, RaisesFittingsByPartAndByDiameterEachFromItsOwnCount) {
   BarRow row = D19Row();
   row.kind = 4;
   row.welds = row.threads = row.plates = row.cuts = 5;
-  const PartTables tables = Parts({At(row, 1), At(row, 3)}, {.uplift = 0.1});
+  const PartTables tables = Parts({AtPart(row, 1), AtPart(row, 3)}, {.uplift = 0.1});
   for (const PartFittingName& fitting : kPartFittings) {
     const PartFitting& counts = tables.*fitting.tables;
     EXPECT_EQ(counts.Bui[1][3], 6) << fitting.name;
