@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "data/parts.h"
+#include "tally/floorpart/floor_tables.h"
+#include "tally/floorpart/part_tables.h"
+#include "tally/views/result_grid.h"
+
+namespace rbt {
+
+/// The names of the parts 1 to 10 at the site.
+using PartNames = std::array<std::string, kLastNamedPart>;
+
+/// Captions of the thirteen columns that are seen: floor or diameter, the parts, the others, the total.
+std::vector<std::string> FloorCaptions(const PartNames& names);
+std::vector<std::string> PartCaptions(const PartNames& names);
+
+/// The listed rows as the texts of their cells, kilograms with thousands separators.
+GridRows ShowFloors(const FloorTables& tables);
+GridRows ShowParts(const PartTables& tables);
+
+}  // namespace rbt
