@@ -13,16 +13,15 @@ void AddKilograms(Currency& cell, double kilograms) {
   cell = Currency::FromDouble(cell.ToDouble() + kilograms);
 }
 
-void AddWeight(Currency& cell, const RowShare& share, CellWeight deformed) {
-  switch (IsThinRow(share.row) ? CellWeight::installed : deformed) {
-    case CellWeight::none:
-      return;
-    case CellWeight::stock:
-      cell += Currency::FromDouble(BarWeight(share.row, share.column) * share.bars.value_or(0));
-      return;
-    case CellWeight::installed:
-      if (share.installed_kilograms) AddKilograms(cell, *share.installed_kilograms);
-      return;
+CellWeight WeightOf(const RowShare& share, CellWeight deformed) {
+  return IsThinRow(share.row) ? CellWeight::installed : deformed;
+}
+
+void AddWeight(Currency& cell, const RowShare& share, CellWeight weight) {
+  if (weight == CellWeight::stock) {
+    cell += Currency::FromDouble(BarWeight(share.row, share.column) * share.bars.value_or(0));
+  } else if (share.installed_kilograms) {
+    AddKilograms(cell, *share.installed_kilograms);
   }
 }
 
@@ -57,7 +56,8 @@ void AddShare(FloorTables& tables, int f, const RowShare& share, CellWeight defo
     AddCount(tables.SouHonsu[r], c, *share.bars, kBars);
     AddCount(tables.KaiBuiHonsu[p][f][r], c, *share.bars, kBars);
   }
-  AddWeight(tables.KaiBuiJyuuryo[f][p][r][c], share, deformed);
+  const CellWeight weight = WeightOf(share, deformed);
+  if (weight != CellWeight::none) AddWeight(tables.KaiBuiJyuuryo[f][p][r][c], share, weight);
   AddFitting(tables.Assetu, f, p, share.welds, kWelds);
   AddFitting(tables.Neji, f, p, share.threads, kThreads);
   AddFitting(tables.Teichaku, f, p, share.plates, kPlates);
@@ -69,7 +69,8 @@ void AddShare(PartTables& tables, const RowShare& share, CellWeight deformed) {
   const int r = share.row;
   const int c = share.column;
   if (share.bars) AddCount(tables.BuiHonsu[p][r], c, *share.bars, kBars);
-  AddWeight(tables.BuiJyuuryo[p][r][c], share, deformed);
+  const CellWeight weight = WeightOf(share, deformed);
+  if (weight != CellWeight::none) AddWeight(tables.BuiJyuuryo[p][r][c], share, weight);
   AddFitting(tables.Assetu, p, share.welds, kWelds);
   AddFitting(tables.Neji, p, share.threads, kThreads);
   AddFitting(tables.Teichaku, p, share.plates, kPlates);
