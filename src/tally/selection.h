@@ -34,6 +34,7 @@ struct SelectionData {
   std::int16_t KaiStart = 0;  ///< first and last 階 of the floor and part tallies, as the boxes hold them
   std::int16_t KaiEnd = 0;
   std::int16_t KaiMin = 0;      ///< lowest 階 of the schedule: where a floor tally from 0 begins
+  std::int16_t BuiStart = 0;    ///< where the part tally begins
   SpecialMask TokubetuMask;     ///< special floors taken beside a range of storeys
   double UwanoseRitu = 0.0;     ///< uplift of the floor tally as a ratio: 0.1 for 10 percent
   double BuiUwanoseRitu = 0.0;  ///< the same of the part tally

@@ -12,8 +12,8 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "tally/engine/stock_engine.h"
-#include "tally/floorpart/floor_tables.h"
-#include "tally/floorpart/part_tables.h"
+#include "tally/floor_tables.h"
+#include "tally/part_tables.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 

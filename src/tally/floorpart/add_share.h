@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "tally/floorpart/floor_tables.h"
-#include "tally/floorpart/part_tables.h"
+#include "tally/floor_tables.h"
 #include "tally/floorpart/row_share.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "data/special_floors.h"
-#include "tally/floorpart/floor_tables.h"
+#include "tally/floor_tables.h"
 
 namespace rbt {
 

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "data/special_floors.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {
@@ -72,6 +71,15 @@ std::optional<FloorRangeRefusal> RefusedRange(const FloorRange& range, const Flo
   if (range == AllFloors(extent)) return std::nullopt;
   if (const auto refusal = RefusedStart(range.start, extent)) return refusal;
   return RefusedEnd(range, extent);
+}
+
+void TakeFloors(SelectionData& selection, const FloorRange& range, SpecialMask specials,
+                const FloorExtent& extent) {
+  selection.KaiStart = range.start;
+  selection.KaiEnd = range.end;
+  selection.KaiMin = extent.KaiMin;
+  selection.BuiStart = PartStart(range, extent);
+  selection.TokubetuMask = specials;
 }
 
 }  // namespace rbt

@@ -5,7 +5,9 @@
 #include <optional>
 #include <string_view>
 
+#include "data/special_floors.h"
 #include "store/database.h"
+#include "tally/selection.h"
 
 namespace rbt {
 
@@ -49,5 +51,9 @@ struct FloorRangeRefusal {
 std::optional<FloorRangeRefusal> RefusedStart(std::int16_t start, const FloorExtent& extent);
 /// Nothing for a range that may be tallied; what `AllFloors` enters always may.
 std::optional<FloorRangeRefusal> RefusedRange(const FloorRange& range, const FloorExtent& extent);
+
+/// Puts floors into the selection, and where the tallies begin.
+void TakeFloors(SelectionData& selection, const FloorRange& range, SpecialMask specials,
+                const FloorExtent& extent);
 
 }  // namespace rbt

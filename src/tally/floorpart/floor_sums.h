@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tally/floor_tables.h"
 #include "tally/floorpart/column_run.h"
-#include "tally/floorpart/floor_tables.h"
 
 namespace rbt {
 

@@ -4,9 +4,9 @@
 #include <functional>
 
 #include "store/database.h"
+#include "tally/floor_tables.h"
 #include "tally/floorpart/column_run.h"
 #include "tally/floorpart/floor_list.h"
-#include "tally/floorpart/floor_tables.h"
 #include "tally/floorpart/row_share.h"
 #include "tally/selection.h"
 

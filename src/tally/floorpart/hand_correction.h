@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tally/floorpart/floor_tables.h"
-#include "tally/floorpart/part_tables.h"
+#include "tally/floor_tables.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

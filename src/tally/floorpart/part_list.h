@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "tally/floorpart/part_tables.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tally/floorpart/column_run.h"
-#include "tally/floorpart/part_tables.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "tally/floorpart/column_run.h"
-#include "tally/floorpart/part_tables.h"
 #include "tally/floorpart/row_share.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "tally/views/floorpart_grid.h"
 
-#include <string_view>
-
 #include "platform/numbers/number_mask.h"
 
 namespace rbt {
 namespace {
 
-std::vector<std::string> Captions(std::string_view first, const PartNames& names) {
-  std::vector<std::string> captions{std::string(first)};
+std::vector<std::string_view> Captions(std::string_view first, const PartNames& names) {
+  std::vector<std::string_view> captions{first};
   captions.insert(captions.end(), names.begin(), names.end());
-  captions.emplace_back(kOtherPartsLabel);
-  captions.emplace_back("合計");
+  captions.push_back(kOtherPartsLabel);
+  captions.push_back("合計");
   return captions;
 }
 
@@ -32,9 +30,9 @@ GridRows ListTexts(const std::vector<ListRow>& list) {
 
 }  // namespace
 
-std::vector<std::string> FloorCaptions(const PartNames& names) { return Captions("　階　", names); }
+std::vector<std::string_view> FloorCaptions(const PartNames& names) { return Captions("　階　", names); }
 
-std::vector<std::string> PartCaptions(const PartNames& names) { return Captions("太さ", names); }
+std::vector<std::string_view> PartCaptions(const PartNames& names) { return Captions("太さ", names); }
 
 GridRows ShowFloors(const FloorTables& tables) { return ListTexts(tables.KaiGyou); }
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "tally/floorpart/floor_tables.h"
-#include "tally/floorpart/part_tables.h"
+#include "tally/floor_tables.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

@@ -144,5 +144,15 @@ TEST(RefusedRange, AlwaysTakesWhatTheButtonForAllFloorsEnters) {
   }
 }
 
+TEST(TakeFloors, PutsTheFloorsAndWhereTheTalliesBeginIntoTheSelection) {
+  SelectionData selection;
+  TakeFloors(selection, {0, 5}, SpecialMask(3), {-2, 7, true});
+  EXPECT_EQ(selection.KaiStart, 0);
+  EXPECT_EQ(selection.KaiEnd, 5);
+  EXPECT_EQ(selection.KaiMin, -2);
+  EXPECT_EQ(selection.BuiStart, -2);
+  EXPECT_EQ(selection.TokubetuMask, SpecialMask(3));
+}
+
 }  // namespace
 }  // namespace rbt

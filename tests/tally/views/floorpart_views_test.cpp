@@ -12,7 +12,7 @@
 #include "tally/rows/bar_row_samples.h"
 #include "tally/views/floorpart_grid.h"
 #include "tally/views/floorpart_json.h"
-#include "tally/views/grid_text.h"
+#include "tally/views/result_views.h"
 
 namespace rbt {
 namespace {
@@ -81,6 +81,19 @@ TEST(PartGrid, ShowsTheGapBehindTheThinRows) {
   ASSERT_EQ(rows.size(), 20U);
   EXPECT_EQ(rows[0][0], "U 6");
   EXPECT_THAT(rows[6], ElementsAre("   ", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0"));
+}
+
+TEST(ResultViews, ShowEachResultAsItsFamilyIsShown) {
+  const ResultView view{.part_names = kNames};
+  const TallyResult floors{.kind = TallyKind::floor, .tables = Floors()};
+  EXPECT_EQ(ResultRows(floors, view), ShowFloors(Floors()));
+  EXPECT_EQ(ResultCaptions(floors, view), FloorCaptions(kNames));
+  EXPECT_EQ(ResultJson(floors), FloorJson(Floors()));
+  const TallyResult parts{.kind = TallyKind::part, .tables = Parts(true)};
+  EXPECT_EQ(ResultRows(parts, view), ShowParts(Parts(true)));
+  EXPECT_EQ(ResultCaptions(parts, view), PartCaptions(kNames));
+  EXPECT_EQ(ResultJson(parts), PartJson(Parts(true)));
+  EXPECT_EQ(ResultCaptions(TallyResult(), view).size(), kResultCaptions.size());
 }
 
 TEST(FloorJson, ListsEntriesOtherThan0ByTheirIndices) {

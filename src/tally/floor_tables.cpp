@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tally/floorpart/floor_tables.h"
+#include "tally/floor_tables.h"
 
 namespace rbt {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tally/floorpart/part_tables.h"
+#include "tally/part_tables.h"
 
 namespace rbt {
 

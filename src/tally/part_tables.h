@@ -9,7 +9,7 @@
 #include "data/bar_tables.h"
 #include "data/diameters.h"
 #include "platform/numbers/checked_array.h"
-#include "tally/floorpart/list_row.h"
+#include "tally/list_row.h"
 
 namespace rbt {
 

@@ -9,7 +9,7 @@
 #include "data/diameters.h"
 #include "data/floors.h"
 #include "platform/numbers/block_array.h"
-#include "tally/floorpart/list_row.h"
+#include "tally/list_row.h"
 
 namespace rbt {
 
