@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/asked_tally.h"
 
+#include <algorithm>
+
 #include "cli/command.h"
 #include "cli/session.h"
 #include "platform/fault.h"
@@ -57,8 +59,10 @@ void TakeAskedFloors(const SelectionOptions& options, const CommonOptions& commo
   PrepareFloors(site, !common.no_prepare);
   const std::optional<FloorExtent> found = ReadFloorExtent(site);
   if (!found && !options.floors) throw Fault(FaultKind::invalid_use_of_null, "加工テーブル 階");
-  // Where no row has a floor, the floors asked for are as good as any.
-  const FloorExtent extent = found ? *found : FloorExtent{options.floors->start, options.floors->end};
+  // Where no row has a floor, those asked for are as good as any, if only they stand in their order.
+  const FloorExtent extent =
+      found ? *found
+            : FloorExtent{options.floors->start, std::max(options.floors->start, options.floors->end)};
   const FloorRange range = options.floors.value_or(AllFloors(extent));
   if (const auto refusal = RefusedRange(range, extent)) {
     throw UsageError("--floors: " + std::string(refusal->reason));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/floorpart/floor_list.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -43,8 +44,9 @@ std::vector<std::int16_t> ListedFloors(const FloorScope& scope) {
   }
   // A range that reaches beyond the storeys lists its special floors already.
   for (const int special : kSpecialFloors) {
-    const bool beside = !IsSpecialFloor(scope.start) && special > scope.end;
-    if (beside && scope.specials.Has(special)) floors.push_back(static_cast<std::int16_t>(special));
+    const bool taken = !IsSpecialFloor(scope.start) && scope.specials.Has(special);
+    const bool listed = std::find(floors.begin(), floors.end(), special) != floors.end();
+    if (taken && !listed) floors.push_back(static_cast<std::int16_t>(special));
   }
   return floors;
 }

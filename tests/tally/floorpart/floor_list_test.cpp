@@ -59,6 +59,7 @@ TEST(ListedFloors, EndWithTheSpecialFloorsTaken) {
 
 TEST(ListedFloors, NameNoSpecialFloorTwice) {
   EXPECT_THAT(Listed(74, 77, 1, 7), ElementsAre(74, 75, 76, 77, 78));
+  EXPECT_THAT(Listed(0, 78, 77, 3), ElementsAre(0, 77, 78, 76));
 }
 
 TEST(FloorListLabel, NamesBasementsStoreysAndTheNamedFloors) {
