@@ -19,16 +19,24 @@ std::vector<std::string_view> ColumnsWith(ReadFloors floors) {
   return columns;
 }
 
+/// Calls `action`; a fault then names the row's page and line.
+template <typename Action>
+auto NamingPlace(const BarRow& row, Action action) {
+  try {
+    return action();
+  } catch (const Fault& fault) {
+    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
+  }
+}
+
 }  // namespace
 
 void TakeShare(const BarRow& row, const std::optional<std::int32_t>& floor, const ShareRules& rules,
                const ShareTaker& take) {
-  try {
+  NamingPlace(row, [&] {
     const std::optional<RowShare> share = ShareOf(row, rules);
     if (share) take(*share, floor);
-  } catch (const Fault& fault) {
-    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
-  }
+  });
 }
 
 void WalkShares(Database& site, std::string_view statement, const ShareRules& rules, ReadFloors floors,
@@ -39,7 +47,10 @@ void WalkShares(Database& site, std::string_view statement, const ShareRules& ru
   std::optional<FieldHandle> floor;
   if (floors == ReadFloors::yes) floor = rows.Field(kFloorColumn);
   for (; !rows.Eof(); rows.MoveNext()) {
-    TakeShare(reader.Read(rows), floor ? rows.Int32(*floor) : std::nullopt, rules, take);
+    const BarRow row = reader.Read(rows);
+    std::optional<std::int32_t> stands_on;
+    if (floor) stands_on = NamingPlace(row, [&] { return rows.Int32(*floor); });
+    TakeShare(row, stands_on, rules, take);
   }
   RunPendingEvents();
 }

@@ -141,6 +141,18 @@ TEST(FloorSums, BringTheInstalledWeightOfACellToCurrencyWithEveryRow) {
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][1][5], Kg(1.9960));
 }
 
+TEST(FloorSums, RoundTheSumOfACellAndItsNextRowNotThatRowAlone) {
+  BarRow row = D19Row();
+  row.diameter_code = 13;
+  row.pieces = 1;
+  row.cut_length_mm = 60;  // 0.995 x 0.060 = 0.0597
+  FloorTables tables;
+  FoldFloorRow(tables, row, 1, kInstalled);
+  row.cut_length_mm = 10;  // 0.00995: with the cell 0.06965, halves to even 0.0696; alone 0.0100
+  FoldFloorRow(tables, row, 1, kInstalled);
+  EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][1][5], Kg(0.0696));
+}
+
 TEST(FloorSums, RunFrom3p5To12MetresOrFrom4To13) {
   BarRow longest = D19Row();
   longest.stock_length_m = 13.0;  // 29.2 kg a bar
@@ -191,10 +203,12 @@ TEST(FloorUplift, RaisesThinCellsAndTheirFloorEachFromItsOwnCount) {
 
 TEST(FloorUplift, RaisesTheWeightOfThinBarsInEveryMode) {
   for (const bool installed : {false, true}) {
-    const FloorTables tables = Floors({{1, U9Row()}}, {.installed = installed, .uplift = 0.1});
-    EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][14][4], Kg(8));  // 7.5 x 1.1 = 8.25
-    EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][14][4], Kg(8));
-    EXPECT_EQ(tables.TaisaGoukei[14], Kg(8));
+    BarRow thin = U9Row();
+    thin.pieces = 20;  // 15 kg
+    const FloorTables tables = Floors({{1, thin}}, {.installed = installed, .uplift = 0.1});
+    EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][14][4], Kg(17));  // 15 x 1.1 = 16.5
+    EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][14][4], Kg(17));
+    EXPECT_EQ(tables.TaisaGoukei[14], Kg(17));
   }
 }
 
@@ -324,9 +338,11 @@ TEST(PartUplift, WorksADeformedCellOutOfTheRaisedCount) {
 }
 
 TEST(PartUplift, RaisesTheWeightOfThinBarsFromTheirWeight) {
-  const PartTables tables = Parts({U9Row()}, {.uplift = 0.1});
-  EXPECT_EQ(tables.BuiHonsu[1][14][4], 4);        // 4.4
-  EXPECT_EQ(tables.BuiJyuuryo[1][14][4], Kg(8));  // 8.25
+  BarRow thin = U9Row();
+  thin.pieces = 20;  // 15 kg
+  const PartTables tables = Parts({thin}, {.uplift = 0.1});
+  EXPECT_EQ(tables.BuiHonsu[1][14][4], 4);         // 4.4
+  EXPECT_EQ(tables.BuiJyuuryo[1][14][4], Kg(17));  // 16.5
 }
 
 TEST(PartUplift, RaisesFittingsByPartAndByDiameterEachFromItsOwnCount) {
