@@ -17,7 +17,11 @@
 #include "platform/system/services.h"
 #include "session/startup/startup.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/preparation.h"
 #include "tally/engine/stock_engine.h"
+#include "tally/floorpart/floor_range.h"
+#include "tally/floorpart/floor_tally.h"
+#include "tally/floorpart/part_tally.h"
 #include "tally/groups/shape_tally.h"
 #include "tally/rows/bulk_tally.h"
 #include "tally/rows/page_tally.h"
@@ -68,23 +72,30 @@ void Bind(const fs::path& root) {
 
 /// Times `work` and, in turn with it, the bare aggregation over the same file.
 void Compare(benchmark::State& state, const fs::path& site, const std::function<void()>& set_up,
-             const std::function<void()>& work) {
+             const std::function<void()>& work, Grouping grouping = Grouping::diameter) {
   double worked = 0.0;
+  double processor = 0.0;
   double bare = 0.0;
   double peak = 0.0;
   for ([[maybe_unused]] auto unused : state) {
     set_up();
-    bare += BareAggregation(site);
+    bare += BareAggregation(site, grouping);
     ResetPeakMemory();
     const double start = SecondsNow();
+    const double processor_start = ProcessorSecondsNow();
     work();
     const double seconds = SecondsNow() - start;
+    processor += ProcessorSecondsNow() - processor_start;
     worked += seconds;
     peak = std::max(peak, PeakMemoryMb());
     state.SetIterationTime(seconds);
   }
   state.counters["x_bare"] = worked / bare;
-  state.counters["bare_ms"] = bare / static_cast<double>(state.iterations()) * 1000.0;
+  const auto milliseconds = [&](double seconds) {
+    return seconds / static_cast<double>(state.iterations()) * 1000.0;
+  };
+  state.counters["bare_ms"] = milliseconds(bare);
+  state.counters["cpu_ms"] = milliseconds(processor);
   state.counters["peak_MB"] = peak;
 }
 
@@ -139,6 +150,35 @@ void Tally(benchmark::State& state, const std::function<void()>& tally) {
         benchmark::DoNotOptimize(TallyGrid.TotalStockWeight);
       });
   CloseSite();
+}
+
+/// Every floor of the site, special floors too. The whole of what a press of the button costs.
+void TallyFloors(benchmark::State& state, const std::function<void()>& tally) {
+  const fs::path& root = DemoRoot(state.range(0));
+  Bind(root);
+  Load();
+  Activate();
+  FillFloorsAndParts(*SiteContext.WorkDatabase);
+  const FloorExtent floors = ReadFloorExtent(*SiteContext.WorkDatabase).value();
+  Selection.KaiStart = AllFloors(floors).start;
+  Selection.KaiEnd = AllFloors(floors).end;
+  Selection.KaiMin = floors.KaiMin;
+  Selection.TokubetuMask = SpecialMask::All();
+  Compare(
+      state, SiteFile(root), [] {},
+      [&] {
+        tally();
+        benchmark::DoNotOptimize(FloorTally.SouGoukei);
+        benchmark::DoNotOptimize(PartTally.SouGoukei);
+      },
+      Grouping::floor_and_part);
+  CloseSite();
+}
+
+void FloorTallyOfAllFloors(benchmark::State& state) { TallyFloors(state, Kai_Jyuuryo_Syukei); }
+
+void PartTallyOfAllFloors(benchmark::State& state) {
+  TallyFloors(state, [] { Bui_Jyuuryo_Syukei(Selection.KaiMin, Selection.KaiEnd, 1, 1, 1); });
 }
 
 void BulkTally(benchmark::State& state) { Tally(state, Jyuuryo_Syukei); }
@@ -205,6 +245,8 @@ BENCHMARK(BulkTally)->Apply(Sizes);
 BENCHMARK(ShapeTally)->Apply(Sizes);
 BENCHMARK(PageTally)->Apply(SizesByPage);
 BENCHMARK(PageShapeTally)->Apply(Sizes);
+BENCHMARK(FloorTallyOfAllFloors)->Apply(Sizes);
+BENCHMARK(PartTallyOfAllFloors)->Apply(Sizes);
 BENCHMARK(EngineCalls)->ArgName("settings_read_anew")->Arg(0)->Arg(1);
 
 }  // namespace

@@ -62,6 +62,7 @@ function(rbtally_room)
     endif()
   endif()
   list(JOIN ARG_USES " " uses)
+  set_property(GLOBAL APPEND PROPERTY RBTALLY_ROOMS ${room})
   set_property(GLOBAL APPEND_STRING PROPERTY RBTALLY_HOUSE "${room} ${floor} ${qt} ${uses}\n")
 endfunction()
 

@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "cli/asked_tally.h"
 
+#include <algorithm>
+
 #include "cli/command.h"
 #include "cli/session.h"
+#include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/preparation.h"
+#include "tally/floorpart/floor_range.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
+#include "tally/tally_grid.h"
 
 namespace rbt {
 
 namespace {
 
 /// The screen warns beside the grid of the last row without a stock length.
-void ShowStockWarning(const TallyTable& table) {
-  if (!table.StockWarningText.empty()) MsgBox(Trim(table.StockWarningText));
+void ShowStockWarning(const TallyResult& result) {
+  const auto* table = std::get_if<TallyTable>(&result.tables);
+  if (table != nullptr && !table->StockWarningText.empty()) MsgBox(Trim(table->StockWarningText));
 }
 
 void TakeShapes(const SelectionOptions& options) {
@@ -41,39 +48,72 @@ void TakePositions(const SelectionOptions& options) {
   Selection.EndLine = range.last.line;
 }
 
-void TakeRange(TallyRange range, const SelectionOptions& options) {
+/// Floors and parts as the screens' load leaves them.
+void PrepareFloors(Database& site, bool prepare) {
+  if (!site.HasRows("SELECT * FROM 加工テーブル")) throw Fault(FaultKind::database, "集計データがありません");
+  if (prepare) FillFloorsAndParts(site);
+}
+
+void TakeAskedFloors(const SelectionOptions& options, const CommonOptions& common) {
+  Database& site = *SiteContext.WorkDatabase;
+  PrepareFloors(site, !common.no_prepare);
+  const std::optional<FloorExtent> found = ReadFloorExtent(site);
+  if (!found && !options.floors) throw Fault(FaultKind::invalid_use_of_null, "加工テーブル 階");
+  // Where no row has a floor, those asked for are as good as any, if only they stand in their order.
+  const FloorExtent extent =
+      found ? *found
+            : FloorExtent{options.floors->start, std::max(options.floors->start, options.floors->end)};
+  const FloorRange range = options.floors.value_or(AllFloors(extent));
+  if (const auto refusal = RefusedRange(range, extent)) {
+    throw UsageError("--floors: " + std::string(refusal->reason));
+  }
+  TakeFloors(Selection, range, SpecialMask(options.special), extent);
+}
+
+void TakeRange(TallyRange range, const SelectionOptions& options, const CommonOptions& common) {
   switch (range) {
     case TallyRange::shapes:
       return TakeShapes(options);
     case TallyRange::positions:
       return TakePositions(options);
-    case TallyRange::whole_site:
     case TallyRange::floors:
+      return TakeAskedFloors(options, common);
+    case TallyRange::whole_site:
       return;
   }
+}
+
+template <typename Chosen>
+std::vector<std::string> WordsOf(Chosen chosen) {
+  std::vector<std::string> words;
+  for (const TallyKindRow& row : TallyKinds()) {
+    if (row.count != nullptr && chosen(row)) words.emplace_back(row.word);
+  }
+  return words;
 }
 
 }  // namespace
 
 std::vector<std::string> TallyWords() {
-  std::vector<std::string> words;
-  for (const TallyKindRow& row : TallyKinds()) {
-    if (row.count != nullptr) words.emplace_back(row.word);
-  }
-  return words;
+  return WordsOf([](const TallyKindRow& /*row*/) { return true; });
+}
+
+std::vector<std::string> GridTallyWords() {
+  return WordsOf([](const TallyKindRow& row) { return row.range != TallyRange::floors; });
 }
 
 TallyResult CountAskedTally(const std::string& word, const CommonOptions& common,
                             const SelectionOptions& options) {
   const TallyKindRow* row = FindTallyKind(word);
   if (row == nullptr) throw UsageError("unknown tally " + word);
-  if (options.kinds == 0) throw UsageError("--kinds: 0 is for the floor and part tallies");
+  if (options.kinds == 0 && row->range != TallyRange::floors)
+    throw UsageError("--kinds: 0 is for the floor and part tallies");
   OpenSite(common);
   Selection.TallyKind = row->kind;
   ApplySelection(options, Selection);
-  TakeRange(row->range, options);
+  TakeRange(row->range, options, common);
   TallyResult result = CountTally(row->kind);
-  ShowStockWarning(result.Grid());
+  ShowStockWarning(result);
   return result;
 }
 

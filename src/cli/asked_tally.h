@@ -9,11 +9,13 @@
 
 namespace rbt {
 
-/// The words of the tallies that a command can ask for.
+/// The words of the tallies that a command can ask for; of those that fill the diameter-by-length tables.
 std::vector<std::string> TallyWords();
+std::vector<std::string> GridTallyWords();
 
 /// Opens the site and tallies it under the selection, with a message for what the screen warns of beside its
-/// grid. Throws `UsageError` for an unknown word and for `--kinds 0`.
+/// grid. Throws `UsageError` for an unknown word, for `--kinds 0` where floors are not asked for, and for
+/// floors that cannot be tallied.
 TallyResult CountAskedTally(const std::string& word, const CommonOptions& common,
                             const SelectionOptions& options);
 

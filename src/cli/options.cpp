@@ -2,6 +2,7 @@
 #include "cli/options.h"
 
 #include <charconv>
+#include <cmath>
 #include <string_view>
 
 #include "cli/command_line.h"
@@ -10,8 +11,9 @@ namespace rbt {
 
 namespace {
 
-/// Two whole numbers with a sign between them, "3-12" or "2/15"; nothing when the text is not of that form.
-std::optional<std::pair<std::int32_t, std::int32_t>> ParsePair(std::string_view text, char sign) {
+/// Two whole numbers with a sign between them, "3-12", "2/15" or "-2..5"; nothing when the text is not of
+/// that form.
+std::optional<std::pair<std::int32_t, std::int32_t>> ParsePair(std::string_view text, std::string_view sign) {
   const std::size_t at = text.find(sign, 1);
   if (at == std::string_view::npos) return std::nullopt;
   const auto number = [](std::string_view part) -> std::optional<std::int32_t> {
@@ -21,14 +23,14 @@ std::optional<std::pair<std::int32_t, std::int32_t>> ParsePair(std::string_view 
     return value;
   };
   const auto first = number(text.substr(0, at));
-  const auto second = number(text.substr(at + 1));
+  const auto second = number(text.substr(at + sign.size()));
   if (!first || !second) return std::nullopt;
   return std::pair(*first, *second);
 }
 
 /// An option whose text is a pair; any other text is wrong usage.
 template <typename Target>
-void AddPair(CommandLine& line, const std::string& name, std::optional<Target>& target, char sign,
+void AddPair(CommandLine& line, const std::string& name, std::optional<Target>& target, std::string_view sign,
              const std::string& form, const std::string& description) {
   const auto take = [&target, sign](const std::string& text) {
     const auto pair = ParsePair(text, sign);
@@ -36,6 +38,22 @@ void AddPair(CommandLine& line, const std::string& name, std::optional<Target>& 
     return pair.has_value();
   };
   line.FormOption(name, form, take, description);
+}
+
+/// "-2..5"; floors beyond the codes, too, are wrong usage.
+bool TakeFloorRange(const std::string& text, std::optional<FloorRange>& floors) {
+  const auto pair = ParsePair(text, "..");
+  const auto is_floor = [](std::int32_t code) { return code >= kLowestFloor && code <= kNoFloor; };
+  if (!pair || !is_floor(pair->first) || !is_floor(pair->second)) return false;
+  floors = {static_cast<std::int16_t>(pair->first), static_cast<std::int16_t>(pair->second)};
+  return true;
+}
+
+/// "10" or "-2.5": digits, a sign and a point.
+bool TakePercent(const std::string& text, double& percent) {
+  const auto [end, error] =
+      std::from_chars(text.data(), text.data() + text.size(), percent, std::chars_format::fixed);
+  return error == std::errc() && end == text.data() + text.size() && std::isfinite(percent);
 }
 
 }  // namespace
@@ -59,11 +77,23 @@ void AddSelectionOptions(CommandLine& line, SelectionOptions& options) {
                     "welded closed hoops: 0 with others, 1 left out, 2 alone");
   line.NumberOption("--plates", options.plates, 0, 2,
                     "anchor-plate shapes: 0 with others, 1 left out, 2 alone");
-  AddPair(line, "--shapes", options.shapes, '-', "A-B",
+  AddPair(line, "--shapes", options.shapes, "-", "A-B",
           "first and last shape number of the shape tally; default all");
-  AddPair(line, "--from", options.from, '/', "P/L",
+  AddPair(line, "--from", options.from, "/", "P/L",
           "first page and line of the page and page-shape tallies; default the first of the schedule");
-  AddPair(line, "--to", options.to, '/', "P/L", "last page and line; default the last of the schedule");
+  AddPair(line, "--to", options.to, "/", "P/L", "last page and line; default the last of the schedule");
+}
+
+void AddFloorOptions(CommandLine& line, SelectionOptions& options) {
+  line.FormOption(
+      "--floors", "A..B",
+      [&options](const std::string& text) { return TakeFloorRange(text, options.floors); },
+      "first and last floor of the floor and part tallies, -5 to 78; default all of the schedule");
+  line.NumberOption("--special", options.special, 0, SpecialMask::All().AsNumber(),
+                    "special floors taken beside them, a sum of 1 R floor, 2 penthouse, 4 no floor");
+  line.FormOption(
+      "--uplift", "P", [&options](const std::string& text) { return TakePercent(text, options.uplift); },
+      "percent by which the floor and part tallies are raised");
 }
 
 void AddFormatOption(CommandLine& line, std::string& format) {
@@ -72,11 +102,13 @@ void AddFormatOption(CommandLine& line, std::string& format) {
 
 void ApplySelection(const SelectionOptions& options, SelectionData& selection) {
   selection.MaterialKindMask = KindMask(options.kinds);
+  selection.UlbonOnly = selection.MaterialKindMask.IsNone();
   selection.MaterialFormMask = FormMask(options.forms);
   selection.IncludeUlbon = options.ulbon == 1;
   selection.MaterialCalcChoice = static_cast<CalcChoice>(options.calc);  // the option took 0 to 2 alone
   selection.HoopMode = ShapeFilterOf(options.hoops);
   selection.AnchorPlateMode = ShapeFilterOf(options.plates);
+  selection.UwanoseRitu = selection.BuiUwanoseRitu = options.uplift / 100.0;
 }
 
 }  // namespace rbt

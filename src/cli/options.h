@@ -7,6 +7,7 @@
 
 #include "data/shapes.h"
 #include "data/start_mode.h"
+#include "tally/floorpart/floor_range.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
 
@@ -32,11 +33,16 @@ struct SelectionOptions {
   std::optional<ShapeRange> shapes;      ///< of the shape tally; nothing: all
   std::optional<SchedulePosition> from;  ///< of the tallies by page and line; nothing: the first
   std::optional<SchedulePosition> to;    ///< nothing: the last
+  std::optional<FloorRange> floors;      ///< of the floor and part tallies; nothing: all
+  std::int16_t special = 0;              ///< TokubetuMask
+  double uplift = 0.0;                   ///< percent, of the floor and part tallies
 };
 
 /// Adds the options of a group to a command; what is given there ends in `options`.
 void AddCommonOptions(CommandLine& line, CommonOptions& options);
 void AddSelectionOptions(CommandLine& line, SelectionOptions& options);
+/// Those of the floor and part tallies alone.
+void AddFloorOptions(CommandLine& line, SelectionOptions& options);
 /// `--format`: "table", "json" or "csv".
 void AddFormatOption(CommandLine& line, std::string& format);
 

@@ -106,7 +106,8 @@ Action DefineReport(CommandLine& line) {
   line.WordArgument("NAME", options->name, ReportNames(), "the report form");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
-  line.WordOption("--tally", "KIND", options->tally, TallyWords(), "the kind of tally that fills the report");
+  line.WordOption("--tally", "KIND", options->tally, GridTallyWords(),
+                  "the kind of tally that fills the report");
   line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
   line.NumberOption("--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
   line.TextOption("--subproject", "TEXT", options->sub_project, "a line under the project's name");

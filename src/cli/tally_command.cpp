@@ -21,11 +21,20 @@ struct TallyOptions {
   std::string format = "table";
 };
 
+PartNames SitePartNames() {
+  PartNames names;
+  for (int part = kFirstPart; part <= kLastNamedPart; ++part) {
+    names[static_cast<std::size_t>(part - kFirstPart)] = Get_BuiNa(part);
+  }
+  return names;
+}
+
 /// The result in the asked form.
 std::string TextOf(const TallyResult& result, const std::string& format) {
   if (format == "json") return ResultJson(result);
-  const GridRows rows = ResultRows(result, {.grade_names = DiameterGradeNames()});
-  return format == "csv" ? GridCsv(ResultCaptions(result), rows) : GridTable(rows);
+  const ResultView view{.grade_names = DiameterGradeNames(), .part_names = SitePartNames()};
+  const GridRows rows = ResultRows(result, view);
+  return format == "csv" ? GridCsv(ResultCaptions(result, view), rows) : GridTable(rows);
 }
 
 void RunTally(const TallyOptions& options) {
@@ -39,6 +48,7 @@ Action DefineTally(CommandLine& line) {
   line.WordArgument("KIND", options->kind, TallyWords(), "the kind of tally");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
+  AddFloorOptions(line, options->selection);
   AddFormatOption(line, options->format);
   return [options] { RunTally(*options); };
 }

@@ -7,6 +7,7 @@
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
 #include "data/shape_filter.h"
+#include "data/special_floors.h"
 #include "data/start_mode.h"
 #include "tally/tally_kind.h"
 
@@ -30,6 +31,13 @@ struct SelectionData {
   std::int32_t StartLine = 0;
   std::int32_t EndPage = 0;
   std::int32_t EndLine = 0;
+  std::int16_t KaiStart = 0;  ///< first and last 階 of the floor and part tallies, as the boxes hold them
+  std::int16_t KaiEnd = 0;
+  std::int16_t KaiMin = 0;      ///< lowest 階 of the schedule: where a floor tally from 0 begins
+  std::int16_t BuiStart = 0;    ///< where the part tally begins
+  SpecialMask TokubetuMask;     ///< special floors taken beside a range of storeys
+  double UwanoseRitu = 0.0;     ///< uplift of the floor tally as a ratio: 0.1 for 10 percent
+  double BuiUwanoseRitu = 0.0;  ///< the same of the part tally
 
   friend bool operator==(const SelectionData&, const SelectionData&) = default;
 };

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <variant>
 
+#include "tally/floor_tables.h"
+#include "tally/part_tables.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 #include "tally/tally_kind.h"
@@ -20,10 +22,10 @@ enum class ResultOrigin {
 };
 
 /// The tables of a result, by the family of its kind.
-using TallyTables = std::variant<TallyTable>;
+using TallyTables = std::variant<TallyTable, FloorTables, PartTables>;
 
 /// What a tally gives, and all that its readers look at: grids, reports, files. A value: what happens to
-/// `TallyGrid` or to the selection later does not reach it.
+/// `TallyGrid`, `FloorTally`, `PartTally` or to the selection later does not reach it.
 struct TallyResult {
   TallyKind kind = TallyKind::bulk;
   SelectionData selection = {};  ///< what was asked for
@@ -35,6 +37,9 @@ struct TallyResult {
 
   /// The diameter-by-length tables. Throws `std::bad_variant_access` for a result of another family.
   const TallyTable& Grid() const { return std::get<TallyTable>(tables); }
+  /// The tables by floor; those by part. Likewise.
+  const FloorTables& Floors() const { return std::get<FloorTables>(tables); }
+  const PartTables& Parts() const { return std::get<PartTables>(tables); }
 
   friend bool operator==(const TallyResult&, const TallyResult&) = default;
 };

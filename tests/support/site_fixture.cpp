@@ -12,6 +12,8 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "tally/engine/stock_engine.h"
+#include "tally/floor_tables.h"
+#include "tally/part_tables.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -179,6 +181,8 @@ void SiteFixture::ResetGlobalState() {
   SiteContext = {};
   RunState = {};
   TallyGrid = {};
+  FloorTally = {};
+  PartTally = {};
   EngineState = {};
 }
 

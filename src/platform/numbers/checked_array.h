@@ -9,14 +9,23 @@
 
 namespace rbt {
 
+/// The place of an index in a table of `size` entries. Faults: `subscript out of range`.
+inline std::size_t CheckedIndex(int index, int size) {
+  if (index < 0 || index >= size) {
+    throw Fault(FaultKind::subscript_out_of_range,
+                "index " + std::to_string(index) + " of a table of " + std::to_string(size));
+  }
+  return static_cast<std::size_t>(index);
+}
+
 /// An array whose index is checked on every access, in release builds too.
 template <typename T, int N>
 class CheckedArray {
  public:
   static constexpr int kSize = N;
 
-  T& operator[](int index) { return cells_[Check(index)]; }
-  const T& operator[](int index) const { return cells_[Check(index)]; }
+  T& operator[](int index) { return cells_[CheckedIndex(index, N)]; }
+  const T& operator[](int index) const { return cells_[CheckedIndex(index, N)]; }
   void Clear() { cells_.fill(T{}); }
 
   auto begin() const { return cells_.begin(); }
@@ -25,14 +34,6 @@ class CheckedArray {
   friend bool operator==(const CheckedArray&, const CheckedArray&) = default;
 
  private:
-  static std::size_t Check(int index) {
-    if (index < 0 || index >= N) {
-      throw Fault(FaultKind::subscript_out_of_range,
-                  "index " + std::to_string(index) + " of a table of " + std::to_string(N));
-    }
-    return static_cast<std::size_t>(index);
-  }
-
   std::array<T, N> cells_{};
 };
 

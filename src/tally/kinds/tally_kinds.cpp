@@ -8,6 +8,8 @@
 #include "platform/fault.h"
 #include "platform/numbers/number_words.h"
 #include "shell/context/run_state.h"
+#include "tally/floorpart/floor_tally.h"
+#include "tally/floorpart/part_tally.h"
 #include "tally/groups/shape_tally.h"
 #include "tally/rows/bulk_tally.h"
 #include "tally/rows/page_tally.h"
@@ -25,14 +27,47 @@ void CountPageShapes() {
   PKeijou_Jyuuryo_Syukei(Selection.StartPage, Selection.StartLine, Selection.EndPage, Selection.EndLine);
 }
 
+void CountParts() {
+  const auto taken = [](int floor) { return static_cast<std::int16_t>(Selection.TokubetuMask.Has(floor)); };
+  Bui_Jyuuryo_Syukei(Selection.BuiStart, Selection.KaiEnd, taken(kPenthouseFloor), taken(kRoofFloor),
+                     taken(kNoFloor));
+}
+
+TallyTables CurrentGrid() { return TallyGrid; }
+TallyTables CurrentFloors() { return FloorTally; }
+TallyTables CurrentParts() { return PartTally; }
+
 constexpr std::array<TallyKindRow, 6> kTallyKinds{{
-    {TallyKind::bulk, "bulk", "一括集計", TallyRange::whole_site, Jyuuryo_Syukei},
-    {TallyKind::shape, "shape", "形状別 一括集計", TallyRange::shapes, Keijou_Jyuuryo_Syukei},
-    {TallyKind::page, "page", "頁行別集計", TallyRange::positions, CountPages},
-    {TallyKind::page_shape, "page-shape", "形状別 頁行別集計", TallyRange::positions, CountPageShapes},
-    {TallyKind::floor, "floor", "階別集計", TallyRange::floors, nullptr},
-    {TallyKind::part, "part", "部位別集計", TallyRange::floors, nullptr},
+    {TallyKind::bulk, "bulk", "一括集計", TallyRange::whole_site, Jyuuryo_Syukei, CurrentGrid},
+    {TallyKind::shape, "shape", "形状別 一括集計", TallyRange::shapes, Keijou_Jyuuryo_Syukei, CurrentGrid},
+    {TallyKind::page, "page", "頁行別集計", TallyRange::positions, CountPages, CurrentGrid},
+    {TallyKind::page_shape, "page-shape", "形状別 頁行別集計", TallyRange::positions, CountPageShapes,
+     CurrentGrid},
+    {TallyKind::floor, "floor", "階別集計", TallyRange::floors, Kai_Jyuuryo_Syukei, CurrentFloors},
+    {TallyKind::part, "part", "部位別集計", TallyRange::floors, CountParts, CurrentParts},
 }};
+
+/// What the probes of the tally found: those of floors and parts leave it in their tables.
+struct Presence {
+  bool hoops;
+  bool anchor_plates;
+};
+Presence PresenceOf(const TallyTable& /*tables*/) {
+  return {RunState.HasHoopRows, RunState.HasAnchorPlateRows};
+}
+Presence PresenceOf(const FloorTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
+Presence PresenceOf(const PartTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
+
+/// Sites are added up, and Ulbon rows raised later, in the tables by diameter and length alone.
+ResultOrigin OriginOf(const TallyTable& /*tables*/) {
+  return RunState.AccumulateFlag != 0 ? ResultOrigin::accumulated : ResultOrigin::counted;
+}
+ResultOrigin OriginOf(const FloorTables& /*tables*/) {
+  return Selection.UwanoseRitu != 0.0 ? ResultOrigin::raised : ResultOrigin::counted;
+}
+ResultOrigin OriginOf(const PartTables& /*tables*/) {
+  return Selection.BuiUwanoseRitu != 0.0 ? ResultOrigin::raised : ResultOrigin::counted;
+}
 
 }  // namespace
 
@@ -55,13 +90,14 @@ const TallyKindRow* FindTallyKind(std::string_view word) {
 }
 
 TallyResult CountTally(TallyKind kind) {
-  RowOf(kind).count();
-  return {.kind = kind,
-          .selection = Selection,
-          .origin = RunState.AccumulateFlag != 0 ? ResultOrigin::accumulated : ResultOrigin::counted,
-          .has_hoop_rows = RunState.HasHoopRows,
-          .has_anchor_plate_rows = RunState.HasAnchorPlateRows,
-          .tables = TallyGrid};
+  const TallyKindRow& row = RowOf(kind);
+  row.count();
+  TallyResult result{.kind = kind, .selection = Selection, .tables = row.current()};
+  const Presence presence = std::visit([](const auto& tables) { return PresenceOf(tables); }, result.tables);
+  result.has_hoop_rows = presence.hoops;
+  result.has_anchor_plate_rows = presence.anchor_plates;
+  result.origin = std::visit([](const auto& tables) { return OriginOf(tables); }, result.tables);
+  return result;
 }
 
 }  // namespace rbt

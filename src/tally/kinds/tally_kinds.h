@@ -15,7 +15,7 @@ enum class TallyRange {
   whole_site,
   shapes,     ///< `ShapeStart` to `ShapeEnd`
   positions,  ///< `StartPage`, `StartLine` to `EndPage`, `EndLine`
-  floors,
+  floors,     ///< `KaiStart` to `KaiEnd` and the special floors of `TokubetuMask`
 };
 
 /// A kind of tally. What comes in kinds of tallies loops over these rows: screens, menu, command line.
@@ -26,6 +26,7 @@ struct TallyKindRow {
   TallyRange range;
   /// Tallies the selection into the place of the current result. Null: this program cannot tally it yet.
   void (*count)();
+  TallyTables (*current)();  ///< what stands in that place
 };
 
 /// All kinds, in the order in which the command line lists them.

@@ -1,21 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "tally/views/result_views.h"
 
+#include <variant>
+
 #include "tally/kinds/tally_kinds.h"
+#include "tally/views/floorpart_json.h"
 #include "tally/views/tally_json.h"
 
 namespace rbt {
+namespace {
 
-std::span<const std::string_view> ResultCaptions(const TallyResult& /*result*/) { return kResultCaptions; }
+std::vector<std::string_view> CaptionsOf(const TallyTable& /*tables*/, const ResultView& /*view*/) {
+  return {kResultCaptions.begin(), kResultCaptions.end()};
+}
+std::vector<std::string_view> CaptionsOf(const FloorTables& /*tables*/, const ResultView& view) {
+  return FloorCaptions(view.part_names);
+}
+std::vector<std::string_view> CaptionsOf(const PartTables& /*tables*/, const ResultView& view) {
+  return PartCaptions(view.part_names);
+}
+
+GridRows RowsOf(const TallyTable& tables, const TallyResult& result, const ResultView& view) {
+  return ShowTally(tables, result.selection,
+                   {view.show_ulbon_only, static_cast<double>(result.ulbon_percent), view.grade_names});
+}
+GridRows RowsOf(const FloorTables& tables, const TallyResult& /*result*/, const ResultView& /*view*/) {
+  return ShowFloors(tables);
+}
+GridRows RowsOf(const PartTables& tables, const TallyResult& /*result*/, const ResultView& /*view*/) {
+  return ShowParts(tables);
+}
+
+std::string JsonOf(const TallyTable& tables, const TallyResult& result) {
+  return TallyJson(tables, RowOf(result.kind).word, result.has_hoop_rows, result.has_anchor_plate_rows);
+}
+std::string JsonOf(const FloorTables& tables, const TallyResult& /*result*/) { return FloorJson(tables); }
+std::string JsonOf(const PartTables& tables, const TallyResult& /*result*/) { return PartJson(tables); }
+
+}  // namespace
+
+std::vector<std::string_view> ResultCaptions(const TallyResult& result, const ResultView& view) {
+  return std::visit([&](const auto& tables) { return CaptionsOf(tables, view); }, result.tables);
+}
 
 GridRows ResultRows(const TallyResult& result, const ResultView& view) {
-  return ShowTally(result.Grid(), result.selection,
-                   {view.show_ulbon_only, static_cast<double>(result.ulbon_percent), view.grade_names});
+  return std::visit([&](const auto& tables) { return RowsOf(tables, result, view); }, result.tables);
 }
 
 std::string ResultJson(const TallyResult& result) {
-  return TallyJson(result.Grid(), RowOf(result.kind).word, result.has_hoop_rows,
-                   result.has_anchor_plate_rows);
+  return std::visit([&](const auto& tables) { return JsonOf(tables, result); }, result.tables);
 }
 
 }  // namespace rbt

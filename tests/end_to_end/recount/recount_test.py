@@ -16,17 +16,23 @@ from decimal import Decimal
 from pathlib import Path
 
 import bulk_recount as bulk
+import floor_recount as floors
 import group_recount as group
 
 SHAPES = [None, 0, 1, 1, 1, 2, 3, 11, 21, 87, 87, 138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 161, 162, 163,
           164, 166, 169, 170, 175, 176, 177, 178, 201, 250]
 
 
+# Floors of sites with and without basements, foundation and special floors; codes that are no floor.
+SITES = [[None, -1, 0, 1, 2, 76, 78], [1, 2, 5], [-5, -2, -1, 1, 3], [-3, -2, -1], [-2, 0], [0], [0, 1, 75], [76, 77, 78], [78], [3, 4, 77],
+         [-6, 79, 90], [None, -6, 1, 79]]
+
+
 def pick(rng, *weighted):
     return rng.choices([v for v, _ in weighted], [w for _, w in weighted])[0]
 
 
-def random_row(rng, number, tame):
+def random_row(rng, number, tame, site_floors):
     diameter = pick(rng, (rng.choice(bulk.DEFORMED), 70), (rng.choice(bulk.ULBON), 25), (None, 2),
                     (0 if not tame else 13, 1), (14 if not tame else 16, 1))
     deformed = diameter in bulk.DEFORMED
@@ -34,7 +40,8 @@ def random_row(rng, number, tame):
                  (0.0, 5 if deformed or not tame else 0), (3.6, 2 if deformed or not tame else 0))
     row = {
         "行No": number, "頁": number // 20 + 1, "行": number % 20 + 1,
-        "階": rng.choice([None, -1, 0, 1, 2, 76, 78]), "部位": rng.choice([None, 0, 1, 2, 2, 3, 3, 5]),
+        "階": rng.choice(site_floors), "部位": pick(rng, (rng.choice([None, 0, 1, 2, 2, 3, 3, 5, 10, 11, 12]), 99),
+                                               (5 if tame else -1, 1)),
         "名称": rng.choice([None, "柱主筋", "縦ｽﾘｯﾄ筋　", "横ｽﾘｯﾄ筋　", "縦ｽﾘｯﾄ筋"]),
         "太さ": diameter, "形状No": rng.choice(SHAPES),
         "本数": pick(rng, (rng.randint(1, 40), 95), (None, 5)),
@@ -56,6 +63,13 @@ def random_row(rng, number, tame):
     for i in range(1, 11):
         row[f"寸法{i}"] = rng.choice([None, "", "150", "1200", "R40"])
     return row
+
+
+def random_range(rng, site_floors):
+    """All floors, two of the site, or any two."""
+    codes = [f for f in site_floors if f is not None and -5 <= f <= 78] or [1]
+    return rng.choice([None, tuple(sorted(rng.choices(codes, k=2))), tuple(sorted(rng.choices(range(-5, 79), k=2))),
+                       tuple(rng.choices(codes + [0], k=2))])
 
 
 def write_rows(path, rows):
@@ -93,6 +107,7 @@ def write_spirals(path, rng):
 def write_settings(path, settings):
     lines = ["[kakou\\定尺チェック]", f"定尺={settings['stock_check']}", "[Kakou\\プラス]", f"長さ={settings['plus']}",
              "[Kakou\\定尺計算]", f"ロス優先={settings['loss_priority']}", "[Kakou\\重量集計]", f"溶接フープの圧接数={settings['hoop_welds']}", f"定尺取付書換={settings['cap']}",
+             f"階別集計定取={settings['installed']}",
              "[Jyuryo\\定尺]", f"定尺13有無={settings['use_13m']}"]
     Path(path).write_text("\n".join(lines) + "\n", encoding="utf-8")
 
@@ -138,7 +153,8 @@ class Round:
     def run(self):
         rng = self.rng
         tame = rng.random() < 0.9
-        rows = [random_row(rng, n, tame) for n in range(rng.choice([1, 5, 40, 400]))]
+        site_floors = rng.choice(SITES)
+        rows = [random_row(rng, n, tame, site_floors) for n in range(rng.choice([1, 5, 40, 400]))]
         shutil.copy(self.root / "pristine.MDB", self.root / "DATA/GENBA001.MDB")
         write_rows(self.root / "DATA/GENBA001.MDB", rows)
         old_layout = rng.random() < 0.1
@@ -151,7 +167,7 @@ class Round:
         spirals = write_spirals(self.root / "DATA/HIROI001.mdb", rng)
         settings = {"hoop_welds": rng.choice([0, 1]), "cap": rng.choice([0, 0, 1]), "use_13m": rng.choice([0, 1]),
                     "stock_check": rng.choice([0, 1]), "plus": rng.choice([0, 0, 10, 250]),
-                    "loss_priority": rng.choice([0, 1])}
+                    "loss_priority": rng.choice([0, 1]), "installed": rng.choice([0, 1, 2])}
         write_settings(self.root / "settings.ini", settings)
         limits = {d: (rng.choice([3500, 3500, 4000, 4500]), rng.choice([12000, 12000, 9000, 11250]))
                   for d in bulk.DEFORMED}
@@ -162,8 +178,11 @@ class Round:
         sel["shapes"] = tuple(sorted(rng.choice([(0, 250), (1, 200), (rng.randint(0, 200), rng.randint(0, 200))])))
         ends = sorted(rng.choices(range(len(rows)), k=2))
         sel["from"], sel["to"] = ((rows[n]["頁"], rows[n]["行"]) for n in ends)
+        sel["floors"] = random_range(rng, site_floors)
+        sel["special"], sel["uplift"] = rng.choice([0, 7, rng.randint(0, 7)]), rng.choice([0, 0, 10, 7.5, -3])
         bulk.prepare(rows, sel["start_mode"])
-        return self.compare_kinds(rows, spirals, sel, settings, limits, old_layout)
+        return (self.compare_kinds(rows, spirals, sel, settings, limits, old_layout)
+                or self.compare_floors(rows, sel, settings))
 
     def compare_kinds(self, rows, spirals, sel, settings, limits, old_layout):
         def engine(plus):
@@ -185,7 +204,19 @@ class Round:
         return found or self.compare("page-shape", sel, range_of(sel["from"], sel["to"]),
                                      lambda: group.recount_page_shape(rows, sel, settings, engine(plus)))
 
-    def compare(self, kind, sel, more, recount):
+    def compare_floors(self, rows, sel, settings):
+        floors.fill(rows)
+        extent = floors.Extent(rows)
+        sel = {**sel, "kinds": self.rng.choice([sel["kinds"], 15, 0])}
+        more = ["--special", str(sel["special"]), "--uplift", str(sel["uplift"])]
+        if sel["floors"] is not None:
+            more += ["--floors={}..{}".format(*sel["floors"])]
+        return (self.compare("floor", sel, more, lambda: floors.recount_floor(rows, sel, settings, extent),
+                             floors.differences)
+                or self.compare("part", sel, more, lambda: floors.recount_part(rows, sel, settings, extent),
+                                floors.differences))
+
+    def compare(self, kind, sel, more, recount, compare=differences):
         command = [self.rbtally, "tally", kind, *more, "--root", str(self.root), "--format", "json",
                    "--start-mode", str(sel["start_mode"]), "--kinds", str(sel["kinds"]), "--forms", str(sel["forms"]),
                    "--ulbon", str(sel["ulbon"]), "--calc", str(sel["calc"]), "--hoops", str(sel["hoops"]),
@@ -194,13 +225,17 @@ class Round:
                               env={**os.environ, "RBK_SETTINGS": str(self.root / "settings.ini")})
         try:
             expected = recount()
+        except floors.Refused:
+            if done.returncode == 2 and not done.stdout:
+                return []
+            return [f"the floors are to be refused, tally exits {done.returncode}", " ".join(command)]
         except bulk.RunTimeFault as fault:
             if done.returncode == 1 and str(fault) in done.stderr and not done.stdout:
                 return []
             return [f"recount faults with '{fault}', tally exits {done.returncode}: {done.stderr}", " ".join(command)]
         if done.returncode != 0:
             return [f"tally exits {done.returncode}: {done.stderr}", " ".join(command)]
-        found = differences(expected, json.loads(done.stdout, parse_float=Decimal))
+        found = compare(expected, json.loads(done.stdout, parse_float=Decimal))
         return found + [" ".join(command)] if found else []
 
 

@@ -43,9 +43,14 @@ void SelectAll(ScheduleSite& site) {
   Selection.StartLine = 1;
   Selection.EndPage = 1;
   Selection.EndLine = 2;
-  site.AddRow();
-  site.AddRow();
+  Selection.KaiStart = Selection.KaiEnd = Selection.BuiStart = 1;
+  site.AddRow({{"階", Number(1)}});
+  site.AddRow({{"階", Number(1)}});
 }
+
+std::int32_t BarsOf6mD19(const TallyTable& tables) { return tables.BarCount[3][5]; }
+std::int32_t BarsOf6mD19(const FloorTables& tables) { return tables.SouHonsu[3][5]; }
+std::int32_t BarsOf6mD19(const PartTables& tables) { return tables.TaisaHonsu[3][5]; }
 
 TEST(CountTally, GivesTheBarsOfEachKindWithWhatWasAskedFor) {
   for (const TallyKindRow& row : TallyKinds()) {
@@ -56,7 +61,8 @@ TEST(CountTally, GivesTheBarsOfEachKindWithWhatWasAskedFor) {
     EXPECT_EQ(result.kind, row.kind);
     EXPECT_EQ(result.origin, ResultOrigin::counted) << row.word;
     EXPECT_EQ(result.selection, Selection) << row.word;
-    EXPECT_EQ(result.Grid().BarCount[3][5], 4) << row.word;  // D19 of 6.0 m, two rows of two bars
+    const auto bars = std::visit([](const auto& tables) { return BarsOf6mD19(tables); }, result.tables);
+    EXPECT_EQ(bars, 4) << row.word;  // two rows of two bars
   }
 }
 
@@ -68,6 +74,43 @@ TEST(CountTally, TellsThePresenceThatItsProbesFound) {
   const TallyResult result = CountTally(TallyKind::bulk);
   EXPECT_TRUE(result.has_hoop_rows);
   EXPECT_FALSE(result.has_anchor_plate_rows);
+}
+
+TEST(CountTally, TellsThePresenceThatTheFloorAndPartTalliesFound) {
+  for (const TallyKind kind : {TallyKind::floor, TallyKind::part}) {
+    ScheduleSite site;
+    SelectAll(site);
+    EXPECT_FALSE(CountTally(kind).has_hoop_rows);
+    EXPECT_FALSE(CountTally(kind).has_anchor_plate_rows);
+    site.AddRow({{"階", Number(1)}, {"形状No", Number(140)}});
+    EXPECT_FALSE(CountTally(kind).has_hoop_rows);
+    EXPECT_TRUE(CountTally(kind).has_anchor_plate_rows);
+    site.AddRow({{"階", Number(1)}, {"形状No", Number(87)}});
+    EXPECT_TRUE(CountTally(kind).has_hoop_rows);
+  }
+}
+
+TEST(CountTally, IsRaisedByTheRatioOfItsOwnTally) {
+  ScheduleSite site;
+  SelectAll(site);
+  Selection.UwanoseRitu = 0.1;
+  EXPECT_EQ(CountTally(TallyKind::floor).origin, ResultOrigin::raised);
+  EXPECT_EQ(CountTally(TallyKind::part).origin, ResultOrigin::counted);
+  Selection.BuiUwanoseRitu = 0.1;
+  EXPECT_EQ(CountTally(TallyKind::part).origin, ResultOrigin::raised);
+  EXPECT_EQ(CountTally(TallyKind::bulk).origin, ResultOrigin::counted);
+}
+
+TEST(CountTally, StartsThePartTallyWhereTheSelectionSaysAndTakesItsSpecialFloors) {
+  ScheduleSite site;
+  for (const int floor : {-1, 0, 1, 76, 77, 78}) site.AddRow({{"階", Number(floor)}});
+  Selection.KaiStart = 0;
+  Selection.KaiEnd = 1;
+  Selection.BuiStart = -1;
+  for (const int mask : {0, 1, 2, 4}) {
+    Selection.TokubetuMask = SpecialMask(static_cast<std::int16_t>(mask));
+    EXPECT_EQ(CountTally(TallyKind::part).Parts().TaisaHonsu[3][5], mask == 0 ? 6 : 8) << mask;
+  }
 }
 
 TEST(CountTally, IsNotReachedByWhatIsTalliedLater) {

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "tally/floorpart/share_walk.h"
+
+#include <vector>
+
+#include "platform/fault.h"
+#include "platform/system/process.h"
+#include "tally/rows/bar_row_reader.h"
+
+namespace rbt {
+namespace {
+
+constexpr std::string_view kFloorColumn = "階";
+
+std::vector<std::string_view> ColumnsWith(ReadFloors floors) {
+  const auto bar_columns = BarRowReader::Columns();
+  std::vector<std::string_view> columns(bar_columns.begin(), bar_columns.end());
+  if (floors == ReadFloors::yes) columns.push_back(kFloorColumn);
+  return columns;
+}
+
+/// Calls `action`; a fault then names the row's page and line.
+template <typename Action>
+auto NamingPlace(const BarRow& row, Action action) {
+  try {
+    return action();
+  } catch (const Fault& fault) {
+    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
+  }
+}
+
+}  // namespace
+
+void TakeShare(const BarRow& row, const std::optional<std::int32_t>& floor, const ShareRules& rules,
+               const ShareTaker& take) {
+  NamingPlace(row, [&] {
+    const std::optional<RowShare> share = ShareOf(row, rules);
+    if (share) take(*share, floor);
+  });
+}
+
+void WalkShares(Database& site, std::string_view statement, const ShareRules& rules, ReadFloors floors,
+                const ShareTaker& take) {
+  RunPendingEvents();
+  Recordset rows = site.OpenSnapshot(statement, ColumnsWith(floors));
+  const BarRowReader reader(rows);
+  std::optional<FieldHandle> floor;
+  if (floors == ReadFloors::yes) floor = rows.Field(kFloorColumn);
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const BarRow row = reader.Read(rows);
+    std::optional<std::int32_t> stands_on;
+    if (floor) stands_on = NamingPlace(row, [&] { return rows.Int32(*floor); });
+    TakeShare(row, stands_on, rules, take);
+  }
+  RunPendingEvents();
+}
+
+}  // namespace rbt

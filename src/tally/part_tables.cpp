@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "tally/part_tables.h"
+
+namespace rbt {
+
+PartTables PartTally;
+
+}  // namespace rbt
