@@ -23,7 +23,7 @@ PageRangePanel::PageRangePanel(QWidget* parent)
 PageRangePanel::~PageRangePanel() = default;
 
 void PageRangePanel::FillFromSchedule(Database& site) {
-  const std::optional<PositionRange> whole = WholePositionRange(site);
+  const std::optional<PositionRange> whole = WholePositionRange(site, Selection.TallyKind);
   ui_->lblNoRows->setVisible(!whole.has_value());
   for (QWidget* control : findChildren<QWidget*>()) {
     if (control != ui_->lblNoRows) control->setVisible(whole.has_value());

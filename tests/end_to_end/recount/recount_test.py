@@ -33,7 +33,8 @@ def random_row(rng, number, tame):
     stock = pick(rng, (rng.choice(bulk.STOCK_METRES), 85), (None, 3), (12.5, 3 if deformed or not tame else 0),
                  (0.0, 5 if deformed or not tame else 0), (3.6, 2 if deformed or not tame else 0))
     row = {
-        "行No": number, "頁": number // 20 + 1, "行": number % 20 + 1,
+        "行No": pick(rng, (number, 90), (max(number - 1, 0), 8), (None, 2)),
+        "頁": pick(rng, (number // 20 + 1, 98), (None, 2)), "行": pick(rng, (number % 20 + 1, 98), (None, 2)),
         "階": rng.choice([None, -1, 0, 1, 2, 76, 78]), "部位": rng.choice([None, 0, 1, 2, 2, 3, 3, 5]),
         "名称": rng.choice([None, "柱主筋", "縦ｽﾘｯﾄ筋　", "横ｽﾘｯﾄ筋　", "縦ｽﾘｯﾄ筋"]),
         "太さ": diameter, "形状No": rng.choice(SHAPES),
@@ -56,6 +57,12 @@ def random_row(rng, number, tame):
     for i in range(1, 11):
         row[f"寸法{i}"] = rng.choice([None, "", "150", "1200", "R40"])
     return row
+
+
+def bound_at(rng, row):
+    """A bound to ask for; none leaves it to the schedule."""
+    known = row["頁"] is not None and row["行"] is not None
+    return (row["頁"], row["行"]) if known and rng.random() < 0.7 else None
 
 
 def write_rows(path, rows):
@@ -161,7 +168,7 @@ class Round:
                "plates": rng.choice([0, 0, 1, 2]), "start_mode": rng.choice([-1, -1, 0, 1, 2, 3, 4])}
         sel["shapes"] = tuple(sorted(rng.choice([(0, 250), (1, 200), (rng.randint(0, 200), rng.randint(0, 200))])))
         ends = sorted(rng.choices(range(len(rows)), k=2))
-        sel["from"], sel["to"] = ((rows[n]["頁"], rows[n]["行"]) for n in ends)
+        sel["from"], sel["to"] = (bound_at(rng, rows[n]) for n in ends)
         bulk.prepare(rows, sel["start_mode"])
         return self.compare_kinds(rows, spirals, sel, settings, limits, old_layout)
 
@@ -169,20 +176,20 @@ class Round:
         def engine(plus):
             return group.Engine(limits, plus, settings["loss_priority"])
 
-        def range_of(first, last):
-            return ["--from", f"{first[0]}/{first[1]}", "--to", f"{last[0]}/{last[1]}"]
+        positions = [word for name in ("from", "to") if sel[name]
+                     for word in (f"--{name}", "{}/{}".format(*sel[name]))]
 
         plus = settings["plus"]
         # In a run that asks the engine nothing, the shape tally knows no allowance.
         shape_plus = 0 if settings["stock_check"] else plus
         found = self.compare("bulk", sel, [], lambda: bulk.recount(rows, spirals, sel, settings))
-        found = found or self.compare("page", sel, range_of(sel["from"], sel["to"]),
+        found = found or self.compare("page", sel, positions,
                                       lambda: group.recount_page(rows, sel, settings))
         if old_layout:
             return found  # the group statements name the columns that old files lack
         found = found or self.compare("shape", sel, ["--shapes", "{}-{}".format(*sel["shapes"])],
                                       lambda: group.recount_shape(rows, sel, settings, engine(shape_plus)))
-        return found or self.compare("page-shape", sel, range_of(sel["from"], sel["to"]),
+        return found or self.compare("page-shape", sel, positions,
                                      lambda: group.recount_page_shape(rows, sel, settings, engine(plus)))
 
     def compare(self, kind, sel, more, recount):
