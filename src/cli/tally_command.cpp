@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
@@ -25,7 +27,8 @@ struct TallyOptions {
 std::string TextOf(const TallyResult& result, const std::string& format) {
   if (format == "json") return ResultJson(result);
   const GridRows rows = ResultRows(result, {.grade_names = DiameterGradeNames()});
-  return format == "csv" ? GridCsv(ResultCaptions(result), rows) : GridTable(rows);
+  const std::span<const std::string_view> captions = ResultCaptions(result);
+  return format == "csv" ? GridCsv(captions, rows) : GridTable(captions, rows);
 }
 
 void RunTally(const TallyOptions& options) {
