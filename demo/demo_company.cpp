@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "demo/demo_company.h"
 
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include "demo/stock_choice.h"
@@ -33,6 +35,22 @@ constexpr FixedStock kFixedStocks[] = {
 
 constexpr Spiral kSpirals[] = {{1, 10, 128.4}, {1, 13, 412.75}, {2, 6, 36.2},    {2, 7, 88.05},
                                {2, 9, 154.6},  {2, 16, 61.5},   {3, 13, 203.125}};
+/// The materials of which a site has spirals, site by site in turn: all three, no deformed ones, Ulbon alone.
+constexpr std::string_view kSpiralMaterials[] = {"123", "23", "2"};
+
+/// Each site's spirals are so much heavier than those of the site before, so that no two sites are taken for
+/// one another by them.
+std::vector<Spiral> SpiralsOf(std::size_t index) {
+  constexpr double kGrowth = 0.07;
+  const std::string_view materials = kSpiralMaterials[index % std::size(kSpiralMaterials)];
+  std::vector<Spiral> spirals;
+  for (const Spiral& spiral : kSpirals) {
+    if (materials.find(static_cast<char>('0' + spiral.material)) == std::string_view::npos) continue;
+    const double weight_kg = spiral.weight_kg * (1.0 + kGrowth * static_cast<double>(index));
+    spirals.push_back({spiral.material, spiral.diameter, std::round(weight_kg * 1000.0) / 1000.0});
+  }
+  return spirals;
+}
 
 constexpr std::string_view kStages[] = {"基礎工区Ａ",   "地下２階躯体", "地下１階躯体", "１階立上り",
                                         "２階立上り",   "３階立上り",   "４階立上り",   "５階立上り",
@@ -95,7 +113,7 @@ Site DemoSite(std::int32_t number) {
   }
   const std::size_t stages = kStageCounts[index % std::size(kStageCounts)];
   site.registered_names.assign(std::begin(kStages), std::begin(kStages) + stages);
-  site.spirals.assign(std::begin(kSpirals), std::end(kSpirals));
+  site.spirals = SpiralsOf(index);
   return site;
 }
 

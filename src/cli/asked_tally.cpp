@@ -34,9 +34,9 @@ void TakeShapes(const SelectionOptions& options) {
 
 /// The positions asked for; a bound that is not given is that of the schedule.
 PositionRange PositionsOf(const SelectionOptions& options) {
-  // Two bounds ask for no default: a first or last row without a position then stands in nobody's way.
   if (options.from && options.to) return {*options.from, *options.to};
-  const PositionRange whole = WholePositionRange(*SiteContext.WorkDatabase).value_or(PositionRange());
+  const PositionRange whole =
+      WholePositionRange(*SiteContext.WorkDatabase, Selection.TallyKind).value_or(PositionRange());
   return {options.from.value_or(whole.first), options.to.value_or(whole.last)};
 }
 

@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/output.h"
+#include "platform/numbers/number_words.h"
 
 namespace rbt {
 
@@ -16,6 +17,11 @@ std::string Joined(const std::vector<std::string>& words) {
   std::string text;
   for (const std::string& word : words) text += (text.empty() ? "" : "|") + word;
   return text;
+}
+
+bool IsWholeNumber(std::string_view text) {
+  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 /// False when help was asked for and given.
@@ -60,6 +66,20 @@ void CommandLine::WordArgument(const std::string& name, std::string& target,
 void CommandLine::NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
                                  const std::string& description) {
   line_.add_option(name, target, description)->type_name(form)->required();
+}
+
+void CommandLine::WholeNumberArgument(const std::string& name, const std::string& form, double& target,
+                                      const std::string& description) {
+  line_
+      .add_option_function<std::string>(
+          name,
+          [&target, name](const std::string& text) {
+            if (!IsWholeNumber(text)) throw CLI::ValidationError(name, text + " is no whole number");
+            target = LeadingNumber(text);
+          },
+          description)
+      ->type_name(form)
+      ->required();
 }
 
 void CommandLine::Flag(const std::string& name, bool& target, const std::string& description) {

@@ -32,6 +32,9 @@ class CommandLine {
   /// `form` stands for the value in the help: "MM".
   void NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
                       const std::string& description);
+  /// A whole number of any size: how large it may be is up to what it is for, whose fault is no wrong usage.
+  void WholeNumberArgument(const std::string& name, const std::string& form, double& target,
+                           const std::string& description);
 
   void Flag(const std::string& name, bool& target, const std::string& description);
   void TextOption(const std::string& name, const std::string& form, std::string& target,

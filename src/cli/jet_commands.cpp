@@ -13,6 +13,7 @@
 #include "jet/check.h"
 #include "jet/csv_dump.h"
 #include "jet/import/import_file.h"
+#include "jet/lock_file.h"
 #include "platform/fault.h"
 #include "platform/text/cp932.h"
 #include "platform/text/csv.h"
@@ -24,23 +25,28 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Steel that was not taken is told where a script that reads no report meets it.
-void TellRefused(const jet::ImportReport& report) {
-  if (report.Refused() == 0) return;
-  ReportError(fmt::format("{}: {} rows were refused, see REFUSED", report.source.string(), report.Refused()));
+/// Steel that was not taken, or perhaps not rightly, is told where a script that reads no report meets it.
+void TellWhatIsMissing(const jet::ImportReport& report) {
+  const std::string source = report.source.string();
+  if (report.Refused() > 0) {
+    ReportError(fmt::format("{}: {} rows were refused, see REFUSED", source, report.Refused()));
+  }
+  if (!report.damages.empty()) {
+    ReportError(fmt::format("{}: damage in {} places, see DAMAGE", source, report.damages.size()));
+  }
 }
 
 void ImportFolder(const fs::path& folder, const fs::path& root) {
   const FolderReport report = ImportDataFolder(folder, root);
   WriteResult(ReportText(report));
-  for (const jet::ImportReport& file : report.files) TellRefused(file);
+  for (const jet::ImportReport& file : report.files) TellWhatIsMissing(file);
   if (!report.failed.empty()) {
     throw Fault(FaultKind::file,
                 fmt::format("{} of the databases could not be imported, see FAILED", report.failed.size()));
   }
 }
 
-void Import(const fs::path& source, const fs::path& target) {
+void Import(const fs::path& source, const fs::path& target, jet::OnDamage on_damage) {
   if (fs::is_directory(source)) {
     ImportFolder(source, target);
     return;
@@ -48,14 +54,15 @@ void Import(const fs::path& source, const fs::path& target) {
   std::error_code not_there;
   const bool in_place = fs::equivalent(source, target, not_there);
   const jet::ImportReport report =
-      in_place ? jet::ImportJetFileInPlace(source) : jet::ImportJetFile(source, target);
+      in_place ? jet::ImportJetFileInPlace(source, on_damage) : jet::ImportJetFile(source, target);
   WriteResult(jet::ReportText(report));
-  TellRefused(report);
+  TellWhatIsMissing(report);
 }
 
 void Check(const std::string& name) {
   const auto file = jet::JetFile::Open(name);
-  const jet::CheckReport report = jet::CheckFile(*file);
+  jet::CheckReport report = jet::CheckFile(*file);
+  if (const auto note = jet::NoteOnLockFile(name)) report.warnings.push_back(*note);
   std::string text;
   for (const std::string& line : report.lines) text += line + "\n";
   for (const std::string& warning : report.warnings) text += "warning: " + warning + "\n";
@@ -115,13 +122,20 @@ Action DefineImport(CommandLine& line) {
   struct Options {
     std::string source;
     std::string target;
+    bool despite_damage = false;
   };
   auto options = std::make_shared<Options>();
-  line.Argument("SOURCE", options->source, "a real Jet file, or a DATA folder of such files");
+  line.Argument("SOURCE", options->source,
+                "a real Jet file, or a folder of such files: DATA, or the root above it");
   line.Argument("TARGET", options->target,
                 "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
                 "replaced and kept as SOURCE.jet");
-  return [options] { Import(options->source, options->target); };
+  line.Flag("--despite-damage", options->despite_damage,
+            "import a Jet file in its own place though the check finds damage in it");
+  return [options] {
+    Import(options->source, options->target,
+           options->despite_damage ? jet::OnDamage::take : jet::OnDamage::refuse);
+  };
 }
 
 Action DefineCheck(CommandLine& line) {

@@ -7,6 +7,7 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/session.h"
+#include "platform/numbers/number_words.h"
 #include "shell/config/settings.h"
 #include "shell/context/fixed_stock.h"
 #include "tally/engine/stock_engine.h"
@@ -20,7 +21,7 @@ namespace {
 
 struct StockOptions {
   std::int32_t cut_mm = 0;
-  std::int32_t count = 0;
+  double count = 0;
   std::int32_t diameter = 0;
   CommonOptions common;
   std::string format = "table";
@@ -33,10 +34,11 @@ std::string StockText(const StockResult& stock, const std::string& format) {
 }
 
 void RunStock(const StockOptions& options) {
+  const std::int32_t count = ToInt32(options.count, "COUNT");
   RequireRoot();
   Settings.UseFixedTable = ReadSetting(kUseFixedTableKey);
   if (Settings.UseFixedTable == 1) OpenFixedStockForReading();
-  Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(options.count), options.diameter);
+  Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(count), options.diameter);
   WriteResult(StockText(EngineState.TeijyakuResult, options.format));
 }
 
@@ -45,7 +47,7 @@ void RunStock(const StockOptions& options) {
 Action DefineStock(CommandLine& line) {
   auto options = std::make_shared<StockOptions>();
   line.NumberArgument("CUT", "MM", options->cut_mm, "cut length in mm");
-  line.NumberArgument("COUNT", "N", options->count, "number of pieces");
+  line.WholeNumberArgument("COUNT", "N", options->count, "number of pieces");
   line.NumberArgument("DIAMETER", "D", options->diameter, "diameter code: 10 to 51, 6 to 16");
   AddCommonOptions(line, options->common);
   AddFormatOption(line, options->format);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
@@ -34,7 +36,8 @@ std::string TextOf(const TallyResult& result, const std::string& format) {
   if (format == "json") return ResultJson(result);
   const ResultView view{.grade_names = DiameterGradeNames(), .part_names = SitePartNames()};
   const GridRows rows = ResultRows(result, view);
-  return format == "csv" ? GridCsv(ResultCaptions(result, view), rows) : GridTable(rows);
+  const auto captions = ResultCaptions(result, view);
+  return format == "csv" ? GridCsv(captions, rows) : GridTable(captions, rows);
 }
 
 void RunTally(const TallyOptions& options) {

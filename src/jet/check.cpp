@@ -29,23 +29,37 @@ class Checker {
       : file_(file), owners_(file.PageCount(), [this](std::string text) { Damage(std::move(text)); }) {}
 
   CheckReport Run() {
-    if (!file_.ClosedCleanly()) Warn("the file was not closed cleanly");
     owners_.Own(0, "the header");
+    std::vector<CatalogEntry> entries;
+    Guard("the catalog", [&] { entries = ReadCatalog(file_); });
+    RunOn(entries);
+    CheckGivenUpPages();
+    return Report();
+  }
+
+  CheckReport RunOnTables(const std::vector<CatalogEntry>& tables) {
+    RunOn(tables);
+    return Report();
+  }
+
+ private:
+  static constexpr const char* kUsageMaps = "the usage maps";
+
+  void RunOn(const std::vector<CatalogEntry>& entries) {
+    for (const std::string& note : file_.CommitNotes()) Warn(note);
     Guard("the map of free pages", [&] { free_ = OwnPagesOf(kFreePages, kUsageMaps); });
-    Guard("the catalog", [&] {
-      for (const CatalogEntry& entry : ReadCatalog(file_)) {
-        if (entry.kind == CatalogEntry::Kind::table) CheckTable(entry);
-      }
-    });
+    for (const CatalogEntry& entry : entries) {
+      if (entry.kind == CatalogEntry::Kind::table) CheckTable(entry);
+    }
     CheckFreePages();
+  }
+
+  CheckReport Report() {
     if (damages_ > kMostDamages) {
       report_.damages.push_back(fmt::format("and {} more", damages_ - kMostDamages));
     }
     return std::move(report_);
   }
-
- private:
-  static constexpr const char* kUsageMaps = "the usage maps";
 
   void Damage(std::string text) {
     if (++damages_ <= kMostDamages) report_.damages.push_back(std::move(text));
@@ -64,13 +78,14 @@ class Checker {
       TableDefinition table = ReadTableDefinition(file_, entry.id & 0xFFFFFF);
       table.name = entry.name;
       for (const std::uint32_t page : table.definition_pages) owners_.Own(page, what);
-      Guard(what + ", usage map", [&] { CheckUsageMap(table, what); });
+      std::vector<RowNulls> rows;
+      bool map_is_right = false;
+      Guard(what + ", rows", [&] { map_is_right = CheckRows(table, what, rows); });
+      Guard(what + ", usage map", [&] { CheckUsageMap(table, what, map_is_right); });
       for (const LongValueMap& map : table.long_value_maps) {
         const std::string name = fmt::format("{}, long values of column {}", what, map.column);
         Guard(name, [&] { CheckLongValueMap(map, name); });
       }
-      std::vector<RowNulls> rows;
-      Guard(what + ", rows", [&] { rows = CheckRows(table, what); });
       CheckIndexes(table, what, rows);
       report_.lines.push_back(fmt::format("{}: {} rows, {} columns, {} indexes", what, rows.size(),
                                           table.columns.size(), table.indexes.size()));
@@ -91,7 +106,8 @@ class Checker {
     }
   }
 
-  void CheckUsageMap(const TableDefinition& table, const std::string& what) {
+  /// Where the map is right, a page that points to the table and is not in it was given up.
+  void CheckUsageMap(const TableDefinition& table, const std::string& what, bool map_is_right) {
     const std::vector<std::uint32_t> owned = OwnPagesOf(table.owned_pages, what);
     const std::vector<std::uint32_t>& pointing = file_.DataPagesPointingTo(table.page);
     for (const std::uint32_t page : owned) {
@@ -101,7 +117,7 @@ class Checker {
       }
     }
     for (const std::uint32_t page : pointing) {
-      if (!Lists(owned, page) && !Lists(free_, page)) {
+      if (!map_is_right && !Lists(owned, page) && !Lists(free_, page)) {
         Damage(fmt::format("{}: page {} points to it but is not in its usage map", what, page));
       }
     }
@@ -122,18 +138,18 @@ class Checker {
     CheckFreeSpace(map.free_pages, owned, what);
   }
 
-  std::vector<RowNulls> CheckRows(const TableDefinition& table, const std::string& what) {
-    std::vector<RowNulls> rows;
+  /// True when the usage map led to the rows.
+  bool CheckRows(const TableDefinition& table, const std::string& what, std::vector<RowNulls>& rows) {
     const ScanReport scan = ScanTable(file_, table, [&](RowPointer place, std::vector<Value>& fields) {
       RowNulls& row = rows.emplace_back(RowNulls{place, std::vector<bool>(fields.size())});
       for (std::size_t i = 0; i < fields.size(); ++i) row.nulls[i] = IsNull(fields[i]);
     });
-    if (!scan.warning.empty() && file_.ClosedCleanly()) Damage(scan.warning);
+    if (!scan.warning.empty()) Damage(scan.warning);
     if (scan.rows != table.row_count) {
-      Damage(
-          fmt::format("{}: its definition counts {} rows, {} are there", what, table.row_count, scan.rows));
+      Warn(fmt::format("{}: page {}: its definition counts {} rows, {} are there", what, table.page,
+                       table.row_count, scan.rows));
     }
-    return rows;
+    return scan.warning.empty();
   }
 
   /// Several indexes may share one B-tree, which is walked once.
@@ -161,19 +177,24 @@ class Checker {
     return found == table.indexes.end() ? fmt::format("number {}", physical) : found->name;
   }
 
-  /// What is called free nobody may own, and what is neither is lost.
+  /// What is called free nobody may own.
   void CheckFreePages() {
-    std::vector<std::uint32_t> lost;
-    for (std::uint32_t page = 0; page < file_.PageCount(); ++page) {
-      const std::string* owner = owners_.Find(page);
-      if (owner == nullptr && !Lists(free_, page)) lost.push_back(page);
-      if (owner != nullptr && Lists(free_, page)) {
+    for (const std::uint32_t page : free_) {
+      if (const std::string* owner = owners_.Find(page)) {
         Damage(fmt::format("page {} is called free but belongs to {}", page, *owner));
       }
     }
-    if (lost.empty()) return;
-    Damage(
-        fmt::format("pages that are neither owned nor free: {}, page {} first", lost.size(), lost.front()));
+  }
+
+  /// Engines leave pages behind that nobody owns and nobody calls free.
+  void CheckGivenUpPages() {
+    std::vector<std::uint32_t> given_up;
+    for (std::uint32_t page = 0; page < file_.PageCount(); ++page) {
+      if (owners_.Find(page) == nullptr && !Lists(free_, page)) given_up.push_back(page);
+    }
+    if (given_up.empty()) return;
+    Warn(fmt::format("pages that were given up, neither owned nor free: {}, page {} first", given_up.size(),
+                     given_up.front()));
   }
 
   JetFile& file_;
@@ -186,5 +207,9 @@ class Checker {
 }  // namespace
 
 CheckReport CheckFile(JetFile& file) { return Checker(file).Run(); }
+
+CheckReport CheckTables(JetFile& file, const std::vector<CatalogEntry>& tables) {
+  return Checker(file).RunOnTables(tables);
+}
 
 }  // namespace rbt::jet

@@ -42,6 +42,7 @@ constexpr Layout kJet3{.page_size = 2048,
                        .column_size = 18,
                        .column_number = 1,
                        .column_variable_slot = 3,
+                       .column_ordinal = 5,
                        .column_sort_order = 9,
                        .column_flags = 13,
                        .column_extra_flags = 0,
@@ -75,6 +76,7 @@ constexpr Layout kJet4{.page_size = 4096,
                        .column_size = 25,
                        .column_number = 5,
                        .column_variable_slot = 7,
+                       .column_ordinal = 0,
                        .column_sort_order = 11,
                        .column_flags = 15,
                        .column_extra_flags = 16,
@@ -193,17 +195,33 @@ void JetFile::ReadHeader() {
   DecodeHeader(std::span(page).subspan(kCodedAt, version_ == JetVersion::jet3 ? 126 : 128));
   const PageView header(page, &name_, 0);
   if (header.U32(kPageKeyAt) != 0)
-    Refuse(name_, "its pages are encrypted; open it in its own program and decrypt it");
+    Refuse(name_, "page 0: encrypted pages or a damaged header; open it in its own program and decrypt it");
   if (HasPassword(header, version_))
-    Refuse(name_, "it has a password; open it in its own program and remove it");
+    Refuse(name_, "page 0: password or damaged header; open it in its own program and remove the password");
   code_page_ = header.U16(kCodePageAt);
   if (version_ == JetVersion::jet3 && !KnowsCodePage(code_page_)) {
     Refuse(name_, fmt::format("page 0: its code page {} is not known on this machine", code_page_));
   }
+  ReadCommitBytes(header);
+}
+
+/// A user's pair counts his commits from 0x100 on.
+void JetFile::ReadCommitBytes(const PageView& header) {
+  struct Note {
+    std::uint16_t pair;
+    std::string_view text;
+  };
+  constexpr Note kNotes[] = {
+      {0, "page 0: a commit was under way when it was last written (commit bytes 00 00)"},
+      {1, "page 0: a user of it met damage (commit bytes 01 00)"},
+  };
   const std::size_t commits = version_ == JetVersion::jet3 ? 0x600 : 0xE00;
-  for (std::size_t at = commits; at < commits + 512; at += 2) {
-    // A user's pair counts his commits from 0x100 on and is zero while one is under way.
-    if (header.U16(at) == 0) closed_cleanly_ = false;
+  for (const Note& note : kNotes) {
+    for (std::size_t at = commits; at < commits + 512; at += 2) {
+      if (header.U16(at) != note.pair) continue;
+      commit_notes_.push_back(fmt::format("{}: {}", name_, note.text));
+      break;
+    }
   }
 }
 

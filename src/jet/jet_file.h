@@ -46,6 +46,7 @@ struct Layout {
   std::size_t column_size;
   std::size_t column_number;
   std::size_t column_variable_slot;
+  std::size_t column_ordinal;  ///< 0 where the records stand in the order of the fields
   std::size_t column_sort_order;
   std::size_t column_flags;
   std::size_t column_extra_flags;  ///< 0 where the format has none
@@ -82,9 +83,9 @@ class JetFile {
   const std::string& Name() const { return name_; }
   std::uint32_t PageCount() const { return page_count_; }
   std::uint16_t CodePage() const { return code_page_; }
-  /// False when a commit of some user was under way when the file was last written: it was not closed
-  /// cleanly.
-  bool ClosedCleanly() const { return closed_cleanly_; }
+  /// What the commit bytes of the file's users tell: that a commit was under way when the file was last
+  /// written, that a user met damage. Empty when it was closed cleanly.
+  const std::vector<std::string>& CommitNotes() const { return commit_notes_; }
 
   /// The whole page; one behind the end of the file is damage. The view stays valid while fewer than 60 other
   /// pages are read.
@@ -105,6 +106,7 @@ class JetFile {
  private:
   JetFile() = default;
   void ReadHeader();
+  void ReadCommitBytes(const PageView& header);
   void ReadPage(std::uint32_t number, unsigned char* to);
 
   struct Cached {
@@ -119,7 +121,7 @@ class JetFile {
   const Layout* layout_ = nullptr;
   std::uint32_t page_count_ = 0;
   std::uint16_t code_page_ = 1252;
-  bool closed_cleanly_ = true;
+  std::vector<std::string> commit_notes_;
   std::unordered_map<std::uint32_t, Cached> cache_;
   std::list<std::uint32_t> ages_;  ///< least recently used first
   std::optional<std::unordered_map<std::uint32_t, std::vector<std::uint32_t>>> data_pages_;  ///< by owner

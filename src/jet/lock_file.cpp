@@ -5,6 +5,8 @@
 #include <string>
 #include <system_error>
 
+#include <fmt/format.h>
+
 #include "platform/files/file_descriptor.h"
 #include "platform/text/characters.h"
 
@@ -35,6 +37,19 @@ bool IsOpenElsewhere(const fs::path& database) {
   any.l_type = F_WRLCK;  // would meet read locks as well as write locks
   any.l_whence = SEEK_SET;
   return ::fcntl(descriptor.Number(), F_GETLK, &any) == 0 && any.l_type != F_UNLCK;
+}
+
+std::optional<std::string> NoteOnLockFile(const fs::path& database) {
+  if (IsOpenElsewhere(database)) {
+    return fmt::format("{} is open in another program; what has not been saved there is missing here",
+                       database.string());
+  }
+  const fs::path lock_file = LockFileOf(database);
+  if (lock_file.empty()) return std::nullopt;
+  return fmt::format(
+      "{}: the lock file {} stands beside it, which nobody here holds: somebody elsewhere has it "
+      "open, or it was not closed properly",
+      database.string(), lock_file.filename().string());
 }
 
 }  // namespace rbt::jet

@@ -48,11 +48,53 @@ bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
   return std::binary_search(ascending.begin(), ascending.end(), page);
 }
 
-/// The pages of a usage map, none and the cause when it cannot be read.
-std::vector<std::uint32_t> PagesOrCause(JetFile& file, RowPointer map, std::string& cause) {
+/// The pages of a usage map, none when it cannot be read.
+std::vector<std::uint32_t> PagesIfReadable(JetFile& file, RowPointer map) {
   std::vector<std::uint32_t> pages;
-  if (const auto fault = PassOverFaults([&] { pages = PagesOfUsageMap(file, map); })) cause = fault->what();
+  PassOverFaults([&] { pages = PagesOfUsageMap(file, map); });
   return pages;
+}
+
+std::vector<RowPointer> LiveRowsOn(JetFile& file, const std::vector<std::uint32_t>& pages) {
+  std::vector<RowPointer> places;
+  for (const std::uint32_t number : pages) {
+    const std::vector<Slot> slots = SlotsOf(file, file.Page(number, PageType::data));
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+      if (!slots[i].deleted && !slots[i].body) places.push_back({number, static_cast<std::uint8_t>(i)});
+    }
+  }
+  return places;
+}
+
+/// The live rows on the pages of the table's usage map. A page of somebody else in it is damage.
+std::vector<RowPointer> RowsOfUsageMap(JetFile& file, const TableDefinition& table) {
+  std::vector<std::uint32_t> pages = PagesOfUsageMap(file, table.owned_pages);
+  std::erase_if(pages, [&](std::uint32_t page) {
+    return std::find(table.definition_pages.begin(), table.definition_pages.end(), page) !=
+           table.definition_pages.end();
+  });
+  for (const std::uint32_t page : pages) {
+    if (OwnerOf(file.Page(page, PageType::data)) != table.page) {
+      file.Damaged(page, fmt::format("is in the usage map of {} but does not point to it", table.name));
+    }
+  }
+  return LiveRowsOn(file, pages);
+}
+
+/// The live rows on all pages that point to the table. A freed page keeps its pointer and its rows.
+std::vector<RowPointer> RowsOfPointingPages(JetFile& file, const TableDefinition& table) {
+  const std::vector<std::uint32_t> owned = PagesIfReadable(file, table.owned_pages);
+  const std::vector<std::uint32_t> free = PagesIfReadable(file, kFreePages);
+  std::vector<std::uint32_t> pages;
+  for (const std::uint32_t page : file.DataPagesPointingTo(table.page)) {
+    if (Lists(owned, page) || !Lists(free, page)) pages.push_back(page);
+  }
+  return LiveRowsOn(file, pages);
+}
+
+/// The count of a system table lags behind its rows now and then, and never runs ahead of them.
+bool IsRightCount(const TableDefinition& table, std::size_t rows) {
+  return rows == table.row_count || (table.system && rows > table.row_count);
 }
 
 std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& table,
@@ -66,37 +108,25 @@ std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& 
 
 }  // namespace
 
-std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& table, std::string& warning) {
-  std::string cause;
-  std::vector<std::uint32_t> owned = PagesOrCause(file, table.owned_pages, cause);
-  std::erase_if(owned, [&](std::uint32_t page) {
-    return std::find(table.definition_pages.begin(), table.definition_pages.end(), page) !=
-           table.definition_pages.end();
-  });
-  std::string free_pages_unknown;
-  const std::vector<std::uint32_t> free = PagesOrCause(file, kFreePages, free_pages_unknown);
-  // A freed page keeps its pointer and its rows.
-  std::vector<std::uint32_t> pointing;
-  for (const std::uint32_t page : file.DataPagesPointingTo(table.page)) {
-    if (Lists(owned, page) || !Lists(free, page)) pointing.push_back(page);
-  }
-  if (!file.ClosedCleanly()) {
-    warning = fmt::format("{} was not closed cleanly; all data pages were looked through", file.Name());
-  } else if (!cause.empty() || pointing != owned) {
-    warning = fmt::format("the usage map of {} {}; all data pages were looked through", table.name,
-                          cause.empty() ? "does not agree with the pages" : "is of no use (" + cause + ")");
-  }
-  return pointing;
-}
-
 std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning) {
   std::vector<RowPointer> places;
-  for (const std::uint32_t number : DataPagesOf(file, table, warning)) {
-    const std::vector<Slot> slots = SlotsOf(file, file.Page(number, PageType::data));
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-      if (!slots[i].deleted && !slots[i].body) places.push_back({number, static_cast<std::uint8_t>(i)});
-    }
+  std::string by_map;
+  if (const auto fault = PassOverFaults([&] { places = RowsOfUsageMap(file, table); })) {
+    by_map = fmt::format("its usage map is of no use ({})", fault->what());
+  } else if (IsRightCount(table, places.size())) {
+    return places;
+  } else {
+    by_map = fmt::format("its usage map leads to {}", places.size());
   }
+  places = RowsOfPointingPages(file, table);
+  const std::string count = fmt::format("the definition of {} counts {} rows", table.name, table.row_count);
+  if (places.size() != table.row_count) {
+    file.Damaged(table.page, fmt::format("{}, {}, and {} stand on the pages that point to it: which are "
+                                         "right cannot be told",
+                                         count, by_map, places.size()));
+  }
+  warning = fmt::format("{}: page {}: {}, {}; all data pages were looked through", file.Name(), table.page,
+                        count, by_map);
   return places;
 }
 
@@ -135,11 +165,7 @@ std::vector<CatalogEntry> ReadCatalog(JetFile& file) {
     }
     entries.push_back(std::move(entry));
   });
-  // A lost entry would be a table that nobody misses.
-  if (entries.empty() || (file.ClosedCleanly() && entries.size() < catalog.row_count)) {
-    file.Damaged(kCatalogPage, fmt::format("the catalog counts {} objects, {} are there", catalog.row_count,
-                                           entries.size()));
-  }
+  if (entries.empty()) file.Damaged(kCatalogPage, "the catalog lists nothing");
   return entries;
 }
 

@@ -21,8 +21,7 @@ struct CatalogEntry {
   Bytes properties;  ///< as they stand, carried and not read
 };
 
-/// All objects of the file, in catalog order, system objects included. Fewer than a cleanly closed file
-/// counts are damage.
+/// All objects of the file, in catalog order, system objects included. Fewer than the file counts are damage.
 std::vector<CatalogEntry> ReadCatalog(JetFile& file);
 
 /// Definition of a table by its name, letter case and the width of ASCII letters and digits ignored; a name
@@ -37,18 +36,17 @@ struct ScanReport {
 };
 
 /// Calls back for each live row with its place and its fields (parallel to `table.columns`), in page order.
-/// When the file was not closed cleanly, or the usage map does not agree with the pages, all data pages are
-/// looked through by their table pointer.
+/// The rows are those of `PlacesOfRows`.
 using RowHandler = std::function<void(RowPointer place, std::vector<Value>& fields)>;
 ScanReport ScanTable(JetFile& file, const TableDefinition& table, const RowHandler& handle);
 
-/// The places of the live rows, in page order. `warning` as in `ScanReport`.
+/// The places of the live rows, in page order. A usage map whose rows are as many as the definition counts is
+/// right: pages that were given up keep their table pointer and their rows, and nobody calls them free.
+/// Otherwise all data pages are looked through by their table pointer, `warning` telling why, and are right
+/// where their rows agree with the count. When neither agrees, `Fault` of kind `file` tells so. The count of
+/// a system table may lag behind its rows.
 std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning);
 /// One live row.
 std::vector<Value> ReadRow(JetFile& file, const TableDefinition& table, RowPointer place);
-
-/// The pages that hold the table's rows, by the usage map or, with `warning` filled, by
-/// the pages' own pointers.
-std::vector<std::uint32_t> DataPagesOf(JetFile& file, const TableDefinition& table, std::string& warning);
 
 }  // namespace rbt::jet

@@ -90,6 +90,9 @@ class Reader {
       if (!numbers.insert(table.columns.back().number).second) view_.Damaged("two columns of one number");
     }
     for (Column& column : table.columns) column.name = ReadName();
+    // Jet 4 lists its columns in the order of the fields, Jet 3 by their numbers.
+    std::stable_sort(table.columns.begin(), table.columns.end(),
+                     [](const Column& a, const Column& b) { return a.ordinal < b.ordinal; });
   }
 
   Column ReadColumn(const PageView& record) const {
@@ -97,6 +100,7 @@ class Reader {
     Column column;
     column.type = static_cast<ColumnType>(record.U8(0));
     column.number = record.U16(layout_.column_number);
+    if (layout_.column_ordinal != 0) column.ordinal = record.U16(layout_.column_ordinal);
     column.variable_slot = record.U16(layout_.column_variable_slot);
     column.fixed_offset = record.U16(layout_.column_fixed_offset);
     column.length = record.U16(layout_.column_length);

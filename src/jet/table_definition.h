@@ -34,6 +34,7 @@ struct Column {
   std::string name;
   ColumnType type = ColumnType::integer32;
   std::uint16_t number = 0;         ///< place in the null mask; numbers of deleted columns are not used again
+  std::uint16_t ordinal = 0;        ///< of Jet 3: place among the fields
   std::uint16_t variable_slot = 0;  ///< place among the variable parts
   std::uint16_t fixed_offset = 0;   ///< from the start of the fixed part
   std::uint16_t length = 0;         ///< bytes; of a Jet 4 text two a character
@@ -86,7 +87,7 @@ struct TableDefinition {
   std::uint32_t row_count = 0;
   std::uint32_t last_autonumber = 0;
   std::uint16_t variable_columns = 0;
-  std::vector<Column> columns;  ///< in the order of the definition
+  std::vector<Column> columns;  ///< in the order of the fields
   std::vector<PhysicalIndex> physical_indexes;
   std::vector<Index> indexes;
   std::vector<LongValueMap> long_value_maps;

@@ -13,6 +13,35 @@
 
 namespace rbt {
 
+namespace {
+
+struct Refusal {
+  int code;  ///< SQLite's
+  std::string_view text;
+};
+constexpr Refusal kRefusals[] = {
+    {SQLITE_CONSTRAINT_UNIQUE, "another row has the same key"},
+    {SQLITE_CONSTRAINT_PRIMARYKEY, "another row has the same key"},
+    {SQLITE_CONSTRAINT_ROWID, "another row has the same key"},
+    {SQLITE_CONSTRAINT_NOTNULL, "null where a value is due"},
+    {SQLITE_MISMATCH, "a value of another type than its column"},
+    {SQLITE_TOOBIG, "too large"},
+};
+
+/// Why the store refused a row, and the columns where it tells them: "another row has the same key: 表.番号".
+std::string RefusalText(sqlite3* handle) {
+  const int code = sqlite3_extended_errcode(handle);
+  const std::string_view message = sqlite3_errmsg(handle);
+  const auto* refusal = std::find_if(std::begin(kRefusals), std::end(kRefusals),
+                                     [&](const Refusal& each) { return each.code == code; });
+  if (refusal == std::end(kRefusals)) return std::string(message);
+  const std::size_t columns = message.find(": ");
+  return std::string(refusal->text) +
+         (columns == std::string_view::npos ? "" : std::string(message.substr(columns)));
+}
+
+}  // namespace
+
 class BulkInsert::Impl {
  public:
   Impl(Database::Impl& database, const TableDef& table)
@@ -27,7 +56,7 @@ class BulkInsert::Impl {
       connection_.Run(insert_);
     } catch (const Fault&) {
       if (!RefusesTheRow()) throw;
-      return sqlite3_errmsg(connection_.Handle());
+      return RefusalText(connection_.Handle());
     }
     return std::nullopt;
   }

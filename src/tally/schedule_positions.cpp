@@ -10,8 +10,20 @@ namespace {
 
 constexpr std::array<std::string_view, 1> kLineNumberOnly = {"行No"};
 
-std::int32_t LineNumber(const Recordset& rows, FieldHandle number) {
-  return Int32Of(rows.Get(number), "加工テーブル 行No");
+/// A row may stand anywhere in the schedule before its numbers are entered: null is 0.
+std::int32_t NumberOrZero(const Recordset& rows, FieldHandle field, std::string_view name) {
+  const Value value = rows.Get(field);
+  return IsNull(value) ? 0 : Int32Of(value, fmt::format("加工テーブル {}", name));
+}
+
+/// The page tally's first row among several of one 行No is that of the lowest page and line. The tally of
+/// shapes by page takes them as they come.
+std::string_view RowsInOrder(TallyKind kind) {
+  return kind == TallyKind::page ? "SELECT 行No, 頁, 行,行No "
+                                   "FROM 加工テーブル ORDER BY 行No,頁,行"
+                                 : "SELECT 行No, 頁, 行 "
+                                   "FROM 加工テーブル"
+                                   " ORDER BY 行No";
 }
 
 }  // namespace
@@ -22,7 +34,7 @@ std::int32_t LineNumberAt(Database& site, SchedulePosition position) {
       kLineNumberOnly);
   const FieldHandle number = rows.Field("行No");
   std::int32_t last = 0;
-  for (; !rows.Eof(); rows.MoveNext()) last = LineNumber(rows, number);
+  for (; !rows.Eof(); rows.MoveNext()) last = NumberOrZero(rows, number, "行No");
   return last;
 }
 
@@ -30,17 +42,15 @@ LineRange LinesBetween(Database& site, const PositionRange& positions) {
   return {LineNumberAt(site, positions.first), LineNumberAt(site, positions.last)};
 }
 
-std::optional<PositionRange> WholePositionRange(Database& site) {
-  Recordset rows = site.OpenSnapshot("SELECT 行No, 頁, 行 FROM 加工テーブル ORDER BY 行No");
+std::optional<PositionRange> WholePositionRange(Database& site, TallyKind kind) {
+  Recordset rows = site.OpenSnapshot(RowsInOrder(kind));
   if (rows.Eof()) return std::nullopt;
   const FieldHandle page = rows.Field("頁");
   const FieldHandle line = rows.Field("行");
   const auto position = [&] {
-    return SchedulePosition{Int32Of(rows.Get(page), "加工テーブル 頁"),
-                            Int32Of(rows.Get(line), "加工テーブル 行")};
+    return SchedulePosition{NumberOrZero(rows, page, "頁"), NumberOrZero(rows, line, "行")};
   };
   PositionRange range = {position(), {}};
-  // Only the last row's position is read: rows between may lack theirs.
   for (std::int64_t left = rows.RecordCount() - 1; left > 0; --left) rows.MoveNext();
   range.last = position();
   return range;

@@ -8,6 +8,7 @@
 
 #include "data/shapes.h"
 #include "store/database.h"
+#include "tally/tally_kind.h"
 
 namespace rbt {
 
@@ -32,15 +33,14 @@ struct LineRange {
   std::int32_t last = 0;
 };
 
-/// 行No of the last row at a position, 0 when there is none. Faults: `invalid use of null` for a row without
-/// 行No.
+/// 行No of the last row at a position; 0 when there is none, and for null.
 std::int32_t LineNumberAt(Database& site, SchedulePosition position);
 /// The running line numbers between two positions.
 LineRange LinesBetween(Database& site, const PositionRange& positions);
 
-/// Positions of the first and the last row by 行No; nothing for an empty schedule. Faults: `invalid use of
-/// null`.
-std::optional<PositionRange> WholePositionRange(Database& site);
+/// Positions of the first and the last row by 行No, for the page tally by page and line too: the range that a
+/// tally by positions begins with. A null 頁 or 行 is 0. Nothing for an empty schedule.
+std::optional<PositionRange> WholePositionRange(Database& site, TallyKind kind);
 
 /// The first field of "SELECT expression From 加工テーブル where_clause": null when there is no row.
 Value GetKeijouNoSQL(Database& site, std::string_view expression, std::string_view where_clause);

@@ -3,6 +3,8 @@
 
 #include <set>
 #include <string>
+#include <tuple>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -54,6 +56,28 @@ TEST(DemoCompany, spirals_come_in_all_three_materials) {
   std::set<std::int32_t> materials;
   for (const Spiral& spiral : DemoSite(1).spirals) materials.insert(spiral.material);
   EXPECT_EQ(materials, (std::set<std::int32_t>{1, 2, 3}));
+}
+
+TEST(DemoCompany, no_two_sites_have_the_same_spirals) {
+  std::set<std::vector<std::tuple<std::int32_t, std::int32_t, double>>> seen;
+  for (std::int32_t number = 1; number <= 999; ++number) {
+    std::vector<std::tuple<std::int32_t, std::int32_t, double>> spirals;
+    for (const Spiral& s : DemoSite(number).spirals)
+      spirals.emplace_back(s.material, s.diameter, s.weight_kg);
+    EXPECT_FALSE(spirals.empty()) << number;
+    EXPECT_TRUE(seen.insert(spirals).second) << number;
+  }
+}
+
+TEST(DemoCompany, sites_in_turn_lack_deformed_spirals_and_have_ulbon_spirals_alone) {
+  const auto materials_of = [](std::int32_t number) {
+    std::set<std::int32_t> materials;
+    for (const Spiral& spiral : DemoSite(number).spirals) materials.insert(spiral.material);
+    return materials;
+  };
+  EXPECT_EQ(materials_of(2), (std::set<std::int32_t>{2, 3}));
+  EXPECT_EQ(materials_of(3), (std::set<std::int32_t>{2}));
+  EXPECT_EQ(materials_of(4), (std::set<std::int32_t>{1, 2, 3}));
 }
 
 TEST(DemoCompany, no_fixed_stock_is_shorter_than_what_is_cut_from_it) {

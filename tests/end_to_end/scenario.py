@@ -167,7 +167,7 @@ class World:
         """as-jet 3|4 FOLDER: the DATA folder once more beside the root, its databases as real Jet files"""
         version, name = words
         folder = self.folder / name
-        folder.mkdir()
+        folder.mkdir(parents=True)
         for path in sorted((self.root / "DATA").iterdir()):
             if path.suffix.lower() == ".mdb":
                 subprocess.run([self.program.parent / "store_to_jet", version, path, folder / path.name], check=True)

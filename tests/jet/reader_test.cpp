@@ -11,6 +11,7 @@
 #include "jet/samples.h"
 #include "jet/table.h"
 #include "platform/fault.h"
+#include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::jet {
@@ -112,6 +113,23 @@ TEST(JetReader, DeletedColumnsLeaveTheOthersInPlace) {
                 ElementsAre(ElementsAre(Whole(0), Whole(2), Words("foo"), Words("foo2")),
                             ElementsAre(Whole(3), Whole(5), Words("bar"), Words("bar2"))));
   }
+}
+
+TEST(JetReader, FieldsOfJet3StandInTheOrderOfTheirOrdinals) {
+  FieldDef first;
+  first.name = "後";
+  first.type = FieldType::integer32;
+  FieldDef second = first;
+  second.name = "先";
+  Bytes image = test::JetImage(JetVersion::jet3, {{"表", {first, second}, {{Whole(1), Whole(2)}}}});
+  // The records of the columns begin at 43 of the table's definition on page 3, the ordinal at 5 of each.
+  const auto ordinal = [&](std::size_t record) -> unsigned char& {
+    return image.at(3 * 2048 + 43 + 18 * record + 5);
+  };
+  std::swap(ordinal(0), ordinal(1));
+  const auto file = JetFile::FromBytes(std::move(image), "GENBA001.MDB");
+  EXPECT_EQ(FindTable(*file, "表").columns[0].name, "先");
+  EXPECT_THAT(RowsOf(*file, "表"), ElementsAre(ElementsAre(Whole(2), Whole(1))));
 }
 
 TEST(JetReader, DeletedRowsAreGone) {
@@ -277,32 +295,37 @@ TEST(JetReader, AnUnknownCodePageOfJet3IsRefused) {
   EXPECT_THAT(RefusalOf(std::move(bytes)), HasSubstr("GENBA001.MDB: page 0: its code page "));
 }
 
-TEST(JetReader, AFileNotClosedCleanlyIsReadByThePagesOwnPointers) {
+TEST(JetReader, AFileNotClosedCleanlyIsReadAllTheSameAndItsCommitBytesAreTold) {
   auto bytes = test::BytesOf(Sample("jet4/delTestV2000.mdb"));
   bytes[0xE00] = bytes[0xE01] = 0;  // the first user's commit is under way
   const auto file = JetFile::FromBytes(std::move(bytes), "GENBA001.MDB");
-  EXPECT_FALSE(file->ClosedCleanly());
+  EXPECT_THAT(file->CommitNotes(),
+              ElementsAre(AllOf(HasSubstr("GENBA001.MDB: page 0: a commit was under way"),
+                                HasSubstr("commit bytes 00 00"))));
   const ScanReport report =
       ScanTable(*file, FindTable(*file, "Table"), [](RowPointer, std::vector<Value>&) {});
   EXPECT_EQ(report.rows, 2U);
-  EXPECT_THAT(report.warning, HasSubstr("was not closed cleanly"));
+  EXPECT_EQ(report.warning, "");
+  EXPECT_TRUE(JetFile::Open(Sample("jet4/delTestV2000.mdb"))->CommitNotes().empty());
 }
 
 TEST(JetReader, APasswordIsRefusedByName) {
   const auto path = Sample("jet4/V2000_with-password.mdb");
-  EXPECT_THAT(FaultOf([&] { JetFile::Open(path); }), AllOf(HasSubstr(path.string()), HasSubstr("password")));
+  EXPECT_THAT(FaultOf([&] { JetFile::Open(path); }),
+              AllOf(HasSubstr(path.string()), HasSubstr("password or damaged header")));
 }
 
 TEST(JetReader, APasswordOfJet3IsRefused) {
   auto bytes = test::BytesOf(Sample("jet3/testV1997.mdb"));
   bytes[0x42] ^= 'a';  // the coding is a bitwise one: this makes the first letter of the password "a"
-  EXPECT_THAT(RefusalOf(std::move(bytes)), HasSubstr("GENBA001.MDB: it has a password"));
+  EXPECT_THAT(RefusalOf(std::move(bytes)), HasSubstr("GENBA001.MDB: page 0: password or damaged header"));
 }
 
 TEST(JetReader, EncryptedPagesAreRefused) {
   auto bytes = test::BytesOf(Sample("jet4/testUnicodeCompV2003.mdb"));
   bytes[0x3E] ^= 1;
-  EXPECT_THAT(RefusalOf(std::move(bytes)), HasSubstr("GENBA001.MDB: its pages are encrypted"));
+  EXPECT_THAT(RefusalOf(std::move(bytes)),
+              HasSubstr("GENBA001.MDB: page 0: encrypted pages or a damaged header"));
 }
 
 TEST(JetReader, FilesOfLaterEnginesAreRefused) {

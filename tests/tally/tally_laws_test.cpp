@@ -314,7 +314,7 @@ TEST_F(GroupableSchedule, ThePageTallyOfAllLinesIsTheBulkTallyWhereEveryStockHas
     Selection.HoopMode = hoops;
     Jyuuryo_Syukei();
     const TallyTable bulk = TallyGrid;
-    const PositionRange lines = *WholePositionRange(site_.Work());
+    const PositionRange lines = *WholePositionRange(site_.Work(), TallyKind::page);
     PG_Jyuuryo_Syukei(static_cast<std::int16_t>(lines.first.page),
                       static_cast<std::int16_t>(lines.first.line), static_cast<std::int16_t>(lines.last.page),
                       static_cast<std::int16_t>(lines.last.line));

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "jet/check.h"
 #include "jet/import/kept_original.h"
 #include "jet/import/row_copy.h"
 #include "jet/lock_file.h"
@@ -15,6 +16,7 @@
 #include "platform/files/file_sync.h"
 #include "platform/files/files.h"
 #include "platform/files/system_error.h"
+#include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 
 namespace rbt::jet {
@@ -65,22 +67,40 @@ bool IsUserTable(const CatalogEntry& entry) {
   return entry.kind == CatalogEntry::Kind::table && !entry.system && !entry.name.starts_with("~");
 }
 
-/// Runs a step that writes the target, whose faults name the target in place of the file in work.
-template <typename Thrown = TargetFault, typename Step>
-auto OnTarget(const FileInWork& work, const fs::path& target, Step step) {
+/// The cause that a fault of the store tells, without the file in work and the statement behind it.
+std::string CauseIn(const Fault& fault, const FileInWork& work) {
+  const std::string text = fault.what();
+  return text.substr(0, text.find(": " + work.Path().string() + ": "));
+}
+
+/// Runs a step that writes the target, whose faults name the target in place of the file in work. `what` is
+/// written, where it is more than the file alone.
+template <typename Step>
+auto OnTarget(const FileInWork& work, const fs::path& target, Step step, const std::string& what = {}) {
   const std::string in_work = work.Path().string();
   try {
     return step();
   } catch (const Fault& fault) {
-    throw Thrown(FaultKind::file, ReplaceAll(fault.what(), in_work, target.string()));
+    const std::string cause = ReplaceAll(CauseIn(fault, work), in_work, target.string());
+    if (cause.starts_with(target.string())) throw TargetFault(FaultKind::file, cause);
+    throw TargetFault(FaultKind::file, target.string() + ": " + (what.empty() ? "" : what + ": ") + cause);
   }
 }
 
-void CopyTables(JetFile& file, const FileInWork& work, ImportReport& report) {
+/// A table that the store does not take is the Jet file's own matter.
+void MakeTable(const JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work) {
+  if (const auto fault = PassOverFaults([&] { database.CreateTable(mapping.target); })) {
+    file.Damaged(mapping.source.page,
+                 fmt::format("table {} cannot be taken: {}", mapping.source.name, CauseIn(*fault, work)));
+  }
+}
+
+void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const FileInWork& work,
+                ImportReport& report) {
   const auto on_target = [&](auto step) { return OnTarget(work, report.target, step); };
   Database database = on_target([&] { return Database::CreateDatabase(work.Path()); });
   Transaction transaction(database);
-  for (const CatalogEntry& entry : ReadCatalog(file)) {
+  for (const CatalogEntry& entry : entries) {
     if (!IsUserTable(entry)) {
       NoteNotTaken(entry, report);
       continue;
@@ -88,28 +108,49 @@ void CopyTables(JetFile& file, const FileInWork& work, ImportReport& report) {
     const TableMapping mapping = MapTable(file, entry);
     report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
-    // A table that the store does not take is the Jet file's own matter.
-    OnTarget<Fault>(work, report.target, [&] { database.CreateTable(mapping.target); });
+    MakeTable(file, mapping, database, work);
     RowCopy copy(file, mapping, database, report.warnings);
-    while (copy.ReadNext()) on_target([&] { copy.Append(); });
+    const std::string a_row = "a row of " + entry.name;
+    while (copy.ReadNext())
+      OnTarget(
+          work, report.target, [&] { copy.Append(); }, a_row);
     on_target([&] { copy.Finish(); });
     report.tables.push_back(copy.Result());
   }
   on_target([&] { transaction.Commit(); });
 }
 
+void CheckWhatIsTaken(JetFile& file, std::vector<CatalogEntry> entries, ImportReport& report) {
+  std::erase_if(entries, [](const CatalogEntry& entry) { return !IsUserTable(entry); });
+  CheckReport check = CheckTables(file, entries);
+  report.warnings.insert(report.warnings.end(), check.warnings.begin(), check.warnings.end());
+  report.damages = std::move(check.damages);
+}
+
+/// Nobody looks at a report of what already stands in the place of the old file.
+void RequireSound(const ImportReport& report) {
+  if (report.damages.empty()) return;
+  const std::size_t more = report.damages.size() - 1;
+  throw FileFaultText(report.source,
+                      fmt::format("damaged, nothing was imported: {}{}", report.damages.front(),
+                                  more == 0 ? "" : fmt::format(" (and {} more)", more)));
+}
+
 /// Writes everything into `work`; the report names `target`, where it will stand.
-ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target) {
+ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target,
+                  OnDamage on_damage) {
   ImportReport report;
   report.source = source;
   report.target = target;
-  if (IsOpenElsewhere(source)) {
-    report.warnings.push_back(fmt::format(
-        "{} is open in another program; what has not been saved there is missing here", source.string()));
-  }
+  if (const auto note = NoteOnLockFile(source)) report.warnings.push_back(*note);
   const FileState before(source);
   const auto file = JetFile::Open(source);
-  CopyTables(*file, work, report);
+  const std::vector<CatalogEntry> entries = ReadCatalog(*file);
+  CheckWhatIsTaken(*file, entries, report);
+  if (on_damage == OnDamage::refuse) RequireSound(report);
+  CopyTables(*file, entries, work, report);
+  if (report.tables.empty())
+    report.warnings.push_back(fmt::format("{}: no table was taken", source.string()));
   if (!(FileState(source) == before)) {
     throw FileFaultText(source, "was changed by another program while it was read; nothing was imported");
   }
@@ -126,7 +167,7 @@ ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
   RequireFree(target);
   const WorkPlace place(FolderOf(target));
   FileInWork work(target, place, ReadOnlyTarget::replaced);
-  ImportReport report = Copy(source, work, target);
+  ImportReport report = Copy(source, work, target, OnDamage::take);
   OnTarget(work, target, [&] { work.PutInPlace(); });
   return report;
 }
@@ -143,7 +184,7 @@ fs::path ReportFile(const fs::path& file) {
   return report;
 }
 
-ImportReport ImportJetFileInPlace(const fs::path& name) {
+ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage) {
   // A link stays, and what it leads to is replaced.
   const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
   const fs::path kept = KeptJetFile(file);
@@ -152,7 +193,7 @@ ImportReport ImportJetFileInPlace(const fs::path& name) {
   RequireKeepable(file, kept);
   const WorkPlace place(FolderOf(file));
   FileInWork work(file, place, ReadOnlyTarget::replaced);
-  ImportReport report = Copy(file, work, file);
+  ImportReport report = Copy(file, work, file, on_damage);
   const bool kept_now = KeepUnder(file, kept);
   try {
     // Before the swap: what was refused is not to be forgotten, whatever happens behind it.

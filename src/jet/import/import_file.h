@@ -16,16 +16,19 @@ class TargetFault : public Fault {
 
 /// Takes a real Jet file into a new file of the store: user tables with their columns, sizes, literal
 /// defaults, primary keys and unique indexes, rows in key order. The Jet file is only read. `target` must not
-/// exist; it appears when it is complete. A Jet file that cannot be read, or that changes meanwhile, throws
-/// `Fault` of kind `file`, and so does, as `TargetFault`, a target that cannot be written; no `target` is
-/// left then.
+/// exist; it appears when it is complete. The tables that are taken are checked first, and the report lists
+/// what is damaged in them. A Jet file that cannot be read, or that changes meanwhile, throws `Fault` of kind
+/// `file`, and so does, as `TargetFault`, a target that cannot be written; no `target` is left then.
 ImportReport ImportJetFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// What becomes of an import in place when the check finds damage in what is to be taken.
+enum class OnDamage { refuse, take };
 
 /// Puts a store file with the contents of a real Jet file under the Jet file's own name. The Jet file stays
 /// as `NAME.MDB.jet` beside it, where nothing else may stand yet, and the report as `NAME.MDB.jet.txt`. At
 /// every moment a whole file stands under the name; after a fault nothing has changed. A file that another
-/// program has open throws `file`, too.
-ImportReport ImportJetFileInPlace(const std::filesystem::path& file);
+/// program has open throws `file`, too, and so does one with damage, unless that is to be taken.
+ImportReport ImportJetFileInPlace(const std::filesystem::path& file, OnDamage on_damage = OnDamage::refuse);
 /// Where the Jet file is kept then.
 std::filesystem::path KeptJetFile(const std::filesystem::path& file);
 /// Where the report stands then.

@@ -29,6 +29,7 @@ std::string ReportText(const ImportReport& report) {
       text += fmt::format("    and {} more\n", table.refused - table.refused_rows.size());
     }
   }
+  for (const std::string& damage : report.damages) text += fmt::format("  DAMAGE: {}\n", damage);
   for (const std::string& object : report.not_taken) text += fmt::format("  not taken: {}\n", object);
   for (const std::string& warning : report.warnings) text += fmt::format("  warning: {}\n", warning);
   return text;

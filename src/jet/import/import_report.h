@@ -21,6 +21,7 @@ struct ImportReport {
   std::filesystem::path source;
   std::filesystem::path target;
   std::vector<ImportedTable> tables;
+  std::vector<std::string> damages;    ///< what the check found in the tables that were taken
   std::vector<std::string> not_taken;  ///< queries, forms, links, rules of columns, ...
   std::vector<std::string> warnings;
 

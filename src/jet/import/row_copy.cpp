@@ -48,18 +48,9 @@ std::vector<RowPointer> InKeyOrder(JetFile& file, const TableMapping& mapping, s
   return ordered;
 }
 
-/// Rows that are lost without a trace would be steel that nobody orders.
-void CheckRowCount(const JetFile& file, const TableDefinition& table, std::size_t rows,
-                   std::vector<std::string>& warnings) {
-  if (rows == table.row_count) return;
-  const std::string difference =
-      fmt::format("the definition of {} counts {} rows, {} are there", table.name, table.row_count, rows);
-  if (rows < table.row_count && file.ClosedCleanly()) file.Damaged(table.page, difference);
-  warnings.push_back(difference);
-}
-
 /// The key of a row, or its first two values, so that people find it.
-std::string RowName(const TableMapping& mapping, std::size_t number, const std::vector<Value>& values) {
+std::string RowName(const TableMapping& mapping, RowPointer place, std::size_t number,
+                    const std::vector<Value>& values) {
   std::vector<std::string> names;
   if (mapping.key) {
     for (const IndexColumn& key : mapping.source.physical_indexes[*mapping.key].columns) {
@@ -70,7 +61,7 @@ std::string RowName(const TableMapping& mapping, std::size_t number, const std::
       names.push_back(mapping.source.columns[i].name);
     }
   }
-  std::string text = fmt::format("row {}", number);
+  std::string text = fmt::format("page {}, row {}", place.page, number);
   for (const std::string& name : names) {
     const auto at = static_cast<std::size_t>(mapping.source.Find(name) - mapping.source.columns.data());
     const bool bytes = std::holds_alternative<Bytes>(values[at]);
@@ -91,7 +82,6 @@ RowCopy::RowCopy(JetFile& file, const TableMapping& mapping, Database& target,
   std::string warning;
   places_ = PlacesOfRows(file, mapping.source, warning);
   if (!warning.empty()) warnings.push_back(warning);
-  CheckRowCount(file, mapping.source, places_.size(), warnings);
   places_ = InKeyOrder(file, mapping, std::move(places_), warnings);
 }
 
@@ -106,7 +96,8 @@ void RowCopy::Append() {
   if (!refusal) {
     ++imported_.rows;
   } else if (++imported_.refused <= kMostNamedRefusals) {
-    imported_.refused_rows.push_back(fmt::format("{}: {}", RowName(mapping_, next_, values_), *refusal));
+    imported_.refused_rows.push_back(
+        fmt::format("{}: {}", RowName(mapping_, places_[next_ - 1], next_, values_), *refusal));
   }
 }
 

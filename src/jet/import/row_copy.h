@@ -16,8 +16,7 @@ namespace rbt::jet {
 /// damage of the Jet file and a full disk can be told apart.
 class RowCopy {
  public:
-  /// `warnings` gets why the rows were looked for otherwise than by the file's own maps, and a row count that
-  /// is off. Fewer rows than a cleanly closed file counts throw `Fault` of kind `file`.
+  /// `warnings` gets why the rows were looked for otherwise than by the file's own maps.
   RowCopy(JetFile& file, const TableMapping& mapping, Database& target, std::vector<std::string>& warnings);
   RowCopy(const RowCopy&) = delete;
   RowCopy& operator=(const RowCopy&) = delete;

@@ -20,19 +20,33 @@ namespace rbt {
 inline constexpr std::string_view kComparisonTitle = "重  量  対  比  表";
 
 /// 総重量: on A4 portrait a part of the head, on landscape paper drawn behind it by the body.
-constexpr WeightPart ComparisonTotal(float margin, float rule_to) {
-  return {.kilograms = &ReportHead::total_weight, .place = {margin, margin, EndsAt(rule_to)}};
+constexpr WeightPart ComparisonTotal(float margin, float rule_to, double row = 6) {
+  return {.kilograms = &ReportHead::total_weight, .place = {margin, margin, EndsAt(rule_to)}, .row = {row}};
 }
+
+/// The rows of B5 are low: its total line would stand on the table's first rule.
+inline constexpr double kTotalRowB5Y = 5.8;
+
+/// Below a name the rows of B5 are too low for a rule of their own.
+constexpr ProjectPart ProjectB5Y() {
+  ProjectPart part = ProjectFrom(700, 1767, 1067);
+  part.short_rule_row = std::nullopt;
+  return part;
+}
+
+/// X before the own-company block of A4 portrait.
+inline constexpr float kHeadEndA4T = 6400;
 
 /// The heads of A4 portrait, A4 landscape and B5 landscape.
 inline constexpr std::array<HeadPart, 5> kHeadPartsA4T{
-    ClientFrom(500), ProjectFrom(500, 1567, 960), SubProjectFrom(500, 7, 7000), ComparisonTotal(500, 3700),
+    ClientFrom(500, kHeadEndA4T), ProjectFrom(500, 1567, 960, kHeadEndA4T), SubProjectFrom(500, 7, 7000),
+    ComparisonTotal(500, 3700),
     DatePart{{8500, 8400, EndsAt(10800)}, {8300, 8200, EndsAt(11000)}, {1, -1500}}};
 inline constexpr std::array<HeadPart, 4> kHeadPartsA4Y{
     ClientFrom(1800), ProjectFrom(1800, 2760, 960), SubProjectFrom(1800, 7, 0),
     DatePart{{11800, 11700, EndsAt(14100)}, {11600, 11500, EndsAt(14300)}, {1, -1300}}};
 inline constexpr std::array<HeadPart, 4> kHeadPartsB5Y{
-    ClientFrom(700), ProjectFrom(700, 1767, 1067), SubProjectFrom(700, 7, 0),
+    ClientFrom(700), ProjectB5Y(), SubProjectFrom(700, 7, 0),
     DatePart{{10700, 10600, EndsAt(13000)}, {10500, 10400, EndsAt(13200)}, {1, -1300}}};
 
 inline constexpr HeadLayout kHeadA4T{{3800, 3600, EndsAt(7400)},
@@ -63,7 +77,6 @@ struct LossRateLine {
   RuledText place;
   std::string_view gap;  ///< between label and number
   std::size_t characters;
-  int rows_below;  ///< from the row below the last rule
 };
 
 struct ComparisonForm {
@@ -148,11 +161,11 @@ inline constexpr std::array<ComparisonColumn, 7> kColumnsAB5Y{{
 inline constexpr std::array<ComparisonColumn, 5> kColumnsBB5Y{{
     DiameterColumn(1000, 3500, "太　　　　　　　さ", 1650, 1400),
     GradeColumn(1400, 4500),
-    {Figure::stock_weight, {4500, 3500}, {"定　　　尺　　重　　　量", 4800}, {6000, 6000, kWeightIn11}},
+    {Figure::stock_weight, {4500, 3500}, {"定　　尺　　重　　量", 4800}, {6000, 6000, kWeightIn11}},
     {Figure::welds, {8000, 2500}, {"圧　　　接", 8600}, {9000, 9000, kCountIn7}},
     {Figure::cuts, {10500, 2500}, {"切　　　断", 11100}, {11500, 11500, kCountIn7}},
 }};
-inline constexpr auto kColumnsCB5Y = WithInstalledWeight(kColumnsBB5Y, "取　　　付　　重　　　量");
+inline constexpr auto kColumnsCB5Y = WithInstalledWeight(kColumnsBB5Y, "取　　付　　重　　量");
 
 inline constexpr OwnCompanyPart kOwnCompanyA4T{6600, 2200};
 
@@ -161,7 +174,7 @@ inline constexpr ComparisonForm kTaihiAA4T{.kind = 'A',
                                            .columns = kColumnsAA4T,
                                            .total_label = "合　　計",
                                            .total_line = std::nullopt,
-                                           .loss_rate = LossRateLine{{6700, 6500, EndsAt(8600)}, "　", 6, 1},
+                                           .loss_rate = LossRateLine{{6700, 6500, EndsAt(8600)}, "　", 6},
                                            .own_company = kOwnCompanyA4T};
 inline constexpr ComparisonForm kTaihiBA4T{.kind = 'B',
                                            .head = Taihi_Head_A4T,
@@ -182,7 +195,7 @@ inline constexpr ComparisonForm kTaihiAA4Y{.kind = 'A',
                                            .columns = kColumnsAA4Y,
                                            .total_label = "異　形　合　計",
                                            .total_line = ComparisonTotal(1800, 5100),
-                                           .loss_rate = LossRateLine{{9000, 8800, EndsAt(10900)}, "　", 6, 0},
+                                           .loss_rate = LossRateLine{{9000, 8800, EndsAt(10900)}, "　", 6},
                                            .own_company = std::nullopt};
 inline constexpr ComparisonForm kTaihiBA4Y{.kind = 'B',
                                            .head = Taihi_Head_A4Y,
@@ -198,29 +211,26 @@ inline constexpr ComparisonForm kTaihiCA4Y{.kind = 'C',
                                            .total_line = ComparisonTotal(1800, 5100),
                                            .loss_rate = std::nullopt,
                                            .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiAB5Y{
-    .kind = 'A',
-    .head = Taihi_Head_B5Y,
-    .columns = kColumnsAB5Y,
-    .total_label = "合　　　計",
-    .total_line = ComparisonTotal(700, 4200),
-    .loss_rate = LossRateLine{{10400, 10200, EndsAt(12900)}, " ", 12, 0},
-    .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiBB5Y{
-    .kind = 'B',
-    .head = Taihi_Head_B5Y,
-    .columns = kColumnsBB5Y,
-    .total_label = "合　　　　　　　計",
-    .total_line = ComparisonTotal(700, 4000),
-    .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
-    .own_company = std::nullopt};
-inline constexpr ComparisonForm kTaihiCB5Y{
-    .kind = 'C',
-    .head = Taihi_Head_B5Y,
-    .columns = kColumnsCB5Y,
-    .total_label = "合　　　　　　　計",
-    .total_line = ComparisonTotal(700, 4000),
-    .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12, 0},
-    .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiAB5Y{.kind = 'A',
+                                           .head = Taihi_Head_B5Y,
+                                           .columns = kColumnsAB5Y,
+                                           .total_label = "合　　　計",
+                                           .total_line = ComparisonTotal(700, 4200, kTotalRowB5Y),
+                                           .loss_rate = LossRateLine{{10400, 10200, EndsAt(12900)}, " ", 12},
+                                           .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiBB5Y{.kind = 'B',
+                                           .head = Taihi_Head_B5Y,
+                                           .columns = kColumnsBB5Y,
+                                           .total_label = "合　　　　　　　計",
+                                           .total_line = ComparisonTotal(700, 4000, kTotalRowB5Y),
+                                           .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12},
+                                           .own_company = std::nullopt};
+inline constexpr ComparisonForm kTaihiCB5Y{.kind = 'C',
+                                           .head = Taihi_Head_B5Y,
+                                           .columns = kColumnsCB5Y,
+                                           .total_label = "合　　　　　　　計",
+                                           .total_line = ComparisonTotal(700, 4000, kTotalRowB5Y),
+                                           .loss_rate = LossRateLine{{10700, 10500, EndsAt(13200)}, " ", 12},
+                                           .own_company = std::nullopt};
 
 }  // namespace rbt

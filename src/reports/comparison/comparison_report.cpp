@@ -22,6 +22,8 @@ constexpr std::string_view kSpiralLabel = "スパイラル合計";
 constexpr std::string_view kLossLabel = "ロス率";
 constexpr float kTextSize = 12;
 constexpr std::int32_t kLossRuleWidth = 2;
+/// The loss rate stands two rows below the last one of the table, which ends on the frame's last rule.
+constexpr int kLossRowsBelowFrame = 1;
 
 /// How the sheet names diameter row `d`: "D 10".
 std::string RowName(int d) { return "D " + std::to_string(DiameterCode(d)); }
@@ -142,7 +144,7 @@ class Table {
     pen_.Printer.DrawWidth = kLossRuleWidth;
     const NumberField field{line.characters, kRateMask, " %"};
     const std::string rate = NotedFieldText(pen_, field, sheet_.table.LossRatePercent, {kLossLabel, {}});
-    PrintRuled(pen_.Printer, line.place, place_.TextY(frame_.last - frame_.first + line.rows_below),
+    PrintRuled(pen_.Printer, line.place, place_.TextY(frame_.last - frame_.first + kLossRowsBelowFrame),
                std::string(kLossLabel) + std::string(line.gap) + rate);
   }
 

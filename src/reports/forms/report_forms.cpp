@@ -8,7 +8,9 @@
 
 #include "platform/fault.h"
 #include "platform/print/paper.h"
+#include "platform/system/message.h"
 #include "reports/comparison/taihi.h"
+#include "reports/frame/cut_figure_message.h"
 #include "reports/frame/print_frame.h"
 #include "reports/ulbon/ulbon_report.h"
 #include "shell/config/settings.h"
@@ -76,8 +78,10 @@ const ReportForm& UlbonForm() { return FindReportForm("ulbon"); }
 
 void PrintForm(const ReportForm& form, const ReportArguments& arguments, const TallyResult& result) {
   const PaperSetting paper = SettingOf(form.paper);
+  CutFigures cut;
   PrintReport(paper.orientation, paper.paper_kind,
-              [&](PrinterSurface& Printer) { form.draw(Printer, Trimmed(arguments), result); });
+              [&](PrinterSurface& Printer) { cut = form.draw(Printer, Trimmed(arguments), result); });
+  if (!cut.empty()) MsgBox(CutFigureMessage(cut));
 }
 
 }  // namespace rbt

@@ -49,7 +49,8 @@ const ReportForm& ChosenComparison(ReportPaper paper);
 const ReportForm& UlbonForm();
 
 /// What a print button does: the printer is set to the form's paper, the form is drawn with the arguments'
-/// texts trimmed, the printer is put back. Throws what keeps the sheet from the printer.
+/// texts trimmed, the printer is put back. Figures too wide for their fields are told in one message. Throws
+/// what keeps the sheet from the printer.
 void PrintForm(const ReportForm& form, const ReportArguments& arguments, const TallyResult& result);
 
 }  // namespace rbt

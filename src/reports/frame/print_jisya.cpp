@@ -120,10 +120,11 @@ class Block {
     Printer_->FontSize = size;
   }
 
-  void Address(decltype(Print_JisyaJyusyo) print, std::string_view label, std::string_view text) {
+  void Address(decltype(Print_JisyaJyusyo) print, std::string_view label, std::string_view text,
+               float at_most) {
     if (Printer_ == nullptr) return;
-    constexpr float kSizeByLength = 0;
-    print(*Printer_, x_, y_, label, text, style_.address_font, style_.label_font, kSizeByLength);
+    const float size = std::min(AddressSize(text), at_most);
+    print(*Printer_, x_, y_, label, text, style_.address_font, style_.label_font, size);
   }
 
   void Phone(std::string_view label, std::string_view number) {
@@ -140,13 +141,13 @@ class Block {
     const auto& [first, second, third] = company_.addresses;
     if (!first.empty()) {
       Step(kAddressStep);
-      Address(Print_JisyaJyusyo, company_.label1, first);
+      Address(Print_JisyaJyusyo, company_.label1, first, kLargestAddressSize);
       step_size_ = kDetailSize;
       if (PostalStandsByAddress()) Postal(company_.postal[0]);
     }
     if (second.empty()) return;
     Step(kAddressStep);
-    Address(company_.address2_in_one_piece ? Print_JisyaJyusyoB : Print_JisyaJyusyo, "", second);
+    Address(company_.address2_in_one_piece ? Print_JisyaJyusyoB : Print_JisyaJyusyo, "", second, kDetailSize);
     // The second code calls for the mark and the first stands behind it: the sheets in use show it so.
     if (!company_.postal[1].empty() && company_.label1.empty()) Postal(company_.postal[0]);
   }
@@ -181,7 +182,7 @@ class Block {
     const bool labelled = !Trim(company_.label2).empty();
     if (!company_.label2.empty() || !address.empty()) {
       Step(kMailStep, 40.0F);
-      Address(Print_JisyaJyusyo, company_.label2, address);
+      Address(Print_JisyaJyusyo, company_.label2, address, kDetailSize);
       step_size_ = kDetailSize;
     }
     if (!code.empty() && !labelled && !address.empty()) Postal(code);

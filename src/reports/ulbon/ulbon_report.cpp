@@ -38,11 +38,13 @@ constexpr ProjectPart UlbonProject() {
   return part;
 }
 
+/// X before the own-company block.
+constexpr float kHeadEnd = 9900;
 constexpr std::array<HeadPart, 5> kHeadParts{
-    ClientFrom(1800), UlbonProject(), SubProjectFrom(1800, 12, 9900),
+    ClientFrom(1800, kHeadEnd), UlbonProject(), SubProjectFrom(1800, 12, kHeadEnd),
     WeightPart{.kilograms = &ReportHead::total_weight, .place = {1900, 1800, EndsAt(5100)}},
     DatePart{{11800, 11700, EndsAt(14100)}, {11600, 11500, EndsAt(14300)}, {1, -1300}}};
-constexpr HeadLayout kHead{{5900, 5700, EndsAt(9400)},
+constexpr HeadLayout kHead{{5900, 5700, EndsAt(9700)},
                            500,
                            {.text_size = 13, .gap = 100, .title_lines = 2, .client_rows = 2},
                            kHeadParts};

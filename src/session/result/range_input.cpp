@@ -14,7 +14,7 @@ class PositionInput : public RangeInput {
   PositionInput() : RangeInput({"txtStartPage", "txtStartGyo", "txtEndPage", "txtEndGyo"}) {}
 
   void FillFromSchedule(Database& site) override {
-    const std::optional<PositionRange> whole = WholePositionRange(site);
+    const std::optional<PositionRange> whole = WholePositionRange(site, Selection.TallyKind);
     SetHasRows(whole.has_value());
     if (!whole) return;
     SetNumber(0, whole->first.page);

@@ -152,6 +152,20 @@ fs::path FreeDataFolderOf(const fs::path& root) {
   return folder;
 }
 
+bool HasFile(const fs::path& folder, std::string_view name) {
+  std::error_code error;
+  const fs::directory_iterator files(folder, error);
+  return std::any_of(begin(files), end(files), [&](const fs::directory_entry& entry) {
+    return EqualIgnoringCase(entry.path().filename().string(), name);
+  });
+}
+
+/// The folder with the databases, or the DATA folder below it when it is a root.
+fs::path DatabaseFolderOf(const fs::path& folder) {
+  const fs::path below = DataFolderOf(folder);
+  return !HasFile(folder, kMaster) && fs::is_directory(below) ? below : folder;
+}
+
 class FolderImport {
  public:
   FolderImport(const fs::path& data_folder, const fs::path& root)
@@ -312,7 +326,7 @@ class FolderImport {
 
 FolderReport ImportDataFolder(const fs::path& data_folder, const fs::path& root) {
   if (!fs::is_directory(data_folder)) throw FileFaultText(data_folder, "is no folder");
-  return FolderImport(data_folder, root).Run();
+  return FolderImport(DatabaseFolderOf(data_folder), root).Run();
 }
 
 std::string ReportText(const FolderReport& report) {

@@ -19,7 +19,8 @@ struct FolderReport {
   std::vector<std::string> warnings;   ///< tables or files that are missing
 };
 
-/// Takes the DATA folder of a machine with real Jet files into a new DATA folder below `root`: sites with
+/// Takes the DATA folder of a machine with real Jet files, or the one below the root that is given for it,
+/// into a new DATA folder below `root`: sites with
 /// their companions, the master database, fixed stock lengths, archive template, STEEL.INI and NEXTPRG.INI.
 /// `root` is made if need be; a DATA folder in it must not hold anything. The new one appears when it is
 /// complete. Files that cannot be read are left out and told, but a master database that is missing or cannot

@@ -35,7 +35,6 @@ RowRules PageRowRules(const SelectionData& selection) {
   rules.include_ulbon = selection.IncludeUlbon;
   rules.length_without_column_in_first_cell = false;
   rules.ulbon_weight_from_all_metres = false;
-  rules.pass_over_cuts_at_unknown_diameter = false;
   return rules;
 }
 

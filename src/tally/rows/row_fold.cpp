@@ -42,12 +42,11 @@ int CutRow(const BarRow& row, int d) {
   return at_weld ? DiameterIndex(*row.weld_diameter_code) : d;
 }
 
-void AddThreadsPlatesCuts(TallyTable& table, int d, const BarRow& row, bool threads_count,
-                          const RowRules& rules) {
+void AddThreadsPlatesCuts(TallyTable& table, int d, const BarRow& row, bool threads_count) {
   if (threads_count) AddCount(table.ThreadCount, d, row.threads, "ネジ数");
   AddCount(table.PlateCount, d, row.plates, "定着板数");
   const int cut_row = CutRow(row, d);
-  if (cut_row < 0 && rules.pass_over_cuts_at_unknown_diameter) return;
+  if (cut_row < 0) return;  // a cut at a 圧接太さ that is no deformed diameter is passed over
   AddCount(table.CutCount, cut_row, row.cuts, "切断");
 }
 
@@ -63,7 +62,7 @@ void FoldDeformed(TallyTable& table, int d, int l, const BarRow& row, const RowR
     table.CutLengthM[d][l] += InstalledMetres(row);
   }
   AddWelds(table.WeldCount, WeldRow(row, d), row, rules);
-  AddThreadsPlatesCuts(table, d, row, row.IsOf(MaterialKind::threaded), rules);
+  AddThreadsPlatesCuts(table, d, row, row.IsOf(MaterialKind::threaded));
   CountHighStrength(table, row);
 }
 
@@ -97,7 +96,7 @@ bool CountsWithoutColumn(const BarRow& row, const RowRules& rules) {
 void FoldDeformedWithoutColumn(TallyTable& table, int d, const BarRow& row, const RowRules& rules) {
   if (CountsWithoutColumn(row, rules)) {
     AddWelds(table.WeldCount, WeldRow(row, d), row, rules);
-    AddThreadsPlatesCuts(table, d, row, true, rules);
+    AddThreadsPlatesCuts(table, d, row, true);
   }
   CountHighStrength(table, row);
   if (!rules.length_without_column_in_first_cell) table.LengthWithoutColumnM[d] += InstalledMetres(row);

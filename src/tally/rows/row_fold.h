@@ -31,10 +31,6 @@ struct RowRules {
   /// Bulk works an Ulbon diameter's weight out anew from all its metres with every row. The others add the
   /// weight of a row without a column, rounding as they go.
   bool ulbon_weight_from_all_metres = true;
-
-  /// Bulk passes over a cut at a 圧接太さ that is no deformed diameter. The others have no such guard: there
-  /// it is `subscript out of range`.
-  bool pass_over_cuts_at_unknown_diameter = true;
 };
 
 /// Adds one row of the schedule to the table. Null adds nothing. Faults: `subscript out of range` for a

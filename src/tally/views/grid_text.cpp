@@ -56,6 +56,12 @@ std::string GridTable(const GridRows& rows) {
   return table;
 }
 
+std::string GridTable(std::span<const std::string_view> captions, const GridRows& rows) {
+  GridRows with_head{{captions.begin(), captions.end()}};
+  with_head.insert(with_head.end(), rows.begin(), rows.end());
+  return GridTable(with_head);
+}
+
 std::string GridCsv(std::span<const std::string_view> captions, const GridRows& rows) {
   CsvRecord head;
   for (const std::string_view caption : captions) head.Add(caption);

@@ -252,15 +252,19 @@ def table_weight(d, l):
     return bulk.bar_weight(checked(d + 1, 12), 0)
 
 
-def lines_between(rows, sel):
+def lines_between(rows, sel, ordered_by=("行No",)):
+    """Line numbers of the range: the one asked for, else from the first to the last row of the schedule."""
     def number(position):
         last = 0
         for r in rows:
             if (r["頁"], r["行"]) == position:
-                last = r["行No"]
+                last = r["行No"] or 0
         return last
 
-    return number(sel["from"]), number(sel["to"])
+    # null stands before every number
+    ends = sorted(rows, key=lambda r: [(r[name] is not None, r[name] or 0) for name in ordered_by])
+    first, last = ((r["頁"] or 0, r["行"] or 0) for r in (ends[0], ends[-1]))
+    return number(sel["from"] or first), number(sel["to"] or last)
 
 
 def recount_page_shape(rows, sel, settings, engine):
@@ -291,12 +295,6 @@ class PageTally(bulk.Tally):
         super().__init__({**sel, "calc": None}, {**settings, "use_13m": 0, "cap": 0})
         self.apart = [0.0] * 12
 
-    def counts(self, r, d, threads_count):
-        at = r["圧接太さ"]
-        if r.get("切断") is not None and r["部位"] == 2 and at not in (None, 0):
-            checked(diameter_index(at))
-        super().counts(r, d, threads_count)
-
     def unstocked(self, r, d, wd, deformed):
         if r["太さ"] > 0 and not deformed:
             if not self.hoop_left_out(r):
@@ -316,7 +314,7 @@ class PageTally(bulk.Tally):
 
 
 def recount_page(rows, sel, settings):
-    a, b = lines_between(rows, sel)
+    a, b = lines_between(rows, sel, ("行No", "頁", "行"))
     tally = PageTally(sel, settings)
     mask = sel["kinds"]
 

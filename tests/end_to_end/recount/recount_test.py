@@ -39,7 +39,8 @@ def random_row(rng, number, tame, site_floors):
     stock = pick(rng, (rng.choice(bulk.STOCK_METRES), 85), (None, 3), (12.5, 3 if deformed or not tame else 0),
                  (0.0, 5 if deformed or not tame else 0), (3.6, 2 if deformed or not tame else 0))
     row = {
-        "行No": number, "頁": number // 20 + 1, "行": number % 20 + 1,
+        "行No": pick(rng, (number, 90), (max(number - 1, 0), 8), (None, 2)),
+        "頁": pick(rng, (number // 20 + 1, 98), (None, 2)), "行": pick(rng, (number % 20 + 1, 98), (None, 2)),
         "階": rng.choice(site_floors), "部位": pick(rng, (rng.choice([None, 0, 1, 2, 2, 3, 3, 5, 10, 11, 12]), 99),
                                                (5 if tame else -1, 1)),
         "名称": rng.choice([None, "柱主筋", "縦ｽﾘｯﾄ筋　", "横ｽﾘｯﾄ筋　", "縦ｽﾘｯﾄ筋"]),
@@ -70,6 +71,12 @@ def random_range(rng, site_floors):
     codes = [f for f in site_floors if f is not None and -5 <= f <= 78] or [1]
     return rng.choice([None, tuple(sorted(rng.choices(codes, k=2))), tuple(sorted(rng.choices(range(-5, 79), k=2))),
                        tuple(rng.choices(codes + [0], k=2))])
+
+
+def bound_at(rng, row):
+    """A bound to ask for; none leaves it to the schedule."""
+    known = row["頁"] is not None and row["行"] is not None
+    return (row["頁"], row["行"]) if known and rng.random() < 0.7 else None
 
 
 def write_rows(path, rows):
@@ -177,7 +184,7 @@ class Round:
                "plates": rng.choice([0, 0, 1, 2]), "start_mode": rng.choice([-1, -1, 0, 1, 2, 3, 4])}
         sel["shapes"] = tuple(sorted(rng.choice([(0, 250), (1, 200), (rng.randint(0, 200), rng.randint(0, 200))])))
         ends = sorted(rng.choices(range(len(rows)), k=2))
-        sel["from"], sel["to"] = ((rows[n]["頁"], rows[n]["行"]) for n in ends)
+        sel["from"], sel["to"] = (bound_at(rng, rows[n]) for n in ends)
         sel["floors"] = random_range(rng, site_floors)
         sel["special"], sel["uplift"] = rng.choice([0, 7, rng.randint(0, 7)]), rng.choice([0, 0, 10, 7.5, -3])
         bulk.prepare(rows, sel["start_mode"])
@@ -188,20 +195,20 @@ class Round:
         def engine(plus):
             return group.Engine(limits, plus, settings["loss_priority"])
 
-        def range_of(first, last):
-            return ["--from", f"{first[0]}/{first[1]}", "--to", f"{last[0]}/{last[1]}"]
+        positions = [word for name in ("from", "to") if sel[name]
+                     for word in (f"--{name}", "{}/{}".format(*sel[name]))]
 
         plus = settings["plus"]
         # In a run that asks the engine nothing, the shape tally knows no allowance.
         shape_plus = 0 if settings["stock_check"] else plus
         found = self.compare("bulk", sel, [], lambda: bulk.recount(rows, spirals, sel, settings))
-        found = found or self.compare("page", sel, range_of(sel["from"], sel["to"]),
+        found = found or self.compare("page", sel, positions,
                                       lambda: group.recount_page(rows, sel, settings))
         if old_layout:
             return found  # the group statements name the columns that old files lack
         found = found or self.compare("shape", sel, ["--shapes", "{}-{}".format(*sel["shapes"])],
                                       lambda: group.recount_shape(rows, sel, settings, engine(shape_plus)))
-        return found or self.compare("page-shape", sel, range_of(sel["from"], sel["to"]),
+        return found or self.compare("page-shape", sel, positions,
                                      lambda: group.recount_page_shape(rows, sel, settings, engine(plus)))
 
     def compare_floors(self, rows, sel, settings):

@@ -65,10 +65,10 @@ class Block:
             self.pen.font(10, False)
             self.pen.text(self.x - 100, self.y, POSTAL + self.value[key])
 
-    def _address(self, label, text, whole=False):
+    def _address(self, label, text, whole=False, at_most=10):
         if not self.pen:
             return
-        self.pen.font(address_size(text), False)
+        self.pen.font(min(address_size(text), at_most), False)
         self.pen.text(self.x, self.y, label)
         if whole:
             self.pen.text(self.x + 960, self.y, text)
@@ -92,7 +92,7 @@ class Block:
         self.postal_drawn = bool(value["郵便番号1"] and value["住所1"] and not value["名称1"])
         if value["住所1"]:
             self._down(20)
-            self._address(value["名称1"], value["住所1"])
+            self._address(value["名称1"], value["住所1"], at_most=12)
             self.step = 10
         if self.postal_drawn:
             self._postal("郵便番号1")

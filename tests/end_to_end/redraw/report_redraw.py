@@ -69,7 +69,10 @@ class Page:
             pen.rule_width = 2
             sheet.grid[1] += 2 * height
             end = paper.left + byte_length(sheet.client + "　御中") * 283 / 2 + 100
-            pen.ruled((paper.left, paper.left, end), sheet.y(0), "取引先  " + sheet.client)
+            line = "取引先  " + sheet.client
+            while paper.before_block and pen.size > 0.5 and paper.left + pen.width(line) > paper.before_block:
+                pen.font(pen.size - 0.5)
+            pen.ruled((paper.left, paper.left, self.clear_of_block(end)), sheet.y(0), line)
         if self.is_ulbon:
             pen.rule_width = 2
         self.project()
@@ -82,8 +85,11 @@ class Page:
         else:
             self.broken_name()
 
+    def clear_of_block(self, x):
+        return min(x, self.paper.before_block or x)
+
     def project_rule(self, y, length):
-        end = 9300 if self.is_ulbon else self.paper.left + length
+        end = 9300 if self.is_ulbon else self.clear_of_block(self.paper.left + length)
         self.pen.rule(self.paper.left, y, end, y)
 
     def shrink(self, size, length):
@@ -125,20 +131,23 @@ class Page:
         for row, line in zip((2.5, 3.5), lines):
             pen.text(left + self.paper.indent, sheet.y(row) - pen.height(), line)
         self.project_rule(pen.y, length)
+        if sheet.sub_project:
+            self.bracketed(sheet.y(3.5) + 50, 12)
 
     def short_name(self):
         pen, sheet = self.pen, self.sheet
         pen.font(12)
         pen.text(self.paper.left, sheet.y(2), "工事名　" if self.is_ulbon else "工事名  ")
         pen.text(self.paper.short_name, sheet.y(2), sheet.short_name)
-        self.project_rule(sheet.y(2.7), len(sheet.short_name) * 264 + 1600)
+        under = pen.y if self.paper.low_rows else sheet.y(2.7)
+        self.project_rule(under, len(sheet.short_name) * 264 + 1600)
         if sheet.sub_project:
             self.bracketed(sheet.y(3.3), 12)
 
     def total(self, x, end, weighs):
         self.pen.font(14, False)
         self.pen.rule_width = 3
-        self.pen.ruled((x, self.paper.left, end), self.sheet.y(6), "総重量  " + total_weight(weighs))
+        self.pen.ruled((x, self.paper.left, end), self.sheet.y(self.paper.total_row), "総重量  " + total_weight(weighs))
 
     def date(self):
         year, month, day = self.sheet.date
@@ -217,10 +226,10 @@ def comparison(sheet, kind, paper):
     if spirals > 0:
         page.row(last - 1, (form.label, "スパイラル合計"), (weight_x, weight(spirals)))
     if form.loss:
-        place, blank, characters, below = form.loss
+        place, blank, characters = form.loss
         page.pen.rule_width = 2
         rate = right(str(rounded(f"{tally['LossRatePercent']:.15g}", 2)), characters)
-        page.pen.ruled(place, sheet.y(last + below) + 50, f"ロス率{blank}{rate} %")
+        page.pen.ruled(place, sheet.y(last + 1) + 50, f"ロス率{blank}{rate} %")
     if portrait:
         page.block().draw(page.pen, 6600, 2200)
     return page

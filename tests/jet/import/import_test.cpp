@@ -77,6 +77,7 @@ class Import : public ::testing::TestWithParam<JetVersion> {
     return rows.Get("登録AN");
   }
 
+  static JetTable OneRow() { return {"表", {Field("番号", FieldType::integer32)}, {{Whole(1)}}}; }
   static bool IsJet3() { return GetParam() == JetVersion::jet3; }
   static std::size_t PageAt(std::size_t page) { return page * (IsJet3() ? 2048U : 4096U); }
   void PutSource(const Bytes& image) const {
@@ -171,7 +172,7 @@ TEST_P(Import, AKeyThatStandsTwiceIsRefusedByName) {
   const ImportReport report =
       Take({{"表", {Field("番号", FieldType::integer32)}, {{Whole(1)}, {Whole(1)}}, {"番号"}}});
   EXPECT_THAT(report.tables.at(0).refused_rows,
-              ElementsAre("row 2, 番号 1: UNIQUE constraint failed: 表.番号"));
+              ElementsAre("page 4, row 2, 番号 1: another row has the same key: 表.番号"));
   EXPECT_EQ(Rows("表").size(), 1U);
 }
 
@@ -179,9 +180,17 @@ TEST_P(Import, ATableThatTheStoreDoesNotTakeEndsTheImportByItsName) {
   const std::string fault = test::FaultTextOf([&] {
     Take({{"表", {Field("SD", FieldType::integer32), Field("ＳＤ", FieldType::integer32)}, {}}});
   });
-  EXPECT_THAT(fault, AllOf(HasSubstr("table 表 has two fields ＳＤ"), HasSubstr(target_.string())));
-  EXPECT_THAT(fault, ::testing::Not(HasSubstr(".rbk-import")));
+  EXPECT_EQ(fault, source_.string() + ": page 3: table 表 cannot be taken: table 表 has two fields ＳＤ");
   EXPECT_THAT(NamesInFolder(), ElementsAre("old.mdb"));
+}
+
+TEST_P(Import, AFaultNamesPageAndJetFileAndNoStatement) {
+  EXPECT_EQ(test::FaultTextOf([&] {
+              Take({{"sqlite_x", {Field("番号", FieldType::integer32)}, {{Whole(1)}}}});
+            }),
+            source_.string() +
+                ": page 3: table sqlite_x cannot be taken: object name reserved for internal "
+                "use: sqlite_x");
 }
 
 TEST_P(Import, AnIndexOutOfOrderIsWarnedOfAndRowsStandAsTheyLie) {
@@ -263,12 +272,14 @@ TEST_P(Import, RowsThatTheStoreCannotHoldAreRefusedByName) {
   ASSERT_EQ(report.tables.size(), 1U);
   EXPECT_EQ(report.tables[0].rows, 2U);
   EXPECT_EQ(report.Refused(), 4U);
-  EXPECT_THAT(report.tables[0].refused_rows,
-              ElementsAre(AllOf(HasSubstr("row 2, 番号 2"), HasSubstr("表.名称"), HasSubstr("too small")),
-                          AllOf(HasSubstr("番号 3"), HasSubstr("overflow"), HasSubstr("表.重量")),
-                          AllOf(HasSubstr("番号 4"), HasSubstr("表.名称"), HasSubstr("bytes for a text")),
-                          AllOf(HasSubstr("番号 5"), HasSubstr("表.長さ"))));
-  EXPECT_THAT(ReportText(report), AllOf(HasSubstr("2 rows, 4 REFUSED"), HasSubstr("    refused: row 2")));
+  EXPECT_THAT(
+      report.tables[0].refused_rows,
+      ElementsAre(AllOf(HasSubstr("page 4, row 2, 番号 2"), HasSubstr("表.名称"), HasSubstr("too small")),
+                  AllOf(HasSubstr("番号 3"), HasSubstr("overflow"), HasSubstr("表.重量")),
+                  AllOf(HasSubstr("番号 4"), HasSubstr("表.名称"), HasSubstr("bytes for a text")),
+                  AllOf(HasSubstr("番号 5"), HasSubstr("表.長さ"))));
+  EXPECT_THAT(ReportText(report),
+              AllOf(HasSubstr("2 rows, 4 REFUSED"), HasSubstr("    refused: page 4, row 2")));
   EXPECT_EQ(Rows("表").size(), 2U);
 }
 
@@ -323,8 +334,10 @@ TEST_P(Import, FewerRowsThanTheFileCountsAreDamage) {
   const bool jet3 = GetParam() == JetVersion::jet3;
   image.at(3 * (jet3 ? 2048U : 4096U) + (jet3 ? 12U : 16U)) = 3;
   WriteFileAtomically(source_, {reinterpret_cast<const char*>(image.data()), image.size()});
-  EXPECT_THAT(test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
-              HasSubstr("counts 3 rows, 2 are there"));
+  EXPECT_THAT(
+      test::FaultTextOf([&] { ImportJetFile(source_, target_); }),
+      HasSubstr("old.mdb: page 3: the definition of 表 counts 3 rows, its usage map leads to 2, and 2 "
+                "stand on the pages that point to it: which are right cannot be told"));
 }
 
 TEST_P(Import, InPlaceTheJetFileIsKeptUnderAnotherName) {
@@ -393,7 +406,7 @@ class LockHolder {
 
 TEST_P(Import, AFileThatSomebodyHasOpenIsWarnedOf) {
   const LockHolder holder(folder_ / "OLD.LDB");
-  const ImportReport report = Take({});
+  const ImportReport report = Take({OneRow()});
   EXPECT_THAT(report.warnings, ElementsAre(HasSubstr("old.mdb is open in another program")));
 }
 
@@ -411,11 +424,69 @@ TEST_P(Import, InPlaceAFileThatSomebodyHasOpenIsRefused) {
   EXPECT_FALSE(IsJetFile(source_));
 }
 
-TEST_P(Import, ALockFileThatNobodyHoldsIsNothing) {
-  WriteFileAtomically(folder_ / "old.ldb", std::string(64, ' '));
+TEST_P(Import, ALockFileThatNobodyHoldsIsMentioned) {
+  WriteFileAtomically(folder_ / "OLD.ldb", std::string(64, ' '));
   EXPECT_FALSE(IsOpenElsewhere(source_));
-  EXPECT_THAT(Take({}).warnings, IsEmpty());
+  EXPECT_THAT(Take({OneRow()}).warnings, ElementsAre(AllOf(HasSubstr("old.mdb: the lock file OLD.ldb"),
+                                                           HasSubstr("nobody here holds"))));
 }
+
+TEST_P(Import, AFileWithoutAnyTableIsWarnedOf) {
+  EXPECT_THAT(Take({}).warnings, ElementsAre(source_.string() + ": no table was taken"));
+}
+
+TEST_P(Import, HowTheFileWasClosedIsWarnedOf) {
+  Bytes image = test::JetImage(GetParam(), {OneRow()});
+  const std::size_t commits = IsJet3() ? 0x600 : 0xE00;
+  image.at(commits) = 1;
+  image.at(commits + 1) = 0;
+  image.at(commits + 3) = 0;
+  PutSource(image);
+  EXPECT_THAT(ImportJetFile(source_, target_).warnings,
+              ElementsAre(HasSubstr("old.mdb: page 0: a commit was under way"),
+                          HasSubstr("old.mdb: page 0: a user of it met damage (commit bytes 01 00)")));
+  EXPECT_EQ(Rows("表").size(), 1U);
+}
+
+/// Puts a file as source whose index has an entry for a row that is not there.
+class DamagedImport : public Import {
+ protected:
+  void PutDamaged() const {
+    JetTable table = OneRow();
+    table.key = {"番号"};
+    Bytes image = test::JetImage(GetParam(), {table});
+    image.at(PageAt(5) + (IsJet3() ? 0xF8 : 0x1E0) + 8) = 77;  // the slot of the only entry
+    PutSource(image);
+  }
+};
+
+TEST_P(DamagedImport, DamageInWhatIsTakenIsListed) {
+  PutDamaged();
+  const ImportReport report = ImportJetFile(source_, target_);
+  EXPECT_THAT(report.damages,
+              ElementsAre("table 表, index PrimaryKey: an entry points to row 4:77, which is not there",
+                          "table 表, index PrimaryKey: row 4:0 has no entry"));
+  EXPECT_THAT(ReportText(report), HasSubstr("  DAMAGE: table 表, index PrimaryKey: an entry points to row"));
+  EXPECT_EQ(Rows("表").size(), 1U);
+}
+
+TEST_P(DamagedImport, InPlaceDamageIsRefusedUnlessItIsToBeTaken) {
+  PutDamaged();
+  const std::string before = ReadFileBytes(source_);
+  EXPECT_THAT(test::FaultTextOf([&] { ImportJetFileInPlace(source_); }),
+              AllOf(HasSubstr("old.mdb: damaged, nothing was imported: table 表, index PrimaryKey"),
+                    HasSubstr("(and 1 more)")));
+  EXPECT_EQ(ReadFileBytes(source_), before);
+  EXPECT_THAT(NamesInFolder(), ElementsAre("old.mdb"));
+  EXPECT_EQ(ImportJetFileInPlace(source_, OnDamage::take).damages.size(), 2U);
+  EXPECT_THAT(ReadFileBytes(ReportFile(source_)), HasSubstr("DAMAGE"));
+  EXPECT_EQ(ReadFileBytes(KeptJetFile(source_)), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, DamagedImport, ::testing::Values(JetVersion::jet3, JetVersion::jet4),
+                         [](const auto& version) {
+                           return version.param == JetVersion::jet3 ? "Jet3" : "Jet4";
+                         });
 
 INSTANTIATE_TEST_SUITE_P(Versions, Import, ::testing::Values(JetVersion::jet3, JetVersion::jet4),
                          [](const auto& version) {

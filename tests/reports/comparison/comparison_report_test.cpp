@@ -113,8 +113,8 @@ TEST_F(ComparisonReport, KindBPrintsUlbonUnderItsOnlyWeightToo) {
   EXPECT_EQ(page_.TextBeside(ulbon, 10600), "      7");
 }
 
-// The last row is 23, two rows further down is 25.
-TEST_F(ComparisonReport, TheLossRateStandsTwoRowsBelowTheLastOnA4Portrait) {
+// With Ulbon and spirals the last row is 23, two rows further down is 25.
+TEST_F(ComparisonReport, TheLossRateStandsTwoRowsBelowTheLast) {
   Draw(kTaihiAA4T);
   const PrintedText loss = page_.TextOf("ロス率　  2.59 %");
   EXPECT_EQ(loss.x, 6700);
@@ -123,12 +123,17 @@ TEST_F(ComparisonReport, TheLossRateStandsTwoRowsBelowTheLastOnA4Portrait) {
   EXPECT_EQ(page_.RuleAt(loss.y + 240, 6500).draw_width, 2);
 }
 
-TEST_F(ComparisonReport, TheLossRateStandsRightBelowTheFrameOnLandscapePaper) {
+// There the frame starts a row higher, and the last row is 22, or 20 without Ulbon and spirals.
+TEST_F(ComparisonReport, TheLossRateStandsTwoRowsBelowTheLastOnLandscapePaperToo) {
   Draw(kTaihiAA4Y);
-  EXPECT_EQ(page_.TextOf("ロス率　  2.59 %").y, A4Y(23) + 50);
+  EXPECT_EQ(page_.TextOf("ロス率　  2.59 %").y, A4Y(24) + 50);
   Draw(kTaihiCB5Y);
-  EXPECT_EQ(page_.TextOf("ロス率         2.59 %").y, B5Y(23) + 50);
+  EXPECT_EQ(page_.TextOf("ロス率         2.59 %").y, B5Y(24) + 50);
   EXPECT_EQ(page_.TextOf("ロス率         2.59 %").x, 10700);
+  table_.SpiralTotal = Currency{};
+  sheet_.ulbon_weight = 0;
+  Draw(kTaihiBB5Y);
+  EXPECT_EQ(page_.TextOf("ロス率         2.59 %").y, B5Y(22) + 50);
 }
 
 TEST_F(ComparisonReport, StartModes1And3HaveNoCutColumnAtAll) {
@@ -166,8 +171,9 @@ TEST_F(ComparisonReport, TheTotalWeightIsTheStockOfKindsAAndBAndTheInstalledOfC)
   EXPECT_EQ(page_.RuleAt(A4T(6) + 280, 500).draw_width, 3);
   Draw(kTaihiBB5Y);
   EXPECT_EQ(page_.TextOf("総重量     12 t 489 Kg").x, 700);
-  EXPECT_EQ(page_.TextOf("総重量     12 t 489 Kg").y, B5Y(6));
-  EXPECT_EQ(page_.RuleAt(B5Y(6) + 280, 700).x2, 4000);
+  constexpr float kB5Total = 3521;  // row 5.8: 1810 + 5.8 x 295
+  EXPECT_EQ(page_.TextOf("総重量     12 t 489 Kg").y, kB5Total);
+  EXPECT_EQ(page_.RuleAt(kB5Total + 280, 700).x2, 4000);
   Draw(kTaihiCA4Y);
   EXPECT_EQ(page_.TextOf("総重量     12 t 175 Kg").x, 1800);
   EXPECT_EQ(page_.RuleAt(A4Y(6) + 280, 1800).x2, 5100);

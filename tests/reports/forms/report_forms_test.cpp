@@ -75,6 +75,24 @@ TEST_F(ReportFormsTest, TextsAreTrimmed) {
   EXPECT_NE(trace.find("\t2026 年  1 月"), std::string::npos);
 }
 
+TEST_F(ReportFormsTest, FiguresTooWideForTheirFieldsAreToldInOneMessage) {
+  std::vector<std::string> told;
+  Services.Messages = [&](std::string_view text, std::string_view, MessageButtons) {
+    if (text.starts_with("欄に")) told.emplace_back(text);  // the company is too short for its place
+    return MessageAnswer::ok;
+  };
+  Print(ReportPaper::a4t, 1);
+  EXPECT_TRUE(told.empty());
+  TallyTable table;
+  table.WeldCount[9] = 12345678;
+  table.TotalWeldCount = 12345678;
+  result_.tables = table;
+  Print(ReportPaper::a4t, 1);
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_NE(told[0].find("1頁 D38 圧接：12,345,678\n1頁 合計 圧接：12,345,678"), std::string::npos)
+      << told[0];
+}
+
 TEST_F(ReportFormsTest, TheUlbonReportIsA4Landscape) {
   PrintForm(UlbonForm(), {"", "2026", "1", "2", 1, 0}, result_);
   EXPECT_EQ(documents_.back().orientation, 2);

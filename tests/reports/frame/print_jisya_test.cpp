@@ -182,6 +182,18 @@ TEST_F(PrintJisya, AnAddressIsSpreadOverItsBoxBehindALabelOfItsSize) {
   EXPECT_NEAR(page_.TextOf("市").x + 240, kX + 4320, 0.1);
 }
 
+TEST_F(PrintJisya, TheFirstAddressAloneStandsLargerThanSize10) {
+  OwnCompany company = Complete();
+  company.addresses = {"一丁目", "二丁目", "三丁目四番地五番地六番地七番地八番地"};  // 3, 3 and 18 characters
+  for (const bool in_one_piece : {false, true}) {
+    company.address2_in_one_piece = in_one_piece;
+    Draw(company);
+    EXPECT_EQ(page_.TextOf("一").font_size, 12);
+    EXPECT_EQ(page_.TextThatStarts("二").font_size, 10);
+    EXPECT_EQ(page_.TextOf("三").font_size, 9);
+  }
+}
+
 TEST_F(PrintJisya, AGivenSizeGoesBeforeTheLength) {
   EXPECT_EQ(Print_JisyaJyusyo(page_.Printer, kX, kY, "", "見本県", ReportFont, ReportFont, 9), 9);
   page_.Printer.EndDoc();

@@ -183,12 +183,52 @@ TEST_F(ComparisonHead, ANameWithABreakStandsOnTwoLinesOverARuleByTheLonger) {
   EXPECT_FLOAT_EQ(page_.RuleAt(grid.Y(3.5), 500).x2, 500 + 960 + 2090.4F + 100);
 }
 
-TEST_F(ComparisonHead, WithABreakNoSubProjectLineIsPrinted) {
+TEST_F(ComparisonHead, ASubProjectTextStandsOnTheLineBelowANameOfTwoLines) {
   site_.long_name = "見本町再開発ビル";
   site_.koji_break = 4;
   arguments_.SubProject = "二期工事";
+  for (const HeadLayout* layout : {&kHeadA4T, &kHeadA4Y, &kHeadB5Y}) {
+    const RowGrid grid = Draw(*layout);
+    const PrintedText text = page_.TextOf("　　　（二期工事）");
+    EXPECT_EQ(text.x, page_.TextOf("工事名　").x);
+    EXPECT_EQ(text.y, grid.Y(3.5) + 50);  // clear of the rule
+    EXPECT_EQ(text.font_size, 12);
+    EXPECT_LT(text.y + 240, grid.Y(5.8));  // and clear of the total
+  }
+}
+
+// 5900 twips are left before the block: with 8 bytes of label 18 characters take 44 x 130 at 13 points, 19
+// need 46 x 125 at 12.5. The rule of 19 would end at 500 + 44 x 141.5 + 100 = 6826.
+TEST_F(ComparisonHead, AClientShrinksByHalfPointsBeforeTheOwnCompanyBlockAndItsRuleEndsThere) {
+  site_.client = Repeated("見", 18);
   Draw();
-  EXPECT_FALSE(page_.Has("二期工事"));
+  EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 13);
+  site_.client = Repeated("見", 19);
+  Draw();
+  EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 12.5F);
+  EXPECT_EQ(page_.RuleAt(2440 + 250, 500).x2, 6400);
+  Draw(kHeadA4Y);  // no block there
+  EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 13);
+}
+
+TEST_F(ComparisonHead, OnA4PortraitTheRuleOfTheProjectEndsBeforeTheOwnCompanyBlock) {
+  site_.short_name = Repeated("見", 20);  // 500 + 20 x 264 + 1600 = 7380
+  const RowGrid grid = Draw();
+  EXPECT_EQ(page_.RuleAt(grid.Y(2.7), 500).x2, 6400);
+  site_.long_name = Repeated("見", 21);  // 500 + 960 + 21 x 12 x 20.1 + 100 = 6625.2
+  Draw();
+  EXPECT_EQ(page_.RuleAt(grid.Y(2) + 400, 500).x2, 6400);
+  site_.koji_break = 20;
+  Draw();
+  EXPECT_EQ(page_.RuleAt(grid.Y(3.5), 500).x2, 6400);
+  Draw(kHeadA4Y);
+  EXPECT_GT(page_.RuleAt(1940 + 360 * 3.5F, 1800).x2, 6400 + 1300);
+}
+
+TEST_F(ComparisonHead, OnB5TheRuleOfAShortNameStandsRightUnderIt) {
+  const RowGrid grid = Draw(kHeadB5Y);
+  EXPECT_EQ(page_.TextOf("見本町住宅").y, grid.Y(2));
+  EXPECT_EQ(page_.RuleAt(grid.Y(2) + 240, 700).x2, 700 + 5 * 264 + 1600);
 }
 
 TEST_F(ComparisonHead, OnB5ALongNameAndItsRuleReckonFrom1067) {

@@ -77,7 +77,7 @@ TEST_F(UlbonReport, TheFrameKeepsFourteenRowsAndTheEmptyColumns) {
 TEST_F(UlbonReport, TheHeadHasItsOwnTitleLabelAndRules) {
   Draw();
   EXPECT_EQ(page_.TextOf("ウ ル ボ ン 重 量 表").x, 5900);
-  EXPECT_EQ(page_.RuleAt(500 + 360, 5700).x2, 9400);
+  EXPECT_EQ(page_.RuleAt(500 + 360, 5700).x2, 9700);
   EXPECT_EQ(page_.TextOf("工事名　").x, 1800);
   EXPECT_EQ(page_.TextOf("見本町住宅").x, 2760);
   EXPECT_EQ(page_.RuleAt(static_cast<float>(1940 + 360 * 2.7), 1800).x2, 9300);
@@ -101,6 +101,27 @@ TEST_F(UlbonReport, ASubProjectTextStandsInSize12ForAsLongAsItStaysClearOfTheBlo
   arguments_.SubProject += arguments_.SubProject;
   Draw();
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 7);
+}
+
+TEST_F(UlbonReport, ASubProjectTextStandsUnderANameOfTwoLinesToo) {
+  site_.long_name = "見本町再開発ビル";
+  site_.koji_break = 4;
+  arguments_.SubProject = "二期工事";
+  Draw();
+  EXPECT_EQ(page_.TextOf("　　　（二期工事）").x, 1800);
+  EXPECT_EQ(page_.TextOf("　　　（二期工事）").y, Y(0) + 360 * 3.5F + 50);
+  EXPECT_EQ(page_.TextOf("　　　（二期工事）").font_size, 12);
+}
+
+// 8100 twips are left before the block: with 8 bytes of label 27 characters take 62 x 130 at 13 points.
+TEST_F(UlbonReport, AClientShrinksBeforeTheOwnCompanyBlock) {
+  for (int i = 0; i < 23; ++i) site_.client += "見";
+  Draw();
+  EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 13);
+  site_.client += "見";
+  Draw();
+  EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 12.5F);
+  EXPECT_EQ(page_.RuleAt(Y(0) + 250, 1800).x2, 9900);
 }
 
 // 19 characters take 960 + 38 x 120 = 5520; 13 points would fit too.

@@ -79,6 +79,23 @@ TEST_F(ImportFolder, BringsEverythingThatTheProgramWorksWith) {
   EXPECT_NE(Database::Open(root_ / "DATA" / "GENBA001.MDB").FindTable("加工テーブル"), nullptr);
 }
 
+TEST_F(ImportFolder, OfARootTakesTheDataFolderBelowIt) {
+  data_ = folder_ / "windows" / "Data";
+  fs::create_directory(data_);
+  PutWholeFolder();
+  WriteFileAtomically(folder_ / "windows" / "readme.txt", "a sibling's");
+  const FolderReport report = ImportDataFolder(folder_ / "windows", root_);
+  EXPECT_EQ(report.files.size(), 6U);
+  EXPECT_THAT(report.not_taken, IsEmpty());
+  EXPECT_NE(Database::Open(root_ / "DATA" / "GENBA001.MDB").FindTable("加工テーブル"), nullptr);
+}
+
+TEST_F(ImportFolder, OfADataFolderWithADataFolderBelowItIsThatOne) {
+  PutWholeFolder();
+  fs::create_directory(data_ / "DATA");
+  EXPECT_EQ(Take().files.size(), 6U);
+}
+
 TEST_F(ImportFolder, KeepsTheBytesOfIniFiles) {
   PutWholeFolder();
   Take();

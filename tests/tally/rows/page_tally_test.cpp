@@ -187,18 +187,15 @@ TEST(PG_Jyuuryo_Syukei, AddsTheWeightOfUlbonWithoutAColumnRowByRow) {
   EXPECT_EQ(TallyGrid.UlbonWeight[15], 8.008 * 0.71);
 }
 
-TEST(PG_Jyuuryo_Syukei, EndsAtACutWhoseWeldIsAtNoDeformedDiameter) {
+TEST(PG_Jyuuryo_Syukei, PassesOverACutAtNoDeformedDiameterAndCountsTheOthers) {
   ScheduleSite site;
-  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(14)}, {"切断", kNull}});
-  TallyLines(1, 1);
-  EXPECT_EQ(TallyGrid.TotalCutCount, 0);
   site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(14)}, {"切断", Number(1)}});
-  try {
-    TallyLines(1, 2);
-    FAIL() << "no fault";
-  } catch (const Fault& fault) {
-    EXPECT_EQ(fault.Kind(), FaultKind::subscript_out_of_range);
-  }
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(14)}, {"切断", Number(2)}, {"伸定尺", Value{0.0}}});
+  site.AddRow({{"部位", Number(2)}, {"圧接太さ", Number(25)}, {"切断", Number(4)}});
+  TallyLines(1, 3);
+  EXPECT_EQ(TallyGrid.CutCount[5], 4);
+  EXPECT_EQ(TallyGrid.TotalCutCount, 4);
+  EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
 }
 
 TEST(PG_Jyuuryo_Syukei, TakesTheFormsOfTheSelection) {
@@ -264,22 +261,40 @@ TEST(PG_Jyuuryo_Syukei, EqualsTheRowsOfItsStatementWhereNoModeIsSet) {
             "AND 行No Between 3 AND 40 ");
 }
 
-TEST(LineNumberAt, IsZeroForAPositionThatDoesNotExistAndFaultsForARowWithoutNumber) {
+TEST(LineNumberAt, IsZeroForAPositionThatDoesNotExistAndForARowWithoutNumber) {
   ScheduleSite site;
   site.AddRow({{"行No", Number(70)}});
   EXPECT_EQ(LineNumberAt(site.Work(), {1, 1}), 70);
   EXPECT_EQ(LineNumberAt(site.Work(), {1, 2}), 0);
-  site.AddRow({{"行No", kNull}});
-  EXPECT_THROW(LineNumberAt(site.Work(), {1, 2}), Fault);
+  site.AddRow({{"行No", kNull}, {"行", Number(1)}});  // the later row of the position
+  EXPECT_EQ(LineNumberAt(site.Work(), {1, 1}), 0);
 }
 
 TEST(WholePositionRange, GoesFromTheFirstToTheLastRowByItsNumber) {
+  for (const TallyKind kind : {TallyKind::page, TallyKind::page_shape}) {
+    ScheduleSite site;
+    EXPECT_EQ(WholePositionRange(site.Work(), kind), std::nullopt);
+    site.AddRow({{"行No", Number(9)}, {"頁", Number(4)}, {"行", Number(2)}});
+    site.AddRow({{"行No", Number(3)}, {"頁", Number(1)}, {"行", Number(5)}});
+    site.AddRow({{"行No", Number(5)}, {"頁", kNull}, {"行", kNull}});
+    EXPECT_EQ(WholePositionRange(site.Work(), kind), (PositionRange{{1, 5}, {4, 2}}));
+  }
+}
+
+TEST(WholePositionRange, OfThePageTallyTakesRowsOfOneNumberByPageAndLine) {
   ScheduleSite site;
-  EXPECT_EQ(WholePositionRange(site.Work()), std::nullopt);
-  site.AddRow({{"行No", Number(9)}, {"頁", Number(4)}, {"行", Number(2)}});
-  site.AddRow({{"行No", Number(3)}, {"頁", Number(1)}, {"行", Number(5)}});
-  site.AddRow({{"行No", Number(5)}, {"頁", kNull}, {"行", kNull}});
-  EXPECT_EQ(WholePositionRange(site.Work()), (PositionRange{{1, 5}, {4, 2}}));
+  for (const auto& [page, line] : {std::pair(2, 3), std::pair(4, 1), std::pair(2, 1), std::pair(1, 9)}) {
+    site.AddRow({{"行No", Number(7)}, {"頁", Number(page)}, {"行", Number(line)}});
+  }
+  EXPECT_EQ(WholePositionRange(site.Work(), TallyKind::page), (PositionRange{{1, 9}, {4, 1}}));
+  EXPECT_EQ(WholePositionRange(site.Work(), TallyKind::page_shape), (PositionRange{{2, 3}, {1, 9}}));
+}
+
+TEST(WholePositionRange, TakesANullPageOrLineAtAnEndAsZero) {
+  ScheduleSite site;
+  site.AddRow({{"行No", Number(1)}, {"頁", kNull}, {"行", Number(5)}});
+  site.AddRow({{"行No", Number(2)}, {"頁", Number(3)}, {"行", kNull}});
+  EXPECT_EQ(WholePositionRange(site.Work(), TallyKind::page), (PositionRange{{0, 5}, {3, 0}}));
 }
 
 TEST(WholeShapeRange, GoesFromTheSmallestToTheLargestShape) {

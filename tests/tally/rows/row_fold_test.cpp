@@ -404,7 +404,6 @@ RowRules Page() {
   RowRules rules;
   rules.length_without_column_in_first_cell = false;
   rules.ulbon_weight_from_all_metres = false;
-  rules.pass_over_cuts_at_unknown_diameter = false;
   return rules;
 }
 
@@ -443,13 +442,12 @@ TEST(FoldRowByPage, TakesAThinBarWithoutColumnWhateverItsKind) {
   EXPECT_EQ(Folded(WithStock(WithKind(U9Row(), 1), 0.0), Page()), expected);
 }
 
-TEST(FoldRowByPage, FaultsAtACutOfPart2AtNoDeformedDiameter) {
+TEST(FoldRowByPage, PassesOverACutOfPart2AtNoDeformedDiameter) {
   BarRow row = D19Row();
   row.part = 2;
   row.weld_diameter_code = 9;
+  row.cuts = 5;
   EXPECT_EQ(Folded(row, Page()), Folded(D19Row()));
-  row.cuts = 0;
-  EXPECT_EQ(FaultOf(row, Page()), FaultKind::subscript_out_of_range);
 }
 
 }  // namespace

@@ -12,6 +12,14 @@ TEST(GridTable, PadsColumnsByDisplayWidthTheFirstToTheLeft) {
             "総　計      0   1,000\n");
 }
 
+TEST(GridTable, NamesItsColumnsInTheFirstLine) {
+  constexpr std::string_view captions[] = {"太    さ", "定尺重量"};
+  EXPECT_EQ(GridTable(captions, {{"D10", "1,234 "}, {"D13", "0 "}}),
+            "太    さ  定尺重量\n"
+            "D10         1,234\n"
+            "D13             0\n");
+}
+
 TEST(GridTable, CountsHalfWidthKatakanaAsOneColumn) {
   EXPECT_EQ(GridTable({{"ｳﾙﾎﾞﾝ", "1"}, {"異形", "2"}}), "ｳﾙﾎﾞﾝ  1\n異形   2\n");
 }
