@@ -2,6 +2,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <variant>
 #include <string_view>
 
 #include "cli/asked_tally.h"
@@ -23,8 +24,10 @@ struct TallyOptions {
   std::string format = "table";
 };
 
-PartNames SitePartNames() {
+/// The names that stand above the columns of parts. A site needs none for another result.
+PartNames PartNamesFor(const TallyResult& result) {
   PartNames names;
+  if (std::holds_alternative<TallyTable>(result.tables)) return names;
   for (int part = kFirstPart; part <= kLastNamedPart; ++part) {
     names[static_cast<std::size_t>(part - kFirstPart)] = Get_BuiNa(part);
   }
@@ -34,7 +37,7 @@ PartNames SitePartNames() {
 /// The result in the asked form.
 std::string TextOf(const TallyResult& result, const std::string& format) {
   if (format == "json") return ResultJson(result);
-  const ResultView view{.grade_names = DiameterGradeNames(), .part_names = SitePartNames()};
+  const ResultView view{.grade_names = DiameterGradeNames(), .part_names = PartNamesFor(result)};
   const GridRows rows = ResultRows(result, view);
   const auto captions = ResultCaptions(result, view);
   return format == "csv" ? GridCsv(captions, rows) : GridTable(captions, rows);
