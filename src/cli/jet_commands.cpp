@@ -32,7 +32,7 @@ void TellWhatIsMissing(const jet::ImportReport& report) {
     ReportError(fmt::format("{}: {} rows were refused, see REFUSED", source, report.Refused()));
   }
   if (!report.damages.empty()) {
-    ReportError(fmt::format("{}: damage in {} places, see DAMAGE", source, report.damages.size()));
+    ReportError(fmt::format("{}: damage found in its tables: {}, see DAMAGE", source, report.damages.size()));
   }
 }
 

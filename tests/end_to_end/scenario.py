@@ -163,6 +163,12 @@ class World:
         """cut PATH BYTES: only the first bytes of a file stay, below the folder above the root"""
         os.truncate(self.folder / words[0], int(words[1]))
 
+    def byte(self, words):
+        """byte PATH OFFSET VALUE: one byte of such a file becomes another"""
+        with open(self.folder / words[0], "r+b") as file:
+            file.seek(int(words[1]))
+            file.write(bytes([int(words[2])]))
+
     def as_jet(self, words):
         """as-jet 3|4 FOLDER: the DATA folder once more beside the root, its databases as real Jet files"""
         version, name = words
@@ -234,8 +240,8 @@ class World:
 DIRECTIVES = {
     "row": World.row, "spiral": World.spiral, "without": World.without, "sql": World.sql,
     "setting": World.setting, "file": World.file, "remove": World.remove, "rename": World.rename,
-    "folder": World.folder_at, "jet": World.jet, "sample": World.sample, "as-jet": World.as_jet, "cut": World.cut,
-    "read-only": World.lock,
+    "folder": World.folder_at, "jet": World.jet, "sample": World.sample, "as-jet": World.as_jet,
+    "cut": World.cut, "byte": World.byte, "read-only": World.lock,
 }
 
 

@@ -71,8 +71,10 @@ TEST_F(BulkInserts, ConvertByTheFieldsType) {
 TEST_F(BulkInserts, TellWhyARowIsRefusedAndGoOn) {
   BulkInsert insert(database_, Weights());
   ASSERT_EQ(insert.Append(Row{std::int64_t{1}, 2.0}), std::nullopt);
-  EXPECT_THAT(insert.Append(Row{std::int64_t{1}, 3.0}).value_or(""), HasSubstr("UNIQUE"));
-  EXPECT_THAT(insert.Append(Row{Value{}, 3.0}).value_or(""), HasSubstr("NOT NULL"));
+  EXPECT_THAT(insert.Append(Row{std::int64_t{1}, 3.0}).value_or(""),
+              HasSubstr("another row has the same key: 重量.材質"));
+  EXPECT_THAT(insert.Append(Row{Value{}, 3.0}).value_or(""),
+              HasSubstr("null where a value is due: 重量.材質"));
   EXPECT_THAT(insert.Append(Row{"x", 3.0}).value_or(""), HasSubstr("type mismatch: 重量.材質"));
   EXPECT_THAT(insert.Append(Row{std::int64_t{2}, 1e18}).value_or(""), HasSubstr("overflow: "));
   EXPECT_EQ(insert.Append(Row{std::int64_t{2}, 4.0}), std::nullopt);

@@ -74,9 +74,9 @@ std::string CauseIn(const Fault& fault, const FileInWork& work) {
 }
 
 /// Runs a step that writes the target, whose faults name the target in place of the file in work. `what` is
-/// written, where it is more than the file alone.
+/// written; empty: the file as such.
 template <typename Step>
-auto OnTarget(const FileInWork& work, const fs::path& target, Step step, const std::string& what = {}) {
+auto OnTarget(const FileInWork& work, const fs::path& target, const std::string& what, Step step) {
   const std::string in_work = work.Path().string();
   try {
     return step();
@@ -97,7 +97,7 @@ void MakeTable(const JetFile& file, const TableMapping& mapping, Database& datab
 
 void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const FileInWork& work,
                 ImportReport& report) {
-  const auto on_target = [&](auto step) { return OnTarget(work, report.target, step); };
+  const auto on_target = [&](auto step) { return OnTarget(work, report.target, "", step); };
   Database database = on_target([&] { return Database::CreateDatabase(work.Path()); });
   Transaction transaction(database);
   for (const CatalogEntry& entry : entries) {
@@ -111,9 +111,7 @@ void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const F
     MakeTable(file, mapping, database, work);
     RowCopy copy(file, mapping, database, report.warnings);
     const std::string a_row = "a row of " + entry.name;
-    while (copy.ReadNext())
-      OnTarget(
-          work, report.target, [&] { copy.Append(); }, a_row);
+    while (copy.ReadNext()) OnTarget(work, report.target, a_row, [&] { copy.Append(); });
     on_target([&] { copy.Finish(); });
     report.tables.push_back(copy.Result());
   }
@@ -168,7 +166,7 @@ ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
   const WorkPlace place(FolderOf(target));
   FileInWork work(target, place, ReadOnlyTarget::replaced);
   ImportReport report = Copy(source, work, target, OnDamage::take);
-  OnTarget(work, target, [&] { work.PutInPlace(); });
+  OnTarget(work, target, "", [&] { work.PutInPlace(); });
   return report;
 }
 
@@ -198,11 +196,11 @@ ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage) {
   try {
     // Before the swap: what was refused is not to be forgotten, whatever happens behind it.
     FileInWork text(ReportFile(file), place, ReadOnlyTarget::replaced);
-    OnTarget(text, ReportFile(file), [&] {
+    OnTarget(text, ReportFile(file), "", [&] {
       text.Write(ReportText(report));
       text.Replace();
     });
-    OnTarget(work, file, [&] { work.Replace(); });
+    OnTarget(work, file, "", [&] { work.Replace(); });
   } catch (const Fault&) {
     // Behind the swap the Jet file stands under its second name alone.
     if (IsJetFile(file)) {

@@ -81,7 +81,8 @@ TEST_F(OfferedImport, RefusedRowsAreTold) {
   ASSERT_THAT(site_.Messages(), SizeIs(2));
   EXPECT_THAT(site_.Messages()[1].text,
               AllOf(HasSubstr("取り込めなかった行 1 行"), HasSubstr("HIROI001.mdb.jet.txt")));
-  EXPECT_THAT(ReadFileBytes(site_.Data("HIROI001.mdb.jet.txt")), HasSubstr("refused: row 1, 登録名 柱と梁"));
+  EXPECT_THAT(ReadFileBytes(site_.Data("HIROI001.mdb.jet.txt")),
+              HasSubstr("refused: page 4, row 1, 登録名 柱と梁"));
 }
 
 TEST_F(OfferedImport, ADamagedFileIsAFaultAndStays) {
