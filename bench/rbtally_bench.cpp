@@ -192,7 +192,7 @@ void ShapeTally(benchmark::State& state) {
   });
 }
 
-PositionRange WholeSite() { return WholePositionRange(*SiteContext.WorkDatabase).value(); }
+PositionRange WholeSite() { return WholePositionRange(*SiteContext.WorkDatabase, TallyKind::page).value(); }
 
 void PageTally(benchmark::State& state) {
   Tally(state, [] {
