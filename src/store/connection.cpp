@@ -40,6 +40,12 @@ void RequireShortPath(const std::filesystem::path& file) {
     throw FileFault(file, "cannot be opened", ENAMETOOLONG);
 }
 
+/// True for errors of a copy that lie in what is read.
+bool IsOfReading(int code) {
+  return (code & 0xFF) == SQLITE_CORRUPT || (code & 0xFF) == SQLITE_NOTADB || code == SQLITE_IOERR_READ ||
+         code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_CORRUPTFS;
+}
+
 }  // namespace
 
 void Connection::Patience::WatchOver(sqlite3* connection) {
@@ -175,11 +181,16 @@ Statement Connection::Hold() const {
 }
 
 void Connection::CopyInto(const Connection& target) const {
-  const Statement one_moment = Hold();
+  const Statement one_moment = Hold();  // also waits for the file
   sqlite3_backup* const backup = sqlite3_backup_init(target.Handle(), "main", Handle(), "main");
   if (backup != nullptr) sqlite3_backup_step(backup, -1);
   const int code = backup == nullptr ? sqlite3_errcode(target.Handle()) : sqlite3_backup_finish(backup);
-  if (code != SQLITE_OK) throw StoreFault(target, code, fmt::format("copying {}", file_.string()));
+  if (code == SQLITE_OK) return;
+  const std::string where = fmt::format("{}: copying {}", target.File().string(), file_.string());
+  if (IsOfReading(code)) {
+    throw Fault(FaultKind::storage, fmt::format("{}: {}", sqlite3_errstr(code), where));
+  }
+  throw CopyTargetFault(FaultKind::storage, fmt::format("{}: {}", sqlite3_errmsg(target.Handle()), where));
 }
 
 std::int64_t Connection::Run(std::string_view sql, std::string_view text) const {

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <system_error>
 
@@ -85,8 +86,17 @@ void CreateDatabaseFile(const std::filesystem::path& file) {
 
 void CopyDatabaseFile(const std::filesystem::path& source, const std::filesystem::path& target) {
   const Connection from(source, OpenMode::read_only);
-  CreateDatabaseFile(target);
-  from.CopyInto(Connection(target, OpenMode::read_write));
+  const Statement one_moment = from.Hold();
+  const auto at_target = [](auto action) {
+    try {
+      return action();
+    } catch (const Fault& fault) {
+      throw CopyTargetFault(fault.Kind(), fault.Where());
+    }
+  };
+  at_target([&] { CreateDatabaseFile(target); });
+  const auto to = at_target([&] { return std::make_unique<Connection>(target, OpenMode::read_write); });
+  from.CopyInto(*to);
 }
 
 }  // namespace rbt

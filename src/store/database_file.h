@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string_view>
 
+#include "platform/fault.h"
+
 namespace rbt {
 
 /// As many of a file's first bytes as tell a database.
@@ -22,9 +24,14 @@ bool BeginsAsDatabase(const std::filesystem::path& file);
 /// Makes an empty database; a file that exists throws `file`.
 void CreateDatabaseFile(const std::filesystem::path& file);
 
-/// Copies a database of the store, as it stands at one moment, into a new file. Throws what opening the
-/// source throws, `file` for a target that exists, and `storage`, naming the target, where it cannot be
-/// written.
+/// Not the file that is copied is at fault but the place of the new one: a full disk, a name that is taken.
+class CopyTargetFault : public Fault {
+ public:
+  using Fault::Fault;
+};
+
+/// Copies a database of the store, as it stands at one moment, into a new file; a target that exists stays.
+/// Throws what opening and reading the source throws, and `CopyTargetFault`.
 void CopyDatabaseFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
 }  // namespace rbt
