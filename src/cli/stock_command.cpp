@@ -35,7 +35,7 @@ std::string StockText(const StockResult& stock, const std::string& format) {
 void RunStock(const StockOptions& options) {
   RequireRoot();
   Settings.UseFixedTable = ReadSetting(kUseFixedTableKey);
-  if (Settings.UseFixedTable == 1) OpenFixedStockForReading();
+  if (Settings.UseFixedTable == 1) OpenFixedStockDatabase();
   Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(options.count), options.diameter);
   WriteResult(StockText(EngineState.TeijyakuResult, options.format));
 }

@@ -3,14 +3,15 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "platform/failure_log.h"
 #include "platform/files/file_sync.h"
+#include "platform/files/files.h"
 #include "platform/files/system_error.h"
 #include "store/connection_patience.h"
 #include "store/database_file.h"
@@ -160,18 +161,29 @@ bool Connection::MayBeWritten() const {
   // Changes go through a journal beside the file.
   std::error_code error;
   const std::filesystem::path file = std::filesystem::canonical(file_, error);
-  return !error && ::access(FolderOf(file).c_str(), W_OK | X_OK) == 0;
+  return !error && TakesFiles(FolderOf(file));
 }
 
-std::optional<std::uint32_t> Connection::ChangeCounter() const {
+std::optional<FileState> Connection::State() const {
   constexpr int kCounterAt = 24;
   constexpr int kReadVersionAt = 19;
   constexpr char kWriteAheadLog = 2;
   const std::string head = Bytes(0, kCounterAt + 4);
-  if (head.size() < kCounterAt + 4 || head[kReadVersionAt] == kWriteAheadLog) return std::nullopt;
-  std::uint32_t counter = 0;
-  for (int i = 0; i < 4; ++i) counter = counter << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
-  return counter;
+  struct stat status {};
+  if (head.size() < kCounterAt + 4 || head[kReadVersionAt] == kWriteAheadLog ||
+      ::stat(file_.c_str(), &status) != 0) {
+    return std::nullopt;
+  }
+  std::uint32_t changes = 0;
+  for (int i = 0; i < 4; ++i) changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return FileState{changes, status.st_ino, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+}
+
+bool Connection::HasMoved() const {
+  int moved = 0;
+  sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  return moved != 0;
 }
 
 Statement Connection::Hold() const {

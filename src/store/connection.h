@@ -12,6 +12,7 @@
 
 #include "platform/fault.h"
 #include "platform/numbers/value.h"
+#include "store/file_state.h"
 
 namespace rbt {
 
@@ -76,8 +77,10 @@ class Connection {
   bool IsPrivateCopy() const { return private_copy_; }
   /// False when file, folder or the way it was opened leave no way to write it.
   bool MayBeWritten() const;
-  /// The number that every change of the file by any program raises; nothing where the file counts otherwise.
-  std::optional<std::uint32_t> ChangeCounter() const;
+  /// Nothing where the file does not count its changes itself.
+  std::optional<FileState> State() const;
+  /// True when the name leads to another file by now, or to none.
+  bool HasMoved() const;
 
   Statement Prepare(std::string_view sql) const { return {*this, sql, sql}; }
   Statement Prepare(std::string_view sql, std::string_view text) const { return {*this, sql, text}; }

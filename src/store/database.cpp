@@ -158,7 +158,8 @@ Database::~Database() = default;
 const std::filesystem::path& Database::File() const { return impl_->Connected().File(); }
 bool Database::IsPrivateCopy() const { return impl_->Connected().IsPrivateCopy(); }
 bool Database::MayBeWritten() const { return impl_->Connected().MayBeWritten(); }
-std::optional<std::uint32_t> Database::ChangeCounter() const { return impl_->Connected().ChangeCounter(); }
+std::optional<FileState> Database::State() const { return impl_->Connected().State(); }
+bool Database::HasMoved() const { return impl_->Connected().HasMoved(); }
 void Database::Hold() { impl_->Hold(); }
 void Database::LetGo() { impl_->LetGo(); }
 

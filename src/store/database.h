@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/numbers/value.h"
+#include "store/file_state.h"
 #include "store/recordset.h"
 #include "store/schema/schema.h"
 
@@ -43,9 +44,11 @@ class Database {
   bool IsPrivateCopy() const;
   /// False when file, folder or the way it was opened leave no way to write it.
   bool MayBeWritten() const;
-  /// The number that every change by any program raises; nothing where the file counts otherwise. Asked while
-  /// the state is held it belongs to that state.
-  std::optional<std::uint32_t> ChangeCounter() const;
+  /// How the file stands; nothing where it does not count its changes itself. Asked while the state is held
+  /// it is that of what is read.
+  std::optional<FileState> State() const;
+  /// True when the name leads to another file by now, or to none.
+  bool HasMoved() const;
 
   /// From now on all reads see one state, that of now, and other programs wait with their changes, until
   /// `LetGo` or the first write of one's own.

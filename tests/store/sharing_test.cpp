@@ -158,12 +158,22 @@ TEST_F(ASharedFile, keeps_its_locks_when_it_is_opened_a_second_time) {
 
 TEST_F(ASharedFile, counts_its_changes) {
   Database ours = Database::Open(file_);
-  const auto before = ours.ChangeCounter();
+  const auto before = ours.State();
   ASSERT_TRUE(before);
-  EXPECT_EQ(ours.ChangeCounter(), before);
+  EXPECT_EQ(ours.State(), before);
   test::RunPlain(file_, "UPDATE T SET a = 2");
-  EXPECT_NE(ours.ChangeCounter(), before);
-  EXPECT_EQ(Database::OpenReadOnly(file_).ChangeCounter(), ours.ChangeCounter());
+  EXPECT_NE(ours.State(), before);
+  EXPECT_EQ(Database::OpenReadOnly(file_).State(), ours.State());
+}
+
+TEST_F(ASharedFile, tells_when_another_file_stands_under_its_name) {
+  const Database ours = Database::Open(file_);
+  const auto before = ours.State();
+  EXPECT_FALSE(ours.HasMoved());
+  std::filesystem::copy_file(file_, folder_ / "other");
+  std::filesystem::rename(folder_ / "other", file_);
+  EXPECT_TRUE(ours.HasMoved());
+  EXPECT_NE(Database::Open(file_).State(), before);
 }
 
 TEST_F(ASharedFile, is_copied_for_oneself_alone) {

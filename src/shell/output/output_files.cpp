@@ -75,13 +75,13 @@ bool ReplacesAnotherKind(const OutputFile& output) {
   return !IsOfKind(output, FirstBytes(resolved));
 }
 
-std::optional<fs::path> NamedTwice(std::span<const OutputFile> outputs) {
+std::optional<std::pair<std::size_t, std::size_t>> NamedTwice(std::span<const OutputFile> outputs) {
   for (std::size_t i = 0; i < outputs.size(); ++i) {
     for (std::size_t k = 0; k < i; ++k) {
       std::error_code not_there;
       if (fs::equivalent(outputs[i].path, outputs[k].path, not_there) ||
           Resolved(outputs[i].path) == Resolved(outputs[k].path)) {
-        return outputs[i].path;
+        return std::pair(k, i);
       }
     }
   }

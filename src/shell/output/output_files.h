@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace rbt {
 
-/// What a file that the user names is to hold. Each kind is told by its first bytes, a CSV file by its name too.
+/// What a file that the user names is to hold. Each kind is told by its first bytes, a CSV file by its name
+/// too.
 enum class OutputKind { pdf, trace, csv };
 
 struct OutputFile {
@@ -20,7 +23,7 @@ struct OutputFile {
 void RequireOutputPlace(const std::filesystem::path& file);
 /// True where a file of another kind stands under the name; the user is asked before it goes.
 bool ReplacesAnotherKind(const OutputFile& output);
-/// Two of the files that are one, by whatever names; nothing when all differ.
-std::optional<std::filesystem::path> NamedTwice(std::span<const OutputFile> outputs);
+/// The places of two of the files that are one, by whatever names; nothing when all differ.
+std::optional<std::pair<std::size_t, std::size_t>> NamedTwice(std::span<const OutputFile> outputs);
 
 }  // namespace rbt
