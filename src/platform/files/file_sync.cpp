@@ -46,7 +46,9 @@ void MakeFolders(const fs::path& folder) {
   SyncFolder(above);
 }
 
-MadeFolder::MadeFolder(fs::path folder) : path_(std::move(folder)), made_(!IsTaken(path_)) { MakeFolders(path_); }
+MadeFolder::MadeFolder(fs::path folder) : path_(std::move(folder)), made_(!IsTaken(path_)) {
+  MakeFolders(path_);
+}
 
 MadeFolder::~MadeFolder() {
   std::error_code error;

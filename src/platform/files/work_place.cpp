@@ -21,7 +21,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kMark = ".rbk-import-";
 /// What every name of a file in work begins with.
 constexpr std::string_view kFamilyMark = ".rbk-";
 constexpr std::chrono::hours kOld{24};
@@ -67,7 +66,7 @@ WorkPlace::WorkPlace(fs::path folder)
   if (!lock_.IsOpen()) return;
   // Nobody else is at work there when the folder can be had alone.
   if (Lock(lock_, LOCK_EX | LOCK_NB)) {
-    Remove(folder_, [](const fs::path& name) { return HasMark(name, kMark); });
+    Remove(folder_, [](const fs::path& name) { return HasMark(name, kWorkPlaceMark); });
   }
   Share(lock_, folder_);
 }
@@ -78,6 +77,6 @@ void RemoveOldLeftovers(const fs::path& folder) {
   Remove(folder, [](const fs::path& name) { return HasMark(name, kFamilyMark) && IsOld(name); });
 }
 
-fs::path WorkPlace::NewName() const { return NewNameIn(folder_, kMark); }
+fs::path WorkPlace::NewName() const { return NewNameIn(folder_, kWorkPlaceMark); }
 
 }  // namespace rbt

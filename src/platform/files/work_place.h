@@ -2,10 +2,14 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "platform/files/file_descriptor.h"
 
 namespace rbt {
+
+/// What the names of files and folders in work begin with there.
+inline constexpr std::string_view kWorkPlaceMark = ".rbk-import-";
 
 /// The folder in which an import has its files in work, under names of its own that no program of the family
 /// looks for. What an import that was killed has left there goes first, unless another import is at work in
