@@ -113,6 +113,7 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   ApplySelection(options, Selection);
   TakeRange(row->range, options, common);
   TallyResult result = CountTally(row->kind);
+  SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;
 }

@@ -132,7 +132,15 @@ void CommandLine::FormOption(const std::string& name, const std::string& form,
       ->type_name(form);
 }
 
-void CommandLine::RootOption() { TextOption("--root", "DIR", root_, "the root folder; default $RBK_ROOT"); }
+void CommandLine::RootOption() {
+  TextOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
+}
+
+void CommandLine::WaitOption() {
+  constexpr std::int64_t kDay = 86'400;
+  NumberOption("--wait", order_.wait_seconds, 0, kDay,
+               "seconds to wait for a file that another program holds");
+}
 
 std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc, char** argv) {
   Order order;
@@ -141,7 +149,7 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
   std::vector<std::pair<CLI::App*, Action>> lines;
   for (const Command& command : commands) {
     CLI::App* line = app.add_subcommand(std::string(command.name), std::string(command.description));
-    CommandLine command_line(*line, order.root);
+    CommandLine command_line(*line, order);
     lines.emplace_back(line, command.define(command_line));
   }
   RequireCommand(commands, argc, argv);

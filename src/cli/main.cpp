@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
 #include <csignal>
 #include <exception>
 #include <optional>
@@ -25,6 +26,7 @@ void Run(int argc, char** argv) {
   const std::optional<Order> order = ReadCommandLine(Commands(), argc, argv);
   if (!order) return;
   if (!order->root.empty()) Services.Root = order->root;
+  Services.LockPatience = std::chrono::seconds(order->wait_seconds);
   order->action();
 }
 

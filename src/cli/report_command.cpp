@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,6 +10,7 @@
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
 #include "cli/options.h"
+#include "cli/output_options.h"
 #include "platform/files/files.h"
 #include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
@@ -35,6 +35,7 @@ struct ReportOptions {
   std::string date;
   std::string pdf;
   std::string trace;
+  bool force = false;
 };
 
 std::vector<std::string> ReportNames() {
@@ -76,14 +77,10 @@ void WriteDocuments(const Documents& documents, const ReportOptions& options) {
   if (!options.pdf.empty()) WritePdf(documents, options.pdf);
 }
 
-/// The two files are told apart, however their names are written.
 void RequireFiles(const ReportOptions& options) {
-  namespace fs = std::filesystem;
   if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
-  if (options.pdf.empty() || options.trace.empty()) return;
-  if (fs::absolute(options.pdf).lexically_normal() == fs::absolute(options.trace).lexically_normal()) {
-    throw UsageError("-o and --trace name the same file " + options.pdf);
-  }
+  RequireOutputs({{"-o", {options.pdf, OutputKind::pdf}}, {"--trace", {options.trace, OutputKind::trace}}},
+                 options.force);
 }
 
 void RunReport(const ReportOptions& options) {
@@ -115,6 +112,7 @@ Action DefineReport(CommandLine& line) {
                   "the date as typed, the year of the era with era dates; default today");
   line.TextOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
   line.TextOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
+  AddForceOption(line, options->force);
   return [options] { RunReport(*options); };
 }
 

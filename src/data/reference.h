@@ -32,7 +32,8 @@ struct LongName {
   std::string name;         ///< 長い工事名, empty when null
   std::int32_t width = 50;  ///< 工事名区切り文字数, characters on the first line
 };
-/// The long name of a site. Where there is one and its width is null, 50 is written into the row.
+/// The long name of a site. Where there is one and its width is null, 50 is written into the row, unless the
+/// file may only be read.
 LongName ReadLongName(Database& master, std::string_view file_name);
 /// メーカーNo of a site, 0 when null.
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name);

@@ -191,5 +191,27 @@ TEST_F(StoppedImport, WithoutRoomInTheMidstOfTheRowsEndsTheImport) {
   EXPECT_THAT(Names(), ElementsAre("large.mdb", "old.mdb"));
 }
 
+TEST_F(StoppedImport, InPlaceASecondOneAtAnyMomentIsRefusedAndNothingIsLost) {
+  // How far the first one has come when the second begins.
+  for (int n = 1;; n += 3) {
+    SCOPED_TRACE(n);
+    std::string refusal;
+    try {
+      test::MeddleBeforeChange(
+          n, [&] { ImportJetFileInPlace(source_); },
+          [&] { refusal = test::FaultTextOf([&] { ImportJetFileInPlace(source_); }); });
+    } catch (const std::runtime_error&) {
+      break;  // it makes fewer changes
+    }
+    EXPECT_THAT(refusal,
+                ::testing::AnyOf(HasSubstr("another program is importing it"), HasSubstr("no Jet file")));
+    ExpectWhole(source_);
+    EXPECT_EQ(ReadFileBytes(KeptJetFile(source_)), jet_);
+    fs::remove(KeptJetFile(source_));
+    fs::remove(ReportFile(source_));
+    WriteFileAtomically(source_, jet_);
+  }
+}
+
 }  // namespace
 }  // namespace rbt::jet
