@@ -2,8 +2,8 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <variant>
 #include <string_view>
+#include <variant>
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
