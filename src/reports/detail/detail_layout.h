@@ -34,7 +34,8 @@ constexpr ClientPart DetailClient(float text_end) {
           .text_end = text_end};
 }
 
-/// The project's name on one line or two, in the same size as its label of four full-width characters.
+/// The project's name, on one line in the row of the second of two, in the same size as its label of four
+/// full-width characters.
 constexpr ProjectPart DetailProject(float text_end) {
   constexpr float kSize = 14;
   constexpr float kNameX = 500 + 4 * 20 * kSize;
@@ -46,10 +47,10 @@ constexpr ProjectPart DetailProject(float text_end) {
           .short_form = short_form,
           .long_form = form,
           .broken_form = form,
-          .short_row = {2.5},
+          .short_row = {3.5},
           .short_rule_row = std::nullopt,
-          .long_row = {2.5},
-          .long_row_over_sub_project = {2.5},
+          .long_row = {3.5},
+          .long_row_over_sub_project = {3.5},
           .first_row = {2.5},
           .second_row = {3.5},
           .short_name_width = text_end - kNameX,

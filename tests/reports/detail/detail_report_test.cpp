@@ -306,9 +306,9 @@ TEST_F(DetailReport, OnA4LandscapeTheHeadStandsAtItsPlaces) {
   EXPECT_EQ(page_.TextAt(500, 1085), "見本建設　御中");
   EXPECT_EQ(page_.TextOf("見本建設　御中").font_size, 14);
   EXPECT_EQ(page_.RuleAt(1085 + 280, 500).x2, 500 + 7 * 280 + 100);
-  EXPECT_EQ(page_.TextAt(500, 1475), "工事名  ");
-  EXPECT_EQ(page_.TextAt(1620, 1475), "見本町住宅");
-  EXPECT_EQ(page_.RuleAt(1475 + 280, 500).x2, 1620 + 5 * 280 + 100);
+  EXPECT_EQ(page_.TextAt(500, 1865), "工事名  ");
+  EXPECT_EQ(page_.TextAt(1620, 1865), "見本町住宅");
+  EXPECT_EQ(page_.RuleAt(1865 + 280, 500).x2, 1620 + 5 * 280 + 100);
   EXPECT_EQ(page_.TextAt(700, 2450), "総重量          336 Kg");
   EXPECT_EQ(page_.RuleAt(2450 + 280, 500).x2, 4400);
   EXPECT_EQ(page_.TextAt(7000, 2450), "取付総重量          280 Kg");
@@ -333,8 +333,8 @@ TEST_F(DetailReport, FromATonneOnTheTotalIsOfTonnesAndKilograms) {
 TEST_F(DetailReport, ALongNameStandsOnOneLineOrTwo) {
   sheet_.site.long_name = "見本町再開発業務棟新築工事";
   Draw(kMeisaiA4Y);
-  EXPECT_EQ(page_.TextAt(500, 1475), "工事名　");
-  EXPECT_EQ(page_.TextAt(1620, 1475), "見本町再開発業務棟新築工事");
+  EXPECT_EQ(page_.TextAt(500, 1865), "工事名　");
+  EXPECT_EQ(page_.TextAt(1620, 1865), "見本町再開発業務棟新築工事");
   sheet_.site.koji_break = 6;
   Draw(kMeisaiA4Y);
   EXPECT_EQ(page_.TextAt(500, 1475), "工事名　");
@@ -348,7 +348,7 @@ TEST_F(DetailReport, WithoutAClientThereIsNoLineOfOneAndTheRestStays) {
   sheet_.site.client = "";
   Draw(kMeisaiA4Y);
   EXPECT_FALSE(page_.Has("御中"));
-  EXPECT_EQ(page_.TextOf("工事名  ").y, 1475);
+  EXPECT_EQ(page_.TextOf("工事名  ").y, 1865);
 }
 
 TEST_F(DetailReport, TheDateStandsInTheMiddleOrAtTheRight) {
