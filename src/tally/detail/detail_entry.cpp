@@ -46,7 +46,7 @@ bool IsCountText(std::string_view text) { return IsMadeOf(text, "0123456789,"); 
 double PercentOfText(std::string_view text) { return IsDecimal(text) ? LeadingNumber(text) : 0.0; }
 
 std::int32_t CountOfText(std::string_view text) {
-  return ToInt32(LeadingNumber(ReplaceAll(text, ",", "")), "count " + std::string(text));
+  return ToInt32(LeadingNumber(ReplaceAll(text, ",", "")), "count");
 }
 
 std::optional<DetailCell> CellOfWords(std::string_view row, std::string_view column, int columns) {

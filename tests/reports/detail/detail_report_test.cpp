@@ -588,7 +588,7 @@ TEST_F(FullDetailPage, ATallBlockOfTheOwnCompanyLowersMemosAndTableByALine) {
   sheet_.arguments.Detail.MemoPosition = MemoPlace::above;
   Draw(kMeisaiA4Y);
   EXPECT_EQ(page_.TextOf("D 10").y, test::TableTextY(true, 0));
-  FillCompany("工場の住所");
+  FillLowestCompany();
   Draw(kMeisaiA4Y);
   EXPECT_EQ(page_.TextOf("D 10").y, test::TableTextY(true, 0) + 390);
   EXPECT_EQ(page_.TextOf(sheet_.arguments.Detail.Memos[0]).y, 2801 + 390);
