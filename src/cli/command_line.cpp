@@ -47,6 +47,14 @@ void RequireCommand(std::span<const Command> commands, int argc, char** argv) {
   throw UsageError("unknown command " + first);
 }
 
+/// Refuses what `take` does not take as the value of an option of that form.
+std::function<void(const std::string& text)> Taker(const std::string& name, const std::string& form,
+                                                   std::function<bool(const std::string& text)> take) {
+  return [take = std::move(take), name, form](const std::string& text) {
+    if (!take(text)) throw CLI::ValidationError(name, text + " is not of the form " + form);
+  };
+}
+
 }  // namespace
 
 void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
@@ -122,14 +130,16 @@ template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::
 void CommandLine::FormOption(const std::string& name, const std::string& form,
                              std::function<bool(const std::string& text)> take,
                              const std::string& description) {
-  line_
-      .add_option_function<std::string>(
-          name,
-          [take = std::move(take), name, form](const std::string& text) {
-            if (!take(text)) throw CLI::ValidationError(name, text + " is not of the form " + form);
-          },
-          description)
+  line_.add_option_function<std::string>(name, Taker(name, form, std::move(take)), description)
       ->type_name(form);
+}
+
+void CommandLine::RepeatedOption(const std::string& name, const std::string& form,
+                                 std::function<bool(const std::string& text)> take,
+                                 const std::string& description) {
+  line_.add_option_function<std::string>(name, Taker(name, form, std::move(take)), description)
+      ->type_name(form)
+      ->trigger_on_parse();
 }
 
 void CommandLine::RootOption() {

@@ -59,6 +59,10 @@ class CommandLine {
   /// A text of a form of its own, "A-B": `take` says whether it is one.
   void FormOption(const std::string& name, const std::string& form,
                   std::function<bool(const std::string& text)> take, const std::string& description);
+  /// The same, any number of times: `take` is asked in the order of the words, also among several such
+  /// options.
+  void RepeatedOption(const std::string& name, const std::string& form,
+                      std::function<bool(const std::string& text)> take, const std::string& description);
   /// `--root` and `--wait`, which main puts in force.
   void RootOption();
   void WaitOption();

@@ -66,6 +66,15 @@ LongName ReadLongName(Database& master, std::string_view file_name) {
   return found;
 }
 
+SteelSupply ReadSteelSupply(Database& master, std::string_view file_name) {
+  Recordset rows =
+      master.OpenSnapshot("SELECT 支給形態 FROM 工事テーブル WHERE データパス=" + QuotedText(file_name, '"'));
+  RequireSite(rows, file_name);
+  const bool supplied =
+      IntegerOrZero(rows, rows.Field("支給形態")) == static_cast<std::int32_t>(SteelSupply::supplied);
+  return supplied ? SteelSupply::supplied : SteelSupply::own;
+}
+
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name) {
   Recordset rows = master.OpenSnapshot("SELECT メーカーNo FROM 工事テーブル WHERE データパス=" +
                                        QuotedText(file_name, '"'));

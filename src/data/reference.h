@@ -37,6 +37,10 @@ struct LongName {
 LongName ReadLongName(Database& master, std::string_view file_name);
 /// メーカーNo of a site, 0 when null.
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name);
+/// Who supplies the steel of a site, 支給形態.
+enum class SteelSupply : std::int32_t { own = 0, supplied = 1 };
+/// That of a site; null and numbers without a meaning count as own.
+SteelSupply ReadSteelSupply(Database& master, std::string_view file_name);
 
 /// What a site's row of `工事テーブル` tells of its bars, by diameter D10, D13, ..., D51.
 struct SiteGrades {

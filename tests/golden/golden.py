@@ -6,7 +6,8 @@ usage: golden.py check RBTALLY [SITE]     fails at any difference, at a missing 
        golden.py accept RBTALLY [SITE]    shows each difference, then asks whether to take it (--yes: takes all)
 
 A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then lines
-`report OPTIONS` with the options that every form is drawn with. A trace is SITE.FORM.trace.
+`report OPTIONS` or `list OPTIONS`: the options that each comparison and Ulbon form, or each purchase list, is drawn
+with. A trace is SITE.FORM.trace.
 """
 import difflib
 import pathlib
@@ -18,7 +19,10 @@ HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "end_to_end"))
 import scenario  # noqa: E402
 
-FORMS = [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")] + ["ulbon"]
+FORMS = {
+    "report": [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")] + ["ulbon"],
+    "list": ["meisai-a4t", "meisai-a4t-count", "meisai-a4y", "meisai-a4y-count"],
+}
 
 
 class Site:
@@ -27,13 +31,16 @@ class Site:
     def __init__(self, program, file, folder):
         self.name = file.stem
         self.world = scenario.World(program, folder)
-        self.options = []
+        self.family, self.options = "", []
         for line in file.read_text(encoding="utf-8").splitlines():
             words = shlex.split(line, comments=True)
-            if words[:1] == ["report"]:
-                self.options = words[1:]
+            if words[:1] in (["report"], ["list"]):
+                self.family, *self.options = words
             elif words:
                 scenario.DIRECTIVES[words[0]](self.world, words[1:])
+
+    def forms(self):
+        return FORMS[self.family]
 
     def run(self, *words):
         self.world.run(shlex.join(["rbtally", *words]))
@@ -68,7 +75,7 @@ def difference(file, trace):
 def check(program, names):
     failures, known = [], set()
     for site in sites(program, names):
-        for form in FORMS:
+        for form in site.forms():
             file = golden_file(site, form)
             known.add(file)
             if not file.exists():
@@ -86,7 +93,7 @@ def check(program, names):
 
 def accept(program, names, take_all):
     for site in sites(program, names):
-        for form in FORMS:
+        for form in site.forms():
             file, trace = golden_file(site, form), site.trace(form)
             text = difference(file, trace)
             if not text:

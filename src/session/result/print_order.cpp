@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "session/result/print_order.h"
 
-#include "platform/print/diverted_deliveries.h"
-#include "platform/system/printing.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
@@ -15,19 +13,11 @@ void Print(const PrintOrder& order) {
   PrintForm(order.ulbon ? UlbonForm() : ChosenComparison(order.paper), arguments, order.result);
 }
 
-/// The documents that are for the user's eyes.
-std::vector<PrintedDocument> PrintKeepingPreviews(const PrintOrder& order) {
-  using From = DivertedDeliveries::From;
-  DivertedDeliveries diverted(Printers(), order.preview ? From::every_device : From::pdf_device);
-  Print(order);
-  return diverted.Take();
-}
-
 }  // namespace
 
 void CarryOut(const PrintOrder& order, const Preview& preview) {
-  std::vector<PrintedDocument> documents = PrintKeepingPreviews(order);
-  if (!documents.empty()) preview(std::move(documents));
+  PrintOrShow(
+      order.preview, [&] { Print(order); }, preview);
 }
 
 }  // namespace rbt

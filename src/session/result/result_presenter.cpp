@@ -24,11 +24,6 @@ constexpr std::string_view kAllKindsAfterReset = "異形・高強度・ネジ・
 constexpr std::string_view kHoopsNote = "(形状No87)を";
 constexpr std::string_view kHoopsAloneNote = "(形状No87)";
 
-std::optional<RowColours> AlternateColours() {
-  if (Settings.AlternateRowColours != 1) return std::nullopt;
-  return RowColours{Settings.GridRowBackColor, Settings.GridRowForeColor};
-}
-
 }  // namespace
 
 ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)

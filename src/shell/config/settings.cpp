@@ -105,6 +105,12 @@ void WriteSteelIni(const IniKey& key, std::string_view value) {
   WriteProfileText(MapPath(kSteelIni), key.section, key.key, value);
 }
 
+std::string ReadHandOver(std::string_view key) { return ReadIniText(kNextPrgIni, kHandOverSection, key, ""); }
+
+void WriteHandOver(std::string_view key, std::string_view value) {
+  WriteProfileText(MapPath(kNextPrgIni), kHandOverSection, key, value);
+}
+
 std::string ReadSetting(std::string_view app, std::string_view section, std::string_view key,
                         std::string_view fallback) {
   return ReadSetting(TextKey{app, section, key, fallback});

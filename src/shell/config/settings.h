@@ -46,6 +46,12 @@ std::int32_t ReadSteelIniColour(const IniKey& key);
 /// page 932 lacks.
 void WriteSteelIni(const IniKey& key, std::string_view value);
 
+/// A key of the hand-over between the programs of the family, section `データ` of `NEXTPRG.INI`: empty when
+/// it is missing.
+std::string ReadHandOver(std::string_view key);
+/// Faults as those of `WriteSteelIni`.
+void WriteHandOver(std::string_view key, std::string_view value);
+
 inline constexpr std::string_view kSteelIni = "\\RBK\\DATA\\STEEL.INI";
 inline constexpr std::string_view kNextPrgIni = "\\RBK\\DATA\\NEXTPRG.INI";
 

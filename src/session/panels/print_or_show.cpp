@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "session/panels/print_or_show.h"
+
+#include <utility>
+
+#include "platform/print/diverted_deliveries.h"
+#include "platform/system/printing.h"
+
+namespace rbt {
+
+namespace {
+
+/// The documents that are for the user's eyes.
+std::vector<PrintedDocument> PrintKeepingPreviews(bool look_first, const std::function<void()>& print) {
+  using From = DivertedDeliveries::From;
+  DivertedDeliveries diverted(Printers(), look_first ? From::every_device : From::pdf_device);
+  print();
+  return diverted.Take();
+}
+
+}  // namespace
+
+void PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview) {
+  std::vector<PrintedDocument> documents = PrintKeepingPreviews(look_first, print);
+  if (!documents.empty()) preview(std::move(documents));
+}
+
+}  // namespace rbt
