@@ -30,10 +30,7 @@ std::string TextOf(const TallyResult& result, const std::string& format) {
   const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
   const auto captions = DetailCaptions(layout);
   const GridRows rows = DetailRows(result.Grid(), layout);
-  if (format == "csv") return GridCsv(captions, rows);
-  GridRows lines{{captions.begin(), captions.end()}};
-  lines.insert(lines.end(), rows.begin(), rows.end());
-  return GridTable(lines);
+  return format == "csv" ? GridCsv(captions, rows) : GridTable(captions, rows);
 }
 
 void RunDetail(const DetailOptions& options) {

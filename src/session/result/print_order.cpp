@@ -16,7 +16,8 @@ void Print(const PrintOrder& order) {
 }  // namespace
 
 void CarryOut(const PrintOrder& order, const Preview& preview) {
-  PrintOrShow(order.preview, [&] { Print(order); }, preview);
+  PrintOrShow(
+      order.preview, [&] { Print(order); }, preview);
 }
 
 }  // namespace rbt

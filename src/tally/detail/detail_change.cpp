@@ -7,25 +7,21 @@
 #include "data/diameters.h"
 #include "platform/numbers/number_words.h"
 #include "tally/closing_sums.h"
+#include "tally/floorpart/cell_weights.h"
 
 namespace rbt {
 
 namespace {
 
-/// Whole kilograms of so many stock bars. The product is brought to four decimals before it is rounded: 50
-/// bars of 9.45 kg are 472.5 kg and weigh 473, which the binary fraction of 9.45 alone would deny.
-Currency WeightOfBars(int d, int l, std::int32_t bars) {
-  return WholeKilograms(Currency::FromDouble(bars * BarWeight(d, l)));
-}
-
 std::int32_t Raised(std::int32_t count, double percent, int d, int l) {
   const double raised = count + Fix(percent / 100.0 * count + 0.5);
-  return ToInt32(raised, std::string(DiameterLabel(d)) + " " + std::string(kStockLengthTexts.at(static_cast<std::size_t>(l))));
+  return ToInt32(raised, std::string(DiameterLabel(d)) + " " +
+                             std::string(kStockLengthTexts.at(static_cast<std::size_t>(l))));
 }
 
 void PutBars(TallyTable& table, const BarCell& cell, std::int32_t bars) {
   table.BarCount[cell.d][cell.l] = bars;
-  table.StockWeight[cell.d][cell.l] = WeightOfBars(cell.d, cell.l, bars);
+  table.StockWeight[cell.d][cell.l] = StockKilograms(cell.d, cell.l, bars);
 }
 
 }  // namespace
