@@ -11,6 +11,7 @@ with. A trace is SITE.FORM.trace.
 """
 import difflib
 import pathlib
+import re
 import shlex
 import sys
 import tempfile
@@ -19,10 +20,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "end_to_end"))
 import scenario  # noqa: E402
 
-FORMS = {
-    "report": [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")] + ["ulbon"],
-    "list": ["meisai-a4t", "meisai-a4t-count", "meisai-a4y", "meisai-a4y-count"],
-}
+# The forms that a site's options are for, by the beginning of their names; the names are the program's own.
+FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",)}
 
 
 class Site:
@@ -39,8 +38,11 @@ class Site:
             elif words:
                 scenario.DIRECTIVES[words[0]](self.world, words[1:])
 
+    def all_forms(self):
+        return re.search(r"NAME TEXT:\{([^}]*)\}", self.run("report", "--help")).group(1).split(",")
+
     def forms(self):
-        return FORMS[self.family]
+        return [form for form in self.all_forms() if form.startswith(FAMILIES[self.family])]
 
     def run(self, *words):
         self.world.run(shlex.join(["rbtally", *words]))
@@ -73,8 +75,9 @@ def difference(file, trace):
 
 
 def check(program, names):
-    failures, known = [], set()
+    failures, known, undrawn = [], set(), set()
     for site in sites(program, names):
+        undrawn |= {form for form in site.all_forms() if not form.startswith(sum(FAMILIES.values(), ()))}
         for form in site.forms():
             file = golden_file(site, form)
             known.add(file)
@@ -84,6 +87,7 @@ def check(program, names):
                 failures.append(text)
     if not names:
         failures += [f"{file.name} belongs to no form" for file in HERE.glob("*.trace") if file not in known]
+    failures += [f"no site draws {form}" for form in sorted(undrawn)]
     if not known:
         failures.append(f"no such site: {' '.join(names)}")
     for failure in failures:
