@@ -17,7 +17,6 @@ using test::FloorSite;
 using test::Kg;
 using test::kNull;
 using test::Number;
-using test::ScheduleSite;
 using testing::ElementsAre;
 
 const Fields kThin = {{"太さ", Number(9)},
