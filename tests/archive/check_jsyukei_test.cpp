@@ -173,6 +173,7 @@ TEST_F(CheckJSyukei, AFullDiskIsAFaultAndLeavesTheSiteAsItWas) {
   const std::string bytes = ReadFileBytes(site_.Data(kScheduleFile));
   EXPECT_TRUE(
       WithFilesOfAtMost(512, [&] { EXPECT_THAT(FaultTextOf([&] { Ready(); }), HasSubstr("GENBA001.MDB")); }));
+  EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), bytes);
   EXPECT_THAT(Tables(kScheduleFile), SizeIs(3));
 }
 
