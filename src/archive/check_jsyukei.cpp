@@ -11,6 +11,7 @@
 
 #include "data/table_layouts.h"
 #include "platform/fault.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
@@ -122,25 +123,18 @@ bool HasLeftovers(const Template& wanted) {
   return std::ranges::any_of(kLeftovers, [&](const Leftover& each) { return IsLeftover(each, wanted); });
 }
 
-/// Tallies can be run on a site whose rows stand against the template; only saving fails.
-bool StandsAgainstTemplate(const Fault& fault) {
-  return fault.Kind() != FaultKind::storage && fault.Kind() != FaultKind::locked &&
-         fault.Kind() != FaultKind::file;
-}
-
 /// Looks before it locks, and again when it has.
 void Ready(const Template& wanted, bool drops_leftovers) {
   const bool is_ready = !(drops_leftovers && HasLeftovers(wanted)) &&
                         (wanted == nullptr || std::ranges::all_of(*wanted, IsUpToDate));
   if (is_ready || !OpenSite().MayBeWritten()) return;
-  try {
+  // Tallies can be run on a site whose rows stand against the template; only saving fails.
+  PassOverFaultsOfContent([&] {
     Transaction transaction(OpenSite());
     if (drops_leftovers) DropLeftovers(wanted);
     if (wanted != nullptr) std::ranges::for_each(*wanted, BringUpToDate);
     transaction.Commit();
-  } catch (const Fault& fault) {
-    if (!StandsAgainstTemplate(fault)) throw;
-  }
+  });
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
 /// The pages of a usage map, none when it cannot be read.
 std::vector<std::uint32_t> PagesIfReadable(JetFile& file, RowPointer map) {
   std::vector<std::uint32_t> pages;
-  PassOverFaults([&] { pages = PagesOfUsageMap(file, map); });
+  PassOverFaultsOfContent([&] { pages = PagesOfUsageMap(file, map); });
   return pages;
 }
 

@@ -80,6 +80,10 @@ Connection::Connection(const std::filesystem::path& file, OpenMode mode) : Conne
   RequireShortPath(file);
   Open(PlainName(file), mode == OpenMode::read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
   RequireStoreMark(file, Bytes(0, kMarkBytes));
+  if (mode == OpenMode::read_only && NeedsRecovery()) {
+    // Whoever reads behind a program that was killed while it wrote has to bring the last whole state back.
+    const Connection recovering(file, OpenMode::read_write);
+  }
   Configure();
   RequireSound();
   if (sqlite3_db_readonly(Handle(), "main") == 0) RunSetting("PRAGMA journal_mode=DELETE");
@@ -108,7 +112,7 @@ void Connection::Open(const std::string& name, int flags) {
   const int code = sqlite3_open_v2(name.c_str(), &connection,
                                    flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
-  if (code == SQLITE_OK) return;
+  if (code == SQLITE_OK) return patience_->WatchOver(connection);
   const int cause = connection == nullptr ? 0 : sqlite3_system_errno(connection);
   if (cause != 0) throw FileFault(file_, "cannot be opened", cause);
   throw FileFaultText(file_, sqlite3_errstr(code));
@@ -116,7 +120,6 @@ void Connection::Open(const std::string& name, int flags) {
 
 void Connection::Configure() const {
   sqlite3* const connection = Handle();
-  patience_->WatchOver(connection);
   constexpr std::pair<int, int> kSwitches[] = {
       {SQLITE_DBCONFIG_DQS_DML, 0},        {SQLITE_DBCONFIG_DQS_DDL, 0},
       {SQLITE_DBCONFIG_DEFENSIVE, 1},      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
@@ -129,8 +132,15 @@ void Connection::Configure() const {
   RegisterJetFunctions(connection);
 }
 
-/// The header and every table's definition.
-void Connection::RequireSound() const { RunSetting("SELECT count(*) FROM sqlite_master"); }
+/// Reads the header and every table's definition.
+constexpr const char* kReadDefinitions = "SELECT count(*) FROM sqlite_master";
+
+void Connection::RequireSound() const { RunSetting(kReadDefinitions); }
+
+bool Connection::NeedsRecovery() const {
+  const int code = sqlite3_exec(Handle(), kReadDefinitions, nullptr, nullptr, nullptr);
+  return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY;
+}
 
 void Connection::RunSetting(const char* sql) const {
   const int code = sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr);

@@ -110,6 +110,7 @@ class Connection {
   void RequireDatabase() const;
   void Configure() const;
   void RequireSound() const;
+  bool NeedsRecovery() const;
   void RunSetting(const char* sql) const;
   std::string Bytes(std::int64_t at, int count) const;
 

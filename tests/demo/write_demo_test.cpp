@@ -157,5 +157,23 @@ TEST_F(WriteDemoTest, that_cannot_be_written_names_the_file_and_leaves_nothing) 
   EXPECT_FALSE(fs::exists(Root()));
 }
 
+TEST_F(WriteDemoTest, with_a_system_call_that_fails_is_a_fault_or_whole_and_stands_in_no_ones_way) {
+  if (!test::CanFailCalls()) GTEST_SKIP() << "calls cannot be made to fail on this machine";
+  const auto make = [&] { WriteDemo(Root(), {1, 0, 1}); };
+  int faults = 0;
+  for (int n = 1;; n += test::FailingCallStep(61)) {
+    SCOPED_TRACE(n);
+    const test::Ending ending = test::WithFailingCall(n, [&] { return (make(), true); });
+    if (ending == test::Ending::too_few_calls) break;
+    EXPECT_NE(ending, test::Ending::crash);
+    if (ending == test::Ending::fault) ++faults;
+    EXPECT_TRUE(ending == test::Ending::fault || fs::exists(Root() / "DATA" / "STEEL.INI"));
+    if (!fs::exists(Root() / "DATA")) make();
+    EXPECT_TRUE(fs::exists(Root() / "DATA" / "STEEL.INI"));
+    fs::remove_all(Root());
+  }
+  EXPECT_GT(faults, 5);
+}
+
 }  // namespace
 }  // namespace rbt::demo

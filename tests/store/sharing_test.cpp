@@ -176,6 +176,21 @@ TEST_F(ASharedFile, tells_when_another_file_stands_under_its_name) {
   EXPECT_NE(Database::Open(file_).State(), before);
 }
 
+TEST_F(ASharedFile, is_read_also_when_its_writer_was_killed) {
+  test::RunPlain(file_,
+                 "WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM c WHERE i<5000) INSERT INTO T "
+                 "SELECT 1, 1 FROM c");
+  int half_written = 0;
+  for (int n = 1;
+       test::KilledBeforeChange(n, [&] { Database::Open(file_).Execute("UPDATE T SET a = a + 1"); }); ++n) {
+    if (std::filesystem::exists(file_.string() + "-journal")) ++half_written;
+    Database ours = Database::OpenReadOnly(file_);
+    Recordset rows = ours.OpenSnapshot("SELECT Min(a) AS x, Max(a) AS y FROM T");
+    EXPECT_EQ(rows.Int32(rows.Field("x")), rows.Int32(rows.Field("y"))) << n;
+  }
+  EXPECT_GT(half_written, 10);
+}
+
 TEST_F(ASharedFile, is_copied_for_oneself_alone) {
   const std::string bytes = ReadFileBytes(file_);
   Database original = Database::OpenReadOnly(file_);

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <fcntl.h>
@@ -246,6 +247,11 @@ void MeddleBeforeChange(int n, const std::function<void()>& action, const std::f
   }
   meddle();
   while (child.GoToChange()) continue;
+}
+
+int FailingCallStep(int usual) {
+  const char* const stress = std::getenv("RBTALLY_STRESS");
+  return stress != nullptr && std::strcmp(stress, "full") == 0 ? 1 : usual;
 }
 
 #ifdef __x86_64__

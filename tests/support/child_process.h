@@ -31,6 +31,8 @@ enum class Ending {
 /// `CanFailCalls`.
 Ending WithFailingCall(int n, const std::function<bool()>& action);
 bool CanFailCalls();
+/// How far apart the calls stand that a test lets fail: `usual`, or 1 where RBTALLY_STRESS is "full".
+int FailingCallStep(int usual);
 
 /// From now on the file system of this process, which is to be a child, gives no file a second name: as where
 /// it knows none, or where the file is another user's.

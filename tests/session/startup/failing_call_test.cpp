@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One system call of a start and a tally fails, whichever: the figure is right, or there is a fault with a
 // text, and the site is whole.
-#include <cstdlib>
 #include <map>
 #include <string>
 
@@ -18,12 +17,6 @@
 
 namespace rbt::test {
 namespace {
-
-/// How far apart the calls stand that are tried.
-int Step() {
-  const char* const stress = std::getenv("RBTALLY_STRESS");
-  return stress != nullptr && std::string_view(stress) == "full" ? 1 : 23;
-}
 
 class AFailingCall : public testing::Test {
  protected:
@@ -75,7 +68,7 @@ TEST_F(AFailingCall, OfAStartAndATallyIsAFaultOrNoMatter) {
   SiteContext = {};
   std::map<Ending, int> endings;
   int n = 1;
-  for (;; n += Step()) {
+  for (;; n += FailingCallStep(23)) {
     SCOPED_TRACE(n);
     Restore();
     const Ending ending = WithFailingCall(n, [&] { return Tally() == right; });
