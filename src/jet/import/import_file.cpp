@@ -116,9 +116,13 @@ auto OnTarget(const FileInWork& work, const fs::path& target, const std::string&
   }
 }
 
-/// A table that the store does not take is the Jet file's own matter.
-void MakeTable(const JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work) {
-  if (const auto fault = PassOverFaults([&] { database.CreateTable(mapping.target); })) {
+/// A table that the store does not take is the Jet file's own matter, a full disk is not.
+void MakeTable(const JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work,
+               const fs::path& target) {
+  const auto fault = OnTarget(work, target, "", [&] {
+    return PassOverFaultsOfContent([&] { database.CreateTable(mapping.target); });
+  });
+  if (fault) {
     file.Damaged(mapping.source.page,
                  fmt::format("table {} cannot be taken: {}", mapping.source.name, CauseIn(*fault, work)));
   }
@@ -137,7 +141,7 @@ void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const F
     const TableMapping mapping = MapTable(file, entry);
     report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
-    MakeTable(file, mapping, database, work);
+    MakeTable(file, mapping, database, work, report.target);
     RowCopy copy(file, mapping, database, report.warnings);
     const std::string a_row = "a row of " + entry.name;
     while (copy.ReadNext()) OnTarget(work, report.target, a_row, [&] { copy.Append(); });

@@ -97,6 +97,24 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
   NoteAsClassified(schedule);
 }
 
+void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
+  HoldClassifiedSchedule(start_mode);
+  Database& schedule = *SiteContext.WorkDatabase;
+  const std::vector<std::string> fills = FillStatements();
+  if (!schedule.WouldChangeTogether(fills)) return;
+  if (schedule.IsPrivateCopy()) {
+    FillFloorsAndParts(schedule);
+    return;
+  }
+  if (!MayBeWritten(schedule)) return PutCopyInPlace(fills);
+  Transaction transaction(schedule);
+  // The write let go of what was held: another start mode may have come in between.
+  schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
+  FillFloorsAndParts(schedule);
+  transaction.CommitAndHold();
+  NoteAsClassified(schedule);
+}
+
 ClassifiedSchedule::~ClassifiedSchedule() {
   if (SiteContext.WorkDatabase) SiteContext.WorkDatabase->LetGo();
 }

@@ -19,7 +19,10 @@ void RefreshAtActivation(const StartModeTraits& start_mode);
 /// ends the hold.
 void HoldClassifiedSchedule(const StartModeTraits& start_mode);
 
-/// The same for the life of the object: one tally of a window.
+/// The same with a floor and a part for every line, see `FillFloorsAndParts`: for the floor and part tallies.
+void HoldScheduleWithFloors(const StartModeTraits& start_mode);
+
+/// `HoldClassifiedSchedule` for the life of the object: one tally of a window.
 class ClassifiedSchedule {
  public:
   explicit ClassifiedSchedule(const StartModeTraits& start_mode) { HoldClassifiedSchedule(start_mode); }

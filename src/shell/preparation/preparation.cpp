@@ -94,9 +94,9 @@ std::vector<std::string> PreparationStatements(Database& schedule, const StartMo
   return statements;
 }
 
-void FillFloorsAndParts(Database& schedule) {
-  schedule.ExecuteTogether(std::vector<std::string>{std::string(kFillFloors), std::string(kFillParts)});
-}
+std::vector<std::string> FillStatements() { return {std::string(kFillFloors), std::string(kFillParts)}; }
+
+void FillFloorsAndParts(Database& schedule) { schedule.ExecuteTogether(FillStatements()); }
 
 void AddNameWorkColumns(Database& schedule, Database& companion) {
   AddColumnIfMissing(schedule, kSchedule, "登録名形状別作業用", kAddNameWorkColumn);

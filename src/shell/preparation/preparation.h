@@ -29,6 +29,8 @@ void RefreshSchedule(Database& schedule, const StartModeTraits& start_mode);
 /// tallied.
 std::vector<std::string> PreparationStatements(Database& schedule, const StartModeTraits& start_mode);
 
+/// The statements of `FillFloorsAndParts`.
+std::vector<std::string> FillStatements();
 /// No floor for a null `階`, no part for a null `部位`: before floors or parts are tallied.
 void FillFloorsAndParts(Database& schedule);
 

@@ -159,5 +159,27 @@ TEST_F(ClassifiedSchedules, AreThoseOfTheFileThatStandsUnderTheNameNow) {
   EXPECT_EQ(Ours(), "1/21");
 }
 
+TEST_F(ClassifiedSchedules, WithFloorsAreHeldToo) {
+  StartElsewhere(kOther);
+  HoldScheduleWithFloors(kUsual);
+  EXPECT_EQ(Ours(), "1/6");
+  EXPECT_THAT(site_.Column("階"), ElementsAre("78"));
+  EXPECT_THAT(site_.Column("部位"), ElementsAre("0"));
+  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
+}
+
+TEST_F(ClassifiedSchedules, WithFloorsOfASiteThatIsOnlyReadAreThoseOfACopy) {
+  for (const StartModeTraits& before : {kOther, kUsual}) {
+    StartElsewhere(before);
+    SiteContext.OnlyRead = true;
+    OpenWorkDatabase();
+    HoldScheduleWithFloors(kUsual);
+    EXPECT_EQ(Ours(), "1/6");
+    EXPECT_FALSE(
+        SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル WHERE IsNull(階) OR IsNull(部位)"));
+    EXPECT_THAT(site_.Column("階"), ElementsAre("null"));
+  }
+}
+
 }  // namespace
 }  // namespace rbt::test
