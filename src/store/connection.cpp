@@ -185,7 +185,8 @@ std::optional<FileState> Connection::State() const {
     return std::nullopt;
   }
   std::uint32_t changes = 0;
-  for (std::size_t i = 0; i < 4; ++i) changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
+  for (std::size_t i = 0; i < 4; ++i)
+    changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
   constexpr std::int64_t kNanoseconds = 1'000'000'000;
   return FileState{changes, status.st_ino, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
 }
