@@ -81,6 +81,7 @@ FloorPartPresenter::FloorPartPresenter(const FloorPartScreen& screen, FloorPartP
   BindChosenSite();
   ReadSchedule(*SiteContext.WorkDatabase);
   head_ = ReadFloorPartHead();
+  StampTime();
 }
 
 void FloorPartPresenter::ReadSchedule(Database& site) {
