@@ -143,6 +143,8 @@ TEST(FloorBoxesOfTheForm, TakeAMinusWithoutShift) {
   EXPECT_EQ(box->text(), "");
   form.Type("-x1-");
   EXPECT_EQ(box->text(), "-1");
+  box->setText("－１．５ＡＢ");
+  EXPECT_EQ(box->text(), "-1.5");
 }
 
 TEST(FloorBoxesOfTheForm, AreFilledByTheKeyAndTheButtons) {
@@ -309,6 +311,28 @@ TEST(FloorPartForms, RaiseByTheButtonToo) {
   form.Type("10");
   form.Click("Command2");
   EXPECT_EQ(form.Cell(0, 1), "149");
+}
+
+TEST(FloorPartForms, FitOnASmallScreenAtALargeScale) {
+  // 1366 x 768 at 150 %, without the window's frame.
+  constexpr QSize kSmall(900, 480);
+  for (const FloorPartScreen* screen : kBothForms) {
+    FloorPartDriver form(*screen);
+    const auto expect_fit = [&](const char* state) {
+      EXPECT_LE(form.form->minimumSizeHint().width(), kSmall.width()) << state;
+      EXPECT_LE(form.form->minimumSizeHint().height(), kSmall.height()) << state;
+    };
+    form.Open();
+    expect_fit("input");
+    form.Key(Qt::Key_F2);
+    form.Key(Qt::Key_F1);
+    expect_fit("result");
+    form.Key(Qt::Key_F1);
+    expect_fit("print buttons");
+    form.Key(Qt::Key_Escape);
+    form.Key(Qt::Key_F5);
+    expect_fit("uplift");
+  }
 }
 
 TEST(FloorForm, HidesTheRowNumber) {

@@ -139,7 +139,7 @@ TEST(FloorBoxes, OfABuildingBelowGroundAloneAreFilledDownwards) {
   js.site.AddRow(On(0, 1, TenBars(19, 1, 0)));
   js.OpenWithAll();
   EXPECT_EQ(Boxes(js.View()), "0|-3");
-  EXPECT_EQ(js.Labels(), "基礎階|3Ｂ階|合　計|");
+  EXPECT_EQ(js.Labels(), "基礎階|3Ｂ階|合　計|") << "an end below 0 takes the floors from the lowest to it";
 }
 
 TEST(FloorRun, AsksForTheFloorsThatAreMissingTheFirstOneFirst) {
