@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/panels/busy_notice.h"
 
+#include "desktop/texts.h"
 #include "ui_busy_notice.h"
 
 namespace rbt {
@@ -10,5 +11,7 @@ BusyNotice::BusyNotice(QWidget* parent) : QFrame(parent), ui_(std::make_unique<U
 }
 
 BusyNotice::~BusyNotice() = default;
+
+void BusyNotice::Tell(std::string_view words) { ui_->WaitMsgL->setText(Text(words)); }
 
 }  // namespace rbt

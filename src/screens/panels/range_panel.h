@@ -19,8 +19,7 @@ struct RangeIntents {
   std::function<void(std::size_t box)> enter;  ///< Enter in the box
 };
 
-/// The range of the schedule that a scoped tally asks for. Boxes take digits only; Enter is passed on, Up
-/// moves back.
+/// The range of the schedule that a scoped tally asks for. Enter is passed on, Up moves back.
 class RangePanel : public QFrame {
  public:
   using QFrame::QFrame;
@@ -35,7 +34,10 @@ class RangePanel : public QFrame {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  protected:
+  /// Boxes of digits.
   void SetBoxes(std::vector<QLineEdit*> boxes, int most_digits);
+  /// Boxes that take what they take.
+  void SetBoxes(std::vector<QLineEdit*> boxes);
 
  private:
   std::vector<QLineEdit*> boxes_;

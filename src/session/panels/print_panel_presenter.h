@@ -26,7 +26,9 @@ class PrintPanelPresenter {
   void TogglePreview() { preview_ = !preview_; }
   ReportDate& Date() { return date_; }
 
-  PrintPanelView View() const { return {open_, papers_, preview_, memo_, date_.Texts()}; }
+  PrintPanelView View() const {
+    return {.open = open_, .papers = papers_, .preview = preview_, .memo = memo_, .date = date_.Texts()};
+  }
 
  private:
   bool open_ = false;

@@ -3,10 +3,17 @@
 
 #include "data/reference.h"
 #include "platform/numbers/number_mask.h"
+#include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 
 namespace rbt {
+
+void BindChosenSite() {
+  SelectSite(ReadSteelIni(kSelectedDbNameKey));
+  OpenWorkDatabase();
+  if (!SiteContext.MasterDatabase) OpenMasterDatabase();
+}
 
 HeadView ReadHead() {
   Database& master = *SiteContext.MasterDatabase;

@@ -10,6 +10,12 @@
 
 namespace rbt {
 
+/// A text that belongs to a control of a layout that several screens share.
+struct ControlText {
+  std::string_view control;
+  std::string_view text;
+};
+
 /// How a button stands.
 struct ButtonView {
   bool shown = true;
@@ -73,8 +79,9 @@ struct PrintPanelView {
   bool open = false;
   Papers papers = Papers::all;
   bool preview = false;
-  std::string memo;  ///< shown while the panel is open
-  DateTexts date;    ///< can be changed while the panel is open
+  bool has_memo = true;  ///< the sheets bear a memo line
+  std::string memo;      ///< shown while the panel is open
+  DateTexts date;        ///< can be changed while the panel is open
 };
 
 /// Where the focus goes.

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "data/form_mask.h"
+#include "session/panels/views.h"
 #include "session/result/print_order.h"
 #include "tally/kinds/tally_kinds.h"
 
@@ -23,12 +24,6 @@ struct ResultOffers {
   bool range_change = false;
   bool form_choice = false;
   bool stock_warning = false;  ///< tells of a row whose stock length has no column
-};
-
-/// A text that belongs to a control of the layout that all screens share.
-struct ControlText {
-  std::string_view control;
-  std::string_view text;
 };
 
 /// What tells one result screen from another.
