@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "session/panels/report_date.h"
+#include "session/panels/date_entry.h"
 #include "session/panels/views.h"
 
 namespace rbt {
@@ -24,7 +24,7 @@ class PrintPanelPresenter {
   void TypeMemo(std::string text) { memo_ = std::move(text); }
   void SetPreview(bool preview) { preview_ = preview; }
   void TogglePreview() { preview_ = !preview_; }
-  ReportDate& Date() { return date_; }
+  DateEntry& Date() { return date_; }
 
   PrintPanelView View() const {
     return {.open = open_, .papers = papers_, .preview = preview_, .memo = memo_, .date = date_.Texts()};
@@ -35,7 +35,7 @@ class PrintPanelPresenter {
   Papers papers_ = Papers::all;
   bool preview_ = false;
   std::string memo_;
-  ReportDate date_;
+  DateEntry date_;
 };
 
 }  // namespace rbt

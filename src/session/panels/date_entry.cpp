@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session/panels/report_date.h"
+#include "session/panels/date_entry.h"
 
 #include "platform/numbers/number_words.h"
 #include "platform/system/clock.h"
@@ -20,7 +20,7 @@ bool YearPasses(const std::string& year, std::int32_t date_style) {
   return date_style != kEraStyle || LeadingNumber(year) < kFirstYearRefused;
 }
 
-void ReportDate::FillEmpty() {
+void DateEntry::FillEmpty() {
   filled_style_ = DateStyle();
   const DateTexts today = DefaultDateTexts(Now());
   const std::array<const std::string*, kBoxes> texts{&today.year, &today.month, &today.day};
@@ -29,16 +29,16 @@ void ReportDate::FillEmpty() {
   }
 }
 
-void ReportDate::FillToday() {
+void DateEntry::FillToday() {
   for (std::string& text : texts_) text.clear();
   FillEmpty();
 }
 
-void ReportDate::FollowStyle() {
+void DateEntry::FollowStyle() {
   if (DateStyle() != filled_style_) texts_[0].clear();
   FillEmpty();
 }
 
-bool ReportDate::YearPasses() const { return rbt::YearPasses(texts_[0], DateStyle()); }
+bool DateEntry::YearPasses() const { return rbt::YearPasses(texts_[0], DateStyle()); }
 
 }  // namespace rbt

@@ -16,7 +16,7 @@ bool YearPasses(const std::string& year, std::int32_t date_style);
 
 /// The date of a report as three texts: year, month, day, in the style of the setting 日付表記. The setting
 /// is read each time: the settings form may have saved another style. Faults: `type mismatch` of the setting.
-class ReportDate {
+class DateEntry {
  public:
   static constexpr std::size_t kBoxes = 3;
 
