@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "data/special_floors.h"
+#include "data/floor_mask.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "data/floor_mask.h"
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
-#include "data/special_floors.h"
 #include "session/floorpart/floor_input.h"
 #include "tally/floorpart/floor_range.h"
 

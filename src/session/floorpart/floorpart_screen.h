@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "session/floorpart/floor_questions.h"
 #include "session/floorpart/floorpart_columns.h"
-#include "session/floorpart/special_floors.h"
 #include "session/panels/views.h"
 #include "tally/selection.h"
 #include "tally/tally_kind.h"

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "data/special_floors.h"
+#include "data/floor_mask.h"
 #include "store/database.h"
 
 namespace rbt {

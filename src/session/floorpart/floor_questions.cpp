@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session/floorpart/special_floors.h"
+#include "session/floorpart/floor_questions.h"
 
 #include <string>
 
