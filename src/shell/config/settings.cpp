@@ -17,7 +17,7 @@ namespace {
 
 struct NumberBinding {
   NumberKey key;
-  std::int32_t SettingsData::*field;
+  std::int32_t SettingsData::*field = nullptr;
 };
 
 constexpr NumberBinding kTallyNumbers[] = {
@@ -50,7 +50,7 @@ constexpr NumberBinding kRemainingNumbers[] = {
 
 struct TextBinding {
   TextKey key;
-  std::string SettingsData::*field;
+  std::string SettingsData::*field = nullptr;
 };
 
 constexpr TextBinding kRemainingTexts[] = {

@@ -48,7 +48,7 @@ void ProvideFixedStockDatabase() {
   CopyDatabaseFile(original, copy.Path());
   const auto fault = PassOverFaults(FaultKind::file, [&] { copy.PutInPlace(); });
   // Another program that starts now has made it.
-  if (fault && !FamilyFileExists(kFixedStockDatabase)) throw *fault;
+  if (fault && !FamilyFileExists(kFixedStockDatabase)) throw Fault(*fault);
 }
 
 void OpenFixedStockDatabase() {
