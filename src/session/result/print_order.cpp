@@ -3,6 +3,7 @@
 
 #include "platform/print/diverted_deliveries.h"
 #include "platform/system/printing.h"
+#include "session/panels/printer_notice.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
@@ -25,9 +26,11 @@ std::vector<PrintedDocument> PrintKeepingPreviews(const PrintOrder& order) {
 
 }  // namespace
 
-void CarryOut(const PrintOrder& order, const Preview& preview) {
+std::string CarryOut(const PrintOrder& order, const Preview& preview) {
   std::vector<PrintedDocument> documents = PrintKeepingPreviews(order);
-  if (!documents.empty()) preview(std::move(documents));
+  if (documents.empty()) return PrinterOfSheets();
+  preview(std::move(documents));
+  return "";
 }
 
 }  // namespace rbt

@@ -3,11 +3,13 @@
 
 #include <utility>
 
+#include "platform/fault.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
 #include "platform/system/process.h"
 #include "session/panels/at_end.h"
 #include "session/panels/site_head.h"
+#include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/reference_names.h"
 #include "shell/context/run_state.h"
@@ -29,14 +31,21 @@ std::optional<RowColours> AlternateColours() {
   return RowColours{Settings.GridRowBackColor, Settings.GridRowForeColor};
 }
 
+/// The menu has bound the site; should another be selected since, no sheet may mix the two.
+void FollowSite() {
+  StartOptions options;
+  options.start_mode = Selection.StartMode;
+  if (FollowSelectedSite(options)) return;
+  throw Fault(FaultKind::file, SiteContext.SelectedDbName + ": this site needs the newer program");
+}
+
 }  // namespace
 
 ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)
     : screen_(screen), parts_(std::move(parts)), range_(MakeRangeInput(screen.Range())) {
+  print_panel_.OfferPrinters(parts_.choose_printer);
   SetSelectionDefaults();
-  SelectSite(ReadSteelIni(kSelectedDbNameKey));
-  OpenWorkDatabase();
-  if (!SiteContext.MasterDatabase) OpenMasterDatabase();
+  FollowSite();
   head_ = ReadHead();
   filters_.kinds = screen_.kinds_at_start;
   filters_.hoops_note = kHoopsNote;
@@ -69,8 +78,11 @@ void ResultPresenter::Tally() {
 void ResultPresenter::Fill() {
   const double percent = LeadingNumber(filters_.uplift.text);
   result_ = WithUlbonRaised(std::move(result_), static_cast<std::int32_t>(percent));
-  rows_ = ResultRows(result_, {ulbon_view_, DiameterGradeNames()});
+  const ResultView look{ulbon_view_, DiameterGradeNames()};
+  rows_ = ResultRows(result_, look);
+  totals_ = ResultTotals(result_, look);
   colours_ = AlternateColours();
+  filters_.range = range_ != nullptr && range_->GivesWay() ? range_->Told() : "";
   filters_.warning = screen_.offers.stock_warning ? result_.Grid().StockWarningText : "";
 }
 
@@ -82,6 +94,7 @@ void ResultPresenter::Rerun(const std::function<void()>& change) {
   });
   const AtEnd idle([this] { busy_ = false; });
   busy_ = true;
+  notice_.clear();
   if (show_) show_();
   RunPendingEvents();
   change();
@@ -120,7 +133,7 @@ void ResultPresenter::OfferModes() {
 }
 
 void ResultPresenter::DecideAvailability() {
-  offers_print_ = ShowsWholePicture(ulbon_view_);
+  offers_print_ = ShowsWholePicture();
   if (print_panel_.IsOpen()) print_panel_.OfferPapers(PapersNow());
 }
 
@@ -132,10 +145,8 @@ void ResultPresenter::Recalculate() {
 
 void ResultPresenter::ChooseForms() {
   if (!parts_.choose_forms) return SayNotReady("材料変更");
-  Rerun([this] {
-    parts_.choose_forms();
-    Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask);
-  });
+  parts_.choose_forms();
+  Rerun([] { Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask); });
 }
 
 void ResultPresenter::ChooseKinds() {
@@ -162,20 +173,41 @@ void ResultPresenter::ShowUlbonView() {
   FocusOn(FocusTarget::grid);
 }
 
+void ResultPresenter::ShowNormalView() {
+  ulbon_view_ = false;
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
+void ResultPresenter::TurnBack() {
+  if (filters_.uplift.shown && filters_.uplift.enabled) return GiveUpUplift();
+  if (ulbon_view_) return ShowNormalView();
+  Leave();
+}
+
 void ResultPresenter::BeginUplift() {
   filters_.uplift.shown = true;
   filters_.uplift.enabled = true;
   FocusOn(FocusTarget::uplift);
 }
 
+/// Back to what was taken before, whatever has been typed since.
+void ResultPresenter::GiveUpUplift() {
+  filters_.uplift = {.shown = !taken_uplift_.empty(), .enabled = false, .text = taken_uplift_};
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
 void ResultPresenter::TakeUplift() {
   Fill();
   filters_.uplift.enabled = false;
+  taken_uplift_ = filters_.uplift.text;
   FocusOn(FocusTarget::grid);
 }
 
 void ResultPresenter::RestoreValues() {
   filters_.uplift.text.clear();
+  taken_uplift_.clear();
   filters_.uplift.shown = false;
   Tally();
   Fill();
@@ -207,7 +239,12 @@ void ResultPresenter::TakeRange() {
     if (!Passes(box)) return;
   }
   range_->WriteTo(Selection);
+  range_->Keep();
   RunRange();
+}
+
+void ResultPresenter::LeaveRange() {
+  if (range_ != nullptr && tally_ran_) range_->BringBack();
 }
 
 void ResultPresenter::RunRange() {
@@ -233,6 +270,7 @@ void ResultPresenter::AskForRange() {
 
 void ResultPresenter::ResetFilters() {
   Selection.MaterialKindMask = kAllKinds;
+  Selection.IncludeUlbon = true;
   Selection.AnchorPlateMode = ShapeFilter::with_others;
   Selection.HoopMode = ShapeFilter::with_others;
   filters_.kinds = kAllKindsAfterReset;

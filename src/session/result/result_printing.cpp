@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The result screen's panel of print buttons, its ways out, and the view.
+#include <optional>
 #include <utility>
 
 #include <fmt/format.h>
@@ -14,6 +15,7 @@ namespace rbt {
 
 namespace {
 
+constexpr std::string_view kTotalsPrintCaption = "合計表印字(F1)";
 constexpr std::string_view kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
 
 /// The number that reports take.
@@ -23,11 +25,12 @@ std::int32_t NumberOf(SheetBody body) { return body == SheetBody::with_ulbon ? 1
 
 void ResultPresenter::OpenPrint(SheetBody body) {
   RunState.ReportBody = NumberOf(body);
+  notice_.clear();
   FocusOn(print_panel_.Open(PapersNow()));
 }
 
 Papers ResultPresenter::PapersNow() const {
-  if (!tally_ran_ || !ShowsWholePicture(false)) return Papers::none;
+  if (!tally_ran_ || !ShowsWholePicture()) return Papers::none;
   return ulbon_view_ ? Papers::ulbon : Papers::all;
 }
 
@@ -37,7 +40,10 @@ void ResultPresenter::ClosePrint() {
 }
 
 void ResultPresenter::Print(ReportPaper paper) {
-  if (!print_panel_.Date().YearPasses()) return FocusOn(FocusTarget::year);
+  if (const std::optional<DateRefusal> refusal = print_panel_.Date().Refusal()) {
+    MsgBox(refusal->text, screen_.title);
+    return FocusOn(FocusTarget::year, refusal->box);
+  }
   const bool printed = PrintSheet(Order(paper, ulbon_view_));
   // The scoped screens stay in the panel, for another sheet.
   if (printed && !screen_.IsScoped()) ClosePrint();
@@ -64,7 +70,8 @@ bool ResultPresenter::PrintSheet(const PrintOrder& order) {
     SayNotReady("印字");
     return false;
   }
-  parts_.print(order);
+  const std::string printer = parts_.print(order);
+  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
   return true;
 }
 
@@ -105,12 +112,14 @@ ResultScreenView ResultPresenter::View() {
   view.result_shown = result_shown_;
   view.filters = Filters();
   view.rows = rows_;
+  view.totals = totals_;
   view.colours = colours_;
   view.ulbon_view = ulbon_view_;
   view.busy = busy_;
   view.main_buttons_shown = !print_panel_.IsOpen();
   SetMainButtons(view);
   view.print_panel = print_panel_.View();
+  view.notice = notice_;
   view.focus = std::exchange(focus_, {});
   view.left = left_;
   return view;
@@ -125,14 +134,20 @@ FilterView ResultPresenter::Filters() const {
   return view;
 }
 
+/// Empty on a screen without the Ulbon view: as it is designed.
+std::string_view ResultPresenter::PrintCaption() const {
+  if (!screen_.offers.ulbon_view) return "";
+  return ulbon_view_ ? kUlbonPrintCaption : kTotalsPrintCaption;
+}
+
 void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   const ResultOffers& offers = screen_.offers;
   const bool idle = !busy_;
   const bool idle_result = idle && result_shown_;
-  view.print = {offers_print_, idle, ulbon_view_ ? kUlbonPrintCaption : ""};
+  view.print = {offers_print_, idle, PrintCaption()};
   view.show_ulbon_view = {offers.ulbon_view && !ulbon_view_};
   view.ulbon = {offers.uplift || (offers.ulbon_print && offers_print_), idle_result};
-  view.print_deformed = {offers.deformed_print && offers_print_, idle};
+  view.print_deformed = {offers.deformed_print && offers_print_ && !ulbon_view_, idle};
   view.restore_values = {offers.uplift};
   view.show_detail = {true, idle_result};
   view.change_range = {offers.range_change, idle_result};

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "session/panels/views.h"
 #include "tally/views/result_grid.h"
@@ -24,9 +27,10 @@ struct ResultScreenView {
   bool result_shown = true;  ///< filters and grid; a scoped screen has none before its tally
   FilterView filters;
   GridRows rows;
-  std::optional<RowColours> colours;  ///< nothing: all rows are alike
-  bool ulbon_view = false;            ///< the grid holds the Ulbon rows alone
-  bool busy = false;                  ///< a tally runs: the wait notice shows
+  std::vector<std::size_t> totals = {};  ///< rows that are sums of others
+  std::optional<RowColours> colours;     ///< nothing: all rows are alike
+  bool ulbon_view = false;               ///< the grid holds the Ulbon rows alone
+  bool busy = false;                     ///< a tally runs: the wait notice shows
 
   bool main_buttons_shown = true;
   ButtonView print;
@@ -40,6 +44,7 @@ struct ResultScreenView {
   ButtonView leave;
 
   PrintPanelView print_panel;
+  std::string notice = {};  ///< what has become of the last sheet
   FocusRequest focus;
   bool left = false;  ///< the screen is to be closed
 };
