@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/write_demo.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,10 @@
 #include "demo/schedule_generator.h"
 #include "demo/shapes.h"
 #include "platform/fault.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
 #include "platform/files/files.h"
+#include "platform/files/work_place.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
 #include "store/database.h"
@@ -176,13 +180,16 @@ void WriteIni(const fs::path& file, const std::string& text) {
   WriteFileAtomically(file, ToCp932(ReplaceAll(text, "\n", "\r\n")));
 }
 
-void MakeFolder(const fs::path& folder) {
+constexpr std::string_view kData = "DATA";
+/// Folders of sibling programs, empty here.
+constexpr std::string_view kSiblingFolders[] = {"KAKOU", "rbshopTM"};
+
+/// What a demonstration that was killed may have put in place beside its folder in work.
+bool IsLeftover(const fs::directory_entry& entry) {
   std::error_code error;
-  fs::create_directories(folder, error);
-  if (error) {
-    throw Fault(FaultKind::file,
-                fmt::format("cannot make the folder {}: {}", folder.string(), error.message()));
-  }
+  const std::string name = entry.path().filename().string();
+  return std::ranges::find(kSiblingFolders, name) != std::end(kSiblingFolders) && entry.is_directory(error) &&
+         fs::is_empty(entry.path(), error) && !error;
 }
 
 void RefuseOccupied(const fs::path& root) {
@@ -192,22 +199,17 @@ void RefuseOccupied(const fs::path& root) {
   if (!fs::is_directory(status)) {
     throw Fault(FaultKind::file, fmt::format("{} is no folder; nothing was written", root.string()));
   }
-  const bool empty = fs::is_empty(root, error);
-  if (error)
-    throw Fault(FaultKind::file, fmt::format("cannot look into {}: {}", root.string(), error.message()));
-  if (!empty) {
+  for (fs::directory_iterator entry(root, error), end; !error && entry != end; entry.increment(error)) {
+    if (IsLeftover(*entry) || entry->path().filename().string().starts_with(kWorkPlaceMark)) continue;
     throw Fault(
         FaultKind::file,
         fmt::format("{} is not empty; a demonstration is only made in a new or empty folder", root.string()));
   }
+  if (error)
+    throw Fault(FaultKind::file, fmt::format("cannot look into {}: {}", root.string(), error.message()));
 }
 
-}  // namespace
-
-void WriteDemo(const fs::path& root, const DemoOptions& options) {
-  RefuseOccupied(root);
-  const fs::path data = root / "DATA";
-  for (const fs::path& folder : {data, root / "KAKOU", root / "rbshopTM"}) MakeFolder(folder);
+void WriteData(const fs::path& data, const DemoOptions& options) {
   std::vector<Site> sites;
   for (std::int32_t number = 1; number <= options.sites; ++number) sites.push_back(DemoSite(number));
   for (const Site& site : sites) {
@@ -219,8 +221,25 @@ void WriteDemo(const fs::path& root, const DemoOptions& options) {
   WriteFixedStockFile(data / "MTTeijyaku.mdb");
   WriteDatabase(data / "JSyukeiORG.mdb", ArchiveTables(), [](Database&) {});
   WriteIni(data / "NEXTPRG.INI", NextPrgIniText());
-  // Last, so that a root whose making was cut short binds to no site.
   WriteIni(data / "STEEL.INI", SteelIniText(sites.front().ScheduleFile()));
+}
+
+}  // namespace
+
+void WriteDemo(const fs::path& root, const DemoOptions& options) {
+  RefuseOccupied(root);
+  const MadeFolder folder(root);
+  const WorkPlace place(root);
+  FolderInWork data(place);
+  try {
+    WriteData(data.Path(), options);
+  } catch (const Fault& fault) {
+    // The folder in work is gone when the message is read.
+    throw Fault(fault.Kind(), ReplaceAll(fault.Where(), data.Path().string(), (root / kData).string()));
+  }
+  for (const std::string_view name : kSiblingFolders) MakeFolders(root / name);
+  // Last: a root is whole, or it is none.
+  data.PutInPlace(root / kData);
 }
 
 }  // namespace rbt::demo

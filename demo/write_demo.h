@@ -17,8 +17,9 @@ struct DemoOptions {
 };
 
 /// Makes a root folder with demonstration sites and all files that the program reads. `root` must not exist
-/// or be an empty folder; anything else throws `file` and is left as it was. The same options give the same
-/// rows on every machine.
+/// or be an empty folder; anything else throws `file` and is left as it was. Its DATA is made under a name of
+/// its own and appears when it is complete; what a demonstration that was killed has left stands in no one's
+/// way. The same options give the same rows on every machine.
 void WriteDemo(const std::filesystem::path& root, const DemoOptions& options);
 
 }  // namespace rbt::demo

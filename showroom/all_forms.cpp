@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "showroom/floorpart_forms.h"
 #include "showroom/menu_forms.h"
 #include "showroom/preview_forms.h"
 #include "showroom/result_forms.h"
@@ -14,7 +15,7 @@ namespace rbt {
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
   for (std::vector<FormEntry> forms :
-       {MenuForms(), SettingsForms(), ResultForms(), SelectionForms(), PreviewForms()}) {
+       {MenuForms(), SettingsForms(), ResultForms(), FloorPartForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

@@ -8,7 +8,6 @@
 #include <QPixmap>
 
 #include "desktop/look.h"
-#include "desktop/message_box.h"
 #include "desktop/pending_events.h"
 #include "platform/fault.h"
 #include "platform/system/services.h"
@@ -57,7 +56,6 @@ int main(int argc, char** argv) {
     return 2;
   }
   rbt::PrepareDesktop();
-  rbt::Services.Messages = rbt::ShowMessage;
   rbt::Services.PendingEvents = rbt::ProcessEventsWithoutInput;
   return rbt::TakePictures(argv[1]);
 }

@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -77,21 +79,62 @@ bool AppendMissingFields(const TableDef& wanted) {
   return appended;
 }
 
+bool IsUpToDate(const TableDef& wanted) {
+  const auto table = OpenSite().FindTable(wanted.name);
+  return table != nullptr && std::ranges::all_of(wanted.fields, [&](const FieldDef& field) {
+           return table->FindField(field.name) != nullptr;
+         });
+}
+
 void BringUpToDate(const TableDef& wanted) {
-  Transaction transaction(OpenSite());
   if (!Table_Exists(wanted.name, OpenSite())) {
     OpenSite().CreateTable(wanted);
   } else if (AppendMissingFields(wanted)) {
     Drop_Indexes(wanted.name);
     Add_PrimaryKey(wanted.name);
   }
-  transaction.Commit();
 }
 
-void CheckAgainstTemplate() {
-  if (!SiteContext.WorkDatabase) OpenWorkDatabase();
-  Database wanted = Database::OpenReadOnly(MapPath(kTemplate));
-  for (const TableDef& table : wanted.TableDefs()) BringUpToDate(table);
+/// The template's tables; null without a template.
+using Template = std::unique_ptr<std::vector<TableDef>>;
+
+Template ReadTemplate() {
+  if (!FamilyFileExists(kTemplate)) {
+    MsgBox(kNoTemplateText, kNoTemplateTitle);
+    return nullptr;
+  }
+  return std::make_unique<std::vector<TableDef>>(Database::OpenReadOnly(MapPath(kTemplate)).TableDefs());
+}
+
+/// True for an empty table that dropping and making anew would change.
+bool IsLeftover(const Leftover& leftover, const Template& wanted) {
+  const auto table = OpenSite().FindTable(leftover.table);
+  if (table == nullptr || table->name != leftover.table || OpenSite().HasRows(leftover.select)) return false;
+  return wanted == nullptr || std::ranges::find(*wanted, *table) == wanted->end();
+}
+
+void DropLeftovers(const Template& wanted) {
+  for (const Leftover& leftover : kLeftovers) {
+    if (IsLeftover(leftover, wanted)) OpenSite().Execute(leftover.drop);
+  }
+}
+
+bool HasLeftovers(const Template& wanted) {
+  return std::ranges::any_of(kLeftovers, [&](const Leftover& each) { return IsLeftover(each, wanted); });
+}
+
+/// Looks before it locks, and again when it has.
+void Ready(const Template& wanted, bool drops_leftovers) {
+  const bool is_ready = !(drops_leftovers && HasLeftovers(wanted)) &&
+                        (wanted == nullptr || std::ranges::all_of(*wanted, IsUpToDate));
+  if (is_ready || !OpenSite().MayBeWritten()) return;
+  // Tallies can be run on a site whose rows stand against the template; only saving fails.
+  PassOverFaultsOfContent([&] {
+    Transaction transaction(OpenSite());
+    if (drops_leftovers) DropLeftovers(wanted);
+    if (wanted != nullptr) std::ranges::for_each(*wanted, BringUpToDate);
+    transaction.Commit();
+  });
 }
 
 }  // namespace
@@ -115,21 +158,16 @@ void Add_PrimaryKey(std::string_view TableName) {
                                  fmt::join(key.fields, ",")));
 }
 
-void DropEmptyArchiveTables() {
-  for (const Leftover& leftover : kLeftovers) {
-    Database& site = OpenSite();
-    if (Table_Exists(leftover.table, site) && !site.HasRows(leftover.select)) site.Execute(leftover.drop);
-    OpenWorkDatabase();
-  }
+void ReadyArchiveTables() {
+  const Template wanted = ReadTemplate();
+  Ready(wanted, true);
 }
 
 void Check_JSyukei() {
-  if (!FamilyFileExists(kTemplate)) {
-    MsgBox(kNoTemplateText, kNoTemplateTitle);
-    return;
-  }
-  // Tallies can be run on a site whose archive is not up to date, only saving fails.
-  PassOverFaults(CheckAgainstTemplate);
+  const Template wanted = ReadTemplate();
+  if (wanted == nullptr) return;
+  if (!SiteContext.WorkDatabase) OpenWorkDatabase();
+  Ready(wanted, false);
 }
 
 }  // namespace rbt

@@ -16,14 +16,16 @@ void Drop_Indexes(std::string_view TableName);
 /// `database`.
 void Add_PrimaryKey(std::string_view TableName);
 
-/// Drops the tables of saved bulk tallies and of their names where they hold no rows, so that they are made
-/// again from the template. The site database is opened anew and left open.
-void DropEmptyArchiveTables();
+/// Readies the archive tables of the open site database as every start does: the tables of saved bulk tallies
+/// and of their names that hold no rows are dropped, so that they are made anew, then the tables are brought
+/// up to the template: missing fields are appended and the key made again, missing tables are made with their
+/// fields and indexes. What is right already is left alone, and a site in which all is right is not written.
+/// Everything else is one transaction. A missing template is told by a message. What the site's own rows
+/// stand against ends the check without a message: a tally cannot be saved then. A lock, a full disk, a
+/// damaged file are faults. A site that may only be read is left as it is.
+void ReadyArchiveTables();
 
-/// Brings the archive tables of the site database up to the template: missing fields are appended and the
-/// key made again, missing tables are made with their fields and indexes; each table is one transaction. A
-/// missing template is told by a message. Errors end the check without a message: a site that cannot be
-/// brought up to date fails when a tally is saved. The site database is opened if need be and left open.
+/// The second part of that alone, with nothing dropped. The site database is opened if need be and left open.
 void Check_JSyukei();
 
 }  // namespace rbt

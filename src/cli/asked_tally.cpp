@@ -9,7 +9,7 @@
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
 #include "shell/context/site_context.h"
-#include "shell/preparation/preparation.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/floorpart/floor_range.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/schedule_positions.h"
@@ -48,15 +48,12 @@ void TakePositions(const SelectionOptions& options) {
   Selection.EndLine = range.last.line;
 }
 
-/// Floors and parts as the screens' load leaves them.
-void PrepareFloors(Database& site, bool prepare) {
-  if (!site.HasRows("SELECT * FROM 加工テーブル")) throw Fault(FaultKind::database, "集計データがありません");
-  if (prepare) FillFloorsAndParts(site);
-}
-
-void TakeAskedFloors(const SelectionOptions& options, const CommonOptions& common) {
+void TakeAskedFloors(const SelectionOptions& options) {
+  if (!SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル")) {
+    throw Fault(FaultKind::database, "集計データがありません");
+  }
+  HoldScheduleWithFloors(Selection.StartMode);
   Database& site = *SiteContext.WorkDatabase;
-  PrepareFloors(site, !common.no_prepare);
   const std::optional<FloorExtent> found = ReadFloorExtent(site);
   if (!found && !options.floors) throw Fault(FaultKind::invalid_use_of_null, "加工テーブル 階");
   // Where no row has a floor, those asked for are as good as any, if only they stand in their order.
@@ -70,14 +67,14 @@ void TakeAskedFloors(const SelectionOptions& options, const CommonOptions& commo
   TakeFloors(Selection, range, SpecialMask(options.special), extent);
 }
 
-void TakeRange(TallyRange range, const SelectionOptions& options, const CommonOptions& common) {
+void TakeRange(TallyRange range, const SelectionOptions& options) {
   switch (range) {
     case TallyRange::shapes:
       return TakeShapes(options);
     case TallyRange::positions:
       return TakePositions(options);
     case TallyRange::floors:
-      return TakeAskedFloors(options, common);
+      return TakeAskedFloors(options);
     case TallyRange::whole_site:
       return;
   }
@@ -111,8 +108,9 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   OpenSite(common);
   Selection.TallyKind = row->kind;
   ApplySelection(options, Selection);
-  TakeRange(row->range, options, common);
+  TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
+  SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;
 }

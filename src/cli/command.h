@@ -34,6 +34,7 @@ Action DefineDemo(CommandLine& line);
 Action DefinePrepare(CommandLine& line);
 Action DefineTally(CommandLine& line);
 Action DefineStock(CommandLine& line);
+Action DefineDetail(CommandLine& line);
 Action DefineReport(CommandLine& line);
 Action DefineImport(CommandLine& line);
 Action DefineCheck(CommandLine& line);

@@ -47,6 +47,14 @@ void RequireCommand(std::span<const Command> commands, int argc, char** argv) {
   throw UsageError("unknown command " + first);
 }
 
+/// Refuses what `take` does not take as the value of an option of that form.
+std::function<void(const std::string& text)> Taker(const std::string& name, const std::string& form,
+                                                   std::function<bool(const std::string& text)> take) {
+  return [take = std::move(take), name, form](const std::string& text) {
+    if (!take(text)) throw CLI::ValidationError(name, text + " is not of the form " + form);
+  };
+}
+
 }  // namespace
 
 void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
@@ -122,17 +130,27 @@ template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::
 void CommandLine::FormOption(const std::string& name, const std::string& form,
                              std::function<bool(const std::string& text)> take,
                              const std::string& description) {
-  line_
-      .add_option_function<std::string>(
-          name,
-          [take = std::move(take), name, form](const std::string& text) {
-            if (!take(text)) throw CLI::ValidationError(name, text + " is not of the form " + form);
-          },
-          description)
+  line_.add_option_function<std::string>(name, Taker(name, form, std::move(take)), description)
       ->type_name(form);
 }
 
-void CommandLine::RootOption() { TextOption("--root", "DIR", root_, "the root folder; default $RBK_ROOT"); }
+void CommandLine::RepeatedOption(const std::string& name, const std::string& form,
+                                 std::function<bool(const std::string& text)> take,
+                                 const std::string& description) {
+  line_.add_option_function<std::string>(name, Taker(name, form, std::move(take)), description)
+      ->type_name(form)
+      ->trigger_on_parse();
+}
+
+void CommandLine::RootOption() {
+  TextOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
+}
+
+void CommandLine::WaitOption() {
+  constexpr std::int64_t kDay = 86'400;
+  NumberOption("--wait", order_.wait_seconds, 0, kDay,
+               "seconds to wait for a file that another program holds");
+}
 
 std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc, char** argv) {
   Order order;
@@ -141,7 +159,7 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
   std::vector<std::pair<CLI::App*, Action>> lines;
   for (const Command& command : commands) {
     CLI::App* line = app.add_subcommand(std::string(command.name), std::string(command.description));
-    CommandLine command_line(*line, order.root);
+    CommandLine command_line(*line, order);
     lines.emplace_back(line, command.define(command_line));
   }
   RequireCommand(commands, argc, argv);

@@ -16,13 +16,20 @@ class App;
 
 namespace rbt {
 
+/// What a program was told to do.
+struct Order {
+  std::string root;                ///< of `--root`; empty when it was not given
+  std::int32_t wait_seconds = 10;  ///< of `--wait`: how long a locked file is waited for
+  Action action;
+};
+
 /// One command's part of the command line, as its help lists it. Arguments stand by their place, options by
 /// their name. A target keeps its value where nothing is given for it; it must live until the line is read.
 /// What a target does not take is wrong usage.
 class CommandLine {
  public:
-  /// `root` gets the folder of `--root`.
-  CommandLine(CLI::App& line, std::string& root) : line_(line), root_(root) {}
+  /// `order` gets what main itself puts in force.
+  CommandLine(CLI::App& line, Order& order) : line_(line), order_(order) {}
 
   void Argument(const std::string& name, std::string& target, const std::string& description);
   void OptionalArgument(const std::string& name, std::string& target, const std::string& description);
@@ -52,18 +59,17 @@ class CommandLine {
   /// A text of a form of its own, "A-B": `take` says whether it is one.
   void FormOption(const std::string& name, const std::string& form,
                   std::function<bool(const std::string& text)> take, const std::string& description);
-  /// `--root`, the folder that main puts in force.
+  /// The same, any number of times: `take` is asked in the order of the words, also among several such
+  /// options.
+  void RepeatedOption(const std::string& name, const std::string& form,
+                      std::function<bool(const std::string& text)> take, const std::string& description);
+  /// `--root` and `--wait`, which main puts in force.
   void RootOption();
+  void WaitOption();
 
  private:
   CLI::App& line_;
-  std::string& root_;
-};
-
-/// What a program was told to do.
-struct Order {
-  std::string root;  ///< of `--root`; empty when it was not given
-  Action action;
+  Order& order_;
 };
 
 /// Reads a program's words by its commands. Nothing when help was asked for, which is then given. Wrong usage

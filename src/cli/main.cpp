@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
 #include <csignal>
 #include <exception>
 #include <optional>
@@ -25,6 +26,7 @@ void Run(int argc, char** argv) {
   const std::optional<Order> order = ReadCommandLine(Commands(), argc, argv);
   if (!order) return;
   if (!order->root.empty()) Services.Root = order->root;
+  Services.LockPatience = std::chrono::seconds(order->wait_seconds);
   order->action();
 }
 
@@ -50,6 +52,7 @@ std::span<const Command> Commands() {
       {"prepare", "Run the load and activation steps on a site", DefinePrepare},
       {"tally", "Tally a site", DefineTally},
       {"stock", "Choose the stock length for one group of equal pieces", DefineStock},
+      {"detail", "Tally a site and change its purchase list", DefineDetail},
       {"report", "Print a report form of a tally to a PDF file", DefineReport},
       {"import", "Take real Jet files into the store", DefineImport},
       {"check", "Look whether a real Jet file is sound", DefineCheck},

@@ -60,9 +60,10 @@ bool TakePercent(const std::string& text, double& percent) {
 
 void AddCommonOptions(CommandLine& line, CommonOptions& options) {
   line.RootOption();
+  line.WaitOption();
   line.TextOption("--site", "FILE", options.site, "schedule file name in place of the site STEEL.INI names");
   line.NumberOption("--start-mode", "N", options.start_mode, "start mode of the calling program");
-  line.Flag("--no-prepare", options.no_prepare, "leave the schedule as it is: no classification");
+  line.Flag("--no-prepare", options.no_prepare, "write nothing of the site: classify a private copy");
 }
 
 void AddSelectionOptions(CommandLine& line, SelectionOptions& options) {

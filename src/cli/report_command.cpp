@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <array>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,7 +11,9 @@
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
+#include "cli/detail_changes.h"
 #include "cli/options.h"
+#include "cli/output_options.h"
 #include "platform/files/files.h"
 #include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
@@ -18,7 +21,9 @@
 #include "platform/system/printing.h"
 #include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
+#include "shell/config/settings.h"
 #include "shell/context/run_state.h"
+#include "tally/detail/detail_entry.h"
 
 namespace rbt {
 
@@ -30,11 +35,16 @@ struct ReportOptions {
   SelectionOptions selection;
   std::string tally = "bulk";
   std::int32_t body = 1;
-  std::int32_t percent = 0;
+  DetailChanges changes;
   std::string sub_project;
   std::string date;
   std::string pdf;
   std::string trace;
+  bool force = false;
+  std::array<std::optional<std::string>, 3> memos;
+  std::optional<std::string> memo_position;
+  std::optional<std::string> installed;
+  std::optional<std::string> date_position;
 };
 
 std::vector<std::string> ReportNames() {
@@ -76,32 +86,105 @@ void WriteDocuments(const Documents& documents, const ReportOptions& options) {
   if (!options.pdf.empty()) WritePdf(documents, options.pdf);
 }
 
-/// The two files are told apart, however their names are written.
 void RequireFiles(const ReportOptions& options) {
-  namespace fs = std::filesystem;
   if (options.pdf.empty() && options.trace.empty()) throw UsageError("-o is required");
-  if (options.pdf.empty() || options.trace.empty()) return;
-  if (fs::absolute(options.pdf).lexically_normal() == fs::absolute(options.trace).lexically_normal()) {
-    throw UsageError("-o and --trace name the same file " + options.pdf);
+  RequireOutputs({{"-o", {options.pdf, OutputKind::pdf}}, {"--trace", {options.trace, OutputKind::trace}}},
+                 options.force);
+}
+
+/// What the forms of the purchase list take and the others do not.
+void RequireNoDetailOptions(const ReportOptions& options) {
+  const bool sets = std::ranges::any_of(
+      options.changes, [](const auto& change) { return std::holds_alternative<CellChange>(change); });
+  const std::pair<std::string_view, bool> given[] = {{"--set", sets},
+                                                     {"--memo1", options.memos[0].has_value()},
+                                                     {"--memo2", options.memos[1].has_value()},
+                                                     {"--memo3", options.memos[2].has_value()},
+                                                     {"--memo-position", options.memo_position.has_value()},
+                                                     {"--installed", options.installed.has_value()},
+                                                     {"--date-position", options.date_position.has_value()}};
+  for (const auto& [option, is_given] : given) {
+    if (is_given) throw UsageError(std::string(option) + ": only the forms meisai-... take it");
   }
+}
+
+/// The uplift of Ulbon, the last one given: a whole number.
+std::int32_t UlbonPercent(const DetailChanges& changes) {
+  constexpr double kHighest = 999999.0;
+  if (changes.empty()) return 0;
+  const std::string& text = std::get<PercentChange>(changes.back()).text;
+  const bool is_whole = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+  if (!is_whole || PercentOfText(text) > kHighest) {
+    throw UsageError("--percent: " + text + " is no whole number of 0 to 999999");
+  }
+  return static_cast<std::int32_t>(PercentOfText(text));
+}
+
+/// What is not told is as the detail screen has it at first.
+DetailArguments DetailArgumentsOf(const ReportOptions& options) {
+  DetailArguments arguments = DetailArgumentsOf(Settings);
+  for (std::size_t i = 0; i < options.memos.size(); ++i) arguments.Memos[i] = options.memos[i].value_or("");
+  if (options.memo_position) {
+    arguments.MemoPosition = *options.memo_position == "1" ? MemoPlace::above : MemoPlace::below;
+  }
+  if (options.installed) arguments.Installed = *options.installed == "1";
+  if (options.date_position) {
+    arguments.DatePosition = *options.date_position == "right" ? DatePlace::right : DatePlace::centre;
+  }
+  return arguments;
+}
+
+/// The result that a form shows: its list changed, or its Ulbon rows raised.
+TallyResult ResultFor(const ReportForm& form, const ReportOptions& options) {
+  const bool is_detail = form.family == ReportFamily::detail;
+  if (is_detail) {
+    RequireCells(options.changes);
+  } else {
+    RequireNoDetailOptions(options);
+  }
+  const std::int32_t ulbon_percent = is_detail ? 0 : UlbonPercent(options.changes);
+  TallyResult counted = CountAskedTally(options.tally, options.common, options.selection);
+  return is_detail ? Changed(std::move(counted), options.changes)
+                   : WithUlbonRaised(std::move(counted), ulbon_percent);
 }
 
 void RunReport(const ReportOptions& options) {
   const std::optional<DateTexts> typed = TypedDate(options.date);
   RequireFiles(options);
-  const TallyResult result =
-      WithUlbonRaised(CountAskedTally(options.tally, options.common, options.selection), options.percent);
+  const ReportForm& form = FindReportForm(options.name);
+  const TallyResult result = ResultFor(form, options);
   RunState.ReportBody = options.body;
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
-  const ReportArguments arguments{options.sub_project, date.year,           date.month, date.day,
-                                  RunState.ReportBody, result.ulbon_percent};
-  WriteDocuments(DocumentsOf(FindReportForm(options.name), arguments, result), options);
+  const ReportArguments arguments{
+      options.sub_project,       date.year, date.month, date.day, RunState.ReportBody, result.ulbon_percent,
+      DetailArgumentsOf(options)};
+  WriteDocuments(DocumentsOf(form, arguments, result), options);
+}
+
+/// A text, or one of two words.
+void AddDetailOptions(CommandLine& line, ReportOptions& options) {
+  const auto take = [](std::optional<std::string>& target, const std::vector<std::string>& words) {
+    return [&target, words](const std::string& text) {
+      target = text;
+      return words.empty() || std::ranges::find(words, text) != words.end();
+    };
+  };
+  for (std::size_t i = 0; i < options.memos.size(); ++i) {
+    const std::string number = std::to_string(i + 1);
+    line.FormOption("--memo" + number, "TEXT", take(options.memos[i], {}),
+                    "memo line " + number + " of a purchase list");
+  }
+  line.FormOption("--memo-position", "0|1", take(options.memo_position, {"0", "1"}),
+                  "memo lines below (0) or above (1) the table, on A4 landscape");
+  line.FormOption("--installed", "0|1", take(options.installed, {"0", "1"}),
+                  "1 with installed weights, on A4 landscape");
+  line.FormOption("--date-position", "centre|right", take(options.date_position, {"centre", "right"}),
+                  "where the date of a purchase list stands");
 }
 
 }  // namespace
 
 Action DefineReport(CommandLine& line) {
-  constexpr std::int64_t kHighestPercent = 999999;
   auto options = std::make_shared<ReportOptions>();
   line.WordArgument("NAME", options->name, ReportNames(), "the report form");
   AddCommonOptions(line, options->common);
@@ -109,12 +192,14 @@ Action DefineReport(CommandLine& line) {
   line.WordOption("--tally", "KIND", options->tally, GridTallyWords(),
                   "the kind of tally that fills the report");
   line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
-  line.NumberOption("--percent", options->percent, 0, kHighestPercent, "uplift of the Ulbon weights");
+  AddChangeOptions(line, options->changes, "uplift of the Ulbon weights, or of the bars of a purchase list");
   line.TextOption("--subproject", "TEXT", options->sub_project, "a line under the project's name");
   line.TextOption("--date", "YEAR/MONTH/DAY", options->date,
                   "the date as typed, the year of the era with era dates; default today");
+  AddDetailOptions(line, *options);
   line.TextOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
   line.TextOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
+  AddForceOption(line, options->force);
   return [options] { RunReport(*options); };
 }
 

@@ -2,17 +2,23 @@
 #include "cli/session.h"
 
 #include <filesystem>
+#include <system_error>
 
 #include "cli/command.h"
 #include "platform/fault.h"
+#include "platform/files/system_error.h"
 #include "platform/system/paths.h"
 #include "session/startup/startup.h"
+#include "shell/context/site_context.h"
 
 namespace rbt {
 
 void RequireRoot() {
   if (Root().empty()) throw UsageError("no root folder: give --root DIR or set RBK_ROOT");
-  if (!std::filesystem::is_directory(Root())) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(Root(), error);
+  if (status.type() == std::filesystem::file_type::none) throw FileFault(Root(), "the root", error.value());
+  if (!std::filesystem::is_directory(status)) {
     throw Fault(FaultKind::file, "the root " + Root().string() + " is no folder");
   }
 }
@@ -25,6 +31,8 @@ void OpenSite(const CommonOptions& options) {
   start.site = options.site;
   start.command_line = true;
   LoadSite(start);
+  // Another program may have chosen another site in between.
+  start.site = SiteContext.SelectedDbName;
   ActivateMenu(start);
 }
 

@@ -37,7 +37,7 @@ void RunStock(const StockOptions& options) {
   const std::int32_t count = ToInt32(options.count, "COUNT");
   RequireRoot();
   Settings.UseFixedTable = ReadSetting(kUseFixedTableKey);
-  if (Settings.UseFixedTable == 1) OpenFixedStockForReading();
+  if (Settings.UseFixedTable == 1) OpenFixedStockDatabase();
   Teijyaku_Keisan(options.cut_mm, Currency::FromInteger(count), options.diameter);
   WriteResult(StockText(EngineState.TeijyakuResult, options.format));
 }

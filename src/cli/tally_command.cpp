@@ -2,8 +2,8 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <variant>
 #include <string_view>
+#include <variant>
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
@@ -26,12 +26,8 @@ struct TallyOptions {
 
 /// The names that stand above the columns of parts. A site needs none for another result.
 PartNames PartNamesFor(const TallyResult& result) {
-  PartNames names;
-  if (std::holds_alternative<TallyTable>(result.tables)) return names;
-  for (int part = kFirstPart; part <= kLastNamedPart; ++part) {
-    names[static_cast<std::size_t>(part - kFirstPart)] = Get_BuiNa(part);
-  }
-  return names;
+  if (std::holds_alternative<TallyTable>(result.tables)) return {};
+  return NamesOfParts();
 }
 
 /// The result in the asked form.

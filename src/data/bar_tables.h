@@ -9,6 +9,8 @@ namespace rbt {
 inline constexpr int kColumnsTo12m = 18;
 inline constexpr int kColumn13m = 18;
 inline constexpr int kStockColumns = 19;
+/// Columns that sums, screens and sheets take in; the last one where the setting 定尺13有無 is 1.
+constexpr int StockColumnsInUse(bool with_13m) { return with_13m ? kStockColumns : kColumnsTo12m; }
 
 /// Column 0 to 18 of a stock length in metres, by exact comparison; -1 for a length without a column, such as
 /// 12.5.

@@ -47,19 +47,32 @@ std::string ClientName(Database& master, std::int32_t code) {
 }
 
 LongName ReadLongName(Database& master, std::string_view file_name) {
-  Recordset rows =
-      master.OpenDynaset("SELECT 長い工事名,工事名区切り文字数 FROM 工事テーブル WHERE データパス=" +
-                         QuotedText(file_name, '"'));
-  RequireSite(rows, file_name);
-  const FieldHandle name = rows.Field("長い工事名");
-  const FieldHandle width = rows.Field("工事名区切り文字数");
-  if (rows.IsNull(name)) return {};
-  if (rows.IsNull(width)) {
-    rows.Edit();
-    rows.Set(width, Value{std::int64_t{kDefaultWidth}});
-    rows.Update();
+  const std::string site = "データパス=" + QuotedText(file_name, '"');
+  LongName found;
+  {
+    Recordset rows =
+        master.OpenSnapshot("SELECT 長い工事名,工事名区切り文字数 FROM 工事テーブル WHERE " + site);
+    RequireSite(rows, file_name);
+    const FieldHandle name = rows.Field("長い工事名");
+    const FieldHandle width = rows.Field("工事名区切り文字数");
+    if (rows.IsNull(name)) return {};
+    found = {TextOrEmpty(rows, name), rows.Int32(width).value_or(kDefaultWidth)};
+    if (!rows.IsNull(width)) return found;
   }
-  return {TextOrEmpty(rows, name), rows.Int32(width).value_or(kDefaultWidth)};
+  if (master.MayBeWritten()) {
+    master.Execute("UPDATE 工事テーブル SET 工事名区切り文字数=" + std::to_string(kDefaultWidth) + " WHERE " +
+                   site + " AND Not IsNull(長い工事名) AND IsNull(工事名区切り文字数)");
+  }
+  return found;
+}
+
+SteelSupply ReadSteelSupply(Database& master, std::string_view file_name) {
+  Recordset rows =
+      master.OpenSnapshot("SELECT 支給形態 FROM 工事テーブル WHERE データパス=" + QuotedText(file_name, '"'));
+  RequireSite(rows, file_name);
+  const bool supplied =
+      IntegerOrZero(rows, rows.Field("支給形態")) == static_cast<std::int32_t>(SteelSupply::supplied);
+  return supplied ? SteelSupply::supplied : SteelSupply::own;
 }
 
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name) {

@@ -32,10 +32,15 @@ struct LongName {
   std::string name;         ///< 長い工事名, empty when null
   std::int32_t width = 50;  ///< 工事名区切り文字数, characters on the first line
 };
-/// The long name of a site. Where there is one and its width is null, 50 is written into the row.
+/// The long name of a site. Where there is one and its width is null, 50 is written into the row, unless the
+/// file may only be read.
 LongName ReadLongName(Database& master, std::string_view file_name);
 /// メーカーNo of a site, 0 when null.
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name);
+/// Who supplies the steel of a site, 支給形態.
+enum class SteelSupply : std::int32_t { own = 0, supplied = 1 };
+/// That of a site; null and numbers without a meaning count as own.
+SteelSupply ReadSteelSupply(Database& master, std::string_view file_name);
 
 /// What a site's row of `工事テーブル` tells of its bars, by diameter D10, D13, ..., D51.
 struct SiteGrades {

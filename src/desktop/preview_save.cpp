@@ -13,6 +13,7 @@
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
+#include "shell/output/output_files.h"
 
 namespace rbt {
 
@@ -55,7 +56,10 @@ bool MayReplace(const fs::path& file, const std::string& title) {
 
 /// False, after a message, when the file cannot be written.
 bool Write(std::span<const PrintedDocument> documents, const fs::path& file, const std::string& title) {
-  const auto fault = PassOverFaults(FaultKind::file, [&] { PaintPdf(documents, file); });
+  const auto fault = PassOverFaults(FaultKind::file, [&] {
+    RequireOutputPlace(file);
+    PaintPdf(documents, file);
+  });
   if (fault) MsgBox("「" + file.string() + "」に保存できません。\r\n" + fault->what(), title);
   return !fault;
 }

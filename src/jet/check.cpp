@@ -69,7 +69,7 @@ class Checker {
   /// Faults are what the check is there to find: each becomes a line and the next object is looked at.
   template <typename Step>
   void Guard(const std::string& what, Step step) {
-    if (const auto fault = PassOverFaults(step)) Damage(fmt::format("{}: {}", what, fault->what()));
+    if (const auto fault = PassOverFaultsOfContent(step)) Damage(fmt::format("{}: {}", what, fault->what()));
   }
 
   void CheckTable(const CatalogEntry& entry) {

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <numeric>
 #include <sys/stat.h>
+#include <system_error>
 
 #include <fmt/format.h>
 
@@ -233,9 +235,12 @@ void JetFile::ReadPage(std::uint32_t number, unsigned char* to) {
     std::copy_n(memory_.data() + at, size, to);
     return;
   }
-  if (fseeko(handle_, static_cast<off_t>(at), SEEK_SET) != 0 || std::fread(to, 1, size, handle_) != size) {
-    Damaged(number, "cannot be read");
-  }
+  errno = 0;
+  const bool found = fseeko(handle_, static_cast<off_t>(at), SEEK_SET) == 0;
+  if (found && std::fread(to, 1, size, handle_) == size) return;
+  if (found && std::ferror(handle_) == 0) Damaged(number, "cannot be read");
+  const std::string cause = std::generic_category().message(errno);
+  throw Fault(FaultKind::storage, fmt::format("{}: page {}: cannot be read: {}", name_, number, cause));
 }
 
 PageView JetFile::Page(std::uint32_t number) {

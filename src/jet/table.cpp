@@ -51,7 +51,7 @@ bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
 /// The pages of a usage map, none when it cannot be read.
 std::vector<std::uint32_t> PagesIfReadable(JetFile& file, RowPointer map) {
   std::vector<std::uint32_t> pages;
-  PassOverFaults([&] { pages = PagesOfUsageMap(file, map); });
+  PassOverFaultsOfContent([&] { pages = PagesOfUsageMap(file, map); });
   return pages;
 }
 
@@ -111,7 +111,7 @@ std::int64_t IntegerAt(const std::vector<Value>& fields, const TableDefinition& 
 std::vector<RowPointer> PlacesOfRows(JetFile& file, const TableDefinition& table, std::string& warning) {
   std::vector<RowPointer> places;
   std::string by_map;
-  if (const auto fault = PassOverFaults([&] { places = RowsOfUsageMap(file, table); })) {
+  if (const auto fault = PassOverFaultsOfContent([&] { places = RowsOfUsageMap(file, table); })) {
     by_map = fmt::format("its usage map is of no use ({})", fault->what());
   } else if (IsRightCount(table, places.size())) {
     return places;

@@ -20,6 +20,8 @@ std::string_view FaultText(FaultKind kind) {
     case FaultKind::field_not_found:
       return "field not found";
     case FaultKind::database:
+    case FaultKind::storage:
+    case FaultKind::locked:
     case FaultKind::file:
       return "";
   }

@@ -16,15 +16,17 @@ enum class FaultKind {
   invalid_use_of_null,
   field_not_found,
   database,  ///< the store refused: the text is the store's message and the statement
+  storage,   ///< the store's file fails: I/O, a full disk, damage, no right; a text like that of `database`
+  locked,    ///< another program holds a file, and it was waited for in vain: the text names the file
   file,      ///< a file could not be read, written or started: the text names file and cause
 };
 
-/// The runtime's words for a kind: "subscript out of range", "division by zero", ...; empty for `database`
-/// and `file`, whose message stands alone.
+/// The runtime's words for a kind: "subscript out of range", "division by zero", ...; empty for `database`,
+/// `storage`, `locked` and `file`, whose message stands alone.
 std::string_view FaultText(FaultKind kind);
 
 /// Ends the running action. `what()` is the runtime's text, ": " and where it happened (table, page and line,
-/// field, value); for `database` and `file` it is the message itself.
+/// field, value); for the kinds without words of the runtime it is the message itself.
 class Fault : public std::runtime_error {
  public:
   Fault(FaultKind kind, std::string where);

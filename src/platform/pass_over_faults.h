@@ -31,4 +31,16 @@ std::optional<Fault> PassOverFaults(FaultKind kind, Action&& action) {
   return std::nullopt;
 }
 
+/// The same for faults that lie in what was read; a broken disk, a full one, a lock pass through.
+template <typename Action>
+std::optional<Fault> PassOverFaultsOfContent(Action&& action) {
+  try {
+    action();
+  } catch (const Fault& fault) {
+    if (fault.Kind() == FaultKind::storage || fault.Kind() == FaultKind::locked) throw;
+    return fault;
+  }
+  return std::nullopt;
+}
+
 }  // namespace rbt

@@ -2,167 +2,218 @@
 #include "store/connection.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdio>
-#include <fstream>
-#include <optional>
+#include <sys/stat.h>
 #include <system_error>
-#include <variant>
+#include <utility>
 
 #include <fmt/format.h>
 
 #include "platform/failure_log.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
 #include "platform/files/system_error.h"
-#include "platform/text/characters.h"
+#include "store/connection_patience.h"
+#include "store/database_file.h"
 #include "store/dialect/functions.h"
 
 namespace rbt {
 namespace {
 
-constexpr int kBusyMilliseconds = 1000;
 /// Rows of a mid-size site stay in memory between the statements of one run.
 constexpr const char* kCacheSize = "PRAGMA cache_size=-32768";
+/// Opens the read transaction of a connection and, while it stands at its row, keeps it open.
+constexpr std::string_view kHold = "SELECT 1 UNION ALL SELECT rootpage FROM sqlite_master";
 
-/// A word that a shell hands on as it is; plain paths are left alone.
-std::string ShellWord(const std::string& word) {
-  if (word.find_first_of(" \t\n'\"$&()*;<>?[]`{|}~!#\\") == std::string::npos) return word;
-  return "'" + ReplaceAll(word, "'", "'\\''") + "'";
+/// A name that SQLite takes for nothing else: not for a URI, not for a database in memory.
+std::string PlainName(const std::filesystem::path& file) {
+  return file.is_absolute() ? file.string() : "./" + file.string();
 }
 
-/// Tells by the first bytes what stands under the name, before anything is opened: a Jet file must never
-/// reach a library that could write it.
-void RequireDatabaseFile(const std::filesystem::path& file) {
-  constexpr std::string_view kSqliteMark{"SQLite format 3\0", 16};
-  constexpr std::string_view kJetMark = "Standard Jet DB";
-  constexpr std::size_t kJetMarkAt = 4;
-
+/// SQLite, which writes a journal's name behind a file's, says of longer ones only that they cannot be
+/// opened.
+void RequireShortPath(const std::filesystem::path& file) {
+  constexpr std::size_t kJournalSuffix = 8;
+  const auto longest = static_cast<std::size_t>(sqlite3_vfs_find(nullptr)->mxPathname);
   std::error_code error;
-  const auto status = std::filesystem::status(file, error);
-  if (!std::filesystem::exists(status)) throw FileFaultText(file, "the file does not exist");
-  if (!std::filesystem::is_regular_file(status)) throw FileFaultText(file, "is not a file");
-
-  std::array<char, 20> head{};
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw FileFaultText(file, std::generic_category().message(errno));
-  in.read(head.data(), head.size());
-  const std::string_view bytes(head.data(), static_cast<std::size_t>(in.gcount()));
-  if (bytes.empty()) throw FileFaultText(file, "the file is empty, not a database");
-  if (bytes.substr(std::min(kJetMarkAt, bytes.size())).starts_with(kJetMark)) {
-    throw FileFaultText(
-        file, fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
-                          "to take it over: rbtally import {0} {0}",
-                          ShellWord(file.string())));
-  }
-  if (!bytes.starts_with(kSqliteMark)) throw FileFaultText(file, "the file is not a database");
+  const std::filesystem::path whole = std::filesystem::canonical(file, error);
+  if (whole.native().size() + kJournalSuffix > longest)
+    throw FileFault(file, "cannot be opened", ENAMETOOLONG);
 }
 
-/// A runtime's word at the beginning of the store's message, as `RegisterJetFunctions` puts it there.
-std::optional<FaultKind> KindOfMessage(std::string_view message) {
-  if (message == "integer overflow") return FaultKind::overflow;  // SQLite's own, of SUM and ABS
-  for (const FaultKind kind : {FaultKind::overflow, FaultKind::division_by_zero, FaultKind::type_mismatch,
-                               FaultKind::invalid_use_of_null}) {
-    if (message.starts_with(FaultText(kind))) return kind;
-  }
-  return std::nullopt;
+/// True for errors of a copy that lie in what is read.
+bool IsOfReading(int code) {
+  return (code & 0xFF) == SQLITE_CORRUPT || (code & 0xFF) == SQLITE_NOTADB || code == SQLITE_IOERR_READ ||
+         code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_CORRUPTFS;
 }
 
 }  // namespace
 
-Fault StoreFault(sqlite3* connection, int code, std::string_view statement) {
-  const std::string_view message = sqlite3_errmsg(connection);
-  const char* const file = sqlite3_db_filename(connection, "main");
-  const std::string where = fmt::format("{}: {}", file == nullptr ? "" : file, statement);
-  if (code == SQLITE_CONSTRAINT_NOTNULL) {
-    return {FaultKind::invalid_use_of_null, fmt::format("{}: {}", message, where)};
+void Connection::Patience::WatchOver(sqlite3* connection) {
+  // About a millisecond of work.
+  constexpr int kInstructions = 100'000;
+  sqlite3_busy_handler(connection, &OnBusy, this);
+  sqlite3_progress_handler(connection, kInstructions, &OnProgress, this);
+}
+
+int Connection::Patience::OnBusy(void* self, int times) {
+  auto* const patience = static_cast<Patience*>(self);
+  if (times == 0) patience->wait_.emplace(patience->file_);
+  return patience->wait_->Again() ? 1 : 0;
+}
+
+int Connection::Patience::OnProgress(void* self) {
+  auto* const patience = static_cast<Patience*>(self);
+  if (patience->step_seen_ != patience->step_) {
+    patience->step_seen_ = patience->step_;
+    patience->seen_since_ = Clock::now();
+    return 0;
   }
-  if (const auto kind = KindOfMessage(message)) {
-    std::string_view rest = message;
-    if (rest.starts_with(FaultText(*kind))) rest.remove_prefix(FaultText(*kind).size());
-    if (rest.starts_with(": ")) rest.remove_prefix(2);
-    return {*kind, rest.empty() ? where : fmt::format("{}: {}", rest, where)};
+  return Clock::now() - patience->seen_since_ > StatementLimit() ? 1 : 0;
+}
+
+Connection::Connection(std::filesystem::path file)
+    : file_(std::move(file)), patience_(std::make_unique<Patience>(file_)) {}
+
+Connection::Connection(const std::filesystem::path& file, OpenMode mode) : Connection(file) {
+  RequireRegularFile(file);
+  RequireShortPath(file);
+  Open(PlainName(file), mode == OpenMode::read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+  RequireStoreMark(file, Bytes(0, kMarkBytes));
+  if (mode == OpenMode::read_only && NeedsRecovery()) {
+    // Whoever reads behind a program that was killed while it wrote has to bring the last whole state back.
+    const Connection recovering(file, OpenMode::read_write);
   }
-  if ((code & 0xFF) == SQLITE_IOERR && sqlite3_system_errno(connection) != 0) {
-    const std::string cause = std::generic_category().message(sqlite3_system_errno(connection));
-    return {FaultKind::database, fmt::format("{} ({}): {}", message, cause, where)};
-  }
-  return {FaultKind::database, fmt::format("{}: {}", message, where)};
+  Configure();
+  RequireSound();
+  if (sqlite3_db_readonly(Handle(), "main") == 0) RunSetting("PRAGMA journal_mode=DELETE");
 }
 
-Statement::Statement(sqlite3* connection, std::string_view sql, std::string_view text) : text_(text) {
-  sqlite3_stmt* statement = nullptr;
-  const int code =
-      sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement, nullptr);
-  handle_.reset(statement);
-  if (code != SQLITE_OK) throw StoreFault(connection, code, text_);
+std::unique_ptr<Connection> Connection::CopyOf(const Connection& source) {
+  std::unique_ptr<Connection> copy(new Connection(source.file_));
+  copy->private_copy_ = true;
+  copy->Open("", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  source.CopyInto(*copy);
+  copy->Configure();
+  return copy;
 }
 
-bool Statement::Step() {
-  const int code = sqlite3_step(handle_.get());
-  if (code == SQLITE_ROW) return true;
-  if (code == SQLITE_DONE) return false;
-  // After the message is taken, so that the statement can be bound and run again.
-  const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_reset)> reset(handle_.get(), &sqlite3_reset);
-  throw StoreFault(sqlite3_db_handle(handle_.get()), code, text_);
+void Connection::InitialiseFile(const std::filesystem::path& file) {
+  Connection fresh(file);
+  fresh.Open(PlainName(file), SQLITE_OPEN_READWRITE);
+  // Writes the first page, so that the file is known as a database from now on.
+  fresh.RunSetting("PRAGMA user_version=0");
 }
 
-void Statement::Bind(int parameter, const Value& value) {
-  struct Binder {
-    sqlite3_stmt* statement;
-    int parameter;
-    int operator()(std::monostate) const { return sqlite3_bind_null(statement, parameter); }
-    int operator()(std::int64_t x) const { return sqlite3_bind_int64(statement, parameter, x); }
-    int operator()(double x) const { return sqlite3_bind_double(statement, parameter, x); }
-    int operator()(Currency x) const { return sqlite3_bind_double(statement, parameter, x.ToDouble()); }
-    int operator()(const std::string& x) const {
-      return sqlite3_bind_text64(statement, parameter, x.data(), x.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-    }
-    int operator()(const Bytes& x) const {
-      if (x.empty()) return sqlite3_bind_zeroblob(statement, parameter, 0);
-      return sqlite3_bind_blob64(statement, parameter, x.data(), x.size(), SQLITE_TRANSIENT);
-    }
-  };
-  const int code = std::visit(Binder{handle_.get(), parameter}, value);
-  if (code != SQLITE_OK) throw StoreFault(sqlite3_db_handle(handle_.get()), code, text_);
-}
+Connection::~Connection() = default;
 
-std::string Statement::Text(int column) const {
-  const unsigned char* const text = sqlite3_column_text(handle_.get(), column);
-  if (text == nullptr) return {};
-  const auto size = static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column));
-  return {text, text + size};
-}
-
-Connection::Connection(const std::filesystem::path& file, OpenMode mode) : file_(file) {
-  RequireDatabaseFile(file);
-  const int access = mode == OpenMode::read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+void Connection::Open(const std::string& name, int flags) {
   sqlite3* connection = nullptr;
-  const int code = sqlite3_open_v2(file.string().c_str(), &connection,
-                                   access | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
+  const int code = sqlite3_open_v2(name.c_str(), &connection,
+                                   flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
-  if (code != SQLITE_OK) throw FileFaultText(file, sqlite3_errstr(code));
-  Configure(mode);
+  if (code == SQLITE_OK) return patience_->WatchOver(connection);
+  const int cause = connection == nullptr ? 0 : sqlite3_system_errno(connection);
+  if (cause != 0) throw FileFault(file_, "cannot be opened", cause);
+  throw FileFaultText(file_, sqlite3_errstr(code));
+}
+
+void Connection::Configure() const {
+  sqlite3* const connection = Handle();
+  constexpr std::pair<int, int> kSwitches[] = {
+      {SQLITE_DBCONFIG_DQS_DML, 0},        {SQLITE_DBCONFIG_DQS_DDL, 0},
+      {SQLITE_DBCONFIG_DEFENSIVE, 1},      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+      {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+  };
+  for (const auto& [option, on] : kSwitches) sqlite3_db_config(connection, option, on, nullptr);
+  RunSetting("PRAGMA cell_size_check=ON");  // damaged pages are told, not followed
+  RunSetting(kCacheSize);
+  RunSetting("PRAGMA synchronous=FULL");
   RegisterJetFunctions(connection);
 }
 
-void Connection::Configure(OpenMode mode) const {
-  sqlite3* const connection = handle_.get();
-  sqlite3_busy_timeout(connection, kBusyMilliseconds);
-  sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-  sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-  sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-  sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-  const auto run = [&](const char* sql) {
-    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK) return;
-    throw FileFaultText(file_, sqlite3_errmsg(connection));
-  };
-  run("PRAGMA cell_size_check=ON");  // damaged pages are told, not followed
-  run(kCacheSize);
-  run("PRAGMA synchronous=FULL");
-  run("SELECT count(*) FROM sqlite_master");  // the header and every table's definition are sound
-  if (mode == OpenMode::read_write && sqlite3_db_readonly(connection, "main") == 0) {
-    run("PRAGMA journal_mode=DELETE");
+/// Reads the header and every table's definition.
+constexpr const char* kReadDefinitions = "SELECT count(*) FROM sqlite_master";
+
+void Connection::RequireSound() const { RunSetting(kReadDefinitions); }
+
+bool Connection::NeedsRecovery() const {
+  const int code = sqlite3_exec(Handle(), kReadDefinitions, nullptr, nullptr, nullptr);
+  return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY;
+}
+
+void Connection::RunSetting(const char* sql) const {
+  const int code = sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr);
+  if (code == SQLITE_OK) return;
+  const Fault fault = StoreFault(*this, code, "opening it");
+  if (fault.Kind() == FaultKind::locked) throw fault;
+  throw FileFaultText(file_, sqlite3_errmsg(Handle()));
+}
+
+/// By the connection's own file: opening and closing it beside SQLite would lose the connection's locks.
+std::string Connection::Bytes(std::int64_t at, int count) const {
+  sqlite3_file* file = nullptr;
+  sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  if (file == nullptr || file->pMethods == nullptr) return {};
+  std::string bytes(static_cast<std::size_t>(count), '\0');
+  const int code = file->pMethods->xRead(file, bytes.data(), count, at);
+  if (code == SQLITE_OK) return bytes;
+  if (code != SQLITE_IOERR_SHORT_READ) throw FileFaultText(file_, sqlite3_errstr(code));
+  sqlite3_int64 size = 0;
+  file->pMethods->xFileSize(file, &size);
+  bytes.resize(static_cast<std::size_t>(std::clamp<std::int64_t>(size - at, 0, count)));
+  return bytes;
+}
+
+bool Connection::MayBeWritten() const {
+  if (private_copy_) return true;
+  if (sqlite3_db_readonly(Handle(), "main") != 0) return false;
+  // Changes go through a journal beside the file.
+  std::error_code error;
+  const std::filesystem::path file = std::filesystem::canonical(file_, error);
+  return !error && TakesFiles(FolderOf(file));
+}
+
+std::optional<FileState> Connection::State() const {
+  constexpr int kCounterAt = 24;
+  constexpr int kReadVersionAt = 19;
+  constexpr char kWriteAheadLog = 2;
+  const std::string head = Bytes(0, kCounterAt + 4);
+  struct stat status {};
+  if (head.size() < kCounterAt + 4 || head[kReadVersionAt] == kWriteAheadLog ||
+      ::stat(file_.c_str(), &status) != 0) {
+    return std::nullopt;
   }
+  std::uint32_t changes = 0;
+  for (std::size_t i = 0; i < 4; ++i)
+    changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return FileState{changes, status.st_ino, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+}
+
+bool Connection::HasMoved() const {
+  int moved = 0;
+  sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  return moved != 0;
+}
+
+Statement Connection::Hold() const {
+  Statement hold = Prepare(kHold, "reading it");
+  hold.Step();
+  return hold;
+}
+
+void Connection::CopyInto(const Connection& target) const {
+  const Statement one_moment = Hold();  // also waits for the file
+  sqlite3_backup* const backup = sqlite3_backup_init(target.Handle(), "main", Handle(), "main");
+  if (backup != nullptr) sqlite3_backup_step(backup, -1);
+  const int code = backup == nullptr ? sqlite3_errcode(target.Handle()) : sqlite3_backup_finish(backup);
+  if (code == SQLITE_OK) return;
+  const std::string where = fmt::format("{}: copying {}", target.File().string(), file_.string());
+  if (IsOfReading(code)) {
+    throw Fault(FaultKind::storage, fmt::format("{}: {}", sqlite3_errstr(code), where));
+  }
+  throw CopyTargetFault(FaultKind::storage, fmt::format("{}: {}", sqlite3_errmsg(target.Handle()), where));
 }
 
 std::int64_t Connection::Run(std::string_view sql, std::string_view text) const {
@@ -181,23 +232,6 @@ std::int64_t Connection::Run(Statement& statement) const {
 std::int64_t Connection::IntegerOf(std::string_view sql) const {
   Statement statement = Prepare(sql);
   return statement.Step() ? statement.Integer(0) : 0;
-}
-
-void CreateDatabaseFile(const std::filesystem::path& file) {
-  const std::string name = file.string();
-  std::FILE* const fresh = std::fopen(name.c_str(), "wbx");
-  if (fresh == nullptr) throw FileFaultText(file, std::generic_category().message(errno));
-  std::fclose(fresh);
-
-  sqlite3* connection = nullptr;
-  int code = sqlite3_open_v2(name.c_str(), &connection, SQLITE_OPEN_READWRITE, nullptr);
-  // Writes the first page, so that the file is known as a database from now on.
-  if (code == SQLITE_OK) code = sqlite3_exec(connection, "PRAGMA user_version=0", nullptr, nullptr, nullptr);
-  sqlite3_close_v2(connection);
-  if (code == SQLITE_OK) return;
-  std::error_code ignored;
-  std::filesystem::remove(file, ignored);
-  throw FileFaultText(file, sqlite3_errstr(code));
 }
 
 Savepoint::Savepoint(const Connection& connection) : connection_(connection) {

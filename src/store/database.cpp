@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "store/database_file.h"
 #include "store/database_impl.h"
 #include "store/table_change.h"
 #include "store/table_sql.h"
@@ -21,9 +22,7 @@ struct Executor {
   std::int64_t operator()(const SelectStatement&) const {
     throw Fault{FaultKind::database, fmt::format("the statement gives rows and changes none: {}", text)};
   }
-  std::int64_t operator()(const ChangeStatement& change) const {
-    return database.Connected().Run(change.sql, text);
-  }
+  std::int64_t operator()(const ChangeStatement& change) const { return database.Run(change, text); }
   std::int64_t operator()(const CreateTableStatement& create) const {
     return Done([&](const TableChange& change) { change.CreateTable(create.table); });
   }
@@ -46,10 +45,17 @@ struct Executor {
 
   template <typename Change>
   std::int64_t Done(Change change) const {
+    database.StartWriting(text);
     change(TableChange(database.Connected(), database.Schema(), text));
     return 0;
   }
 };
+
+/// In faults of a fused statement the first stands for all: together they fill pages.
+std::string TextOfTogether(std::span<const std::string> updates) {
+  const std::string& first = updates.front();
+  return updates.size() == 1 ? first : fmt::format("{} and {} more", first, updates.size() - 1);
+}
 
 /// The translator knows the statement, not the file it was meant for.
 template <typename Translate>
@@ -65,7 +71,7 @@ auto NamingFile(const Connection& connection, Translate translate) {
 
 Translated Database::Impl::Translate(std::string_view jet_sql, const TranslateOptions& options) {
   schema_.Refresh();
-  return NamingFile(connection_, [&] { return TranslateJetSql(jet_sql, schema_, options); });
+  return NamingFile(*connection_, [&] { return TranslateJetSql(jet_sql, schema_, options); });
 }
 
 SelectStatement Database::Impl::TranslateSelect(std::string_view jet_sql, const TranslateOptions& options) {
@@ -73,49 +79,70 @@ SelectStatement Database::Impl::TranslateSelect(std::string_view jet_sql, const 
   auto* const select = std::get_if<SelectStatement>(&translated);
   if (select == nullptr) {
     throw Fault{FaultKind::database,
-                fmt::format("the statement gives no rows: {}: {}", connection_.File().string(), jet_sql)};
+                fmt::format("the statement gives no rows: {}: {}", connection_->File().string(), jet_sql)};
   }
   return std::move(*select);
 }
 
 ChangeStatement Database::Impl::Fuse(std::span<const std::string> updates) {
   schema_.Refresh();
-  return NamingFile(connection_, [&] { return FuseUpdates(updates, schema_); });
+  return NamingFile(*connection_, [&] { return FuseUpdates(updates, schema_); });
 }
 
-void Database::Impl::RequireWritable(std::string_view statement) const {
-  if (!in_transaction_ || !connection_.Autocommit()) return;
+void Database::Impl::StartWriting(std::string_view statement) {
+  if (!in_transaction_) LetGo();
+  if (!in_transaction_ || !connection_->Autocommit()) return;
   throw Fault{FaultKind::database, fmt::format("the store has rolled the transaction back: {}: {}",
-                                               connection_.File().string(), statement)};
+                                               connection_->File().string(), statement)};
+}
+
+bool Database::Impl::WouldWrite(const ChangeStatement& change, std::string_view text) const {
+  return change.probe.empty() || connection_->Prepare(change.probe, text).Step();
+}
+
+std::int64_t Database::Impl::Run(const ChangeStatement& change, std::string_view text) {
+  if (!in_transaction_ && !WouldWrite(change, text)) return 0;
+  StartWriting(text);
+  return connection_->Run(change.sql, text);
 }
 
 void Database::Impl::Begin() {
   if (in_transaction_) {
     throw Fault{FaultKind::database,
-                fmt::format("a transaction is open already: {}", connection_.File().string())};
+                fmt::format("a transaction is open already: {}", connection_->File().string())};
   }
-  connection_.Run("BEGIN IMMEDIATE");
+  LetGo();
+  connection_->Run("BEGIN IMMEDIATE");
   in_transaction_ = true;
 }
 
 void Database::Impl::Commit() {
-  RequireWritable("COMMIT");
-  connection_.Run("COMMIT");
+  StartWriting("COMMIT");
+  connection_->Run("COMMIT");
   in_transaction_ = false;
 }
 
 void Database::Impl::RollBack() {
+  LetGo();
   in_transaction_ = false;
   schema_.Forget();
-  if (!connection_.Autocommit()) RollBackQuietly(connection_, "ROLLBACK");
+  if (!connection_->Autocommit()) RollBackQuietly(*connection_, "ROLLBACK");
+}
+
+void Database::Impl::Hold() {
+  if (!hold_) hold_ = connection_->Hold();
 }
 
 Database Database::Open(const std::filesystem::path& file) {
-  return Database(std::make_unique<Impl>(file, OpenMode::read_write));
+  return Database(std::make_unique<Impl>(std::make_unique<Connection>(file, OpenMode::read_write)));
 }
 
 Database Database::OpenReadOnly(const std::filesystem::path& file) {
-  return Database(std::make_unique<Impl>(file, OpenMode::read_only));
+  return Database(std::make_unique<Impl>(std::make_unique<Connection>(file, OpenMode::read_only)));
+}
+
+Database Database::CopyOf(const Database& source) {
+  return Database(std::make_unique<Impl>(Connection::CopyOf(source.impl_->Connected())));
 }
 
 Database Database::CreateDatabase(const std::filesystem::path& file) {
@@ -129,6 +156,12 @@ Database& Database::operator=(Database&&) noexcept = default;
 Database::~Database() = default;
 
 const std::filesystem::path& Database::File() const { return impl_->Connected().File(); }
+bool Database::IsPrivateCopy() const { return impl_->Connected().IsPrivateCopy(); }
+bool Database::MayBeWritten() const { return impl_->Connected().MayBeWritten(); }
+std::optional<FileState> Database::State() const { return impl_->Connected().State(); }
+bool Database::HasMoved() const { return impl_->Connected().HasMoved(); }
+void Database::Hold() { impl_->Hold(); }
+void Database::LetGo() { impl_->LetGo(); }
 
 bool Database::HasRows(std::string_view jet_sql) {
   const SelectStatement select = impl_->TranslateSelect(jet_sql);
@@ -136,17 +169,17 @@ bool Database::HasRows(std::string_view jet_sql) {
 }
 
 std::int64_t Database::Execute(std::string_view jet_sql) {
-  impl_->RequireWritable(jet_sql);
   return std::visit(Executor{*impl_, jet_sql}, impl_->Translate(jet_sql));
 }
 
 std::int64_t Database::ExecuteTogether(std::span<const std::string> updates) {
   if (updates.empty()) return 0;
-  impl_->RequireWritable(updates.front());
-  const ChangeStatement fused = impl_->Fuse(updates);
-  std::string text;
-  for (const std::string& update : updates) text += (text.empty() ? "" : "; ") + update;
-  return impl_->Connected().Run(fused.sql, text);
+  return impl_->Run(impl_->Fuse(updates), TextOfTogether(updates));
+}
+
+bool Database::WouldChangeTogether(std::span<const std::string> updates) {
+  if (updates.empty()) return false;
+  return impl_->Connected().Prepare(impl_->Fuse(updates).probe, TextOfTogether(updates)).Step();
 }
 
 std::vector<TableDef> Database::TableDefs() {
@@ -164,19 +197,19 @@ std::unique_ptr<TableDef> Database::FindTable(std::string_view name) {
 
 void Database::CreateTable(const TableDef& table) {
   const std::string text = CreateTableSql(table, table.name);
-  impl_->RequireWritable(text);
+  impl_->StartWriting(text);
   TableChange(impl_->Connected(), impl_->Schema(), text).CreateTable(table);
 }
 
 void Database::AppendField(std::string_view table, const FieldDef& field) {
   const std::string text = fmt::format("field {} of {}", field.name, table);
-  impl_->RequireWritable(text);
+  impl_->StartWriting(text);
   TableChange(impl_->Connected(), impl_->Schema(), text).AddField(table, field);
 }
 
 void Database::AppendIndex(std::string_view table, const IndexDef& index) {
   const std::string text = fmt::format("index {} of {}", index.name, table);
-  impl_->RequireWritable(text);
+  impl_->StartWriting(text);
   TableChange(impl_->Connected(), impl_->Schema(), text).AddIndex(table, index);
 }
 
@@ -184,6 +217,12 @@ Transaction::Transaction(Database& database) : database_(database) { database_.i
 
 Transaction::~Transaction() {
   if (open_) database_.impl().RollBack();
+}
+
+void Transaction::CommitAndHold() {
+  // A read that has begun before goes on behind the commit.
+  database_.impl().Hold();
+  Commit();
 }
 
 void Transaction::Commit() {

@@ -4,21 +4,25 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/numbers/value.h"
+#include "store/file_state.h"
 #include "store/recordset.h"
 #include "store/schema/schema.h"
 
 namespace rbt {
 
 /// One database file of a site or of the family: an SQLite 3 file under its `.MDB` name. All statements are
-/// in the Jet dialect. Movable, closes itself. Every failure throws `Fault` of kind `database` with the
-/// store's message, the file and the statement (or `overflow`, `division by zero`, `type mismatch` where that
-/// is what went wrong).
+/// in the Jet dialect. Movable, closes itself. Every failure throws `Fault` with the store's message, the
+/// file and the statement: `database` where a statement is refused, `storage` where the file fails, `locked`
+/// where another program held it for too long (or `overflow`, `division by zero`, `type mismatch` where that
+/// is what went wrong). Reading never keeps others from reading; an UPDATE or DELETE that changes no row
+/// takes no lock on writing.
 class Database {
  public:
   /// Opens an existing file for reading and writing. Throws `file`/`database` when it is missing, is no
@@ -28,11 +32,28 @@ class Database {
   /// Makes a new empty database; a file that exists throws `file`.
   static Database CreateDatabase(const std::filesystem::path& file);
 
+  /// A copy that no other program sees, as the source stands at one moment: changes of it go with it. Its
+  /// faults name the source's file.
+  static Database CopyOf(const Database& source);
+
   Database(Database&&) noexcept;
   Database& operator=(Database&&) noexcept;
   ~Database();
 
   const std::filesystem::path& File() const;
+  bool IsPrivateCopy() const;
+  /// False when file, folder or the way it was opened leave no way to write it.
+  bool MayBeWritten() const;
+  /// How the file stands; nothing where it does not count its changes itself. Asked while the state is held
+  /// it is that of what is read.
+  std::optional<FileState> State() const;
+  /// True when the name leads to another file by now, or to none.
+  bool HasMoved() const;
+
+  /// From now on all reads see one state, that of now, and other programs wait with their changes, until
+  /// `LetGo` or the first write of one's own.
+  void Hold();
+  void LetGo();
 
   /// Opens a SELECT. `fields` narrows a `SELECT *` to what will be read: fields the table lacks are left out
   /// (ask `FindField`); empty reads all.
@@ -49,6 +70,8 @@ class Database {
   /// possible because each reads and writes only its own row. Returns the number of rows whose values
   /// changed; only those are written.
   std::int64_t ExecuteTogether(std::span<const std::string> updates);
+  /// True when they would change a row; nothing is written.
+  bool WouldChangeTogether(std::span<const std::string> updates);
 
   /// Tables in the order of their creation, internal ones left out; one whose key was added or dropped is
   /// new.
@@ -79,6 +102,8 @@ class Transaction {
   ~Transaction();
 
   void Commit();
+  /// The same, and what was committed is held, see `Database::Hold`: nobody changes it in between.
+  void CommitAndHold();
 
  private:
   Database& database_;

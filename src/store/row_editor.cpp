@@ -96,7 +96,7 @@ Statement RowEditor::PrepareUpdate(const std::vector<std::size_t>& columns) cons
 void RowEditor::Update(std::int64_t row, const Values& values) {
   const std::vector<std::size_t> columns = ColumnsSet(values);
   if (columns.empty()) return;
-  database_.RequireWritable(text_);
+  database_.StartWriting(text_);
   Statement& update = updates_[columns];
   if (!update) update = PrepareUpdate(columns);
   int parameter = 0;
@@ -116,7 +116,7 @@ Statement RowEditor::PrepareInsert(const std::vector<std::size_t>& columns) cons
 }
 
 std::int64_t RowEditor::Insert(const Values& values) {
-  database_.RequireWritable(text_);
+  database_.StartWriting(text_);
   const std::vector<std::size_t> columns = ColumnsSet(values);
   Statement& insert = inserts_[columns];
   if (!insert) insert = PrepareInsert(columns);
@@ -131,7 +131,7 @@ std::int64_t RowEditor::Insert(const Values& values) {
 }
 
 void RowEditor::Delete(std::int64_t row) {
-  database_.RequireWritable(text_);
+  database_.StartWriting(text_);
   if (!delete_) {
     delete_ = database_.Connected().Prepare(fmt::format("DELETE FROM {} WHERE rowid = ?", QuoteName(table_)),
                                             text_);

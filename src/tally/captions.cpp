@@ -87,6 +87,10 @@ std::string_view ShapeFilterCaption(ShapeFilter filter) {
   return "含む";
 }
 
+std::string_view HoopsNote(ShapeFilter hoops) {
+  return hoops == ShapeFilter::alone ? "(形状No87)" : "(形状No87)を";
+}
+
 std::string StripSlitWord(std::string_view caption) {
   std::string text(caption);
   for (const std::string_view word : {"･スリット", "・スリット", "･スリット", "スリット", "スリットのみ"}) {

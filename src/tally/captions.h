@@ -25,6 +25,9 @@ std::string_view ShortFormCaption(FormMask forms);
 /// "含む", "含まず", "のみ".
 std::string_view ShapeFilterCaption(ShapeFilter filter);
 
+/// What stands between the welded hoops and their filter: "(形状No87)を", "(形状No87)" for hoops alone.
+std::string_view HoopsNote(ShapeFilter hoops);
+
 /// A caption without the slit kind and the dot before it; of the slit kind alone "のみ" stays.
 std::string StripSlitWord(std::string_view caption);
 

@@ -9,21 +9,20 @@ namespace rbt {
 namespace {
 
 void SumDiameter(TallyTable& table, int d, const ClosingRules& rules) {
-  const int columns = rules.sum_13m_column ? kStockColumns : kColumnsTo12m;
+  const int columns = StockColumnsInUse(rules.sum_13m_column);
   for (int l = 0; l < columns; ++l) {
     table.InstalledWeight[d][l] += Currency::FromDouble(table.CutLengthM[d][l] * UnitWeight(d));
-    table.StockWeightByDia[d] += WholeKilograms(table.StockWeight[d][l]);
     table.InstalledWeightByDia[d] += table.InstalledWeight[d][l];
   }
+  table.StockWeightByDia[d] += StockWeightOfCells(table, d, columns);
   table.InstalledWeightByDia[d] += Currency::FromDouble(table.LengthWithoutColumnM[d] * UnitWeight(d));
   if (rules.cap_installed_weight && table.InstalledWeightByDia[d] > table.StockWeightByDia[d]) {
     table.InstalledWeightByDia[d] = table.StockWeightByDia[d];
   }
 }
 
-void AddToTotals(TallyTable& table, int d) {
+void AddStockAndFittings(TallyTable& table, int d) {
   table.TotalStockWeight += WholeKilograms(table.StockWeightByDia[d]);
-  table.TotalInstalledWeight += WholeKilograms(table.InstalledWeightByDia[d]);
   table.TotalWeldCount = AddInt32(table.TotalWeldCount, table.WeldCount[d], "TotalWeldCount");
   table.TotalThreadCount = AddInt32(table.TotalThreadCount, table.ThreadCount[d], "TotalThreadCount");
   table.TotalPlateCount = AddInt32(table.TotalPlateCount, table.PlateCount[d], "TotalPlateCount");
@@ -40,9 +39,25 @@ double LossRate(Currency stock, Currency installed) {
 void CloseSums(TallyTable& table, const ClosingRules& rules) {
   for (int d = 0; d < kDeformedRows; ++d) {
     SumDiameter(table, d, rules);
-    AddToTotals(table, d);
+    AddStockAndFittings(table, d);
+    table.TotalInstalledWeight += WholeKilograms(table.InstalledWeightByDia[d]);
   }
   table.LossRatePercent = LossRate(table.TotalStockWeight, table.TotalInstalledWeight);
+}
+
+Currency StockWeightOfCells(const TallyTable& table, int d, int columns) {
+  Currency sum;
+  for (int l = 0; l < columns; ++l) sum += WholeKilograms(table.StockWeight[d][l]);
+  return sum;
+}
+
+void SumStockAndFittings(TallyTable& table) {
+  table.TotalStockWeight = Currency();
+  table.TotalWeldCount = 0;
+  table.TotalThreadCount = 0;
+  table.TotalPlateCount = 0;
+  table.TotalCutCount = 0;
+  for (int d = 0; d < kDeformedRows; ++d) AddStockAndFittings(table, d);
 }
 
 }  // namespace rbt

@@ -18,4 +18,10 @@ struct ClosingRules {
 /// diameters rounded again; installed weight stays unrounded up to the total.
 void CloseSums(TallyTable& table, const ClosingRules& rules);
 
+/// The sum of a diameter's stock cells in the first `columns`, each rounded to a whole kilogram.
+Currency StockWeightOfCells(const TallyTable& table, int d, int columns);
+/// The totals of stock weight and of fittings anew, from the twelve deformed diameters; the installed total
+/// and the loss rate stay. Faults: `overflow`.
+void SumStockAndFittings(TallyTable& table);
+
 }  // namespace rbt

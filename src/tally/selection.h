@@ -4,10 +4,10 @@
 #include <cstdint>
 
 #include "data/calc_choice.h"
+#include "data/floor_mask.h"
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
 #include "data/shape_filter.h"
-#include "data/special_floors.h"
 #include "data/start_mode.h"
 #include "tally/tally_kind.h"
 

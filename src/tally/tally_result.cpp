@@ -6,7 +6,8 @@ namespace rbt {
 TallyResult WithUlbonRaised(TallyResult result, std::int32_t percent) {
   result.ulbon_percent = percent;
   const bool was_as_tallied = result.origin == ResultOrigin::counted || result.origin == ResultOrigin::raised;
-  if (was_as_tallied) result.origin = percent == 0 ? ResultOrigin::counted : ResultOrigin::raised;
+  const bool is_raised = percent != 0 || result.bars_raised;
+  if (was_as_tallied) result.origin = is_raised ? ResultOrigin::raised : ResultOrigin::counted;
   return result;
 }
 

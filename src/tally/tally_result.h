@@ -33,10 +33,12 @@ struct TallyResult {
   bool has_hoop_rows = false;          ///< what the presence probes of the tally found
   bool has_anchor_plate_rows = false;  ///< likewise
   std::int32_t ulbon_percent = 0;      ///< the Ulbon rows are shown and printed so much higher
+  bool bars_raised = false;            ///< the bars of the purchase list were raised by a percentage
   TallyTables tables = {};
 
   /// The diameter-by-length tables. Throws `std::bad_variant_access` for a result of another family.
   const TallyTable& Grid() const { return std::get<TallyTable>(tables); }
+  TallyTable& Grid() { return std::get<TallyTable>(tables); }
   /// The tables by floor; those by part. Likewise.
   const FloorTables& Floors() const { return std::get<FloorTables>(tables); }
   const PartTables& Parts() const { return std::get<PartTables>(tables); }

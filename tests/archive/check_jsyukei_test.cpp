@@ -8,12 +8,15 @@
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "shell/context/site_context.h"
+#include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -33,6 +36,11 @@ class CheckJSyukei : public testing::Test {
   void Check() {
     OpenWorkDatabase();
     Check_JSyukei();
+    SiteContext.WorkDatabase.reset();
+  }
+  void Ready() {
+    OpenWorkDatabase();
+    ReadyArchiveTables();
     SiteContext.WorkDatabase.reset();
   }
   std::vector<TableDef> Tables(const char* file) const {
@@ -155,10 +163,26 @@ TEST_F(CheckJSyukei, WithoutTheTemplateThereIsOneMessageAndNoTableIsTouched) {
   EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), bytes);
 }
 
-TEST_F(CheckJSyukei, ADamagedTemplateEndsTheCheckWithoutAMessage) {
+TEST_F(CheckJSyukei, ADamagedTemplateIsAFault) {
   WriteFileAtomically(site_.Data(kTemplateFile), "no database");
-  EXPECT_NO_THROW(Check());
-  EXPECT_THAT(site_.Messages(), IsEmpty());
+  EXPECT_THAT(FaultTextOf([&] { Check(); }), HasSubstr("JSyukeiORG.mdb: the file is not a database"));
+}
+
+TEST_F(CheckJSyukei, AFullDiskIsAFaultAndLeavesTheSiteAsItWas) {
+  for (const TableDef& table : ArchiveTables()) site_.Execute(kScheduleFile, "DROP TABLE " + table.name);
+  const std::string bytes = ReadFileBytes(site_.Data(kScheduleFile));
+  EXPECT_TRUE(
+      WithFilesOfAtMost(512, [&] { EXPECT_THAT(FaultTextOf([&] { Ready(); }), HasSubstr("GENBA001.MDB")); }));
+  EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), bytes);
+  EXPECT_THAT(Tables(kScheduleFile), SizeIs(3));
+}
+
+TEST_F(CheckJSyukei, ALockThatIsWaitedForInVainIsAFault) {
+  site_.Execute(kScheduleFile, "DROP TABLE 重量集計");
+  Services.LockPatience = std::chrono::milliseconds(0);
+  Database other = Database::Open(site_.Data(kScheduleFile));
+  const Transaction writing(other);
+  EXPECT_THAT(FaultTextOf([&] { Ready(); }), HasSubstr("another program holds the file"));
 }
 
 TEST_F(CheckJSyukei, RowsThatTheNewKeyRefusesLeaveTheirTableAsItWas) {
@@ -195,20 +219,61 @@ TEST_F(CheckJSyukei, OnlyArchiveTablesHaveAKeyToAdd) {
   EXPECT_THROW(Add_PrimaryKey(kBulk), Fault);
 }
 
-TEST_F(CheckJSyukei, EmptyLeftoversAreDroppedAndFilledOnesStay) {
+TEST_F(CheckJSyukei, AnEmptyOldTableIsMadeAnewAndAFilledOneKeepsItsRows) {
+  TableDef bulk = Without(Layout(kBulk), {"材料"});
+  bulk.fields.push_back({"余分", FieldType::integer32});
+  Replace(bulk);
+  TableDef names = Layout(kNames);
+  names.fields.push_back({"余分", FieldType::integer32});
+  Replace(names);
   AddSaved("20261101", "101500");
-  OpenWorkDatabase();
-  DropEmptyArchiveTables();
-  EXPECT_FALSE(Table_Exists(kBulk, *SiteContext.WorkDatabase));
-  EXPECT_TRUE(Table_Exists(kNames, *SiteContext.WorkDatabase));
-  EXPECT_TRUE(Table_Exists("階別重量集計", *SiteContext.WorkDatabase));
+  Ready();
+  ExpectSame(Table(kBulk), Layout(kBulk));
+  ExpectSame(Table(kNames), names);
+  EXPECT_THAT(site_.Rows(kScheduleFile, "SELECT 重量集計名称 FROM 重量集計名称"), SizeIs(1));
+}
+
+TEST_F(CheckJSyukei, ARowThatIsSavedMeanwhileStays) {
+  Replace(Without(Layout(kNames), {"定尺１３ｍ"}));
+  // Another program saves when ours asks for the lock, behind its look.
+  Database other = Database::Open(site_.Data(kScheduleFile));
+  auto saving = std::make_unique<Transaction>(other);
+  Recordset rows = other.OpenDynaset("SELECT * FROM 重量集計名称");
+  rows.AddNew();
+  rows.Set("作成日", std::string("20261101"));
+  rows.Set("作成時間", std::string("101500"));
+  rows.Update();
+  Services.LockPatience = std::chrono::milliseconds(0);
+  Services.WaitOn = [&](const std::filesystem::path&) {
+    if (saving) saving->Commit();
+    saving.reset();
+    return true;
+  };
+  Ready();
+  EXPECT_THAT(site_.Rows(kScheduleFile, "SELECT 作成日 FROM 重量集計名称"), SizeIs(1));
+  EXPECT_NE(Table(kNames).FindField("定尺１３ｍ"), nullptr);
+}
+
+TEST_F(CheckJSyukei, OnASiteWhoseArchiveIsReadyNothingIsWrittenOrLocked) {
+  AddSaved("20261101", "101500");
+  Services.LockPatience = std::chrono::milliseconds(0);
+  Database other = Database::Open(site_.Data(kScheduleFile));
+  const Transaction writing(other);
+  const std::string bytes = ReadFileBytes(site_.Data(kScheduleFile));
+  Ready();
+  EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), bytes);
+}
+
+TEST_F(CheckJSyukei, ASiteThatIsOnlyReadIsLeftAsItIs) {
+  site_.Execute(kScheduleFile, "DROP TABLE 重量集計");
+  SiteContext.OnlyRead = true;
+  Ready();
+  EXPECT_TRUE(Table(kBulk).fields.empty());
 }
 
 TEST_F(CheckJSyukei, AnUnusedArchiveIsMadeAnewFromTheTemplate) {
   Replace(Without(Layout(kNames), {"定尺１３ｍ"}));
-  OpenWorkDatabase();
-  DropEmptyArchiveTables();
-  Check_JSyukei();
+  Ready();
   ExpectSame(Table(kNames), Layout(kNames));
 }
 

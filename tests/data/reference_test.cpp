@@ -134,6 +134,18 @@ TEST_F(MasterDatabase, LeavesTheWidthAloneWhereThereIsNoLongName) {
   EXPECT_TRUE(IsNull(Get("SELECT 工事名区切り文字数 FROM 工事テーブル")));
 }
 
+TEST_F(MasterDatabase, TellsWhoSuppliesTheSteelOfASite) {
+  Run("INSERT INTO 工事テーブル (データパス, 支給形態) VALUES ('A', 0)");
+  Run("INSERT INTO 工事テーブル (データパス, 支給形態) VALUES ('B', 1)");
+  Run("INSERT INTO 工事テーブル (データパス, 支給形態) VALUES ('C', 2)");
+  Run("INSERT INTO 工事テーブル (データパス) VALUES ('D')");
+  EXPECT_EQ(ReadSteelSupply(Master(), "A"), SteelSupply::own);
+  EXPECT_EQ(ReadSteelSupply(Master(), "B"), SteelSupply::supplied);
+  EXPECT_EQ(ReadSteelSupply(Master(), "C"), SteelSupply::own);
+  EXPECT_EQ(ReadSteelSupply(Master(), "D"), SteelSupply::own);
+  EXPECT_THROW(ReadSteelSupply(Master(), "E"), Fault);
+}
+
 TEST_F(MasterDatabase, GivesGradeCodesAndMakersByDiameter) {
   Run("INSERT INTO 工事テーブル (データパス, SD10, SD51, MK10, MK51, 支給形態) "
       "VALUES ('GENBA001.MDB', 1, 4, '東', '西', 9)");

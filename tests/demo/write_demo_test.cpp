@@ -15,6 +15,8 @@
 #include "platform/profile/ini_file.h"
 #include "platform/text/cp932.h"
 #include "store/database.h"
+#include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::demo {
@@ -105,6 +107,72 @@ TEST_F(WriteDemoTest, refuses_a_file_under_the_name) {
   std::ofstream(Root()) << "kept";
   EXPECT_THROW(WriteDemo(Root(), {1, 0, 1}), Fault);
   EXPECT_EQ(ReadFileBytes(Root()), "kept");
+}
+
+TEST_F(WriteDemoTest, killed_at_any_moment_leaves_a_whole_root_or_none_and_the_next_one_succeeds) {
+  const auto make = [&] { WriteDemo(Root(), {1, 0, 1}); };
+  int absent = 0;
+  int whole = 0;
+  const auto survives = [&](int n) {
+    SCOPED_TRACE(n);
+    if (!test::KilledBeforeChange(n, make)) return false;
+    if (fs::exists(Root() / "DATA")) {
+      ++whole;
+    } else {
+      ++absent;
+      make();
+    }
+    EXPECT_TRUE(fs::exists(Root() / "DATA" / "STEEL.INI"));
+    EXPECT_TRUE(fs::exists(Root() / "rbshopTM"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(Root()), fs::directory_iterator()), 3);
+    fs::remove_all(Root());
+    return true;
+  };
+  // Every fortieth moment up to the end, and every one of the last.
+  constexpr int kStep = 40;
+  int n = 1;
+  while (survives(n)) n += kStep;
+  fs::remove_all(Root());
+  for (n -= kStep - 1; survives(n);) ++n;
+  EXPECT_GT(absent, 5);
+  EXPECT_GT(whole, 0);
+}
+
+TEST_F(WriteDemoTest, in_a_folder_where_another_one_is_made_is_refused_or_whole) {
+  const auto make = [&] { WriteDemo(Root(), {1, 0, 1}); };
+  std::string refusal;
+  test::MeddleBeforeChange(
+      60, [&] { refusal = test::FaultTextOf(make); }, make);
+  EXPECT_TRUE(fs::exists(Root() / "DATA" / "STEEL.INI"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(Root()), fs::directory_iterator()), 3);
+}
+
+TEST_F(WriteDemoTest, that_cannot_be_written_names_the_file_and_leaves_nothing) {
+  EXPECT_TRUE(test::WithFilesOfAtMost(8192, [&] {
+    EXPECT_THAT(test::FaultTextOf([&] {
+                  WriteDemo(Root(), {1, 100, 1});
+                }),
+                testing::HasSubstr((Root() / "DATA/GENBA001.MDB").string()));
+  }));
+  EXPECT_FALSE(fs::exists(Root()));
+}
+
+TEST_F(WriteDemoTest, with_a_system_call_that_fails_is_a_fault_or_whole_and_stands_in_no_ones_way) {
+  if (!test::CanFailCalls()) GTEST_SKIP() << "calls cannot be made to fail on this machine";
+  const auto make = [&] { WriteDemo(Root(), {1, 0, 1}); };
+  int faults = 0;
+  for (int n = 1;; n += test::FailingCallStep(61)) {
+    SCOPED_TRACE(n);
+    const test::Ending ending = test::WithFailingCall(n, [&] { return (make(), true); });
+    if (ending == test::Ending::too_few_calls) break;
+    EXPECT_NE(ending, test::Ending::crash);
+    if (ending == test::Ending::fault) ++faults;
+    EXPECT_TRUE(ending == test::Ending::fault || fs::exists(Root() / "DATA" / "STEEL.INI"));
+    if (!fs::exists(Root() / "DATA")) make();
+    EXPECT_TRUE(fs::exists(Root() / "DATA" / "STEEL.INI"));
+    fs::remove_all(Root());
+  }
+  EXPECT_GT(faults, 5);
 }
 
 }  // namespace

@@ -162,6 +162,20 @@ TEST_F(SavedPreview, AFileThatCannotBeWrittenIsNamedWithTheCauseAndAnotherIsAske
   EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(SavedPreview, ADatabaseIsNeverReplacedAndNothingIsPutBesideOne) {
+  Services.Root = folder / "root";
+  fs::create_directories(folder / "root/DATA");
+  const std::string jet("\0\1\0\0Standard Jet DB\0", 20);
+  std::ofstream(folder / "site.pdf", std::ios::binary) << jet;
+  names = {folder / "site.pdf", folder / "root/DATA/a.pdf", folder / "b.pdf"};
+  answer = MessageAnswer::yes;
+  Save();
+  EXPECT_EQ(ReadFileBytes(folder / "site.pdf"), jet);
+  EXPECT_FALSE(fs::exists(folder / "root/DATA/a.pdf"));
+  EXPECT_TRUE(IsPdf(folder / "b.pdf"));
+  ASSERT_EQ(messages.size(), 4U) << "whether to replace, twice why not, and what was saved";
+}
+
 TEST_F(SavedPreview, AFolderInPlaceOfTheFileIsToldAndStays) {
   const fs::path file = folder / "a.pdf";
   fs::create_directory(file);

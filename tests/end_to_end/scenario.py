@@ -4,6 +4,7 @@
 
 usage: scenario.py RBTALLY FILE.scenario
 """
+import fcntl
 import json
 import os
 import pathlib
@@ -58,6 +59,17 @@ def readable(output):
         return output.decode("cp932")
 
 
+class FolderHolder:
+    """A folder that is locked for its holder alone."""
+
+    def __init__(self, folder):
+        self.descriptor = os.open(folder, os.O_RDONLY)
+        fcntl.flock(self.descriptor, fcntl.LOCK_EX)
+
+    def close(self):
+        os.close(self.descriptor)
+
+
 class World:
     """A generated root, the settings, and what the last command did."""
 
@@ -68,6 +80,7 @@ class World:
         self.settings = self.folder / "settings.ini"
         self.rows = 0
         self.read_only = False
+        self.holders = []
         self.stdout, self.stderr, self.status = "", [], 0
         self.environment = {
             "PATH": os.environ["PATH"], "HOME": str(self.folder), "LC_ALL": "C.UTF-8", "TZ": "Asia/Tokyo",
@@ -180,6 +193,32 @@ class World:
             else:
                 shutil.copy(path, folder)
 
+    def hold(self, words):
+        """held FILE: another program has the database for itself"""
+        connection = sqlite3.connect(self.database(words[0]), isolation_level=None)
+        connection.execute("BEGIN EXCLUSIVE")
+        self.holders.append(connection)
+
+    def hold_folder(self, words):
+        """held-folder PATH: another program has locked the folder, below the folder above the root"""
+        holder = FolderHolder(self.folder / words[0])
+        self.holders.append(holder)
+
+    def let_go(self, _words=()):
+        """let-go: the other programs end"""
+        for holder in self.holders:
+            holder.close()
+        self.holders = []
+
+    def setting_bytes(self, words):
+        """setting-bytes TEXT: the whole settings file, in code page 932"""
+        self.settings.write_bytes(words[0].replace("\\r", "\r").replace("\\n", "\n").encode("cp932"))
+
+    def link(self, words):
+        """link-to-itself PATH: below the root"""
+        path = self.root / words[0]
+        path.symlink_to(path.name)
+
     def lock(self, _words):
         """read-only: nothing below the root may be written"""
         for path in [self.root, *self.root.rglob("*")]:
@@ -240,8 +279,10 @@ class World:
 DIRECTIVES = {
     "row": World.row, "spiral": World.spiral, "without": World.without, "sql": World.sql,
     "setting": World.setting, "file": World.file, "remove": World.remove, "rename": World.rename,
-    "folder": World.folder_at, "jet": World.jet, "sample": World.sample, "as-jet": World.as_jet,
-    "cut": World.cut, "byte": World.byte, "read-only": World.lock,
+    "folder": World.folder_at, "jet": World.jet, "sample": World.sample, "as-jet": World.as_jet, "cut": World.cut,
+    "byte": World.byte,
+    "read-only": World.lock, "held": World.hold, "held-folder": World.hold_folder, "let-go": World.let_go,
+    "setting-bytes": World.setting_bytes, "link-to-itself": World.link,
 }
 
 
@@ -317,19 +358,26 @@ def parse(text):
     return steps
 
 
+def take(world, step):
+    if not isinstance(step, Expectation):
+        word, words = step
+        DIRECTIVES[word](world, words)
+        return
+    world.run(step.command)
+    try:
+        step.check(world)
+    except Mismatch as mismatch:
+        raise Mismatch(f"$ {step.command}\n{mismatch}") from None
+
+
 def play(program, text):
     with tempfile.TemporaryDirectory(prefix="rbtally-") as folder:
         world = World(program, folder)
-        for step in parse(text):
-            if isinstance(step, Expectation):
-                world.run(step.command)
-                try:
-                    step.check(world)
-                except Mismatch as mismatch:
-                    raise Mismatch(f"$ {step.command}\n{mismatch}") from None
-            else:
-                word, words = step
-                DIRECTIVES[word](world, words)
+        try:
+            for step in parse(text):
+                take(world, step)
+        finally:
+            world.let_go()
 
 
 def main():

@@ -6,10 +6,12 @@ usage: golden.py check RBTALLY [SITE]     fails at any difference, at a missing 
        golden.py accept RBTALLY [SITE]    shows each difference, then asks whether to take it (--yes: takes all)
 
 A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then lines
-`report OPTIONS` with the options that every form is drawn with. A trace is SITE.FORM.trace.
+`report OPTIONS` or `list OPTIONS`: the options that each comparison and Ulbon form, or each purchase list, is drawn
+with. A trace is SITE.FORM.trace.
 """
 import difflib
 import pathlib
+import re
 import shlex
 import sys
 import tempfile
@@ -18,7 +20,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "end_to_end"))
 import scenario  # noqa: E402
 
-FORMS = [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")] + ["ulbon"]
+# The forms that a site's options are for, by the beginning of their names; the names are the program's own.
+FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",)}
 
 
 class Site:
@@ -27,13 +30,19 @@ class Site:
     def __init__(self, program, file, folder):
         self.name = file.stem
         self.world = scenario.World(program, folder)
-        self.options = []
+        self.family, self.options = "", []
         for line in file.read_text(encoding="utf-8").splitlines():
             words = shlex.split(line, comments=True)
-            if words[:1] == ["report"]:
-                self.options = words[1:]
+            if words[:1] in (["report"], ["list"]):
+                self.family, *self.options = words
             elif words:
                 scenario.DIRECTIVES[words[0]](self.world, words[1:])
+
+    def all_forms(self):
+        return re.search(r"NAME TEXT:\{([^}]*)\}", self.run("report", "--help")).group(1).split(",")
+
+    def forms(self):
+        return [form for form in self.all_forms() if form.startswith(FAMILIES[self.family])]
 
     def run(self, *words):
         self.world.run(shlex.join(["rbtally", *words]))
@@ -66,9 +75,10 @@ def difference(file, trace):
 
 
 def check(program, names):
-    failures, known = [], set()
+    failures, known, undrawn = [], set(), set()
     for site in sites(program, names):
-        for form in FORMS:
+        undrawn |= {form for form in site.all_forms() if not form.startswith(sum(FAMILIES.values(), ()))}
+        for form in site.forms():
             file = golden_file(site, form)
             known.add(file)
             if not file.exists():
@@ -77,6 +87,7 @@ def check(program, names):
                 failures.append(text)
     if not names:
         failures += [f"{file.name} belongs to no form" for file in HERE.glob("*.trace") if file not in known]
+    failures += [f"no site draws {form}" for form in sorted(undrawn)]
     if not known:
         failures.append(f"no such site: {' '.join(names)}")
     for failure in failures:
@@ -86,7 +97,7 @@ def check(program, names):
 
 def accept(program, names, take_all):
     for site in sites(program, names):
-        for form in FORMS:
+        for form in site.forms():
             file, trace = golden_file(site, form), site.trace(form)
             text = difference(file, trace)
             if not text:

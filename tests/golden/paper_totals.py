@@ -98,18 +98,84 @@ def check_ulbon(trace, tally, options):
     yield "総重量", total_weight(rows), ulbon_sum(tally, 0)
 
 
+def pages_of(trace):
+    return [page for page in trace.split("\npage\t")[1:]]
+
+
+def split_by(texts, label):
+    """The texts of a row from each occurrence of its label on, without the labels: one entry a diameter."""
+    cells = []
+    for text in texts:
+        if text.strip() == label:
+            cells.append([])
+        elif cells:
+            cells[-1].append(text)
+    return cells
+
+
+def listed(trace, lengths, sums):
+    """What stands below each diameter: ("D10", {"6.0": [bars, weight], "重量": [n], ...})."""
+    for page in pages_of(trace):
+        rows = rows_of(page)
+        names = [text for texts in rows.values() for text in texts if re.fullmatch(r"D \d\d", text)]
+        below = [{} for _ in names]
+        for label in lengths + sums:
+            found = [texts for texts in rows.values() if any(text.strip() == label for text in texts)]
+            for index, cells in enumerate(split_by(found[0], label) if names else []):
+                below[index][label] = figures(cells)
+        yield from zip((name.replace(" ", "") for name in names), below)
+
+
+def check_list(form, trace, tally, options, settings):
+    lengths = [f"{3.5 + 0.5 * column:.1f}" for column in range(18)] + ["13.0"] * settings["13m"]
+    landscape, with_weights = "a4y" in form, not form.endswith("count")
+    sums = {"重量": tally["StockWeightByDia"], "取重": tally["InstalledWeightByDia"], "圧接": tally["WeldCount"],
+            "ｶﾌﾟﾗ": tally["ThreadCount"], "ＤＢ": tally["PlateCount"], "切断": tally["CutCount"]}
+    if options.get("--installed") != "1" or not landscape:
+        del sums["取重"]
+    if not landscape:
+        del sums["ｶﾌﾟﾗ"], sums["ＤＢ"]
+    codes = ["D10", "D13", "D16", "D19", "D22", "D25", "D29", "D32", "D35", "D38", "D41", "D51"]
+    bars, weights = ({(d, l): n for d, l, n in tally[name]} for name in ("BarCount", "StockWeight"))
+    diameters = [d for d in range(12) if settings["empty"] or tally["StockWeightByDia"][d]]
+    sheet = list(listed(trace, lengths, list(sums)))
+    yield "diameters", [name for name, _ in sheet], [codes[d] for d in diameters]
+    for d, (name, below) in zip(diameters, sheet):
+        for column, label in enumerate(lengths):
+            cell = [bars.get((d, column), 0)] + [whole(weights.get((d, column), 0))] * with_weights
+            yield f"{name} {label}", below[label], [figure for figure in cell if figure]
+        for label, values in sums.items():
+            yield f"{name} {label}", below[label], [whole(values[d])] if values[d] else []
+    for page in pages_of(trace):
+        yield "総重量", total_weight(rows_of(page)), whole(tally["TotalStockWeight"])
+
+
+def tally_of(site, options):
+    """What the forms of the site are drawn from."""
+    if site.family == "list":
+        changes = [word for name, value in zip(site.options[::2], site.options[1::2]) for word in (name, value)
+                   if name in ("--percent", "--set")]
+        return json.loads(site.run("detail", "bulk", "--format", "json", *changes))
+    start_mode = ["--start-mode", options["--start-mode"]] if "--start-mode" in options else []
+    return json.loads(site.run("tally", "bulk", "--format", "json", *start_mode))
+
+
+def checks_of(site, form, trace, tally, options):
+    if site.family == "list":
+        text = site.world.settings.read_text(encoding="utf-8")
+        settings = {"13m": "定尺13有無=1" in text, "empty": "重量の無い太さの印字=1" in text}
+        return check_list(form, trace, tally, options, settings)
+    return check_ulbon(trace, tally, options) if form == "ulbon" else check_comparison(form, trace, tally, options)
+
+
 def main():
     program, name = sys.argv[1:]
     failures = compared = 0
     for site in golden.sites(program, [name]):
         options = dict(zip(site.options[::2], site.options[1::2]))
-        start_mode = ["--start-mode", options["--start-mode"]] if "--start-mode" in options else []
-        tally = json.loads(site.run("tally", "bulk", "--format", "json", *start_mode))
-        for form in golden.FORMS:
-            trace = site.trace(form)
-            checks = check_ulbon(trace, tally, options) if form == "ulbon" else check_comparison(
-                form, trace, tally, options)
-            for what, printed, expected in checks:
+        tally = tally_of(site, options)
+        for form in site.forms():
+            for what, printed, expected in checks_of(site, form, site.trace(form), tally, options):
                 compared += 1
                 if printed != expected:
                     failures += 1

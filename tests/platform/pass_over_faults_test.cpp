@@ -35,5 +35,13 @@ TEST(PassOverFaults, OfOneKindLetsTheOthersPass) {
   EXPECT_THROW(PassOverFaults(FaultKind::file, Overflow), Fault);
 }
 
+TEST(PassOverFaults, OfContentLetsThoseOfDisksAndLocksPass) {
+  EXPECT_TRUE(PassOverFaultsOfContent(Overflow));
+  EXPECT_TRUE(PassOverFaultsOfContent([] { throw Fault(FaultKind::database, "no such table"); }));
+  for (const FaultKind kind : {FaultKind::storage, FaultKind::locked}) {
+    EXPECT_THROW(PassOverFaultsOfContent([&] { throw Fault(kind, "GENBA001.MDB"); }), Fault);
+  }
+}
+
 }  // namespace
 }  // namespace rbt

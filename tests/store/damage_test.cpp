@@ -99,7 +99,7 @@ TEST_F(ADamagedFile, faults_naming_the_file_when_a_page_of_rows_is_no_page) {
     bytes_.replace(at, kPage, kPage, '\x7f');
   test::WriteBytes(file_, bytes_);
   Database site = Database::Open(file_);
-  test::ExpectFault(FaultKind::database, "GENBA001.MDB",
+  test::ExpectFault(FaultKind::storage, "GENBA001.MDB",
                     [&] { site.OpenSnapshot("SELECT * FROM 加工テーブル"); });
 }
 

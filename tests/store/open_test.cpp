@@ -86,7 +86,7 @@ TEST_F(OpeningAFile, read_only_refuses_every_change_with_the_stores_words) {
   test::RunPlain(file_, "CREATE TABLE 登録名(登録AN LONG); INSERT INTO 登録名 VALUES(1)");
   Database database = Database::OpenReadOnly(file_);
   EXPECT_TRUE(database.HasRows("SELECT * FROM 登録名"));
-  ExpectFault(FaultKind::database, "readonly database",
+  ExpectFault(FaultKind::storage, "readonly database",
               [&] { database.Execute("UPDATE 登録名 SET 登録AN=2"); });
 }
 
@@ -99,7 +99,7 @@ TEST_F(OpeningAFile, without_the_right_to_write_opens_and_refuses_changes) {
     if (geteuid() == 0 && setuid(kNobody) != 0) return false;  // root writes whatever the rights say
     Database database = Database::Open(file_);
     if (!database.HasRows("SELECT * FROM 登録名")) return false;
-    ExpectFault(FaultKind::database, "readonly database",
+    ExpectFault(FaultKind::storage, "readonly database",
                 [&] { database.Execute("UPDATE 登録名 SET 登録AN=2"); });
     return !::testing::Test::HasFailure();
   }));

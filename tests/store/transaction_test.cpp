@@ -15,6 +15,7 @@
 #include "store/database_impl.h"
 #include "store/plain_file.h"
 #include "support/child_process.h"
+#include "support/kept_services.h"
 #include "support/sample.h"
 #include "support/temporary_folder.h"
 
@@ -121,10 +122,12 @@ TEST_F(Transactions, roll_back_while_recordsets_are_open) {
 }
 
 TEST_F(Transactions, of_a_second_program_wait_a_little_and_then_fault) {
+  const test::KeptServices services;
+  Services.LockPatience = std::chrono::milliseconds(50);
   Database site = Site(1);
   Database other = Database::Open(file_);
   const Transaction first(site);
-  ExpectFault(FaultKind::database, "GENBA001.MDB", [&] { const Transaction second(other); });
+  ExpectFault(FaultKind::locked, "GENBA001.MDB", [&] { const Transaction second(other); });
   EXPECT_TRUE(other.HasRows("SELECT * FROM T"));
 }
 
@@ -132,12 +135,12 @@ TEST_F(Transactions, lose_nothing_when_the_disk_is_full) {
   Database site = Site(100);
   const Connection& connection = site.impl().Connected();
   connection.Run("PRAGMA max_page_count=" + std::to_string(connection.IntegerOf("PRAGMA page_count") + 2));
-  ExpectFault(FaultKind::database, "full", [&] { site.Execute("INSERT INTO T(n, t) SELECT 1, t FROM T"); });
+  ExpectFault(FaultKind::storage, "full", [&] { site.Execute("INSERT INTO T(n, t) SELECT 1, t FROM T"); });
   EXPECT_EQ(test::PlainInteger(file_, "SELECT count(*) FROM T"), 100);
   {
     Transaction together(site);
     site.Execute("UPDATE T SET n=1");
-    ExpectFault(FaultKind::database, "full", [&] { site.Execute("INSERT INTO T(n, t) SELECT 1, t FROM T"); });
+    ExpectFault(FaultKind::storage, "full", [&] { site.Execute("INSERT INTO T(n, t) SELECT 1, t FROM T"); });
   }
   EXPECT_EQ(Numbers(), "0");
   EXPECT_EQ(test::PlainText(file_, "PRAGMA integrity_check"), "ok");
@@ -169,7 +172,7 @@ TEST_F(Transactions, lose_nothing_when_the_file_may_not_grow) {
     Transaction together(site);
     site.Execute("UPDATE T SET n=1");
     site.Execute("INSERT INTO T(n, t) SELECT 1, t FROM T");
-    ExpectFault(FaultKind::database, "GENBA001.MDB", [&] { together.Commit(); });
+    ExpectFault(FaultKind::storage, "GENBA001.MDB", [&] { together.Commit(); });
     ExpectFault(FaultKind::database, "", [&] { together.Commit(); });
   }));
   EXPECT_EQ(Numbers(), "0");

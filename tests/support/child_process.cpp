@@ -7,18 +7,23 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <fcntl.h>
 #include <iterator>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
+#ifdef __x86_64__
+#include <sys/user.h>
+#endif
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -62,6 +67,22 @@ constexpr long kChanges[] = {
 #endif
 };
 
+/// System calls that look at files or read them. What opens them stands with those that change them.
+constexpr long kLooks[] = {
+    SYS_openat, SYS_read,     SYS_pread64,   SYS_fstat,      SYS_newfstatat, SYS_statx,      SYS_lseek,
+    SYS_fcntl,  SYS_flock,    SYS_faccessat, SYS_faccessat2, SYS_readlinkat, SYS_getdents64, SYS_close,
+#ifdef SYS_access
+    SYS_access, SYS_readlink,
+#endif
+#ifdef SYS_stat
+    SYS_stat,   SYS_lstat,    SYS_open,
+#endif
+};
+
+bool IsOneOf(const auto& calls, long number) {
+  return std::find(std::begin(calls), std::end(calls), number) != std::end(calls);
+}
+
 int Run(const std::function<bool()>& action) {
   try {
     return action() ? 0 : 1;
@@ -71,17 +92,30 @@ int Run(const std::function<bool()>& action) {
   }
 }
 
+constexpr int kWrong = 3;
+constexpr int kFault = 4;
+constexpr int kNoText = 5;
+
+/// The child's exit status tells how the action ended.
+int RunToEnding(const std::function<bool()>& action) {
+  try {
+    return action() ? 0 : kWrong;
+  } catch (const std::exception& failure) {
+    return *failure.what() == '\0' ? kNoText : kFault;
+  }
+}
+
 /// A child process that stops at each system call; killed with the object.
 class TracedChild {
  public:
-  explicit TracedChild(const std::function<void()>& action) : child_(fork()) {
+  explicit TracedChild(const std::function<void()>& action)
+      : TracedChild([&] { return Run([&] { return (action(), true); }); }, 0) {}
+  /// The action's result is the exit status.
+  TracedChild(const std::function<int()>& action, int /*of_status*/) : child_(fork()) {
     if (child_ == 0) {
       if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(2);
       raise(SIGSTOP);
-      _exit(Run([&] {
-        action();
-        return true;
-      }));
+      _exit(action());
     }
     if (!Wait() || ptrace(PTRACE_SETOPTIONS, child_, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0)
       throw std::runtime_error(std::string("a child cannot be traced: ") + std::strerror(errno));
@@ -96,14 +130,56 @@ class TracedChild {
 
   /// Goes on to the next system call that changes something; false when the action came to its end.
   bool GoToChange() {
-    for (;;) {
-      if (ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr) != 0) throw std::runtime_error("a child got lost");
-      if (!Wait()) return false;
-      if (WSTOPSIG(status_) == (SIGTRAP | 0x80) && IsChange()) return true;
+    return GoTo([](const Call& call) { return IsChange(call); });
+  }
+  /// The same for every call that has to do with files.
+  bool GoToFileCall() {
+    return GoTo([](const Call& call) { return IsChange(call) || IsOneOf(kLooks, call.number); });
+  }
+
+#ifdef __x86_64__
+  /// Lets the call at which the child stands fail.
+  void FailCall() {
+    user_regs_struct registers{};
+    ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
+    const bool writes = IsOneOf(kChanges, static_cast<long>(registers.orig_rax));
+    registers.orig_rax = ~0ULL;  // no call
+    ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
+    ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr);
+    if (!Wait()) return;
+    ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
+    registers.rax = static_cast<unsigned long long>(-static_cast<long long>(writes ? ENOSPC : EIO));
+    ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
+  }
+#endif
+
+  /// Lets the child run to its end; how it ended, as waitpid() tells.
+  int ToEnd() {
+    while (!ended_) {
+      if (ptrace(PTRACE_CONT, child_, nullptr, nullptr) != 0) throw std::runtime_error("a child got lost");
+      Wait();
     }
+    return status_;
   }
 
  private:
+  struct Call {
+    long number;
+    std::uint64_t first_argument;
+    std::uint64_t third_argument;
+  };
+
+  template <typename IsMeant>
+  bool GoTo(IsMeant is_meant) {
+    for (;;) {
+      if (ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr) != 0) throw std::runtime_error("a child got lost");
+      if (!Wait()) return false;
+      if (WSTOPSIG(status_) != (SIGTRAP | 0x80)) continue;
+      const std::optional<Call> call = EnteredCall();
+      if (call && !IsOnPipe(*call) && is_meant(*call)) return true;
+    }
+  }
+
   /// Until the child stops; false when it has ended.
   bool Wait() {
     while (waitpid(child_, &status_, 0) < 0) {
@@ -111,18 +187,35 @@ class TracedChild {
     }
     if (WIFSTOPPED(status_)) return true;
     ended_ = true;
-    if (WIFEXITED(status_) && WEXITSTATUS(status_) != 0) throw std::runtime_error("a child failed");
+    // 1 and 2 are those of an action that is to come to its end.
+    if (WIFEXITED(status_) && (WEXITSTATUS(status_) == 1 || WEXITSTATUS(status_) == 2)) {
+      throw std::runtime_error("a child failed");
+    }
     return false;
   }
 
-  bool IsChange() const {
+  /// The call that the child is about to make; nothing where one ends.
+  std::optional<Call> EnteredCall() const {
     __ptrace_syscall_info info{};
     if (ptrace(static_cast<__ptrace_request>(PTRACE_GET_SYSCALL_INFO), child_, sizeof info, &info) <= 0)
       throw std::runtime_error("system calls of a child cannot be read");
-    if (info.op != PTRACE_SYSCALL_INFO_ENTRY) return false;
-    const auto number = static_cast<long>(info.entry.nr);
-    if (number == SYS_openat) return (info.entry.args[2] & O_CREAT) != 0;
-    return std::find(std::begin(kChanges), std::end(kChanges), number) != std::end(kChanges);
+    if (info.op != PTRACE_SYSCALL_INFO_ENTRY) return std::nullopt;
+    return Call{static_cast<long>(info.entry.nr), info.entry.args[0], info.entry.args[2]};
+  }
+
+  /// The undefined-behaviour sanitizer tries by a pipe of its own whether memory can be read; that is no
+  /// file.
+  bool IsOnPipe(const Call& call) const {
+    if (call.number != SYS_write && call.number != SYS_read && call.number != SYS_close) return false;
+    const std::string descriptor =
+        "/proc/" + std::to_string(child_) + "/fd/" + std::to_string(call.first_argument);
+    char target[6] = {};
+    return readlink(descriptor.c_str(), target, 5) == 5 && std::strcmp(target, "pipe:") == 0;
+  }
+
+  static bool IsChange(const Call& call) {
+    if (call.number == SYS_openat) return (call.third_argument & O_CREAT) != 0;
+    return IsOneOf(kChanges, call.number);
   }
 
   pid_t child_;
@@ -166,6 +259,39 @@ void MeddleBeforeChange(int n, const std::function<void()>& action, const std::f
   meddle();
   while (child.GoToChange()) continue;
 }
+
+int FailingCallStep(int usual) {
+  const char* const stress = std::getenv("RBTALLY_STRESS");
+  return stress != nullptr && std::strcmp(stress, "full") == 0 ? 1 : usual;
+}
+
+#ifdef __x86_64__
+bool CanFailCalls() { return true; }
+
+Ending WithFailingCall(int n, const std::function<bool()>& action) {
+  TracedChild child([&] { return RunToEnding(action); }, 0);
+  for (int call = 0; call < n; ++call) {
+    if (!child.GoToFileCall()) return Ending::too_few_calls;
+  }
+  child.FailCall();
+  const int status = child.ToEnd();
+  if (!WIFEXITED(status)) return Ending::crash;
+  switch (WEXITSTATUS(status)) {
+    case 0:
+      return Ending::well;
+    case kFault:
+      return Ending::fault;
+    case kWrong:
+      return Ending::wrong;
+    default:
+      return Ending::crash;
+  }
+}
+#else
+bool CanFailCalls() { return false; }
+
+Ending WithFailingCall(int, const std::function<bool()>&) { throw std::runtime_error("not on this machine"); }
+#endif
 
 void ForbidHardLinks() {
   constexpr auto kNumber = static_cast<std::uint32_t>(offsetof(seccomp_data, nr));

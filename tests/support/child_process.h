@@ -18,6 +18,22 @@ bool KilledBeforeChange(int n, const std::function<void()>& action);
 /// did it. Throws when the action makes fewer, or does not come to its end.
 void MeddleBeforeChange(int n, const std::function<void()>& action, const std::function<void()>& meddle);
 
+/// How an action ended whose system call was made to fail.
+enum class Ending {
+  too_few_calls,  ///< it makes fewer
+  well,           ///< it returned true
+  fault,          ///< it threw, with a text
+  wrong,          ///< it returned false
+  crash,          ///< a signal, an exception without a text
+};
+/// Runs an action in a child process in which its `n`th system call, from 1 on, that has to do with files
+/// fails: for want of space where it writes, else as from a broken disk. Not on every kind of machine, see
+/// `CanFailCalls`.
+Ending WithFailingCall(int n, const std::function<bool()>& action);
+bool CanFailCalls();
+/// How far apart the calls stand that a test lets fail: `usual`, or 1 where RBTALLY_STRESS is "full".
+int FailingCallStep(int usual);
+
 /// From now on the file system of this process, which is to be a child, gives no file a second name: as where
 /// it knows none, or where the file is another user's.
 void ForbidHardLinks();

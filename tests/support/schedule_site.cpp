@@ -5,6 +5,7 @@
 
 #include "data/table_layouts.h"
 #include "shell/context/site_context.h"
+#include "store/database_impl.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -53,6 +54,10 @@ void ScheduleSite::AddRow(const Fields& fields) {
   row.insert(row.end(), fields.begin(), fields.end());
   std::erase_if(row, [this](const auto& field) { return IsOneOf(absent_, field.first); });
   Insert(Work(), "加工テーブル", row);
+}
+
+void ScheduleSite::PutText(const std::string& column, const std::string& text) {
+  Work().impl().Connected().Run("UPDATE 加工テーブル SET \"" + column + "\" = '" + text + "'");
 }
 
 void ScheduleSite::AddSpiral(const Value& material, const Value& diameter, double weight) {

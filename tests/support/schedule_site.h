@@ -30,6 +30,8 @@ class ScheduleSite {
   /// Adds a row: D19, kind 1, 4 pieces of 3.0 m out of 2 bars of 6.0 m, straight, part 1, page 1, its own
   /// line; other values as given.
   void AddRow(const Fields& fields = {});
+  /// Puts a text into a column of every row, whatever the column's type, as another program could.
+  void PutText(const std::string& column, const std::string& text);
   /// Adds a row to スパイラル of the companion file; the table is made with the first.
   void AddSpiral(const Value& material, const Value& diameter, double weight);
 

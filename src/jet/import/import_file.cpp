@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "jet/import/import_file.h"
 
+#include <cerrno>
+#include <fcntl.h>
 #include <string_view>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,7 +15,9 @@
 #include "jet/import/row_copy.h"
 #include "jet/lock_file.h"
 #include "platform/fault.h"
+#include "platform/files/file_descriptor.h"
 #include "platform/files/file_in_work.h"
+#include "platform/files/file_lock.h"
 #include "platform/files/file_sync.h"
 #include "platform/files/files.h"
 #include "platform/files/system_error.h"
@@ -54,6 +59,30 @@ class FileState {
   struct stat state_ {};
 };
 
+/// The right to put something else in a file's place: one import at a time has it. Where the file system
+/// knows no locks everybody has.
+class SoleImport {
+ public:
+  explicit SoleImport(const fs::path& file) : lock_(::open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (!lock_.IsOpen()) throw FileFault(file, "cannot be opened");
+    if (!Lock(lock_, LOCK_EX | LOCK_NB) && !HasNoLocks(errno)) {
+      throw FileFaultText(file, "another program is importing it");
+    }
+    struct stat locked {};
+    struct stat named {};
+    if (::fstat(lock_.Number(), &locked) != 0 || ::stat(file.c_str(), &named) != 0) {
+      throw FileFault(file, "cannot be read");
+    }
+    // The one before may have come to its end in between.
+    if (locked.st_ino != named.st_ino || locked.st_dev != named.st_dev) {
+      throw FileFaultText(file, "another program has imported it");
+    }
+  }
+
+ private:
+  FileDescriptor lock_;
+};
+
 void NoteNotTaken(const CatalogEntry& entry, ImportReport& report) {
   for (const KindName& kind : kNotTaken) {
     // The queries behind forms and the relationships of the system tables are nobody's.
@@ -87,9 +116,13 @@ auto OnTarget(const FileInWork& work, const fs::path& target, const std::string&
   }
 }
 
-/// A table that the store does not take is the Jet file's own matter.
-void MakeTable(const JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work) {
-  if (const auto fault = PassOverFaults([&] { database.CreateTable(mapping.target); })) {
+/// A table that the store does not take is the Jet file's own matter, a full disk is not.
+void MakeTable(const JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work,
+               const fs::path& target) {
+  const auto fault = OnTarget(work, target, "", [&] {
+    return PassOverFaultsOfContent([&] { database.CreateTable(mapping.target); });
+  });
+  if (fault) {
     file.Damaged(mapping.source.page,
                  fmt::format("table {} cannot be taken: {}", mapping.source.name, CauseIn(*fault, work)));
   }
@@ -108,7 +141,7 @@ void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const F
     const TableMapping mapping = MapTable(file, entry);
     report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
-    MakeTable(file, mapping, database, work);
+    MakeTable(file, mapping, database, work, report.target);
     RowCopy copy(file, mapping, database, report.warnings);
     const std::string a_row = "a row of " + entry.name;
     while (copy.ReadNext()) OnTarget(work, report.target, a_row, [&] { copy.Append(); });
@@ -185,6 +218,7 @@ fs::path ReportFile(const fs::path& file) {
 ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage) {
   // A link stays, and what it leads to is replaced.
   const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
+  const SoleImport sole(file);
   const fs::path kept = KeptJetFile(file);
   // What the other program saves later would go into the Jet file that nobody reads any more.
   if (IsOpenElsewhere(file)) throw FileFaultText(file, "is open in another program; close it there first");

@@ -27,7 +27,8 @@ enum class OnDamage { refuse, take };
 /// Puts a store file with the contents of a real Jet file under the Jet file's own name. The Jet file stays
 /// as `NAME.MDB.jet` beside it, where nothing else may stand yet, and the report as `NAME.MDB.jet.txt`. At
 /// every moment a whole file stands under the name; after a fault nothing has changed. A file that another
-/// program has open throws `file`, too, and so does one with damage, unless that is to be taken.
+/// program has open, or is importing, throws `file`, too, and so does one with damage, unless that is to be
+/// taken.
 ImportReport ImportJetFileInPlace(const std::filesystem::path& file, OnDamage on_damage = OnDamage::refuse);
 /// Where the Jet file is kept then.
 std::filesystem::path KeptJetFile(const std::filesystem::path& file);

@@ -33,7 +33,7 @@ std::vector<RowPointer> InKeyOrder(JetFile& file, const TableMapping& mapping, s
     taken[at] = true;
   };
   const auto walk = [&] { WalkIndex(file, mapping.source.physical_indexes[*mapping.key], take); };
-  if (const auto fault = PassOverFaults(walk)) {
+  if (const auto fault = PassOverFaultsOfContent(walk)) {
     warnings.push_back(fmt::format("the primary key of {} is damaged ({}); rows stand as they lie",
                                    mapping.source.name, fault->what()));
     return places;

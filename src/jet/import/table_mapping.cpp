@@ -46,7 +46,7 @@ class Mapper {
     mapping_.source.name = entry.name;
     mapping_.target.name = entry.name;
     // Default values and rules are no reason to leave a table's rows where they are.
-    const auto fault = PassOverFaults([&] { properties_ = ReadProperties(file, entry.properties); });
+    const auto fault = PassOverFaultsOfContent([&] { properties_ = ReadProperties(file, entry.properties); });
     if (!fault) return;
     mapping_.warnings.push_back(
         fmt::format("table {}: default values and rules cannot be read: {}", entry.name, fault->what()));

@@ -14,4 +14,8 @@ bool Lock(const FileDescriptor& file, int how) {
   return result == 0;
 }
 
+bool HasNoLocks(int cause) {
+  return cause == ENOLCK || cause == EINVAL || cause == EOPNOTSUPP || cause == EBADF;
+}
+
 }  // namespace rbt

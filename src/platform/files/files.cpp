@@ -34,6 +34,10 @@ bool IsTaken(const fs::path& name) {
   return fs::exists(fs::symlink_status(name, error));
 }
 
+bool TakesFiles(const fs::path& folder) {
+  return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
 void WriteFileAtomically(const fs::path& file, std::string_view bytes) {
   FileInWork work(Target(file));
   work.Write(bytes);

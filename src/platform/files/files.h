@@ -10,6 +10,9 @@ namespace rbt {
 /// Whether anything stands under a name, be it a link that leads nowhere.
 bool IsTaken(const std::filesystem::path& name);
 
+/// Whether this user may make files in a folder.
+bool TakesFiles(const std::filesystem::path& folder);
+
 /// The bytes of a file; throws `file`.
 std::string ReadFileBytes(const std::filesystem::path& file);
 /// Writes the whole file or leaves the old one, see `FileInWork`. An existing file keeps its permissions; a

@@ -11,6 +11,7 @@
 #include "platform/files/files.h"
 #include "platform/files/system_error.h"
 #include "platform/profile/ini_text.h"
+#include "platform/system/patience.h"
 
 namespace rbt {
 
@@ -27,10 +28,15 @@ class FolderLock {
   explicit FolderLock(const fs::path& folder)
       : descriptor_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (!descriptor_.IsOpen()) throw FileFault(folder, "cannot be opened");
-    if (Lock(descriptor_, LOCK_EX)) return;
-    // A file system without locks leaves the change unguarded against a second writer, not against a kill.
-    const bool without_locks = errno == ENOLCK || errno == EINVAL || errno == EOPNOTSUPP || errno == EBADF;
-    if (!without_locks) throw FileFault(folder, "cannot be locked");
+    LockWait wait(folder);
+    while (!Lock(descriptor_, LOCK_EX | LOCK_NB)) {
+      // A file system without locks leaves the change unguarded against a second writer, not against a kill.
+      if (HasNoLocks(errno)) return;
+      if (errno != EWOULDBLOCK) throw FileFault(folder, "cannot be locked");
+      if (!wait.Again()) {
+        throw Fault(FaultKind::locked, "another program holds the folder: " + folder.string());
+      }
+    }
   }
 
  private:

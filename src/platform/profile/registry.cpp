@@ -2,11 +2,15 @@
 #include "platform/profile/registry.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "platform/files/file_sync.h"
 #include "platform/files/system_error.h"
+#include "platform/pass_over_faults.h"
 #include "platform/profile/ini_text.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
+#include "platform/text/cp932.h"
 
 namespace rbt {
 
@@ -68,6 +72,14 @@ std::string ValidUtf8(std::string_view text) {
   return valid;
 }
 
+/// A file that an editor has saved in code page 932 would be read as one without any setting, and be spoilt
+/// by the next one that is stored.
+void RequireUtf8(const std::filesystem::path& file, std::string_view bytes) {
+  if (ValidUtf8(bytes) == bytes) return;
+  const bool is_cp932 = !PassOverFaults(FaultKind::type_mismatch, [&] { FromCp932(bytes); });
+  if (is_cp932) throw FileFaultText(file, "is written in code page 932, not in UTF-8");
+}
+
 std::string SectionName(std::string_view app, std::string_view section) {
   return std::string(app) + "\\" + std::string(section);
 }
@@ -76,14 +88,25 @@ std::string SectionName(std::string_view app, std::string_view section) {
 
 std::filesystem::path RegistryFile() { return SettingsFile(); }
 
-std::optional<std::string> RegistryText(std::string_view app, std::string_view section,
-                                        std::string_view key) {
-  const std::optional<std::string> bytes = ReadIniBytes(RegistryFile());
-  if (!bytes) return std::nullopt;
-  const IniText text(*bytes, IniEncoding::utf8);
-  const auto stored = text.Find(SectionName(app, section), key);
+RegistryReading::RegistryReading() {
+  const std::filesystem::path file = RegistryFile();
+  std::optional<std::string> bytes = ReadIniBytes(file);
+  if (!bytes) return;
+  RequireUtf8(file, *bytes);
+  text_.emplace(std::move(*bytes), IniEncoding::utf8);
+}
+
+std::optional<std::string> RegistryReading::Text(std::string_view app, std::string_view section,
+                                                 std::string_view key) const {
+  if (!text_) return std::nullopt;
+  const auto stored = text_->Find(SectionName(app, section), key);
   if (!stored) return std::nullopt;
   return ValidUtf8(Decode(*stored));
+}
+
+std::optional<std::string> RegistryText(std::string_view app, std::string_view section,
+                                        std::string_view key) {
+  return RegistryReading().Text(app, section, key);
 }
 
 void SetRegistryText(std::string_view app, std::string_view section, std::string_view key,
@@ -92,9 +115,8 @@ void SetRegistryText(std::string_view app, std::string_view section, std::string
   RequireSectionName(section_name);
   RequireKeyName(key);
   const std::filesystem::path file = RegistryFile();
-  std::error_code error;
-  std::filesystem::create_directories(file.parent_path(), error);
-  if (error) throw FileFault(file.parent_path(), "cannot be made", error.value());
+  MakeFolders(FolderOf(file));
+  const RegistryReading readable;
   UpdateIniFile(file, IniEncoding::utf8, section_name, key, Encode(value));
 }
 

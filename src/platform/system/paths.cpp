@@ -98,8 +98,11 @@ fs::path MapPath(std::string_view family_path) {
 }
 
 bool FamilyFileExists(std::string_view family_path) {
+  const fs::path file = MapPath(family_path);
   std::error_code error;
-  return fs::is_regular_file(MapPath(family_path), error);
+  const fs::file_status status = fs::status(file, error);
+  if (status.type() == fs::file_type::none) throw FileFault(file, "cannot be found", error.value());
+  return fs::is_regular_file(status);
 }
 
 void ChangeFamilyDirectory(std::string_view family_path) {

@@ -18,7 +18,8 @@ std::filesystem::path RootOfEnvironment();
 /// regard to letter case (full-width letters too are left as they are); one that does not exist keeps its
 /// spelling. A component ".." that would leave the root throws `file`. `file` too when no root is set.
 std::filesystem::path MapPath(std::string_view family_path);
-/// True when the mapped path is an existing file.
+/// True when the mapped path is an existing file. Throws `file` where that cannot be found out: a link that
+/// leads to itself, a name too long, a folder that may not be looked into.
 bool FamilyFileExists(std::string_view family_path);
 
 /// The working directory of the family's programs, `\rbk` or `\rbk\kakou`, which siblings start in; that of

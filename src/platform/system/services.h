@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -12,6 +13,7 @@
 #include "platform/system/colour_choice.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "platform/system/patience.h"
 #include "platform/system/process.h"
 
 namespace rbt {
@@ -28,6 +30,12 @@ struct ServicesData {
   std::function<DateTime()> Clock = SystemClock;
   /// `MsgBox()`.
   MessageHandler Messages = TellOnStandardError;
+  /// `LockWait`: how long a file is waited for that another program holds, and who is asked whether to wait
+  /// on.
+  std::chrono::milliseconds LockPatience{10'000};
+  LockQuestion WaitOn = GiveUpWaiting;
+  /// `StatementLimit()`.
+  std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.
   ColourChooser Colours = ChooseNoColour;
   /// `RunAndWait()`, `RunAndWaitPoll()`.

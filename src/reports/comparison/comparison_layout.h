@@ -27,13 +27,6 @@ constexpr WeightPart ComparisonTotal(float margin, float rule_to, double row = 6
 /// The rows of B5 are low: its total line would stand on the table's first rule.
 inline constexpr double kTotalRowB5Y = 5.8;
 
-/// Below a name the rows of B5 are too low for a rule of their own.
-constexpr ProjectPart ProjectB5Y() {
-  ProjectPart part = ProjectFrom(700, 1767, 1067);
-  part.short_rule_row = std::nullopt;
-  return part;
-}
-
 /// X before the own-company block of A4 portrait.
 inline constexpr float kHeadEndA4T = 6400;
 
@@ -45,8 +38,9 @@ inline constexpr std::array<HeadPart, 5> kHeadPartsA4T{
 inline constexpr std::array<HeadPart, 4> kHeadPartsA4Y{
     ClientFrom(1800), ProjectFrom(1800, 2760, 960), SubProjectFrom(1800, 7, 0),
     DatePart{{11800, 11700, EndsAt(14100)}, {11600, 11500, EndsAt(14300)}, {1, -1300}}};
+// Below a name the rows of B5 are too low for a rule of their own.
 inline constexpr std::array<HeadPart, 4> kHeadPartsB5Y{
-    ClientFrom(700), ProjectB5Y(), SubProjectFrom(700, 7, 0),
+    ClientFrom(700), ProjectFrom(700, 1767, 1067, 0, std::nullopt), SubProjectFrom(700, 7, 0),
     DatePart{{10700, 10600, EndsAt(13000)}, {10500, 10400, EndsAt(13200)}, {1, -1300}}};
 
 inline constexpr HeadLayout kHeadA4T{{3800, 3600, EndsAt(7400)},

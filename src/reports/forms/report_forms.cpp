@@ -10,6 +10,7 @@
 #include "platform/print/paper.h"
 #include "platform/system/message.h"
 #include "reports/comparison/taihi.h"
+#include "reports/detail/meisai.h"
 #include "reports/frame/cut_figure_message.h"
 #include "reports/frame/print_frame.h"
 #include "reports/ulbon/ulbon_report.h"
@@ -22,8 +23,10 @@ namespace {
 constexpr std::int32_t kKindA = 1;
 constexpr std::int32_t kKindB = 2;
 constexpr std::int32_t kKindC = 3;
+constexpr std::int32_t kWithWeights = 1;
+constexpr std::int32_t kCountsAlone = 2;
 
-constexpr std::array<ReportForm, 10> kReportForms{{
+constexpr std::array<ReportForm, 14> kReportForms{{
     {"taihi-a-a4t", ReportFamily::comparison, ReportPaper::a4t, kKindA, Taihi_A_A4T},
     {"taihi-a-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindA, Taihi_A_A4Y},
     {"taihi-a-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindA, Taihi_A_B5Y},
@@ -34,6 +37,10 @@ constexpr std::array<ReportForm, 10> kReportForms{{
     {"taihi-c-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindC, Taihi_C_A4Y},
     {"taihi-c-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindC, Taihi_C_B5Y},
     {"ulbon", ReportFamily::ulbon, ReportPaper::a4y, 0, Ulbon_Report},
+    {"meisai-a4t", ReportFamily::detail, ReportPaper::a4t, kWithWeights, Meisai_A4T},
+    {"meisai-a4t-count", ReportFamily::detail, ReportPaper::a4t, kCountsAlone, Meisai_A4T_Count},
+    {"meisai-a4y", ReportFamily::detail, ReportPaper::a4y, kWithWeights, Meisai_A4Y},
+    {"meisai-a4y-count", ReportFamily::detail, ReportPaper::a4y, kCountsAlone, Meisai_A4Y_Count},
 }};
 
 const ReportForm& FirstForm(const std::function<bool(const ReportForm&)>& fits, std::string_view sought) {
@@ -42,6 +49,14 @@ const ReportForm& FirstForm(const std::function<bool(const ReportForm&)>& fits, 
     throw Fault(FaultKind::subscript_out_of_range, "report form " + std::string(sought));
   }
   return *form;
+}
+
+const ReportForm& ChosenForm(ReportFamily family, ReportPaper paper, std::int32_t choice) {
+  return FirstForm(
+      [&](const ReportForm& form) {
+        return form.family == family && form.paper == paper && form.choice == choice;
+      },
+      "of a paper and a choice");
 }
 
 }  // namespace
@@ -67,11 +82,12 @@ const ReportForm& FindReportForm(std::string_view word) {
 const ReportForm& ChosenComparison(ReportPaper paper) {
   const std::int32_t setting = ReadSetting(kComparisonKindKey);
   const std::int32_t choice = setting == kKindA || setting == kKindB ? setting : kKindC;
-  return FirstForm(
-      [&](const ReportForm& form) {
-        return form.family == ReportFamily::comparison && form.paper == paper && form.choice == choice;
-      },
-      "of the comparison reports");
+  return ChosenForm(ReportFamily::comparison, paper, choice);
+}
+
+const ReportForm& ChosenDetail(ReportPaper paper) {
+  return ChosenForm(ReportFamily::detail, paper,
+                    Settings.DetailShowsWeight == 1 ? kWithWeights : kCountsAlone);
 }
 
 const ReportForm& UlbonForm() { return FindReportForm("ulbon"); }

@@ -27,7 +27,7 @@ struct PaperSetting {
 PaperSetting SettingOf(ReportPaper paper);
 
 /// Forms that print the same result in different ways.
-enum class ReportFamily { comparison, ulbon };
+enum class ReportFamily { comparison, ulbon, detail };
 
 /// A report form. What comes in report forms loops over these rows.
 struct ReportForm {
@@ -47,6 +47,9 @@ const ReportForm& FindReportForm(std::string_view word);
 /// other kind C.
 const ReportForm& ChosenComparison(ReportPaper paper);
 const ReportForm& UlbonForm();
+/// The purchase list that a paper button prints: with the setting 明細画面重量表示 1 that with weights, else
+/// that of counts alone. B5 has none and throws `subscript out of range`.
+const ReportForm& ChosenDetail(ReportPaper paper);
 
 /// What a print button does: the printer is set to the form's paper, the form is drawn with the arguments'
 /// texts trimmed, the printer is put back. Figures too wide for their fields are told in one message. Throws

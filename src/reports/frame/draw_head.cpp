@@ -3,6 +3,7 @@
 
 #include <variant>
 
+#include "platform/numbers/number_words.h"
 #include "reports/frame/head_parts.h"
 #include "reports/frame/letter_spacing.h"
 
@@ -13,13 +14,27 @@ namespace {
 constexpr float kTitleSize = 18;
 constexpr std::int32_t kTitleRuleWidth = 4;
 
+/// A title of one letter or none is told by a message and stands at the left of its width.
+void PrintSpreadTitle(PrinterSurface& Printer, const HeadLayout& layout, float y, const std::string& title) {
+  const float gap =
+      Get_MojiKankaku(Printer, ReportFont, ShortestDecimal(kTitleSize), layout.title_width, title);
+  PrintSpread(Printer, layout.title.x, y, title, gap);
+  const float rule_y = y + LineHeight(kTitleSize);
+  const float rule_to = layout.title.x + layout.title_width + static_cast<float>(layout.title.rule_to.more);
+  Printer.Line(layout.title.rule_from, rule_y, rule_to, rule_y);
+}
+
 /// Returns the title's Y.
-float DrawTitle(PrinterSurface& Printer, const HeadLayout& layout, const std::string& title) {
+float DrawTitle(PrinterSurface& Printer, const HeadLayout& layout, const ReportHead& head) {
   MeasureLine(Printer);
   SetReportFont(Printer, kTitleSize, true);
   Printer.DrawWidth = kTitleRuleWidth;
   const float y = Printer.CurrentY + layout.title_y;
-  PrintRuled(Printer, layout.title, y, title);
+  if (head.spreads_title) {
+    PrintSpreadTitle(Printer, layout, y, head.title);
+  } else {
+    PrintRuled(Printer, layout.title, y, head.title);
+  }
   return y;
 }
 
@@ -36,7 +51,7 @@ RowGrid RowsBelow(PrinterSurface& Printer, float title_y, const HeadRows& rows, 
 
 RowGrid DrawHead(ReportPen& pen, const HeadLayout& layout, const ReportHead& head) {
   pen.Printer.DocumentTitle = head.document_title;
-  const float title_y = DrawTitle(pen.Printer, layout, head.title);
+  const float title_y = DrawTitle(pen.Printer, layout, head);
   const RowGrid grid = RowsBelow(pen.Printer, title_y, layout.rows, !head.client.empty());
   for (const HeadPart& part : layout.parts) DrawHeadPart(pen, part, grid, head);
   return grid;

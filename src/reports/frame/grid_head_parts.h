@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "reports/frame/head_layout.h"
 
 namespace rbt {
@@ -19,7 +21,8 @@ constexpr ClientPart ClientFrom(float margin, float end = 0) {
 
 /// The project line: a short name at an X of its own, long names `indent` behind the margin. `rule_end` as
 /// the end of the client line.
-constexpr ProjectPart ProjectFrom(float margin, float short_name_x, float indent, float rule_end = 0) {
+constexpr ProjectPart ProjectFrom(float margin, float short_name_x, float indent, float rule_end = 0,
+                                  std::optional<RowPlace> short_rule_row = RowPlace{2.7}) {
   constexpr float kLongNameEnd = 6000;
   constexpr double kTwipsPerPoint = 20.1;
   const RuleEnd by_name{RuleBy::name_size, kTwipsPerPoint, indent + 100.0, rule_end};
@@ -29,7 +32,7 @@ constexpr ProjectPart ProjectFrom(float margin, float short_name_x, float indent
           .long_form = {"工事名", 12, margin + indent, 12, by_name},
           .broken_form = {"工事名　", 12, margin + indent, 13, by_name},
           .short_row = {2},
-          .short_rule_row = RowPlace{2.7},
+          .short_rule_row = short_rule_row,
           .long_row = {2, 400, true},
           .long_row_over_sub_project = {1.3, 400, true},
           .first_row = {2.5, 0, true},

@@ -54,6 +54,10 @@ struct ProjectPart {
   RowPlace second_row;  ///< of its rest, and of its label
   std::int32_t rule_width = 2;
   std::int32_t rule_width_without_client = 2;
+  float short_name_width = 0;  ///< a short name shrinks until it is at most so wide; 0: it stays as it is
+  /// Of the rest of a broken name, before which there is the label where this is empty; else the label stands
+  /// before the first piece.
+  std::string_view rest_label = {};
 };
 
 /// The sub-project text; under a form of the project's name without a row there is no room for it.
@@ -132,6 +136,8 @@ struct HeadLayout {
   float title_y = 0;
   HeadRows rows;
   std::span<const HeadPart> parts;
+  float title_width =
+      0;  ///< of a title that is spread; its rule ends where `title` has it behind such a text
 };
 
 }  // namespace rbt

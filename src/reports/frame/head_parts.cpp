@@ -25,11 +25,6 @@ RuledText NamePlace(const ProjectPart& part, const NameForm& form) {
   return {form.name_x, part.x, form.rule_to};
 }
 
-void PrintLabel(PrinterSurface& Printer, const ProjectPart& part, const NameForm& form, float y) {
-  Printer.FontSize = form.label_size;
-  PrintAt(Printer, part.x, y, {form.label});
-}
-
 /// The project's name in one of its forms.
 struct ProjectLine {
   ReportPen& pen;
@@ -42,10 +37,13 @@ struct ProjectLine {
     const NameForm& form = part.short_form;
     Printer.FontSize = form.label_size;
     const float y = LineY(Printer, part.short_row, grid);
-    PrintLabel(Printer, part, form, y);
+    PrintAt(Printer, part.x, y, {form.label});
+    const float under_label = Printer.CurrentY;
     Printer.FontSize = form.size;
+    if (part.short_name_width > 0) ShrinkToWidth(Printer, name.name, part.short_name_width);
     PrintAt(Printer, form.name_x, y, {name.name});
-    const float rule_y = part.short_rule_row ? LineY(Printer, *part.short_rule_row, grid) : Printer.CurrentY;
+    const float under_line = std::max(under_label, Printer.CurrentY);
+    const float rule_y = part.short_rule_row ? LineY(Printer, *part.short_rule_row, grid) : under_line;
     RuleAt(Printer, rule_y, part.x, RuleEndX(Printer, NamePlace(part, form), name.name));
   }
 
@@ -54,7 +52,7 @@ struct ProjectLine {
     const NameForm& form = part.long_form;
     Printer.FontSize = form.label_size;
     const float y = LineY(Printer, over_sub_project ? part.long_row_over_sub_project : part.long_row, grid);
-    PrintLabel(Printer, part, form, y);
+    PrintAt(Printer, part.x, y, {form.label});
     const float under_label = Printer.CurrentY;
     Printer.FontSize = form.size;
     ShrinkToWidth(Printer, name.name, part.long_name_width);
@@ -68,7 +66,10 @@ struct ProjectLine {
     PrinterSurface& Printer = pen.Printer;
     const NameForm& form = part.broken_form;
     Printer.FontSize = form.label_size;
-    PrintLabel(Printer, part, form, LineY(Printer, part.second_row, grid));
+    const bool labels_both = !part.rest_label.empty();
+    if (labels_both) PrintAt(Printer, part.x, LineY(Printer, part.first_row, grid), {form.label});
+    PrintAt(Printer, part.x, LineY(Printer, part.second_row, grid),
+            {labels_both ? part.rest_label : form.label});
     const float under_label = Printer.CurrentY;
     const std::string_view longer = LongerPiece({name.first, name.rest});
     Printer.FontSize = form.size;

@@ -80,7 +80,7 @@ class Block {
   Block(PrinterSurface* Printer, const OwnCompany& company, float x, float y, const OwnCompanyStyle& style)
       : Printer_(Printer), company_(company), style_(style), x_(x), y_(y) {}
 
-  /// Returns the Y of the last line.
+  /// Returns the Y below which nothing of it stands.
   float Draw() {
     Shift();
     Name();
@@ -88,7 +88,7 @@ class Block {
     Contacts();
     SecondOffice();
     Rule();
-    return y_;
+    return foot_;
   }
 
  private:
@@ -103,14 +103,20 @@ class Block {
     y_ += step_size_ * twips_per_point + style_.line_gap + more;
   }
 
+  /// A line of this size stands here.
+  void Reach(float size) { foot_ = std::max(foot_, y_ + LineHeight(size)); }
+
   void Name() {
-    step_size_ = kNameSizes[NameSizeIndex(company_.name, NameBoxWidth(company_.label1, company_.label2))];
+    const std::size_t index = NameSizeIndex(company_.name, NameBoxWidth(company_.label1, company_.label2));
+    step_size_ = kNameSizes[index];
+    Reach(kNameSizes[company_.name_in_one_piece ? std::max<std::size_t>(index, 1) : index]);
     if (Printer_ == nullptr) return;
     Print_JisyaName(*Printer_, x_, y_, company_.name, company_.label1, company_.label2, style_.name_font,
                     style_.name_bold, company_.name_in_one_piece);
   }
 
   void Postal(std::string_view code) {
+    Reach(kDetailSize);
     if (Printer_ == nullptr) return;
     const float size = Printer_->FontSize;
     Printer_->FontName = style_.address_font;
@@ -122,17 +128,20 @@ class Block {
 
   void Address(decltype(Print_JisyaJyusyo) print, std::string_view label, std::string_view text,
                float at_most) {
-    if (Printer_ == nullptr) return;
     const float size = std::min(AddressSize(text), at_most);
+    Reach(size);
+    if (Printer_ == nullptr) return;
     print(*Printer_, x_, y_, label, text, style_.address_font, style_.label_font, size);
   }
 
   void Phone(std::string_view label, std::string_view number) {
+    Reach(kDetailSize);
     if (Printer_ == nullptr) return;
     Print_JisyaTel(*Printer_, x_ + kPhoneShift, y_, label, number, style_.address_font);
   }
 
   void Mail(std::string_view address) {
+    Reach(kMailSize);
     if (Printer_ == nullptr) return;
     Print_JisyaMail(*Printer_, x_, y_, "E-mail: ", address, style_.address_font);
   }
@@ -204,6 +213,7 @@ class Block {
   void Rule() {
     if (style_.rule_width == 0) return;
     Step(kPhoneStep);
+    foot_ = std::max(foot_, y_);
     if (Printer_ == nullptr) return;
     Printer_->DrawWidth = style_.rule_width;
     const float right = x_ + kBlockWidth;
@@ -215,6 +225,7 @@ class Block {
   const OwnCompanyStyle& style_;
   float x_;
   float y_;
+  float foot_ = 0.0F;
   float step_size_ = kDetailSize;
 };
 
@@ -290,7 +301,7 @@ void DrawOwnCompany(PrinterSurface& Printer, const OwnCompany& company, float X,
 float OwnCompanyBottom(const OwnCompany& company, float Y, float line_gap) {
   OwnCompanyStyle style;
   style.line_gap = line_gap;
-  return Block(nullptr, company, 0, Y, style).Draw() + LineHeight(kLargestAddressSize);
+  return Block(nullptr, company, 0, Y, style).Draw();
 }
 
 std::int32_t Print_Jisya(PrinterSurface& Printer, float X, float Y, std::string_view NameFont,

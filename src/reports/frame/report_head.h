@@ -39,6 +39,7 @@ std::string DateText(const ReportDate& date);
 /// What the head of a page says; where it stands there tells the report's `HeadLayout`.
 struct ReportHead {
   std::string title = {};
+  bool spreads_title = false;       ///< over the width that the layout gives, letter by letter
   std::string document_title = {};  ///< what a print queue and a file call the sheets
   std::string client = {};          ///< empty: no client line
   ProjectName project = {};

@@ -16,11 +16,18 @@ bool WesternDates() { return ReadSetting(kDateStyleKey) == 1; }
 
 }  // namespace
 
+DetailArguments DetailArgumentsOf(const SettingsData& settings) {
+  return {.MemoPosition = settings.MemoPosition == 1 ? MemoPlace::above : MemoPlace::below,
+          .Installed = settings.DetailPrint == 1,
+          .DatePosition = settings.DetailDatePosition == 1 ? DatePlace::right : DatePlace::centre};
+}
+
 ReportArguments Trimmed(const ReportArguments& arguments) {
   ReportArguments trimmed = arguments;
   for (std::string* text : {&trimmed.SubProject, &trimmed.Year, &trimmed.Month, &trimmed.Day}) {
     *text = std::string(Trim(*text));
   }
+  for (std::string& memo : trimmed.Detail.Memos) memo = std::string(Trim(memo));
   return trimmed;
 }
 

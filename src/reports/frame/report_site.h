@@ -1,12 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
 #include "platform/system/clock.h"
+#include "shell/config/settings.h"
 
 namespace rbt {
+
+/// Where the purchase list has its memo lines (on A4 landscape) and its date.
+enum class MemoPlace { below, above };
+enum class DatePlace { centre, right };
+
+/// What the purchase list takes beside the rest.
+struct DetailArguments {
+  std::array<std::string, 3> Memos = {};
+  MemoPlace MemoPosition = MemoPlace::below;
+  bool Installed = false;  ///< installed weights too, on A4 landscape
+  DatePlace DatePosition = DatePlace::centre;
+};
+/// Without memos, the rest as the settings 明細書メモ印刷位置, 重量集計明細 and 日付印字位置 have it: 1 is
+/// above, with installed weights, on the right.
+DetailArguments DetailArgumentsOf(const SettingsData& settings);
 
 /// What a screen or a command hands to a report routine.
 struct ReportArguments {
@@ -16,6 +33,7 @@ struct ReportArguments {
   std::string Day;
   std::int32_t UlbonFlag = 1;  ///< not 0: the Ulbon and spiral rows are wanted
   std::int32_t Percent = 0;    ///< the screen's uplift of the Ulbon weights
+  DetailArguments Detail = {};
 };
 
 /// The same with its texts, as they were typed, trimmed: blanks alone are no sub-project text.

@@ -60,6 +60,7 @@ JSMENU::JSMENU(MenuParts parts, std::span<const MenuScreen> screens)
   ui_->setupUi(this);
   PrepareForm(*this);
   std::vector<FormAction> actions;
+  actions.reserve(kMenuKeys.size());
   for (const MenuKey& row : kMenuKeys) {
     actions.push_back({std::string(row.control), row.key, [this, &row] { presenter_.Start(row.control); }});
   }

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include "screens/floorpart/floorpart_forms.h"
 #include "screens/result/result_forms.h"
 #include "screens/settings/settings_forms.h"
 
@@ -12,11 +13,13 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<MenuScreen, 5> kMenuScreens{{
+constexpr std::array<MenuScreen, 7> kMenuScreens{{
     {"JS", MakeJS},
     {"KEIJOJS", MakeKEIJOJS},
     {"PGJS", MakePGJS},
     {"PKEIJOJS", MakePKEIJOJS},
+    {"KAIJS", MakeKAIJS},
+    {"BUIJS", MakeBUIJS},
     {"SETJS", MakeSETJS},
 }};
 

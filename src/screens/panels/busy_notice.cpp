@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include "desktop/form.h"
+#include "desktop/texts.h"
 #include "ui_busy_notice.h"
 
 namespace rbt {
@@ -15,6 +16,8 @@ BusyNotice::BusyNotice(QWidget* parent) : QFrame(parent), ui_(std::make_unique<U
 }
 
 BusyNotice::~BusyNotice() = default;
+
+void BusyNotice::Tell(std::string_view words) { ui_->WaitMsgL->setText(Text(words)); }
 
 StartNotice::StartNotice() {
   notice_.setWindowFlag(Qt::SplashScreen);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 
 #include <QFrame>
 
@@ -16,6 +17,9 @@ class BusyNotice : public QFrame {
  public:
   explicit BusyNotice(QWidget* parent = nullptr);
   ~BusyNotice() override;
+
+  /// Other words than the usual ones.
+  void Tell(std::string_view words);
 
  private:
   std::unique_ptr<Ui::BusyNotice> ui_;

@@ -22,7 +22,7 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<int, ReportDate::kBoxes> kMostDigits{4, 2, 2};
+constexpr std::array<int, DateEntry::kBoxes> kMostDigits{4, 2, 2};
 
 }  // namespace
 
@@ -37,7 +37,7 @@ DateBoxes::DateBoxes(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui
 
 DateBoxes::~DateBoxes() = default;
 
-void DateBoxes::Bind(ReportDate& date) {
+void DateBoxes::Bind(DateEntry& date) {
   date_ = &date;
   for (std::size_t box = 0; box < boxes_.size(); ++box) {
     connect(boxes_[box], &QLineEdit::textChanged, this,
@@ -46,7 +46,7 @@ void DateBoxes::Bind(ReportDate& date) {
 }
 
 void DateBoxes::Show(const DateTexts& texts, bool enabled) {
-  const std::array<const std::string*, ReportDate::kBoxes> shown{&texts.year, &texts.month, &texts.day};
+  const std::array<const std::string*, DateEntry::kBoxes> shown{&texts.year, &texts.month, &texts.day};
   for (std::size_t box = 0; box < boxes_.size(); ++box) {
     ShowText(*boxes_[box], *shown[box]);
     boxes_[box]->setEnabled(enabled);

@@ -6,7 +6,7 @@
 
 #include <QWidget>
 
-#include "session/panels/report_date.h"
+#include "session/panels/date_entry.h"
 
 class QLineEdit;
 
@@ -24,7 +24,7 @@ class DateBoxes : public QWidget {
   ~DateBoxes() override;
 
   /// What is typed goes to this date, which outlives the boxes.
-  void Bind(ReportDate& date);
+  void Bind(DateEntry& date);
   void Show(const DateTexts& texts, bool enabled);
   void FocusBox(std::size_t box);
   void FocusYear() { FocusBox(0); }
@@ -42,8 +42,8 @@ class DateBoxes : public QWidget {
   bool AnswerKey(std::size_t box, int key);
 
   std::unique_ptr<Ui::DateBoxes> ui_;
-  std::array<QLineEdit*, ReportDate::kBoxes> boxes_;
-  ReportDate* date_ = nullptr;
+  std::array<QLineEdit*, DateEntry::kBoxes> boxes_;
+  DateEntry* date_ = nullptr;
 };
 
 }  // namespace rbt

@@ -27,8 +27,9 @@ void HeadPanel::Show(const HeadView& head, const PrintPanelView& print_panel) {
   ui_->LabelCD->setText(Text(head.load_date));
   ui_->LabelCT->setText(Text(head.load_time));
   ShowText(*ui_->txtSubKojNa, print_panel.memo);
-  ui_->lblSubKojNa->setVisible(print_panel.open);
-  ui_->txtSubKojNa->setVisible(print_panel.open);
+  const bool asks_memo = print_panel.open && print_panel.has_memo;
+  ui_->lblSubKojNa->setVisible(asks_memo);
+  ui_->txtSubKojNa->setVisible(asks_memo);
   ui_->dateBoxes->Show(print_panel.date, print_panel.open);
 }
 

@@ -14,11 +14,13 @@
 namespace rbt {
 
 void RangePanel::SetBoxes(std::vector<QLineEdit*> boxes, int most_digits) {
+  for (QLineEdit* box : boxes) TakeDigitsOnly(*box, most_digits);
+  SetBoxes(std::move(boxes));
+}
+
+void RangePanel::SetBoxes(std::vector<QLineEdit*> boxes) {
   boxes_ = std::move(boxes);
-  for (QLineEdit* box : boxes_) {
-    TakeDigitsOnly(*box, most_digits);
-    box->installEventFilter(this);
-  }
+  for (QLineEdit* box : boxes_) box->installEventFilter(this);
 }
 
 void RangePanel::Bind(RangeIntents intents) {

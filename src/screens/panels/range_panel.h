@@ -20,8 +20,7 @@ struct RangeIntents {
   std::function<void()> leave = {};            ///< the focus has left the boxes for another control
 };
 
-/// The range of the schedule that a scoped tally asks for. Boxes take digits only; Enter is passed on, Up
-/// moves back.
+/// The range of the schedule that a scoped tally asks for. Enter is passed on, Up moves back.
 class RangePanel : public QFrame {
  public:
   using QFrame::QFrame;
@@ -36,7 +35,10 @@ class RangePanel : public QFrame {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  protected:
+  /// Boxes of digits.
   void SetBoxes(std::vector<QLineEdit*> boxes, int most_digits);
+  /// Boxes that take what they take.
+  void SetBoxes(std::vector<QLineEdit*> boxes);
 
  private:
   bool HoldsFocus() const;

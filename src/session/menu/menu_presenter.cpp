@@ -7,7 +7,6 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
-#include "platform/profile/ini_file.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
@@ -24,10 +23,6 @@ namespace {
 constexpr std::string_view kSettingsForm = "SETJS";
 constexpr std::string_view kSettingsCaption = "年号等集計印刷設定";
 constexpr std::string_view kOwnProgram = "\\rbk\\rbtally1.exe";
-
-void WriteHandOver(std::string_view key, std::string_view value) {
-  WriteProfileText(MapPath(kNextPrgIni), kHandOverSection, key, value);
-}
 
 }  // namespace
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "session/panels/date_entry.h"
 #include "session/panels/printer_notice.h"
-#include "session/panels/report_date.h"
 #include "session/panels/views.h"
 
 namespace rbt {
@@ -36,7 +36,7 @@ class PrintPanelPresenter {
   void TypeMemo(std::string text) { memo_ = std::move(text); }
   void SetPreview(bool preview) { preview_ = preview; }
   void TogglePreview() { preview_ = !preview_; }
-  ReportDate& Date() { return date_; }
+  DateEntry& Date() { return date_; }
 
   PrintPanelView View() const {
     return {.open = open_,
@@ -53,7 +53,7 @@ class PrintPanelPresenter {
   Papers papers_ = Papers::all;
   bool preview_ = false;
   std::string memo_;
-  ReportDate date_;
+  DateEntry date_;
   PrinterNotice printer_;
   AskPrinter ask_printer_;
 };

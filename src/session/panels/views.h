@@ -10,6 +10,12 @@
 
 namespace rbt {
 
+/// A text that belongs to a control of a layout that several screens share.
+struct ControlText {
+  std::string_view control;
+  std::string_view text;
+};
+
 /// How a button stands.
 struct ButtonView {
   bool shown = true;
@@ -74,6 +80,7 @@ struct PrintPanelView {
   bool open = false;
   Papers papers = Papers::all;
   bool preview = false;
+  bool has_memo = true;             ///< the sheets bear a memo line
   std::string memo;                 ///< shown while the panel is open
   DateTexts date;                   ///< can be changed while the panel is open
   std::string printer_notice = {};  ///< empty: sheets go to the printer of the settings

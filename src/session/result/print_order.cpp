@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "session/result/print_order.h"
 
-#include "platform/print/diverted_deliveries.h"
-#include "platform/system/printing.h"
-#include "session/panels/printer_notice.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
@@ -16,21 +13,11 @@ void Print(const PrintOrder& order) {
   PrintForm(order.ulbon ? UlbonForm() : ChosenComparison(order.paper), arguments, order.result);
 }
 
-/// The documents that are for the user's eyes.
-std::vector<PrintedDocument> PrintKeepingPreviews(const PrintOrder& order) {
-  using From = DivertedDeliveries::From;
-  DivertedDeliveries diverted(Printers(), order.preview ? From::every_device : From::pdf_device);
-  Print(order);
-  return diverted.Take();
-}
-
 }  // namespace
 
 std::string CarryOut(const PrintOrder& order, const Preview& preview) {
-  std::vector<PrintedDocument> documents = PrintKeepingPreviews(order);
-  if (documents.empty()) return PrinterOfSheets();
-  preview(std::move(documents));
-  return "";
+  return PrintOrShow(
+      order.preview, [&] { Print(order); }, preview);
 }
 
 }  // namespace rbt

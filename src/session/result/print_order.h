@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <string>
-#include <vector>
 
-#include "platform/print/printed_document.h"
 #include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
+#include "session/panels/print_or_show.h"
 #include "tally/tally_result.h"
 
 namespace rbt {
@@ -22,9 +20,6 @@ struct PrintOrder {
   std::string sub_project;
   bool preview = false;  ///< to be looked at, not to be printed
 };
-
-/// Shows documents and returns when the user has left them.
-using Preview = std::function<void(std::vector<PrintedDocument>)>;
 
 /// Draws the sheet from its result and the bound site, with Ulbon and spiral rows as `RunState.ReportBody`
 /// has it, and prints it. What the user wants to look at first, and what goes to the PDF device, is handed to

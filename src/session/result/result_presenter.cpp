@@ -8,9 +8,8 @@
 #include "platform/system/message.h"
 #include "platform/system/process.h"
 #include "session/panels/at_end.h"
+#include "session/panels/row_colours.h"
 #include "session/panels/site_head.h"
-#include "session/startup/startup.h"
-#include "shell/config/settings.h"
 #include "shell/context/reference_names.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
@@ -23,21 +22,6 @@ namespace rbt {
 namespace {
 
 constexpr std::string_view kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
-constexpr std::string_view kHoopsNote = "(形状No87)を";
-constexpr std::string_view kHoopsAloneNote = "(形状No87)";
-
-std::optional<RowColours> AlternateColours() {
-  if (Settings.AlternateRowColours != 1) return std::nullopt;
-  return RowColours{Settings.GridRowBackColor, Settings.GridRowForeColor};
-}
-
-/// The menu has bound the site; should another be selected since, no sheet may mix the two.
-void FollowSite() {
-  StartOptions options;
-  options.start_mode = Selection.StartMode;
-  if (FollowSelectedSite(options)) return;
-  throw Fault(FaultKind::file, SiteContext.SelectedDbName + ": this site needs the newer program");
-}
 
 }  // namespace
 
@@ -45,10 +29,10 @@ ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)
     : screen_(screen), parts_(std::move(parts)), range_(MakeRangeInput(screen.Range())) {
   print_panel_.OfferPrinters(parts_.choose_printer);
   SetSelectionDefaults();
-  FollowSite();
+  BindChosenSite();
   head_ = ReadHead();
   filters_.kinds = screen_.kinds_at_start;
-  filters_.hoops_note = kHoopsNote;
+  filters_.hoops_note = HoopsNote(ShapeFilter::with_others);
   filters_.accumulating = screen_.offers.accumulation && RunState.AccumulateFlag != 0;
   TellForms();
   if (range_ == nullptr) {
@@ -121,7 +105,7 @@ void ResultPresenter::TellForms() { filters_.forms = screen_.form_caption(Select
 
 void ResultPresenter::TellModes() {
   filters_.cycle_hoops.caption = ShapeFilterCaption(Selection.HoopMode);
-  filters_.hoops_note = Selection.HoopMode == ShapeFilter::alone ? kHoopsAloneNote : kHoopsNote;
+  filters_.hoops_note = HoopsNote(Selection.HoopMode);
   filters_.cycle_plates.caption = ShapeFilterCaption(Selection.AnchorPlateMode);
 }
 

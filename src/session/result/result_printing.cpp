@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "platform/system/message.h"
+#include "session/panels/not_ready.h"
 #include "session/result/result_presenter.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
@@ -99,9 +100,7 @@ void ResultPresenter::Leave() {
   SiteContext.WorkDatabase.reset();
 }
 
-void ResultPresenter::SayNotReady(std::string_view what) const {
-  MsgBox(fmt::format("「{}」は、まだご利用いただけません。", what), screen_.title);
-}
+void ResultPresenter::SayNotReady(std::string_view what) const { rbt::SayNotReady(what, screen_.title); }
 
 ResultScreenView ResultPresenter::View() {
   ResultScreenView view;

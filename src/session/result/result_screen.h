@@ -9,6 +9,7 @@
 
 #include "data/form_mask.h"
 #include "session/panels/print_panel_presenter.h"
+#include "session/panels/views.h"
 #include "session/result/print_order.h"
 #include "tally/kinds/tally_kinds.h"
 
@@ -24,12 +25,6 @@ struct ResultOffers {
   bool range_change = false;
   bool form_choice = false;
   bool stock_warning = false;  ///< tells of a row whose stock length has no column
-};
-
-/// A text that belongs to a control of the layout that all screens share.
-struct ControlText {
-  std::string_view control;
-  std::string_view text;
 };
 
 /// What tells one result screen from another.

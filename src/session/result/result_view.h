@@ -2,23 +2,15 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "session/panels/row_colours.h"
 #include "session/panels/views.h"
 #include "tally/views/result_grid.h"
 
 namespace rbt {
-
-/// Colours of every second grid row, RGB with red in the low byte.
-struct RowColours {
-  std::int32_t back = 0;
-  std::int32_t fore = 0;
-
-  friend bool operator==(const RowColours&, const RowColours&) = default;
-};
 
 /// All that a result screen shows.
 struct ResultScreenView {

@@ -10,9 +10,11 @@
 #include "data/reference.h"
 #include "data/shapes.h"
 #include "platform/files/system_error.h"
+#include "platform/files/work_place.h"
 #include "platform/numbers/number_words.h"
 #include "platform/pass_over_faults.h"
 #include "platform/profile/ini_file.h"
+#include "platform/profile/registry.h"
 #include "platform/system/clock.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
@@ -21,7 +23,7 @@
 #include "shell/calendar/new_era_function.h"
 #include "shell/context/fixed_stock.h"
 #include "shell/context/site_context.h"
-#include "shell/preparation/preparation.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/selection.h"
 
 namespace rbt {
@@ -71,36 +73,27 @@ void BindSite(const StartOptions& options) {
 
 /// The format of the site database, 0 when the file does not tell: older sites lack the table.
 double ReadSiteVersion() {
-  double version = 0.0;
-  PassOverFaults([&] {
-    Recordset rows = SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM データーベースバージョン");
-    version = LeadingNumber(TextOf(rows.Get("バージョン")));
-  });
-  return version;
+  constexpr std::string_view kTable = "データーベースバージョン";
+  constexpr std::string_view kField = "バージョン";
+  const auto table = SiteContext.WorkDatabase->FindTable(kTable);
+  if (table == nullptr || table->FindField(kField) == nullptr) return 0.0;
+  Recordset rows = SiteContext.WorkDatabase->OpenSnapshot(fmt::format("SELECT * FROM {}", kTable));
+  return rows.Eof() ? 0.0 : LeadingNumber(TextOf(rows.Get(kField)));
 }
 
 bool NeedsNewerProgram() { return ReadSiteVersion() > kNewestVersion && FamilyFileExists(kNewerProgramMark); }
 
 /// Finds out nothing: sites without a shape table are worked on like any other.
 void ProbeShapeTable() {
-  PassOverFaults([] { SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM 形状テーブル"); });
+  Database& site = *SiteContext.WorkDatabase;
+  if (site.FindTable("形状テーブル") != nullptr) site.OpenSnapshot("SELECT * FROM 形状テーブル");
 }
 
 /// Every registered name starts out as selected.
 void MarkRegisteredNames(const StartModeTraits& start_mode) {
-  Database companion = Database::Open(MapPath(CompanionDatabasePath()));
-  if (start_mode.PassesOn()) return;
-  Transaction transaction(companion);
-  Recordset names = companion.OpenDynaset("SELECT * FROM 登録名 ORDER BY 登録AN");
-  const FieldHandle number = names.Field("登録AN");
-  const FieldHandle mark = names.Field("表示番号");
-  for (; !names.Eof(); names.MoveNext()) {
-    if (names.IsNull(number)) continue;
-    names.Edit();
-    names.Set(mark, Value{std::int64_t{1}});
-    names.Update();
-  }
-  transaction.Commit();
+  Database companion = OpenCompanionDatabase();
+  if (start_mode.PassesOn() || !companion.MayBeWritten()) return;
+  companion.Execute("UPDATE 登録名 SET 表示番号 = 1 WHERE Not IsNull(登録AN)");
 }
 
 void ReadSiteNames() {
@@ -138,10 +131,22 @@ void ProbeShapes() {
   RunState.HasHoopRows = site.HasRows(fmt::format("{}形状No={}", kRows, kWeldedHoopShape));
 }
 
+/// A sibling in a folder that may not be looked into is none for this user.
+bool IsInstalled(std::string_view program) {
+  bool found = false;
+  PassOverFaults(FaultKind::file, [&] { found = FamilyFileExists(program); });
+  return found;
+}
+
 void ProbeCounters() {
-  RunState.HasWeldCounter = FamilyFileExists(kWeldCounterProgram);
-  RunState.HasJoinCounter = FamilyFileExists(kJoinCounterProgram);
-  RunState.HasPlateCounter = FamilyFileExists(kPlateCounterProgram);
+  RunState.HasWeldCounter = IsInstalled(kWeldCounterProgram);
+  RunState.HasJoinCounter = IsInstalled(kJoinCounterProgram);
+  RunState.HasPlateCounter = IsInstalled(kPlateCounterProgram);
+}
+
+void ClearOldLeftovers() {
+  RemoveOldLeftovers(Root());
+  RemoveOldLeftovers(MapPath("\\RBK\\DATA"));
 }
 
 void StampRun() {
@@ -179,14 +184,14 @@ void ForgetHoops() {
 /// What the load makes of the bound site: archive tables, classification, names, grades. False, its database
 /// closed, for a site that a newer program reads.
 bool ReadySite(const StartOptions& options) {
-  Step(DropEmptyArchiveTables);
-  Step(Check_JSyukei);
+  Step(ReadyArchiveTables);
   if (!options.command_line && NeedsNewerProgram()) {
     SiteContext.WorkDatabase.reset();
     return false;
   }
   Step(ProbeShapeTable);
-  if (options.prepare) Step([&] { ClassifySchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  // The command line classifies once, when it activates.
+  if (!options.command_line) Step([&] { ClassifyAtLoad(options.start_mode); });
   Step(OpenMasterDatabase);
   Step([&] { MarkRegisteredNames(options.start_mode); });
   Step(ReadSiteNames);
@@ -200,9 +205,13 @@ bool ReadySite(const StartOptions& options) {
 LoadResult LoadSite(const StartOptions& options) {
   LoadResult result;
   RequireSteelIni();
+  const RegistryReading registry;
+  SiteContext.OnlyRead = !options.prepare;
+  SiteContext.ClassifiedAt.reset();
+  if (options.prepare) ClearOldLeftovers();
   Step(LoadGridColours);
   Selection.StartMode = options.start_mode;
-  Step(LoadTallySettings);
+  Step([&] { LoadTallySettings(registry); });
   if (!options.command_line) Step(OfferSharedImports);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
@@ -211,8 +220,8 @@ LoadResult LoadSite(const StartOptions& options) {
     return result;
   }
   Step([&] { ResetAccumulation(options); });
-  result.shows_plate_sheet = FamilyFileExists(kPlateSheetProgram);
-  Step(LoadRemainingSettings);
+  result.shows_plate_sheet = IsInstalled(kPlateSheetProgram);
+  Step([&] { LoadRemainingSettings(registry); });
   Step(ProbeShapes);
   SiteContext.WorkDatabase.reset();
   Step(ProbeCounters);
@@ -230,13 +239,17 @@ bool FollowSelectedSite(const StartOptions& options) {
 }
 
 MenuState ActivateMenu(const StartOptions& options) {
-  Step(RereadTitleSettings);
+  Step([] { RereadTitleSettings(); });
   if (!FollowSelectedSite(options)) {
     MenuState handed_over;
     handed_over.hand_over_to = kNewerProgram;
     return handed_over;
   }
-  if (options.prepare) Step([&] { RefreshSchedule(*SiteContext.WorkDatabase, options.start_mode); });
+  if (options.command_line) {
+    Step([&] { HoldClassifiedSchedule(options.start_mode); });
+  } else {
+    Step([&] { RefreshAtActivation(options.start_mode); });
+  }
   ResetSelection();
   MenuState state = DescribeMenu(options);
   state.site = SiteLabel();

@@ -13,8 +13,10 @@ namespace rbt {
 /// What the command line of a program decides about the start.
 struct StartOptions {
   StartModeTraits start_mode = TraitsOfStartMode(kNoStartMode);
-  bool prepare = true;  ///< false: the schedule is not classified, its rows stay as they are
-  std::string site;     ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
+  /// False: nothing of the site is written. What a tally needs of its classification is worked out on a
+  /// private copy.
+  bool prepare = true;
+  std::string site;  ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
   bool command_line = false;
 };
@@ -39,7 +41,9 @@ LoadResult LoadSite(const StartOptions& options);
 bool FollowSelectedSite(const StartOptions& options);
 
 /// Every time the menu gets the focus: re-reads what may have changed, follows the selected site, refreshes
-/// the schedule, resets the selection and leaves the site database open. Returns how the menu stands.
+/// the schedule, resets the selection and leaves the site database open; on the command line also held,
+/// classified for the start mode, so that all reads see one state of it (see `HoldClassifiedSchedule`).
+/// Returns how the menu stands.
 MenuState ActivateMenu(const StartOptions& options);
 
 }  // namespace rbt

@@ -118,4 +118,8 @@ std::string TodayStamp(const DateTime& now) { return FormatDate(now, "yyyymmdd")
 
 std::string TimeStamp(const DateTime& now) { return FormatDate(now, "hhnnss"); }
 
+std::string FormatSaveDate(const DateTime& now) { return TodayStamp(now).insert(6, "/").insert(4, "/"); }
+
+std::string FormatSaveTime(const DateTime& now) { return TimeStamp(now).insert(4, ":").insert(2, ":"); }
+
 }  // namespace rbt

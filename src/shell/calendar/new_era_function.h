@@ -32,5 +32,8 @@ std::string EraNameOfYear(std::string_view yymmdd);
 std::string TodayStamp(const DateTime& now = Now());
 /// The time of day as "hhnnss".
 std::string TimeStamp(const DateTime& now = Now());
+/// Both as screens and names of saved tallies show them: "2026/11/21", "09:00:00".
+std::string FormatSaveDate(const DateTime& now = Now());
+std::string FormatSaveTime(const DateTime& now = Now());
 
 }  // namespace rbt

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/config/settings.h"
 
+#include <fmt/format.h>
+
 #include "platform/numbers/number_words.h"
 #include "platform/profile/ini_file.h"
 #include "platform/profile/registry.h"
@@ -63,16 +65,14 @@ constexpr TextBinding kRemainingTexts[] = {
     {kClosingDayKey, &SettingsData::ClosingDay},
 };
 
-void Load(const NumberBinding& binding) { Settings.*binding.field = ReadSetting(binding.key); }
+template <typename Binding>
+void Load(const Binding& binding, const RegistryReading& registry) {
+  Settings.*binding.field = ReadSetting(binding.key, registry);
+}
 
-void Load(const TextBinding& binding) { Settings.*binding.field = ReadSetting(binding.key); }
-
-/// Where a setting stands, with its text: `Kakou\重量集計\日付表記 "abc"`.
 std::string Place(std::string_view app, std::string_view section, std::string_view key,
                   std::string_view text) {
-  std::string place;
-  place.append(app).append("\\").append(section).append("\\").append(key);
-  return place.append(" \"").append(text).append("\"");
+  return fmt::format("{}\\{}\\{} \"{}\"", app, section, key, text);
 }
 
 }  // namespace
@@ -84,30 +84,41 @@ std::string ReadIniText(std::string_view family_file, std::string_view section, 
   return GetProfileText(MapPath(family_file), section, key, fallback, 80);
 }
 
+std::string PlaceOf(const TextKey& key, std::string_view text) {
+  return Place(key.app, key.section, key.key, text);
+}
+
+std::string PlaceOf(const IniKey& key, std::string_view text) {
+  return fmt::format("STEEL.INI [{}] {} \"{}\"", key.section, key.key, text);
+}
+
 std::string ReadSteelIni(const IniKey& key) {
   return ReadIniText(kSteelIni, key.section, key.key, key.fallback);
 }
 
 std::int32_t ReadSteelIniColour(const IniKey& key) {
   const std::string text = ReadSteelIni(key);
-  return ToInt32(LeadingNumber(text.empty() ? key.fallback : text), key.key);
+  return ToInt32(LeadingNumber(text.empty() ? key.fallback : text), PlaceOf(key, text));
 }
 
 void WriteSteelIni(const IniKey& key, std::string_view value) {
   WriteProfileText(MapPath(kSteelIni), key.section, key.key, value);
 }
 
+std::string ReadHandOver(std::string_view key) { return ReadIniText(kNextPrgIni, kHandOverSection, key, ""); }
+
+void WriteHandOver(std::string_view key, std::string_view value) {
+  WriteProfileText(MapPath(kNextPrgIni), kHandOverSection, key, value);
+}
+
 std::string ReadSetting(std::string_view app, std::string_view section, std::string_view key,
                         std::string_view fallback) {
-  return RegistryText(app, section, key).value_or(std::string(fallback));
+  return ReadSetting(TextKey{app, section, key, fallback});
 }
 
 std::int32_t ReadSetting(std::string_view app, std::string_view section, std::string_view key,
                          std::int32_t fallback) {
-  const std::optional<std::string> text = RegistryText(app, section, key);
-  if (!text) return fallback;
-  const std::string place = Place(app, section, key, *text);
-  return ToInt32(NumberOfText(*text, place), place);
+  return ReadSetting(NumberKey{app, section, key, fallback});
 }
 
 void SaveSetting(std::string_view app, std::string_view section, std::string_view key,
@@ -115,16 +126,19 @@ void SaveSetting(std::string_view app, std::string_view section, std::string_vie
   SetRegistryText(app, section, key, value);
 }
 
-std::string ReadSetting(const TextKey& key) {
-  return ReadSetting(key.app, key.section, key.key, key.fallback);
+std::string ReadSetting(const TextKey& key, const RegistryReading& registry) {
+  return registry.Text(key.app, key.section, key.key).value_or(std::string(key.fallback));
 }
 
-std::int32_t ReadSetting(const NumberKey& key) {
-  return ReadSetting(key.app, key.section, key.key, key.fallback);
+std::int32_t ReadSetting(const NumberKey& key, const RegistryReading& registry) {
+  const std::optional<std::string> text = registry.Text(key.app, key.section, key.key);
+  if (!text) return key.fallback;
+  const std::string place = Place(key.app, key.section, key.key, *text);
+  return ToInt32(NumberOfText(*text, place), place);
 }
 
-bool ReadSetting(const BooleanKey& key) {
-  const std::optional<std::string> text = RegistryText(key.app, key.section, key.key);
+bool ReadSetting(const BooleanKey& key, const RegistryReading& registry) {
+  const std::optional<std::string> text = registry.Text(key.app, key.section, key.key);
   if (!text) return key.fallback;
   return NumberOfText(*text, Place(key.app, key.section, key.key, *text)) != 0;
 }
@@ -146,25 +160,26 @@ void LoadGridColours() {
   Settings.GridRowForeColor = ReadSteelIniColour(kGridRowForeColorKey);
 }
 
-void LoadTallySettings() {
-  for (const NumberBinding& binding : kTallyNumbers) Load(binding);
+void LoadTallySettings(const RegistryReading& registry) {
+  for (const NumberBinding& binding : kTallyNumbers) Load(binding, registry);
 }
 
-void LoadRemainingSettings() {
-  for (const NumberBinding& binding : kRemainingNumbers) Load(binding);
-  for (const TextBinding& binding : kRemainingTexts) Load(binding);
+void LoadRemainingSettings(const RegistryReading& registry) {
+  for (const NumberBinding& binding : kRemainingNumbers) Load(binding, registry);
+  for (const TextBinding& binding : kRemainingTexts) Load(binding, registry);
   // The stock check is kept in 16 bits.
   ToInt16(Settings.StockCheck, Place(kStockCheckKey.app, kStockCheckKey.section, kStockCheckKey.key,
                                      std::to_string(Settings.StockCheck)));
-  Settings.EraCalendar = ReadSetting(kEraCalendarKey);
-  Settings.ClosingYear = ReadSetting(kClosingYearKey.app, kClosingYearKey.section, kClosingYearKey.key,
-                                     std::to_string(Now().year + 1));
-  RereadTitleSettings();
+  Settings.EraCalendar = ReadSetting(kEraCalendarKey, registry);
+  const std::string next_year = std::to_string(Now().year + 1);
+  Settings.ClosingYear = ReadSetting(
+      TextKey{kClosingYearKey.app, kClosingYearKey.section, kClosingYearKey.key, next_year}, registry);
+  RereadTitleSettings(registry);
 }
 
-void RereadTitleSettings() {
+void RereadTitleSettings(const RegistryReading& registry) {
   constexpr std::int32_t kOwnText = 3;
-  for (const NumberBinding& binding : kTitleNumbers) Load(binding);
+  for (const NumberBinding& binding : kTitleNumbers) Load(binding, registry);
   Settings.ReportTitleText =
       Settings.ReportTitleChoice == kOwnText ? ReadSteelIni(kReportTitleTextKey) : std::string();
 }

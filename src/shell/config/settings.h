@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/profile/registry.h"
 #include "shell/config/setting_keys.h"
 
 namespace rbt {
@@ -26,20 +27,30 @@ void SaveSetting(std::string_view app, std::string_view section, std::string_vie
 
 /// The same for a key of the tables, with its own default; a true-or-false setting is "True", "False" or a
 /// number.
-std::string ReadSetting(const TextKey& key);
-std::int32_t ReadSetting(const NumberKey& key);
-bool ReadSetting(const BooleanKey& key);
+std::string ReadSetting(const TextKey& key, const RegistryReading& registry = {});
+std::int32_t ReadSetting(const NumberKey& key, const RegistryReading& registry = {});
+bool ReadSetting(const BooleanKey& key, const RegistryReading& registry = {});
 void SaveSetting(const NumberKey& key, std::int32_t value);
 void SaveSetting(const TextKey& key, std::string_view value);
 void SaveSetting(const BooleanKey& key, bool value);
 /// Reads a key of `STEEL.INI` with its own default.
 std::string ReadSteelIni(const IniKey& key);
+/// Where a setting stands, with its text, for faults: `Kakou\プラス\長さ "abc"`.
+std::string PlaceOf(const TextKey& key, std::string_view text);
+/// The same of a key of `STEEL.INI`: `STEEL.INI [加工帳] 文字の色 "abc"`.
+std::string PlaceOf(const IniKey& key, std::string_view text);
 /// A colour of `STEEL.INI`, RGB with red in the low byte: an empty text is the default, any other its leading
 /// number.
 std::int32_t ReadSteelIniColour(const IniKey& key);
 /// Writes a key of `STEEL.INI`. Faults: `file`, which names the file; `type mismatch` for a text that code
 /// page 932 lacks.
 void WriteSteelIni(const IniKey& key, std::string_view value);
+
+/// A key of the hand-over between the programs of the family, section `データ` of `NEXTPRG.INI`: empty when
+/// it is missing.
+std::string ReadHandOver(std::string_view key);
+/// Faults as those of `WriteSteelIni`.
+void WriteHandOver(std::string_view key, std::string_view value);
 
 inline constexpr std::string_view kSteelIni = "\\RBK\\DATA\\STEEL.INI";
 inline constexpr std::string_view kNextPrgIni = "\\RBK\\DATA\\NEXTPRG.INI";
@@ -83,10 +94,10 @@ extern SettingsData Settings;
 /// `GridRowBackColor` and `GridRowForeColor`.
 void LoadGridColours();
 /// `UseFixedTable`, `AlternateRowColours`, `PrintEmptyDiameters`, `Use13mColumn`, `CapInstalledWeight`.
-void LoadTallySettings();
+void LoadTallySettings(const RegistryReading& registry = {});
 /// Everything else that is kept, the title settings included.
-void LoadRemainingSettings();
+void LoadRemainingSettings(const RegistryReading& registry = {});
 /// `DetailShowsWeight`, `ReportTitleChoice` and, when the choice is 3, `ReportTitleText`, else empty.
-void RereadTitleSettings();
+void RereadTitleSettings(const RegistryReading& registry = {});
 
 }  // namespace rbt

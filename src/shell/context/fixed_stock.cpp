@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "shell/context/fixed_stock.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <optional>
 
-#include "platform/fault.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
 #include "platform/files/files.h"
+#include "platform/files/system_error.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
+#include "store/database_file.h"
 
 namespace rbt {
 
@@ -16,45 +21,57 @@ namespace {
 constexpr std::string_view kFixedStockDatabase = "\\RBK\\DATA\\MTTeijyaku.mdb";
 constexpr std::string_view kFixedStockTemplate = "\\RBK\\DATA\\MTTeijyaku_ORG.mdb";
 
-enum class Outcome { failed, no_row, found };
+constexpr std::string_view kTable = "固定定尺テーブル";
+constexpr std::string_view kFields[] = {"太さ", "開始切り寸", "終了切り寸", "材質", "定尺"};
 
-struct Answer {
-  Outcome outcome;
-  std::int32_t stock_length;
-};
+std::string_view FileInUse() {
+  return FamilyFileExists(kFixedStockDatabase) ? kFixedStockDatabase : kFixedStockTemplate;
+}
 
-/// Asks one statement. Its failure is an outcome, not a fault: without a readable table the stock lengths are
-/// worked out instead.
-Answer AskPassingOverErrors(Database& database, const std::string& statement) {
-  Answer answer{Outcome::failed, 0};
-  PassOverFaults([&] {
-    Recordset rows = database.OpenSnapshot(statement);
-    answer = rows.Eof() ? Answer{Outcome::no_row, 0}
-                        : Answer{Outcome::found, rows.Int32(rows.Field("定尺")).value_or(0)};
-  });
-  return answer;
+/// Without the table the stock lengths are worked out instead.
+bool HasTable(Database& database) {
+  const auto table = database.FindTable(kTable);
+  return table != nullptr && std::ranges::all_of(kFields, [&](std::string_view field) {
+           return table->FindField(field) != nullptr;
+         });
 }
 
 }  // namespace
 
 void ProvideFixedStockDatabase() {
   if (FamilyFileExists(kFixedStockDatabase)) return;
-  if (!FamilyFileExists(kFixedStockTemplate)) {
-    throw Fault(FaultKind::file, MapPath(kFixedStockTemplate).string() + ": does not exist");
-  }
-  WriteFileAtomically(MapPath(kFixedStockDatabase), ReadFileBytes(MapPath(kFixedStockTemplate)));
+  const std::filesystem::path original = MapPath(kFixedStockTemplate);
+  if (!FamilyFileExists(kFixedStockTemplate)) throw FileFaultText(original, "does not exist");
+  const std::filesystem::path file = MapPath(kFixedStockDatabase);
+  if (SiteContext.OnlyRead || !TakesFiles(FolderOf(file))) return;
+  FileInWork copy(file);
+  CopyDatabaseFile(original, copy.Path());
+  const auto fault = PassOverFaults(FaultKind::file, [&] { copy.PutInPlace(); });
+  // Another program that starts now has made it.
+  if (fault && !FamilyFileExists(kFixedStockDatabase)) throw *fault;
 }
 
 void OpenFixedStockDatabase() {
+  SiteContext.FixedStockTable.reset();
+  SiteContext.FixedStockReadAt.reset();
   SiteContext.FixedStockDatabase.reset();
-  SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::Open(MapPath(kFixedStockDatabase)));
+  SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::OpenReadOnly(MapPath(FileInUse())));
 }
 
-void OpenFixedStockForReading() {
-  const std::string_view file =
-      FamilyFileExists(kFixedStockDatabase) ? kFixedStockDatabase : kFixedStockTemplate;
-  SiteContext.FixedStockDatabase.reset();
-  SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::OpenReadOnly(MapPath(file)));
+void ReadFixedStockTable() {
+  if (SiteContext.FixedStockDatabase && SiteContext.FixedStockDatabase->HasMoved()) OpenFixedStockDatabase();
+  if (!SiteContext.FixedStockDatabase) return;
+  Database& database = *SiteContext.FixedStockDatabase;
+  database.Hold();
+  const std::optional<FileState> state = database.State();
+  if (!state || state != SiteContext.FixedStockReadAt) {
+    SiteContext.FixedStockTable.reset();
+    if (HasTable(database)) {
+      SiteContext.FixedStockTable = std::make_unique<Database>(Database::CopyOf(database));
+    }
+    SiteContext.FixedStockReadAt = state;
+  }
+  database.LetGo();
 }
 
 std::array<std::string, 4> FixedStockStatements(std::int32_t cut_mm, std::int32_t diameter_code) {
@@ -70,13 +87,10 @@ std::array<std::string, 4> FixedStockStatements(std::int32_t cut_mm, std::int32_
 std::int32_t GetFixedStockLength(std::int32_t cutLength, std::int32_t diameter) {
   constexpr std::int32_t kNoTable = 0;
   constexpr std::int32_t kNoRow = -1;
-  if (!SiteContext.FixedStockDatabase) return kNoTable;
-  bool first = true;
+  if (!SiteContext.FixedStockTable) return kNoTable;
   for (const std::string& statement : FixedStockStatements(cutLength, diameter)) {
-    const Answer answer = AskPassingOverErrors(*SiteContext.FixedStockDatabase, statement);
-    if (answer.outcome == Outcome::found) return answer.stock_length;
-    if (answer.outcome == Outcome::failed && first) return kNoTable;
-    first = false;
+    Recordset rows = SiteContext.FixedStockTable->OpenSnapshot(statement);
+    if (!rows.Eof()) return rows.Int32(rows.Field("定尺")).value_or(0);
   }
   return kNoRow;
 }

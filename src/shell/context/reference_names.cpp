@@ -30,4 +30,12 @@ std::string Get_BuiNa(std::int32_t part) {
   return PartName(*SiteContext.MasterDatabase, part, naming);
 }
 
+std::array<std::string, kLastNamedPart> NamesOfParts() {
+  std::array<std::string, kLastNamedPart> names;
+  for (std::int32_t part = 1; part <= kLastNamedPart; ++part) {
+    names[static_cast<std::size_t>(part - 1)] = Get_BuiNa(part);
+  }
+  return names;
+}
+
 }  // namespace rbt

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "data/parts.h"
+
 namespace rbt {
 
 /// Name of a steel grade from the names read at load: code 1 to 10; empty for 0, and for any other code.
@@ -14,5 +16,7 @@ std::array<std::string, 12> DiameterGradeNames();
 /// 部位名 of a part from the open master database, in the naming that the setting `出荷日` selects (2: the
 /// second); empty when it is null or the part has no row.
 std::string Get_BuiNa(std::int32_t part);
+/// The names of the parts 1 to 10.
+std::array<std::string, kLastNamedPart> NamesOfParts();
 
 }  // namespace rbt

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/context/site_context.h"
 
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/files/system_error.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
 
@@ -8,7 +15,33 @@ namespace rbt {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::string_view kMasterDatabase = "\\RBK\\DATA\\SORANO.MDB";
+/// What a site's file is not, beside its own companion.
+constexpr std::string_view kOtherDatabases[] = {kMasterDatabase, "\\RBK\\DATA\\MTTeijyaku.mdb",
+                                                "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
+                                                "\\RBK\\DATA\\JSyukeiORG.mdb", "\\RBK\\DATA\\hozon.MDB"};
+constexpr std::string_view kScheduleTable = "加工テーブル";
+
+Database OpenFamilyDatabase(std::string_view family_path) {
+  const fs::path file = MapPath(family_path);
+  return SiteContext.OnlyRead ? Database::OpenReadOnly(file) : Database::Open(file);
+}
+
+void RequireSite(Database& database) {
+  const auto refuse_if = [&](std::string_view other) {
+    std::error_code not_there;
+    if (!fs::equivalent(database.File(), MapPath(other), not_there)) return;
+    throw FileFaultText(database.File(),
+                        fmt::format("is no site but {}", MapPath(other).filename().string()));
+  };
+  for (const std::string_view other : kOtherDatabases) refuse_if(other);
+  refuse_if(CompanionDatabasePath());
+  if (database.FindTable(kScheduleTable) == nullptr) {
+    throw FileFaultText(database.File(), fmt::format("is no site: it has no table {}", kScheduleTable));
+  }
+}
 
 }  // namespace
 
@@ -17,19 +50,27 @@ SiteContextData SiteContext;
 std::string SiteNumberOf(std::string_view file_name) { return std::string(Mid(file_name, 6, 3)); }
 
 void SelectSite(std::string_view file_name) {
+  if (SiteContext.SelectedDbName != file_name) {
+    SiteContext.ClassifiedAt.reset();
+    SiteContext.CopiedAt.reset();
+    SiteContext.ToldOfCopy = false;
+  }
   SiteContext.SelectedDbName = file_name;
   SiteContext.SiteNumberText = SiteNumberOf(file_name);
 }
 
 void OpenWorkDatabase() {
   SiteContext.WorkDatabase.reset();
-  SiteContext.WorkDatabase =
-      std::make_unique<Database>(Database::Open(MapPath("\\RBK\\DATA\\" + SiteContext.SelectedDbName)));
+  auto site = std::make_unique<Database>(OpenFamilyDatabase("\\RBK\\DATA\\" + SiteContext.SelectedDbName));
+  RequireSite(*site);
+  SiteContext.WorkDatabase = std::move(site);
 }
+
+Database OpenCompanionDatabase() { return OpenFamilyDatabase(CompanionDatabasePath()); }
 
 void OpenMasterDatabase() {
   SiteContext.MasterDatabase.reset();
-  SiteContext.MasterDatabase = std::make_unique<Database>(Database::Open(MapPath(kMasterDatabase)));
+  SiteContext.MasterDatabase = std::make_unique<Database>(OpenFamilyDatabase(kMasterDatabase));
 }
 
 std::string CompanionDatabasePath() { return "\\RBK\\DATA\\HIROI" + SiteContext.SiteNumberText + ".mdb"; }

@@ -12,7 +12,6 @@
 #include "data/table_layouts.h"
 #include "jet/import/import_file.h"
 #include "jet/jet_file.h"
-#include "platform/failure_log.h"
 #include "platform/fault.h"
 #include "platform/files/file_in_work.h"
 #include "platform/files/file_sync.h"
@@ -20,6 +19,7 @@
 #include "platform/files/system_error.h"
 #include "platform/text/characters.h"
 #include "store/database.h"
+#include "store/database_file.h"
 
 namespace rbt {
 
@@ -75,31 +75,6 @@ const KnownDatabase* KnownByName(const fs::path& name) {
                                    [&](const KnownDatabase& d) { return Matches(stem, d.stem); });
   return known == std::end(kKnownDatabases) ? nullptr : known;
 }
-
-void MakeFolder(const fs::path& folder) {
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (error) throw FileFault(folder, "cannot be made", error.value());
-}
-
-/// A root folder, which goes again with the object when it was made and is still empty.
-class RootInWork {
- public:
-  explicit RootInWork(const fs::path& root) : path_(root), made_(!fs::exists(root)) { MakeFolder(root); }
-  RootInWork(const RootInWork&) = delete;
-  RootInWork& operator=(const RootInWork&) = delete;
-  ~RootInWork() {
-    std::error_code error;
-    if (made_) fs::remove(path_, error);
-    if (error && error != std::errc::directory_not_empty) {
-      LogFailure(FileFault(path_, "cannot be removed", error.value()).what());
-    }
-  }
-
- private:
-  fs::path path_;
-  bool made_;
-};
 
 /// File names are the same without regard to the case of ASCII letters; full-width letters are themselves.
 struct NameLess {
@@ -225,16 +200,17 @@ class FolderImport {
 
   void TakeDatabase(const fs::path& file, const KnownDatabase& known) {
     const std::string name = file.filename().string();
-    std::optional<std::string> bytes_of_store;
     try {
       if (jet::IsJetFile(file)) {
         jet::ImportReport report = jet::ImportJetFile(file, work_ / name);
         report.target = target_ / name;
         report_.files.push_back(std::move(report));
       } else {
-        Database::OpenReadOnly(file);  // one of the store's, or a fault
-        bytes_of_store = ReadFileBytes(file);
+        CopyDatabaseFile(file, work_ / name);
+        report_.copied.push_back(name);
       }
+    } catch (const CopyTargetFault&) {
+      throw;
     } catch (const jet::TargetFault&) {
       throw;  // a full disk is no reason to leave out one file and go on
     } catch (const Fault& fault) {
@@ -242,7 +218,6 @@ class FolderImport {
       report_.failed.emplace_back(fault.what());
       return;
     }
-    if (bytes_of_store) WriteCopy(name, *bytes_of_store);
     if (known.layout != nullptr) NoteMissingTables(name, known.layout());
   }
 
@@ -293,7 +268,7 @@ class FolderImport {
   void MakeFixedStock() {
     if (Has(kFixedStockOriginal)) return;
     if (Has(kFixedStock)) {
-      WriteFileAtomically(work_ / kFixedStockOriginal, ReadFileBytes(work_ / OwnName(kFixedStock)));
+      CopyDatabaseFile(work_ / OwnName(kFixedStock), work_ / kFixedStockOriginal);
       report_.made.push_back(fmt::format("{}, a copy of {}", kFixedStockOriginal, kFixedStock));
     } else {
       MakeEmpty(kFixedStockOriginal, FixedStockFileTables());
@@ -316,7 +291,7 @@ class FolderImport {
   fs::path source_;
   fs::path target_;
   FilesByName files_;
-  RootInWork root_;
+  MadeFolder root_;
   WorkPlace place_;
   FolderInWork work_;
   FolderReport report_;

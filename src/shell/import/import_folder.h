@@ -12,7 +12,7 @@ namespace rbt {
 /// What became of a DATA folder.
 struct FolderReport {
   std::vector<jet::ImportReport> files;
-  std::vector<std::string> copied;     ///< taken byte for byte
+  std::vector<std::string> copied;     ///< taken as they are, databases as they stood at one moment
   std::vector<std::string> made;       ///< what the program needs and the folder lacked
   std::vector<std::string> failed;     ///< files that are damaged or locked by a password, with the cause
   std::vector<std::string> not_taken;  ///< files that this program has no use for

@@ -23,12 +23,6 @@ bool HasField(Database& database, std::string_view table, std::string_view field
   return found && found->FindField(field) != nullptr;
 }
 
-void RunTogether(Database& database, const std::vector<std::string>& statements) {
-  Transaction transaction(database);
-  database.ExecuteTogether(statements);
-  transaction.Commit();
-}
-
 /// The shapes whose bars have `plates` anchor plates each.
 std::vector<int> ShapesWithPlates(int plates) {
   std::vector<int> shapes;
@@ -66,7 +60,7 @@ std::vector<std::string> ClassificationStatements(const StartModeTraits& start_m
 }
 
 void ClassifySchedule(Database& schedule, const StartModeTraits& start_mode) {
-  RunTogether(schedule, ClassificationStatements(start_mode));
+  schedule.ExecuteTogether(ClassificationStatements(start_mode));
 }
 
 std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode, bool has_plate_counts) {
@@ -85,13 +79,24 @@ std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode,
   return statements;
 }
 
-void RefreshSchedule(Database& schedule, const StartModeTraits& start_mode) {
-  RunTogether(schedule, ActivationStatements(start_mode, HasField(schedule, kSchedule, "定着板数")));
+std::vector<std::string> RefreshStatements(Database& schedule, const StartModeTraits& start_mode) {
+  return ActivationStatements(start_mode, HasField(schedule, kSchedule, "定着板数"));
 }
 
-void FillFloorsAndParts(Database& schedule) {
-  RunTogether(schedule, {std::string(kFillFloors), std::string(kFillParts)});
+void RefreshSchedule(Database& schedule, const StartModeTraits& start_mode) {
+  schedule.ExecuteTogether(RefreshStatements(schedule, start_mode));
 }
+
+std::vector<std::string> PreparationStatements(Database& schedule, const StartModeTraits& start_mode) {
+  std::vector<std::string> statements = ClassificationStatements(start_mode);
+  const std::vector<std::string> activation = RefreshStatements(schedule, start_mode);
+  statements.insert(statements.end(), activation.begin(), activation.end());
+  return statements;
+}
+
+std::vector<std::string> FillStatements() { return {std::string(kFillFloors), std::string(kFillParts)}; }
+
+void FillFloorsAndParts(Database& schedule) { schedule.ExecuteTogether(FillStatements()); }
 
 void AddNameWorkColumns(Database& schedule, Database& companion) {
   AddColumnIfMissing(schedule, kSchedule, "登録名形状別作業用", kAddNameWorkColumn);

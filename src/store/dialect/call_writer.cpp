@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <utility>
 
 #include <fmt/format.h>
 
 #include "platform/text/characters.h"
 #include "store/dialect/expression_writer.h"
+#include "store/dialect/quoting.h"
 #include "store/dialect/walk.h"
 
 namespace rbt::dialect {
@@ -88,9 +90,19 @@ WrittenValue ExpressionWriter::WriteAggregate(const Call& node, Place place) {
           .may_fault = operand.may_fault};
 }
 
+WrittenValue ExpressionWriter::Summand(WrittenValue value) const {
+  if (value.field == nullptr) return value;
+  const std::string place = QuoteText(fmt::format("{}.{}", table_->name, value.field->name));
+  value.sql = fmt::format("jet_summand({}, {})", value.sql, place);
+  value.field = nullptr;
+  value.may_fault = true;
+  return value;
+}
+
 /// Whole numbers sum exactly in 64 bits, ten-thousandths of a CURRENCY too; doubles one after the other.
-WrittenValue ExpressionWriter::WriteSum(const WrittenValue& operand, Place place) {
+WrittenValue ExpressionWriter::WriteSum(WrittenValue operand, Place place) {
   if (!IsNumber(operand.value)) Refuse(statement_, place, "a number is expected", FaultKind::type_mismatch);
+  operand = Summand(std::move(operand));
   switch (operand.value) {
     case ValueClass::whole:
     case ValueClass::boolean:

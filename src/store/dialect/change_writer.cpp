@@ -61,7 +61,8 @@ ChangeStatement WriteInsert(const Insert& insert, const Scope& scope) {
   for (const FieldDef* const field : targets) names.push_back(QuoteName(field->name));
   return {fmt::format("INSERT INTO {} ({}) {}", QuoteName(table.name), fmt::join(names, ", "),
                       SourceSql(insert, targets, scope)),
-          table.name};
+          table.name,
+          {}};
 }
 
 WrittenUpdate WriteAssignments(const Update& update, const TableDef& table, const Scope& scope,
@@ -102,16 +103,16 @@ ChangeStatement WriteUpdate(const Update& update, const Scope& scope) {
                       : fmt::format("{} AND {}", written.where, guard);
   }
   return {fmt::format("UPDATE {} SET {} WHERE {}", QuoteName(table.name), fmt::join(settings, ", "), guard),
-          table.name};
+          table.name, fmt::format("SELECT 1 FROM {} WHERE {}", QuoteName(table.name), guard)};
 }
 
 ChangeStatement WriteDelete(const Delete& statement, const Scope& scope) {
   const TableDef& table = scope.Table(statement.table);
   ExpressionWriter writer(scope.Statement(), &table);
   if (statement.column) writer.Field(*statement.column);
-  std::string sql = fmt::format("DELETE FROM {}", QuoteName(table.name));
-  if (statement.where) sql += fmt::format(" WHERE {}", writer.Condition(*statement.where));
-  return {std::move(sql), table.name};
+  std::string rows = fmt::format("FROM {}", QuoteName(table.name));
+  if (statement.where) rows += fmt::format(" WHERE {}", writer.Condition(*statement.where));
+  return {"DELETE " + rows, table.name, "SELECT 1 " + rows};
 }
 
 }  // namespace rbt::dialect

@@ -202,7 +202,7 @@ WrittenValue ExpressionWriter::Number(const Expression& expression) {
   if (!IsNumber(value.value)) {
     Refuse(statement_, expression.place, "a number is expected", FaultKind::type_mismatch);
   }
-  return value;
+  return scope_ == Scope::inside_aggregate ? Summand(std::move(value)) : value;
 }
 
 WrittenValue ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {

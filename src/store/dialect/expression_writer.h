@@ -51,6 +51,7 @@ using ListTestWriter = std::function<std::string(const FieldDef& field, const st
 /// - A number and a text do not compare: `type mismatch`.
 /// - A condition is made of comparisons, tests, True, False and BOOLEAN columns; a bare number is none.
 /// - A condition's value is -1 or 0.
+/// - A sum faults at a text, put into a column of numbers by another program, that is no number.
 class ExpressionWriter {
  public:
   /// `table` may be null: then no name is known. All arguments must outlive the writer.
@@ -86,9 +87,11 @@ class ExpressionWriter {
   WrittenValue WriteJunction(const ExpressionList& operands, std::string_view word);
   WrittenValue WriteCall(const Call& node, Place place);
   WrittenValue WriteAggregate(const Call& node, Place place);
-  WrittenValue WriteSum(const WrittenValue& operand, Place place);
+  WrittenValue WriteSum(WrittenValue operand, Place place);
 
   WrittenValue Number(const Expression& expression);
+  /// A value that is added up, checked where it comes straight from a row.
+  WrittenValue Summand(WrittenValue value) const;
   /// The tested value of a comparison, made ready to compare with values of its class.
   std::string Comparand(const WrittenValue& value) const;
   void MustCompare(const WrittenValue& a, const WrittenValue& b, Place place) const;

@@ -126,6 +126,16 @@ void Val(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_double(context, LeadingNumber(text));
 }
 
+/// (value, field): a number as it is, also one that was stored as a text.
+void Summand(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const int type = sqlite3_value_type(arguments[0]);
+  if (type == SQLITE_TEXT || type == SQLITE_BLOB) {
+    sqlite3_result_double(context, NumberArgument(arguments[0], TextArgument(arguments[1])));
+  } else {
+    sqlite3_result_value(context, arguments[0]);
+  }
+}
+
 /// (value, lowest, highest, field)
 void ToWhole(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (IsNullArgument(arguments[0])) return;
@@ -251,7 +261,7 @@ constexpr Scalar kScalars[] = {
     {"jet_int", 1, Guarded<IntNumber>},       {"jet_val", 1, Guarded<Val>},
     {"jet_to_whole", 4, Guarded<ToWhole>},    {"jet_to_currency", 2, Guarded<ToCurrency>},
     {"jet_to_real", 2, Guarded<ToReal>},      {"jet_to_single", 2, Guarded<ToSingle>},
-    {"jet_to_text", 3, Guarded<ToText>},
+    {"jet_to_text", 3, Guarded<ToText>},      {"jet_summand", 2, Guarded<Summand>},
 };
 
 struct Aggregate {

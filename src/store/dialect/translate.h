@@ -37,6 +37,7 @@ struct SelectStatement {
 struct ChangeStatement {
   std::string sql;
   std::string table;
+  std::string probe;  ///< SELECT that has a row where the statement would write one; empty: it always would
 };
 
 struct CreateTableStatement {

@@ -131,11 +131,12 @@ ChangeStatement UpdateFusion::Statement() const {
     differences.push_back(fmt::format("{} IS NOT {}", name, OldName(*field)));
   }
   const std::string table = QuoteName(table_.name);
-  return {fmt::format("{}{} AS (SELECT * FROM {} WHERE {} LIMIT -1) "
-                      "UPDATE {} SET {} FROM {} WHERE {}.{} = {}.{}",
-                      LayersSql(), kChanged, LayerName(layers_.size() - 1), fmt::join(differences, " OR "),
-                      table, fmt::join(settings, ", "), kChanged, table, RowNumberOf(table_), kChanged, kRow),
-          table_.name};
+  const std::string changed =
+      fmt::format("{}{} AS (SELECT * FROM {} WHERE {} LIMIT -1)", LayersSql(), kChanged,
+                  LayerName(layers_.size() - 1), fmt::join(differences, " OR "));
+  return {fmt::format("{} UPDATE {} SET {} FROM {} WHERE {}.{} = {}.{}", changed, table,
+                      fmt::join(settings, ", "), kChanged, table, RowNumberOf(table_), kChanged, kRow),
+          table_.name, fmt::format("{} SELECT 1 FROM {}", changed, kChanged)};
 }
 
 }  // namespace rbt::dialect

@@ -69,6 +69,8 @@ struct TableDef {
   /// Finds by name, letter case and the width of ASCII letters and digits ignored; null when there is none.
   const FieldDef* FindField(std::string_view field_name) const;
   std::vector<std::string> FieldNames() const;
+
+  friend bool operator==(const TableDef&, const TableDef&) = default;
 };
 
 /// The declared type of a column, as it stands in CREATE TABLE: "TEXT(50)", "CURRENCY", ...

@@ -19,7 +19,10 @@ static_assert(std::equal(StockLimitKeys.begin(), StockLimitKeys.end(), kDeformed
                            return key.diameter_code == deformed.code;
                          }));
 
-std::int32_t ReadNumber(const IniKey& key) { return ToInt32(LeadingNumber(ReadSteelIni(key)), key.key); }
+std::int32_t ReadNumber(const IniKey& key) {
+  const std::string text = ReadSteelIni(key);
+  return ToInt32(LeadingNumber(text), PlaceOf(key, text));
+}
 
 }  // namespace
 
@@ -34,7 +37,8 @@ StockLengthLimits GetStockLengthLimits() {
 }
 
 std::int16_t ReadPlus() {
-  EngineState.Plus = ToInt16(LeadingNumber(ReadSetting(kPlusKey)), kPlusKey.key);
+  const std::string text = ReadSetting(kPlusKey);
+  EngineState.Plus = ToInt16(LeadingNumber(text), PlaceOf(kPlusKey, text));
   return EngineState.Plus;
 }
 
@@ -44,7 +48,10 @@ EngineSettings ReadEngineSettings() {
   settings.plus = ReadPlus();
   settings.loss_priority = ReadSetting(kLossPriorityKey);
   EngineState.LossPriority = settings.loss_priority;
-  if (Settings.UseFixedTable == 1) settings.fixed_stock = GetFixedStockLength;
+  if (Settings.UseFixedTable == 1) {
+    ReadFixedStockTable();
+    settings.fixed_stock = GetFixedStockLength;
+  }
   return settings;
 }
 

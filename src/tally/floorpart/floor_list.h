@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "data/special_floors.h"
+#include "data/floor_mask.h"
 #include "tally/floor_tables.h"
 
 namespace rbt {

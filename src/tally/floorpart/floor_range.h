@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "data/special_floors.h"
+#include "data/floor_mask.h"
 #include "store/database.h"
 #include "tally/selection.h"
 

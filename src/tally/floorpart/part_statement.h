@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
+#include "data/floor_mask.h"
 #include "data/form_mask.h"
 #include "data/kind_mask.h"
-#include "data/special_floors.h"
 #include "tally/floorpart/shape_filters.h"
 
 namespace rbt {

@@ -99,6 +99,16 @@ std::string_view HoopClauseByPage(ShapeFilter hoops) {
 
 }  // namespace
 
+std::string ShapeRows(const SelectionData& selection) {
+  return fmt::format("WHERE 太さ > 0 AND 合計 > 0 AND 形状No Between {} AND {}", selection.ShapeStart,
+                     selection.ShapeEnd);
+}
+
+std::string PageShapeRows(LineRange lines) {
+  return fmt::format("WHERE 太さ > 0 AND 合計 > 0 AND Not IsNull(形状No) AND 行No Between {} AND {}",
+                     lines.first, lines.last);
+}
+
 std::string ShapeUlbonStatement(const SelectionData& selection) {
   return "SELECT 太さ,圧接太さ,形状No,伸切寸,SUM(合計) As 合計本数,"
          "SUM(伸総計) As 合計伸総計,SUM(圧接) As 合計圧接, SUM(ネジ数) AS 合計ネジ数,SUM(定着板数) AS "

@@ -22,6 +22,10 @@ inline constexpr std::string_view kGroupByWeld = " GROUP BY 太さ,圧接太さ 
 inline constexpr std::string_view kCutsOfPart5 = " AND 部位=5";
 inline constexpr std::string_view kCutsOfPart2 = " AND 部位=2 ";
 
+/// Rows of the shape tally, and of the shape by page and line tally.
+std::string ShapeRows(const SelectionData& selection);
+std::string PageShapeRows(LineRange lines);
+
 /// The shape tally: shapes `ShapeStart` to `ShapeEnd` of the selection.
 std::string ShapeUlbonStatement(const SelectionData& selection);
 /// The rows of the range and the kinds, for the presence probes.

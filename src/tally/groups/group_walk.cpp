@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <string>
 
+#include <fmt/format.h>
+
 #include "data/diameters.h"
 #include "tally/count_cells.h"
 #include "tally/groups/group_statements.h"
@@ -36,6 +38,16 @@ void FoldCutsOfPart(TallyTable& table, Database& site, const std::string& statem
 }
 
 }  // namespace
+
+void RequireNumbers(Database& site, std::span<const std::string_view> columns, std::string_view rows) {
+  const auto schedule = site.FindTable("加工テーブル");
+  std::string sums;
+  for (const std::string_view column : columns) {
+    if (schedule == nullptr || schedule->FindField(column) == nullptr) continue;
+    sums += fmt::format("{}SUM({})", sums.empty() ? "" : ",", column);
+  }
+  if (!sums.empty()) site.HasRows(fmt::format("SELECT {} FROM 加工テーブル {}", sums, rows));
+}
 
 void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds) {
   ForEachGroup(site, statement,

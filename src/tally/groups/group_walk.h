@@ -1,12 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <span>
 #include <string_view>
 
 #include "store/database.h"
 #include "tally/groups/group_fold.h"
 
 namespace rbt {
+
+/// Faults with `type mismatch` where a row holds a text that is no number in one of the columns, as far as
+/// the schedule has them. The tallies row by row read columns that no group shows: a site that they refuse is
+/// refused by the groups too. `rows`: a WHERE clause.
+void RequireNumbers(Database& site, std::span<const std::string_view> columns, std::string_view rows);
+/// The columns that only a row shows.
+inline constexpr std::array<std::string_view, 5> kColumnsOfRows = {"頁", "行", "部位", "予備2", "切断"};
 
 /// Adds every group of an Ulbon statement.
 void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tally/groups/shape_tally.h"
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "data/bar_tables.h"
@@ -84,6 +86,9 @@ void Keijou_Jyuuryo_Syukei() {
                            // kept
   site.Execute(kJoinDimensions);
   RunPendingEvents();
+  // A text lies in no range of shapes.
+  RequireNumbers(site, std::array<std::string_view, 1>{"形状No"}, "WHERE 太さ > 0 AND 合計 > 0");
+  RequireNumbers(site, kColumnsOfRows, ShapeRows(Selection));
   FoldUlbonGroups(table, site, ShapeUlbonStatement(Selection), rules.count_hoop_welds);
   RunPendingEvents();
   ProbeShapes(site);
@@ -99,6 +104,7 @@ void PKeijou_Jyuuryo_Syukei(std::int32_t startPage, std::int32_t startLine, std:
   ReadPlus();
   const GroupRules rules = RulesOfTally(WeightFromPageTable);
   const LineRange lines = LinesBetween(site, {{startPage, startLine}, {endPage, endLine}});
+  RequireNumbers(site, kColumnsOfRows, PageShapeRows(lines));
   FoldUlbonGroups(table, site, PageShapeUlbonStatement(Selection, lines), rules.count_hoop_welds);
   RunPendingEvents();
   ProbePageShapes(site, lines);

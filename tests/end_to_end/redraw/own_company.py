@@ -32,17 +32,20 @@ class Block:
 
     def bottom(self, y):
         """Nothing of the block stands lower."""
-        return self._visit(None, 0, y) + 12 * 20
+        return self._visit(None, 0, y)
 
     def _visit(self, pen, x, y):
         lines = 1 + sum(1 for key in self.LINES if self.value[key])
-        self.pen, self.x = pen, x
+        self.pen, self.x, self.foot = pen, x, 0
         self.y = y - 300 if lines >= 11 else y + (8 - lines) * 100
         self.step = self._name()
         self._addresses()
         self._contacts()
         self._second_office()
-        return self.y
+        return self.foot
+
+    def _reach(self, size):
+        self.foot = max(self.foot, self.y + size * 20)
 
     def _down(self, twips_a_point, more=0):
         self.y += self.step * twips_a_point + 10 + more
@@ -52,6 +55,7 @@ class Block:
         x, box = (self.x, 4320) if self.value["名称1"] or self.value["名称2"] else (self.x + 960, 3360)
         fitting = [size for size in (14, 13, 12, 11) if size * 10 * len(name.encode("cp932")) <= box]
         size = fitting[0] if fitting else 10
+        self._reach(max(size, 11) if self.name_whole else size)
         if self.pen and self.name_whole:
             self.pen.font(max(size, 11), True)
             self.pen.text(x, self.y, name)
@@ -61,14 +65,17 @@ class Block:
         return size
 
     def _postal(self, key):
+        self._reach(10)
         if self.pen:
             self.pen.font(10, False)
             self.pen.text(self.x - 100, self.y, POSTAL + self.value[key])
 
     def _address(self, label, text, whole=False, at_most=10):
+        size = min(address_size(text), at_most)
+        self._reach(size)
         if not self.pen:
             return
-        self.pen.font(min(address_size(text), at_most), False)
+        self.pen.font(size, False)
         self.pen.text(self.x, self.y, label)
         if whole:
             self.pen.text(self.x + 960, self.y, text)
@@ -76,12 +83,14 @@ class Block:
             self.pen.spread(self.x + 960, self.y, text, self.pen.gap(3360, text))
 
     def _number(self, key):
+        self._reach(10)
         if self.pen:
             self.pen.font(10, False)
             self.pen.text(self.x - 350 + 1560, self.y, key[:3])
             self.pen.spread(self.x - 350 + 2060, self.y, self.value[key], self.pen.gap(2260, self.value[key]))
 
     def _mail(self, key):
+        self._reach(8)
         if self.pen:
             self.pen.font(8, False)
             self.pen.text(self.x + 1560, self.y, "E-mail: ")

@@ -191,5 +191,53 @@ TEST_F(StoppedImport, WithoutRoomInTheMidstOfTheRowsEndsTheImport) {
   EXPECT_THAT(Names(), ElementsAre("large.mdb", "old.mdb"));
 }
 
+TEST_F(StoppedImport, InPlaceASecondOneAtAnyMomentIsRefusedAndNothingIsLost) {
+  // How far the first one has come when the second begins.
+  for (int n = 1;; n += 3) {
+    SCOPED_TRACE(n);
+    std::string refusal;
+    try {
+      test::MeddleBeforeChange(
+          n, [&] { ImportJetFileInPlace(source_); },
+          [&] { refusal = test::FaultTextOf([&] { ImportJetFileInPlace(source_); }); });
+    } catch (const std::runtime_error&) {
+      break;  // it makes fewer changes
+    }
+    EXPECT_THAT(refusal,
+                ::testing::AnyOf(HasSubstr("another program is importing it"), HasSubstr("no Jet file")));
+    ExpectWhole(source_);
+    EXPECT_EQ(ReadFileBytes(KeptJetFile(source_)), jet_);
+    fs::remove(KeptJetFile(source_));
+    fs::remove(ReportFile(source_));
+    WriteFileAtomically(source_, jet_);
+  }
+}
+
+TEST_F(StoppedImport, WithASystemCallThatFailsIsAFaultOrWholeAndNothingIsLost) {
+  if (!test::CanFailCalls()) GTEST_SKIP() << "calls cannot be made to fail on this machine";
+  int faults = 0;
+  for (int n = 1;; n += test::FailingCallStep(11)) {
+    SCOPED_TRACE(n);
+    const test::Ending ending = test::WithFailingCall(n, [&] {
+      ImportJetFileInPlace(source_);
+      return !IsJetFile(source_);
+    });
+    if (ending == test::Ending::too_few_calls) break;
+    EXPECT_NE(ending, test::Ending::wrong);
+    EXPECT_NE(ending, test::Ending::crash);
+    if (ending == test::Ending::fault) ++faults;
+    if (IsJetFile(source_)) {
+      EXPECT_EQ(ReadFileBytes(source_), jet_);
+      ImportJetFileInPlace(source_);
+    }
+    ExpectWhole(source_);
+    EXPECT_EQ(ReadFileBytes(KeptJetFile(source_)), jet_);
+    fs::remove(KeptJetFile(source_));
+    fs::remove(ReportFile(source_));
+    WriteFileAtomically(source_, jet_);
+  }
+  EXPECT_GT(faults, 10);
+}
+
 }  // namespace
 }  // namespace rbt::jet

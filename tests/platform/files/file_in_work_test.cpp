@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/file_in_work.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -9,6 +10,7 @@
 
 #include "platform/failure_log.h"
 #include "platform/fault.h"
+#include "platform/files/file_sync.h"
 #include "platform/files/files.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"
@@ -228,6 +230,44 @@ TEST_F(FilesInWork, APlaceOfWorkClearsWhatAKilledImportHasLeft) {
   Put("x", "mine");
   const WorkPlace place(folder_.Path());
   EXPECT_THAT(Names(), ElementsAre("x"));
+}
+
+TEST_F(FilesInWork, OfADayAgoGoWhoeverLeftThem) {
+  Put(".rbk-write-1-0", "old");
+  Put(".rbk-import-2-0-journal", "old");
+  fs::create_directories(folder_ / ".rbk-import-3-0" / "DATA");
+  Put("mine", "old");
+  for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+    fs::last_write_time(entry.path(), fs::file_time_type::clock::now() - std::chrono::hours(25));
+  }
+  Put(".rbk-write-4-0", "new");
+  {
+    const WorkPlace somebody(folder_.Path());
+    // Its own begin is the time for what imports have left.
+    EXPECT_THAT(Names(), ElementsAre(".rbk-write-1-0", ".rbk-write-4-0", "mine"));
+    RemoveOldLeftovers(folder_.Path());
+    EXPECT_TRUE(fs::exists(folder_ / ".rbk-write-1-0")) << "somebody is at work";
+  }
+  RemoveOldLeftovers(folder_.Path());
+  EXPECT_THAT(Names(), ElementsAre(".rbk-write-4-0", "mine"));
+  RemoveOldLeftovers(folder_ / "nowhere");
+}
+
+TEST_F(FilesInWork, HaveFoldersMadeThatGoAgainWhileTheyAreEmpty) {
+  {
+    const MadeFolder made(folder_ / "a/b");
+    EXPECT_TRUE(fs::is_directory(folder_ / "a/b"));
+    const MadeFolder there(folder_ / "a");
+  }
+  EXPECT_THAT(Names(), ElementsAre("a"));
+  EXPECT_TRUE(fs::is_empty(folder_ / "a"));
+  {
+    const MadeFolder made(folder_ / "c");
+    Put("c/mine", "x");
+  }
+  EXPECT_TRUE(fs::exists(folder_ / "c/mine"));
+  Put("file", "x");
+  EXPECT_THAT(test::FaultTextOf([&] { MakeFolders(folder_ / "file/d"); }), HasSubstr("file: cannot be made"));
 }
 
 }  // namespace

@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "platform/profile/ini_file.h"
 
+#include <chrono>
+#include <fcntl.h>
 #include <fstream>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/file_descriptor.h"
+#include "platform/files/file_lock.h"
 #include "platform/files/files.h"
 #include "platform/text/cp932.h"
+#include "support/kept_services.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -266,6 +272,25 @@ TEST_F(IniFile, LosesNoChangeOfTwoWritersAtOnce) {
     EXPECT_EQ(Get("a", "k" + std::to_string(i)), "1");
     EXPECT_EQ(Get("b", "k" + std::to_string(i)), "1");
   }
+}
+
+TEST_F(IniFile, WaitsForAnotherWriterAsLongAsWasSaidAndNotWithoutEnd) {
+  const test::KeptServices services;
+  Services.LockPatience = std::chrono::milliseconds(30);
+  Put("[a]\r\nx=1\r\n");
+  const FileDescriptor held(::open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY));
+  ASSERT_TRUE(Lock(held, LOCK_EX));
+  try {
+    WriteProfileText(file, "a", "x", "2");
+    ADD_FAILURE() << "the folder is another's";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Kind(), FaultKind::locked);
+    EXPECT_EQ(fault.what(), "another program holds the folder: " + folder.Path().string());
+  }
+  EXPECT_EQ(Get("a", "x"), "1") << "reading needs no lock";
+  Services.WaitOn = [&](const fs::path&) { return Lock(held, LOCK_UN); };
+  WriteProfileText(file, "a", "x", "2");
+  EXPECT_EQ(Get("a", "x"), "2");
 }
 
 }  // namespace

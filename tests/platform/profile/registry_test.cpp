@@ -3,11 +3,14 @@
 
 #include <fstream>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
 #include "platform/files/files.h"
+#include "platform/text/cp932.h"
 #include "support/environment_variable.h"
+#include "support/fault_of.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -82,6 +85,25 @@ TEST_F(Registry, ShowsBytesThatAreNoCharacters) {
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << "[A\\s]\nk=1\xFF\n";
   EXPECT_EQ(RegistryText("A", "s", "k"), "1\uFFFD");
+}
+
+TEST_F(Registry, RefusesAFileInCodePage932ByItsNameAndLeavesIt) {
+  fs::create_directories(file.parent_path());
+  const std::string bytes = ToCp932("[Kakou\\定尺]\r\nテーブル有無=1\r\n");
+  std::ofstream(file, std::ios::binary) << bytes;
+  for (const auto& action : {std::function<void()>([] { RegistryText("Kakou", "定尺", "テーブル有無"); }),
+                             std::function<void()>([] { SetRegistryText("A", "s", "k", "1"); })}) {
+    EXPECT_THAT(test::FaultTextOf(action), testing::HasSubstr("settings.ini: is written in code page 932"));
+  }
+  EXPECT_EQ(ReadFileBytes(file), bytes);
+}
+
+TEST_F(Registry, IsReadAsItStoodAtOneMoment) {
+  SetRegistryText("A", "s", "a", "1");
+  const RegistryReading before;
+  SetRegistryText("A", "s", "a", "2");
+  EXPECT_EQ(before.Text("A", "s", "a"), "1");
+  EXPECT_EQ(RegistryReading().Text("A", "s", "a"), "2");
 }
 
 TEST_F(Registry, RefusesNamesThatTheFileCannotHold) {

@@ -3,9 +3,11 @@
 
 #include <fstream>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/fault_of.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -13,6 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::EnvironmentVariable;
+using test::FaultTextOf;
 using test::RootFolder;
 using test::TemporaryFolder;
 
@@ -75,7 +78,6 @@ TEST(MapPath, TakesAComponentThatIsTooLongAsItStands) {
   const RootFolder root;
   const std::string name(5000, 'x');
   EXPECT_EQ(MapPath("\\rbk\\" + name), root / name);
-  EXPECT_FALSE(FamilyFileExists("\\rbk\\" + name));
 }
 
 TEST(Root, BecomesAbsolute) {
@@ -99,6 +101,15 @@ TEST(FamilyFileExists, IsTrueForFilesAlone) {
   EXPECT_TRUE(FamilyFileExists("\\rbk\\kakou\\X.EXE"));
   EXPECT_FALSE(FamilyFileExists("\\rbk\\kakou"));
   EXPECT_FALSE(FamilyFileExists("\\rbk\\kakou\\y.exe"));
+}
+
+TEST(FamilyFileExists, FaultsWhereItCannotBeFoundOut) {
+  const RootFolder root;
+  fs::create_symlink("loop.ini", root.Data("loop.ini"));
+  EXPECT_THAT(FaultTextOf([] { FamilyFileExists("\\rbk\\data\\loop.ini"); }),
+              testing::HasSubstr("Too many levels of symbolic links"));
+  EXPECT_THAT(FaultTextOf([] { FamilyFileExists("\\rbk\\" + std::string(5000, 'x')); }),
+              testing::HasSubstr("File name too long"));
 }
 
 TEST(ChangeFamilyDirectory, KeepsItForSiblingsAndRefusesAMissingFolder) {

@@ -100,6 +100,25 @@ TEST_F(ReportFormsTest, TheUlbonReportIsA4Landscape) {
   EXPECT_NE(traces_.back().find("ウ ル ボ ン 重 量 表"), std::string::npos);
 }
 
+TEST_F(ReportFormsTest, ThePurchaseListIsWithWeightsWhereTheDetailScreenShowsThem) {
+  Settings.DetailShowsWeight = 1;
+  EXPECT_EQ(ChosenDetail(ReportPaper::a4t).word, "meisai-a4t");
+  EXPECT_EQ(ChosenDetail(ReportPaper::a4y).word, "meisai-a4y");
+  for (const std::int32_t other : {0, 2}) {
+    Settings.DetailShowsWeight = other;
+    EXPECT_EQ(ChosenDetail(ReportPaper::a4t).word, "meisai-a4t-count");
+    EXPECT_EQ(ChosenDetail(ReportPaper::a4y).word, "meisai-a4y-count");
+  }
+  EXPECT_THROW(ChosenDetail(ReportPaper::b5y), Fault);
+}
+
+TEST_F(ReportFormsTest, MemosAreTrimmedLikeTheOtherTexts) {
+  ReportArguments arguments{"", "2026", "1", "2", 1, 0};
+  arguments.Detail.Memos = {" 一 ", "", "  "};
+  PrintForm(FindReportForm("meisai-a4t"), arguments, result_);
+  EXPECT_NE(traces_.back().find("\t一\n"), std::string::npos);
+}
+
 TEST_F(ReportFormsTest, AWordThatNoFormHasIsAFault) { EXPECT_THROW(FindReportForm("taihi-a-a3t"), Fault); }
 
 TEST_F(ReportFormsTest, EveryFormIsFoundByItsWordAndSetsItsPaper) {

@@ -74,8 +74,8 @@ class HeadOfFixedRows : public ::testing::Test {
  protected:
   HeadOfFixedRows() { head_.scope = "【1階～8階】"; }
 
-  RowGrid Draw() {
-    const RowGrid grid = DrawHead(pen_, kLayout, head_);
+  RowGrid Draw(const HeadLayout& layout = kLayout) {
+    const RowGrid grid = DrawHead(pen_, layout, head_);
     page_.Printer.EndDoc();
     return grid;
   }
@@ -148,6 +148,42 @@ TEST_F(HeadOfFixedRows, ANameOnTwoLinesStandsBelowItsRows) {
   EXPECT_EQ(page_.TextOf("業務棟").y, Row(3.5));
   EXPECT_EQ(page_.TextOf("工事名　").y, Row(3.5));
   EXPECT_FLOAT_EQ(page_.RuleAt(Row(3.5) + 260, 500).x2, 500 + 960 + 6 * 13 * 20.1F + 100);
+}
+
+TEST_F(HeadOfFixedRows, TheLabelOfANameOnTwoLinesMayStandBeforeBoth) {
+  ProjectPart part = kProject;
+  part.rest_label = "　　　  ";
+  const std::array<HeadPart, 1> parts{part};
+  head_.project = BrokenName{"見本町再開発", "業務棟"};
+  Draw({.title = kLayout.title, .title_y = 500, .rows = kLayout.rows, .parts = parts});
+  EXPECT_EQ(page_.TextOf("工事名　").y, page_.TextOf("見本町再開発").y);
+  EXPECT_EQ(page_.TextOf("　　　  ").y, page_.TextOf("業務棟").y);
+}
+
+TEST_F(HeadOfFixedRows, AShortNameMayHaveToShrinkAndItsRuleClearsTheLabel) {
+  ProjectPart part = kProject;
+  part.short_name_width = 1000;  // five characters of 10 points
+  const std::array<HeadPart, 1> parts{part};
+  head_.project = ShortName{"見本町住宅"};
+  Draw({.title = kLayout.title, .title_y = 500, .rows = kLayout.rows, .parts = parts});
+  const PrintedText name = page_.TextOf("見本町住宅");
+  EXPECT_EQ(name.font_size, 10);
+  EXPECT_EQ(page_.RuleAt(name.y + 240, 500).draw_width, 3);
+}
+
+TEST_F(HeadOfFixedRows, ATitleMayBeSpreadOverTheWidthOfTheLayout) {
+  head_.title = "数量表";
+  head_.spreads_title = true;
+  Draw({.title = {6500, 6300, EndsBehindText(200)},
+        .title_y = 500,
+        .rows = kLayout.rows,
+        .parts = {},
+        .title_width = 3500});
+  // 3 letters of 360 leave 2420, 1210 for each gap.
+  EXPECT_EQ(page_.TextAt(6500, 500), "数");
+  EXPECT_EQ(page_.TextAt(6500 + 1570, 500), "量");
+  EXPECT_EQ(page_.TextAt(6500 + 3140, 500), "表");
+  EXPECT_EQ(page_.RuleAt(860, 6300).x2, 10200);
 }
 
 TEST_F(HeadOfFixedRows, EachWeightHasItsLineAndOneThatIsNotThereHasNone) {

@@ -349,13 +349,21 @@ TEST_F(PrintJisya, TheLengthOfTheLastValueReadIsReturned) {
   EXPECT_FALSE(page_.TextOf("み").font_bold);
 }
 
-TEST_F(PrintJisya, TheBottomOfABlockIsBelowItsLastLine) {
-  Draw(Complete());
-  float bottom = 0;
-  for (const PrintedText& text : page_.Texts())
-    bottom = std::max(bottom, text.y + LineHeight(text.font_size));
-  EXPECT_GE(OwnCompanyBottom(Complete(), kY, 10), bottom);
-  EXPECT_LT(OwnCompanyBottom(Complete(), kY, 10), bottom + 100);
+TEST_F(PrintJisya, TheBottomOfABlockIsWhereItsLowestLineEnds) {
+  OwnCompany name_alone;
+  name_alone.name = "みほん鉄筋";
+  OwnCompany address_last = name_alone;
+  address_last.addresses[2] = "見本県例示市港町";
+  OwnCompany phone_last = address_last;
+  phone_last.phones[2] = "0000-00-0003";
+  for (const OwnCompany& company : {Complete(), name_alone, address_last, phone_last}) {
+    Draw(company);
+    float bottom = 0;
+    for (const PrintedText& text : page_.Texts()) {
+      bottom = std::max(bottom, text.y + LineHeight(text.font_size));
+    }
+    EXPECT_EQ(OwnCompanyBottom(company, kY, 10), bottom);
+  }
 }
 
 }  // namespace

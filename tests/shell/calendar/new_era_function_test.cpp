@@ -235,6 +235,10 @@ TEST_F(Stamps, OfAGivenMomentDoNotAskTheClock) {
   EXPECT_EQ(TodayStamp(moment) + TimeStamp(moment), "20261231235958");
 }
 
+TEST_F(Stamps, OfASaveHaveSignsBetween) {
+  EXPECT_EQ(FormatSaveDate() + " " + FormatSaveTime(), "2026/01/02 03:04:05");
+}
+
 TEST_F(Stamps, GoFromMidnightToTheLastSecond) {
   Services.Clock = test::StandingClock({2026, 12, 31, 0, 0, 0});
   EXPECT_EQ(TodayStamp() + TimeStamp(), "20261231000000");

@@ -174,13 +174,13 @@ void ExpectFault(FaultKind kind, const std::string& place, void (*action)()) {
 TEST_F(Configuration, FaultsAtANumberSettingThatIsNoNumberAndNamesIt) {
   for (const char* text : {"abc", "", "1x"}) {
     SaveSetting("Kakou", "重量集計", "日付表記", text);
-    ExpectFault(FaultKind::type_mismatch, "Kakou\\重量集計\\日付表記", &LoadRemainingSettings);
+    ExpectFault(FaultKind::type_mismatch, "Kakou\\重量集計\\日付表記", [] { LoadRemainingSettings(); });
   }
   SaveSetting("Kakou", "定尺", "テーブル有無", "有");
-  ExpectFault(FaultKind::type_mismatch, "Kakou\\定尺\\テーブル有無", &LoadTallySettings);
+  ExpectFault(FaultKind::type_mismatch, "Kakou\\定尺\\テーブル有無", [] { LoadTallySettings(); });
   SaveSetting("Kakou", "重量集計", "日付表記", "1");
   SaveSetting("Zaiko", "日付", "入力暦", "西暦");
-  ExpectFault(FaultKind::type_mismatch, "Zaiko\\日付\\入力暦", &LoadRemainingSettings);
+  ExpectFault(FaultKind::type_mismatch, "Zaiko\\日付\\入力暦", [] { LoadRemainingSettings(); });
 }
 
 TEST_F(Configuration, RoundsNumbersHalvesToEvenAndFaultsBeyondTheirWidth) {
@@ -190,7 +190,13 @@ TEST_F(Configuration, RoundsNumbersHalvesToEvenAndFaultsBeyondTheirWidth) {
   ExpectFault(FaultKind::overflow, "エフ行", [] { ReadSetting(kTagLinesKey); });
   SaveSetting(kTagLinesKey, 0);
   SaveSetting(kStockCheckKey, 32768);
-  ExpectFault(FaultKind::overflow, "kakou\\定尺チェック\\定尺", &LoadRemainingSettings);
+  ExpectFault(FaultKind::overflow, "kakou\\定尺チェック\\定尺", [] { LoadRemainingSettings(); });
+}
+
+TEST_F(Configuration, NamesAColourBeyondItsWidthByFileSectionAndKey) {
+  PutSteelIni("[加工帳]\r\n行の背景色=99999999999\r\n");
+  ExpectFault(FaultKind::overflow, "STEEL.INI [加工帳] 行の背景色 \"99999999999\"",
+              [] { LoadGridColours(); });
 }
 
 TEST_F(Configuration, ReadsTheGridColoursAsDecimalNumbers) {

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "shell/context/fixed_stock.h"
 
+#include <chrono>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "shell/context/site_context.h"
+#include "store/database_impl.h"
+#include "support/fault_of.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -43,12 +48,16 @@ class FixedStock : public testing::Test {
     MakeTable("MTTeijyaku_ORG.mdb");
     ProvideFixedStockDatabase();
     OpenFixedStockDatabase();
+    ReadFixedStockTable();
   }
-  static void Add(const std::string& diameter, const std::string& from, const std::string& to,
-                  const std::string& material, const std::string& stock) {
-    SiteContext.FixedStockDatabase->Execute(
-        "INSERT INTO 固定定尺テーブル (太さ, 開始切り寸, 終了切り寸, 材質, 定尺) VALUES (" + diameter + ", " +
-        from + ", " + to + ", " + material + ", " + stock + ")");
+  void Execute(const std::string& statement) const {
+    Database::Open(root.Data("MTTeijyaku.mdb")).Execute(statement);
+    ReadFixedStockTable();
+  }
+  void Add(const std::string& diameter, const std::string& from, const std::string& to,
+           const std::string& material, const std::string& stock) const {
+    Execute("INSERT INTO 固定定尺テーブル (太さ, 開始切り寸, 終了切り寸, 材質, 定尺) VALUES (" + diameter +
+            ", " + from + ", " + to + ", " + material + ", " + stock + ")");
   }
 
   test::RootFolder root;
@@ -87,14 +96,14 @@ TEST_F(FixedStock, IsNotAboveZeroWithoutAUsableTable) {
   Open();
   Add("13", "4200", "0", "1", "Null");
   EXPECT_EQ(GetFixedStockLength(4200, 13), 0) << "a null stock length";
-  SiteContext.FixedStockDatabase->Execute("DROP TABLE 固定定尺テーブル");
+  Execute("DROP TABLE 固定定尺テーブル");
   EXPECT_EQ(GetFixedStockLength(4200, 13), 0) << "no table";
 }
 
 TEST_F(FixedStock, StartsAsACopyAndKeepsAnExistingFile) {
   MakeTable("MTTeijyaku_ORG.mdb");
   ProvideFixedStockDatabase();
-  EXPECT_EQ(ReadFileBytes(root.Data("MTTeijyaku.mdb")), ReadFileBytes(root.Data("MTTeijyaku_ORG.mdb")));
+  EXPECT_NE(Database::Open(root.Data("MTTeijyaku.mdb")).FindTable("固定定尺テーブル"), nullptr);
   root.Put("DATA/MTTeijyaku.mdb", "own");
   ProvideFixedStockDatabase();
   EXPECT_EQ(ReadFileBytes(root.Data("MTTeijyaku.mdb")), "own");
@@ -108,6 +117,54 @@ TEST_F(FixedStock, WithoutFileAndTemplateFaultsAndNamesTheTemplate) {
     EXPECT_EQ(fault.Kind(), FaultKind::file);
     EXPECT_NE(std::string(fault.what()).find("MTTeijyaku_ORG.mdb"), std::string::npos);
   }
+}
+
+TEST_F(FixedStock, IsWhatTheTableWasWhenItWasRead) {
+  Open();
+  Add("13", "4200", "0", "1", "7500");
+  Database::Open(root.Data("MTTeijyaku.mdb")).Execute("UPDATE 固定定尺テーブル SET 定尺 = 8000");
+  EXPECT_EQ(GetFixedStockLength(4200, 13), 7500) << "one tally, one state";
+  ReadFixedStockTable();
+  EXPECT_EQ(GetFixedStockLength(4200, 13), 8000);
+}
+
+TEST_F(FixedStock, WithoutOneOfItsFieldsIsNoTable) {
+  Open();
+  Add("13", "4200", "0", "1", "7500");
+  Execute("DROP TABLE 固定定尺テーブル");
+  Execute("CREATE TABLE 固定定尺テーブル (太さ long, 開始切り寸 long, 終了切り寸 long, 材質 long)");
+  EXPECT_EQ(GetFixedStockLength(4200, 13), 0);
+}
+
+TEST_F(FixedStock, ThatIsLockedOrDamagedIsAFault) {
+  Open();
+  Services.LockPatience = std::chrono::milliseconds(0);
+  {
+    Database other = Database::Open(root.Data("MTTeijyaku.mdb"));
+    other.Execute("UPDATE 固定定尺テーブル SET 定尺 = 1");
+    other.impl().Connected().Run("BEGIN EXCLUSIVE");
+    EXPECT_THAT(test::FaultTextOf([] { ReadFixedStockTable(); }),
+                testing::HasSubstr("another program holds the file"));
+  }
+  std::string bytes = ReadFileBytes(root.Data("MTTeijyaku.mdb"));
+  bytes.replace(4096, 4096, std::string(4096, 'x'));
+  root.Put("DATA/MTTeijyaku.mdb", bytes);
+  EXPECT_THAT(test::FaultTextOf([] {
+                OpenFixedStockDatabase();
+                ReadFixedStockTable();
+                GetFixedStockLength(1, 1);
+              }),
+              testing::HasSubstr("MTTeijyaku.mdb"));
+}
+
+TEST_F(FixedStock, OfASiteThatIsOnlyReadIsThatOfTheOriginalWhereNoCopyWasMade) {
+  MakeTable("MTTeijyaku_ORG.mdb");
+  SiteContext.OnlyRead = true;
+  ProvideFixedStockDatabase();
+  EXPECT_FALSE(std::filesystem::exists(root.Data("MTTeijyaku.mdb")));
+  OpenFixedStockDatabase();
+  ReadFixedStockTable();
+  EXPECT_EQ(GetFixedStockLength(4200, 13), -1);
 }
 
 }  // namespace

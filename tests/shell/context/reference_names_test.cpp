@@ -50,6 +50,7 @@ TEST(PartNames, come_from_the_table_that_the_shipping_date_selects) {
   EXPECT_EQ(Get_BuiNa(1), "柱主筋");
   EXPECT_EQ(Get_BuiNa(2), "") << "a null name";
   EXPECT_EQ(Get_BuiNa(11), "") << "no row";
+  EXPECT_EQ(NamesOfParts()[0] + NamesOfParts()[1], "柱主筋");
 }
 
 TEST(MasterDatabase, that_is_missing_faults) {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/context/site_context.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/files/files.h"
 #include "platform/system/paths.h"
+#include "support/fault_of.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -13,6 +16,10 @@ namespace {
 class Site : public testing::Test {
  protected:
   ~Site() override { SiteContext = SiteContextData{}; }
+
+  void MakeSite(const std::string& name) const {
+    Database::CreateDatabase(root.Data(name)).Execute("CREATE TABLE 加工テーブル (行No long)");
+  }
 
   test::RootFolder root;
 };
@@ -35,7 +42,7 @@ TEST_F(Site, WithAShortFileNameHasAShortNumber) {
 TEST_F(Site, CountsCharactersNotBytes) { EXPECT_EQ(SiteNumberOf("現場現場現００１.MDB"), "００１"); }
 
 TEST_F(Site, OpensItsScheduleDatabaseWhateverTheLetterCase) {
-  Database::CreateDatabase(root.Data("genba001.mdb"));
+  MakeSite("genba001.mdb");
   SelectSite("GENBA001.MDB");
   OpenWorkDatabase();
   ASSERT_TRUE(SiteContext.WorkDatabase);
@@ -43,7 +50,7 @@ TEST_F(Site, OpensItsScheduleDatabaseWhateverTheLetterCase) {
 }
 
 TEST_F(Site, WithoutAScheduleDatabaseFaultsAndLeavesNoneOpen) {
-  Database::CreateDatabase(root.Data("GENBA001.MDB"));
+  MakeSite("GENBA001.MDB");
   SelectSite("GENBA001.MDB");
   OpenWorkDatabase();
   for (const char* name : {"GENBA002.MDB", "", "..\\..\\x.MDB"}) {
@@ -51,6 +58,39 @@ TEST_F(Site, WithoutAScheduleDatabaseFaultsAndLeavesNoneOpen) {
     EXPECT_THROW(OpenWorkDatabase(), Fault) << name;
     EXPECT_FALSE(SiteContext.WorkDatabase) << name;
   }
+}
+
+TEST_F(Site, IsNoFileWithoutASchedule) {
+  Database::CreateDatabase(root.Data("GENBA001.MDB"));
+  SelectSite("GENBA001.MDB");
+  EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }),
+              testing::HasSubstr("GENBA001.MDB: is no site: it has no table 加工テーブル"));
+}
+
+TEST_F(Site, IsNoneOfTheFamilysOtherDatabasesWhateverItHolds) {
+  for (const char* name : {"SORANO.MDB", "MTTeijyaku.mdb", "MTTeijyaku_ORG.mdb", "JSyukeiORG.mdb",
+                           "hozon.MDB", "HIROI001.mdb"}) {
+    MakeSite(name);
+    const std::string bytes = ReadFileBytes(root.Data(name));
+    SelectSite(name);
+    EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }),
+                testing::HasSubstr("is no site but " + std::string(name)));
+    EXPECT_FALSE(SiteContext.WorkDatabase);
+    EXPECT_EQ(ReadFileBytes(root.Data(name)), bytes);
+  }
+  std::filesystem::create_symlink("SORANO.MDB", root.Data("GENBA007.MDB"));
+  SelectSite("GENBA007.MDB");
+  EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }), testing::HasSubstr("is no site but SORANO.MDB"));
+}
+
+TEST_F(Site, ThatIsOnlyReadIsOpenedSo) {
+  MakeSite("GENBA001.MDB");
+  SelectSite("GENBA001.MDB");
+  OpenWorkDatabase();
+  EXPECT_TRUE(SiteContext.WorkDatabase->MayBeWritten());
+  SiteContext.OnlyRead = true;
+  OpenWorkDatabase();
+  EXPECT_FALSE(SiteContext.WorkDatabase->MayBeWritten());
 }
 
 }  // namespace

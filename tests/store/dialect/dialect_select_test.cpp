@@ -266,6 +266,24 @@ TEST(DialectSum, AWholeSumIsAWholeNumber) {
   EXPECT_EQ(db.Rows("SELECT sum(a) FROM T"), (std::vector<Row>{{3L * 2147483647L}}));
 }
 
+TEST(DialectSum, ATextThatIsNoNumberEndsTheStatement) {
+  DialectDatabase db;
+  db.DeclareTable("T", "a LONG, b DOUBLE, c CURRENCY, d LONG");
+  db.Execute("INSERT INTO T(a,b,c,d) VALUES(1,1,1,2)");
+  db.ExecuteSqlite("INSERT INTO T VALUES ('壁', '壁', '壁', 1)");
+  for (const auto& [sum, field] :
+       {std::pair("sum(a)", "a"), std::pair("sum(b)", "b"), std::pair("sum(c)", "c"),
+        std::pair("sum(a*d)", "a"), std::pair("sum(d+b)", "b")}) {
+    try {
+      db.Rows("SELECT " + std::string(sum) + " FROM T");
+      ADD_FAILURE() << sum;
+    } catch (const std::exception& fault) {
+      EXPECT_THAT(fault.what(), testing::HasSubstr("type mismatch: T." + std::string(field)));
+    }
+  }
+  EXPECT_EQ(db.Rows("SELECT count(a), sum(d) FROM T"), (std::vector<Row>{{2L, 3L}}));
+}
+
 TEST(DialectSum, ACurrencySumIsExactInItsFourPlaces) {
   DialectDatabase db;
   db.DeclareTable("T", "a CURRENCY, g LONG");

@@ -134,7 +134,8 @@ TEST(RefusedRange, RefusesAStartOf0WithAnEndBelowTheLowestFloor) {
 
 TEST(RefusedRange, AlwaysTakesWhatTheButtonForAllFloorsEnters) {
   for (std::int16_t lowest = -5; lowest <= 78; ++lowest) {
-    for (std::int16_t highest = lowest; highest <= (lowest > 75 ? 78 : 75); ++highest) {
+    const std::int16_t top = lowest > 75 ? 78 : 75;
+    for (std::int16_t highest = lowest; highest <= top; ++highest) {
       for (const bool foundation : {false, true}) {
         if (foundation && (lowest > 0 || highest < 0)) continue;
         const FloorExtent extent{lowest, highest, foundation};

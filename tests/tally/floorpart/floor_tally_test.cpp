@@ -17,7 +17,6 @@ using test::FloorSite;
 using test::Kg;
 using test::kNull;
 using test::Number;
-using test::ScheduleSite;
 using testing::ElementsAre;
 
 const Fields kThin = {{"太さ", Number(9)},
@@ -58,7 +57,7 @@ TEST(Kai_Jyuuryo_Syukei, ListsEveryFloorOfTheRangeWithZerosWhereItHoldsNothing) 
   Tally(1, 5);
   EXPECT_THAT(Labels(), ElementsAre("1階", "2階", "3階", "4階", "5階", "合　計"));
   EXPECT_EQ(FloorTally.KaiGyou[0].parts[1], Kg(27));
-  for (const int zero : {1, 2, 3}) EXPECT_EQ(FloorTally.KaiGyou[zero].total, Kg(0)) << zero;
+  for (const unsigned zero : {1U, 2U, 3U}) EXPECT_EQ(FloorTally.KaiGyou[zero].total, Kg(0)) << zero;
   EXPECT_EQ(FloorTally.KaiGyou[4].parts[3], Kg(27));
   EXPECT_EQ(FloorTally.KaiGyou[5].parts[1], Kg(27));
   EXPECT_EQ(FloorTally.KaiGyou[5].total, Kg(54));

@@ -81,9 +81,14 @@ TEST(HandCorrection, BackToTheOldWeightIsAsIfNothingHappened) {
 TEST(HandCorrection, RefusesTheTotalRowAndCellsThatAreNoPart) {
   FloorTables tables = TwoFloors();
   const FloorTables before = tables;
-  for (const auto& [row, part] : {std::pair{2, 1}, {-1, 1}, {3, 1}, {0, 0}, {0, 12}}) {
-    EXPECT_FALSE(MayCorrect(tables, row, part)) << row << ' ' << part;
-    EXPECT_EQ(FaultOf([&] { CorrectCell(tables, row, part, Kg(1)); }), FaultKind::subscript_out_of_range);
+  struct Cell {
+    int row;
+    int part;
+  };
+  for (const Cell cell : {Cell{2, 1}, {-1, 1}, {3, 1}, {0, 0}, {0, 12}}) {
+    EXPECT_FALSE(MayCorrect(tables, cell.row, cell.part)) << cell.row << ' ' << cell.part;
+    EXPECT_EQ(FaultOf([&] { CorrectCell(tables, cell.row, cell.part, Kg(1)); }),
+              FaultKind::subscript_out_of_range);
   }
   EXPECT_TRUE(MayCorrect(tables, 1, 11));
   EXPECT_EQ(tables, before);

@@ -11,6 +11,7 @@
 #include "support/schedule_site.h"
 #include "tally/engine/stock_engine.h"
 #include "tally/groups/shape_samples.h"
+#include "tally/rows/bulk_tally.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -333,6 +334,19 @@ TEST(Keijou_Jyuuryo_Syukei, FailsWithAKindMaskThatLeavesTheStatementOpen) {
   ScheduleSite site;
   Selection.MaterialKindMask = KindMask(0);
   EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::database);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, FaultsAtATextInAColumnOfNumbersWhereTheTalliesByRowsDo) {
+  for (const char* column : {"頁", "行", "部位", "太さ", "圧接太さ", "形状No", "合計", "伸切寸", "伸定尺",
+                             "伸総計", "圧接", "ネジ数", "定着板数", "切断", "予備2"}) {
+    ScheduleSite site;
+    site.AddRow(kSevenOf2m);
+    site.PutText(column, "壁");
+    EXPECT_EQ(FaultOf([] { Jyuuryo_Syukei(); }), FaultKind::type_mismatch) << column;
+    EXPECT_EQ(FaultOf([] { TallyShapes(); }), FaultKind::type_mismatch) << column;
+    if (std::string_view(column) == "頁" || std::string_view(column) == "行") continue;  // no line is found
+    EXPECT_EQ(FaultOf([] { PKeijou_Jyuuryo_Syukei(1, 1, 1, 1); }), FaultKind::type_mismatch) << column;
+  }
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session/panels/report_date.h"
+#include "session/panels/date_entry.h"
 
 #include <fmt/format.h>
 
@@ -74,7 +74,7 @@ std::optional<DateRefusal> RefusalOfDate(const DateTexts& date, std::int32_t dat
                                 : fmt::format("日は {} までです。", days)};
 }
 
-void ReportDate::FillEmpty() {
+void DateEntry::FillEmpty() {
   filled_style_ = DateStyle();
   const DateTexts today = DefaultDateTexts(Now());
   const std::array<const std::string*, kBoxes> texts{&today.year, &today.month, &today.day};
@@ -83,20 +83,20 @@ void ReportDate::FillEmpty() {
   }
 }
 
-void ReportDate::FillToday() {
+void DateEntry::FillToday() {
   for (std::string& text : texts_) text.clear();
   FillEmpty();
 }
 
-void ReportDate::FollowStyle() {
+void DateEntry::FollowStyle() {
   if (DateStyle() != filled_style_) texts_[0].clear();
   FillEmpty();
 }
 
-std::optional<DateRefusal> ReportDate::Refusal(std::size_t boxes) const {
+std::optional<DateRefusal> DateEntry::Refusal(std::size_t boxes) const {
   return RefusalOfDate(Texts(), DateStyle(), boxes);
 }
 
-bool ReportDate::YearPasses() const { return rbt::YearPasses(texts_[0], DateStyle()); }
+bool DateEntry::YearPasses() const { return rbt::YearPasses(texts_[0], DateStyle()); }
 
 }  // namespace rbt

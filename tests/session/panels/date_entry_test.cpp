@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session/panels/report_date.h"
+#include "session/panels/date_entry.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ namespace rbt::test {
 
 namespace {
 
-std::string Shown(const ReportDate& date) {
+std::string Shown(const DateEntry& date) {
   return date.Texts().year + "/" + date.Texts().month + "/" + date.Texts().day;
 }
 
@@ -60,20 +60,20 @@ TEST(DateRule, RefusesEraYearsMonthsAndDaysThatThereAreNot) {
   }
 }
 
-TEST(ReportDate, FillsEmptyBoxesWithTodayInTheStyleOfTheSetting) {
+TEST(DateEntry, FillsEmptyBoxesWithTodayInTheStyleOfTheSetting) {
   const SiteFixture site;
-  ReportDate western;
+  DateEntry western;
   western.FillEmpty();
   EXPECT_EQ(Shown(western), "2026/11/21");
   SaveSetting(kDateStyleKey, 2);
-  ReportDate era;
+  DateEntry era;
   era.FillEmpty();
   EXPECT_EQ(Shown(era), "08/11/21");
 }
 
-TEST(ReportDate, KeepsWhatWasTypedUntilTodayIsAskedFor) {
+TEST(DateEntry, KeepsWhatWasTypedUntilTodayIsAskedFor) {
   const SiteFixture site;
-  ReportDate date;
+  DateEntry date;
   date.Type(0, "1999");
   date.Type(2, "5");
   date.FillEmpty();
@@ -82,9 +82,9 @@ TEST(ReportDate, KeepsWhatWasTypedUntilTodayIsAskedFor) {
   EXPECT_EQ(Shown(date), "2026/11/21");
 }
 
-TEST(ReportDate, AnotherStyleEmptiesTheYearAloneAndFillsItAnew) {
+TEST(DateEntry, AnotherStyleEmptiesTheYearAloneAndFillsItAnew) {
   const SiteFixture site;
-  ReportDate date;
+  DateEntry date;
   date.FillEmpty();
   date.Type(0, "1999");
   date.Type(1, "3");
@@ -95,9 +95,9 @@ TEST(ReportDate, AnotherStyleEmptiesTheYearAloneAndFillsItAnew) {
   EXPECT_EQ(Shown(date), "08/3/21");
 }
 
-TEST(ReportDate, TestsTheYearByTheStyleThatIsStoredNow) {
+TEST(DateEntry, TestsTheYearByTheStyleThatIsStoredNow) {
   const SiteFixture site;
-  ReportDate date;
+  DateEntry date;
   date.Type(0, "32");
   EXPECT_TRUE(date.YearPasses());
   SaveSetting(kDateStyleKey, 2);

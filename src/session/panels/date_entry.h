@@ -26,7 +26,7 @@ std::optional<DateRefusal> RefusalOfDate(const DateTexts& date, std::int32_t dat
 
 /// The date of a report as three texts: year, month, day, in the style of the setting 日付表記. The setting
 /// is read each time: the settings form may have saved another style. Faults: `type mismatch` of the setting.
-class ReportDate {
+class DateEntry {
  public:
   static constexpr std::size_t kBoxes = 3;
 

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "screens/floorpart/floorpart_forms.h"
+
+#include "screens/floorpart/floorpart_form.h"
+#include "screens/selection/selection_dialogs.h"
+
+namespace rbt {
+
+namespace {
+
+std::unique_ptr<QWidget> Make(const FloorPartScreen& screen) {
+  FloorPartParts parts;
+  parts.choose_kinds = ChooseKindsOfFloorsAndParts;
+  parts.choose_forms = ChooseForms;
+  return std::make_unique<FloorPartForm>(screen, std::move(parts));
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeKAIJS() { return Make(kFloorScreen); }
+std::unique_ptr<QWidget> MakeBUIJS() { return Make(kPartScreen); }
+
+}  // namespace rbt

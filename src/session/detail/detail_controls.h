@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace rbt {
+
+/// Buttons of the detail screen `ZAIMEI`, the main ones from the left, then those of the print panel.
+enum class DetailButton {
+  percent,
+  correct,
+  restore,
+  print,
+  save,
+  load,
+  manage,
+  leave,
+  a4_landscape,
+  a4_portrait,
+  settings,
+  close_print,
+};
+inline constexpr std::size_t kDetailButtonCount = 12;
+
+struct DetailButtonRow {
+  DetailButton button;
+  std::string_view control;
+  std::string_view caption;
+  int key;  ///< 1 to 7: F1 to F7; 0: Esc
+  bool in_print_panel;
+  std::string_view help;  ///< while it has the focus; empty: that of the screen
+};
+std::span<const DetailButtonRow, kDetailButtonCount> DetailButtons();
+const DetailButtonRow& RowOf(DetailButton button);
+
+/// The button of a key, among the main ones or those of the print panel.
+std::optional<DetailButton> ButtonOfKey(int key, bool in_print_panel);
+
+/// The help line while a control has the focus: that of the button or field, else that of the screen.
+std::string_view HelpOf(std::string_view control);
+
+inline constexpr std::string_view kDetailTitle = "材料明細表";
+inline constexpr std::string_view kDetailGrid = "dbgZaimei";
+inline constexpr std::string_view kPercentBox = "txtPercent";
+inline constexpr std::string_view kYearBox = "txtYear";
+
+}  // namespace rbt

@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+#include "session/detail/detail_presenter.h"
+
+#include <utility>
+#include <variant>
+
+#include <fmt/format.h>
+
+#include "data/reference.h"
+#include "platform/system/message.h"
+#include "session/panels/at_end.h"
+#include "session/panels/site_head.h"
+#include "shell/config/settings.h"
+#include "shell/context/site_context.h"
+#include "tally/detail/detail_change.h"
+#include "tally/detail/detail_entry.h"
+#include "tally/kinds/tally_kinds.h"
+
+namespace rbt {
+
+namespace {
+
+constexpr std::string_view kAttention = "注意";
+constexpr std::string_view kPercentWarning = "上乗せ作業を中断する場合は、ESCキーを押して下さい";
+constexpr std::string_view kEditWarning =
+    "重量は修正出来ません。本数のみ修正出来ます。\r\n本数･圧接入力作業を中断する場合は、ESCキーを押して下さ"
+    "い";
+constexpr std::string_view kNoRestoreTitle = "値戻し出来ません";
+constexpr std::string_view kNoRestore = "値戻しは出来ません。\r\n再度頁行を指定して計算し直してください。";
+constexpr std::string_view kRestoreQuestion = "全てのデータを上乗せ前の値に戻します。";
+
+std::string_view MaterialOfSite() {
+  const SteelSupply supply = ReadSteelSupply(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  return supply == SteelSupply::supplied ? "支給材" : "自給材";
+}
+
+int ColumnsInUse() { return StockColumnsInUse(Settings.Use13mColumn == 1); }
+
+/// The number that a field of "0" and "1" was given; nothing for another text.
+std::optional<std::int32_t> ZeroOrOne(std::string_view text) {
+  if (text == "0") return 0;
+  if (text == "1") return 1;
+  return std::nullopt;
+}
+
+void NoteFitting(CorrectionMarkers& markers, const DetailCell& cell, std::int32_t count) {
+  const auto* fitting = std::get_if<FittingCell>(&cell);
+  if (fitting == nullptr) return;
+  if (fitting->fitting == Fitting::cuts) markers.cuts = count;
+  if (fitting->fitting == Fitting::plates) markers.plates = count;
+  if (fitting->fitting == Fitting::threads) markers.threads = count;
+}
+
+}  // namespace
+
+DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
+    : result_(std::move(result)),
+      parts_(std::move(parts)),
+      head_(ReadHead()),
+      material_(MaterialOfSite()),
+      installed_(DetailArgumentsOf(Settings).Installed),
+      help_(HelpOf("")) {
+  Selection.MaterialKindMask = kAllKinds;
+  TallyGrid = result_.Grid();
+  print_panel_.Date().FillEmpty();
+  FocusOn(DetailButton::percent);
+}
+
+// Buttons and keys.
+
+bool DetailPresenter::IsWithinReach(DetailButton button) const {
+  if (RowOf(button).in_print_panel) return mode_ == DetailMode::printing;
+  // In the middle of a percentage its button brings back to the box.
+  return mode_ == DetailMode::buttons || (mode_ == DetailMode::percent && button == DetailButton::percent);
+}
+
+void DetailPresenter::Press(DetailButton button) {
+  if (!IsWithinReach(button)) return;
+  switch (button) {
+    case DetailButton::percent:
+      return BeginPercent();
+    case DetailButton::correct:
+      return BeginEditing();
+    case DetailButton::restore:
+      return RestoreValues();
+    case DetailButton::print:
+      return OpenPrint();
+    case DetailButton::save:
+      return Save();
+    case DetailButton::load:
+      return Load();
+    case DetailButton::manage:
+      return;  // it has no action: saved tallies are renamed and deleted where they are loaded
+    case DetailButton::leave:
+      return Leave();
+    case DetailButton::a4_landscape:
+      return Print(ReportPaper::a4y);
+    case DetailButton::a4_portrait:
+      return Print(ReportPaper::a4t);
+    case DetailButton::settings:
+      return OpenSettings();
+    case DetailButton::close_print:
+      return ClosePrint();
+  }
+}
+
+void DetailPresenter::PressFunctionKey(int number) {
+  const auto button = ButtonOfKey(number, mode_ == DetailMode::printing);
+  if (button && number > 0) Press(*button);
+}
+
+void DetailPresenter::Escape() {
+  switch (mode_) {
+    case DetailMode::percent:
+      return BackToButtons(DetailButton::percent);
+    case DetailMode::editing:
+      return BackToButtons(DetailButton::correct);
+    case DetailMode::printing:
+      return ClosePrint();
+    case DetailMode::buttons:
+      return Leave();
+  }
+}
+
+void DetailPresenter::MoveFrom(DetailButton button, int step) {
+  const bool in_print_panel = RowOf(button).in_print_panel;
+  const auto buttons = DetailButtons();
+  const auto count = static_cast<int>(buttons.size());
+  for (int at = static_cast<int>(button) + step; at >= 0 && at < count; at += step) {
+    const DetailButtonRow& row = buttons[static_cast<std::size_t>(at)];
+    if (row.in_print_panel != in_print_panel) return;
+    if (IsWithinReach(row.button)) return FocusOn(row.button);
+  }
+}
+
+void DetailPresenter::BackToButtons(DetailButton focus) {
+  mode_ = DetailMode::buttons;
+  FocusOn(focus);
+}
+
+void DetailPresenter::Take(TallyResult result) {
+  result_ = std::move(result);
+  TallyGrid = result_.Grid();
+}
+
+// Percentage.
+
+void DetailPresenter::BeginPercent() {
+  if (mode_ != DetailMode::percent) {
+    MsgBox(kPercentWarning, kAttention);
+    percent_.clear();
+    mode_ = DetailMode::percent;
+  }
+  FocusOn(kPercentBox);
+}
+
+bool DetailPresenter::TypePercent(std::string text) {
+  if (!IsPercentText(text)) return false;
+  percent_ = std::move(text);
+  return true;
+}
+
+void DetailPresenter::TakePercent() {
+  if (mode_ != DetailMode::percent) return;
+  Take(RaiseBars(result_, PercentOfText(percent_), ColumnsInUse()));
+  BackToButtons(DetailButton::percent);
+}
+
+// Counts in the grid.
+
+void DetailPresenter::BeginEditing() {
+  MsgBox(kEditWarning, kAttention);
+  mode_ = DetailMode::editing;
+  FocusOn(kDetailGrid);
+}
+
+bool DetailPresenter::MayEdit(int line, int column) const {
+  const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  return mode_ == DetailMode::editing && CellAt(layout, line, column).has_value();
+}
+
+bool DetailPresenter::EditCell(int line, int column, std::string_view text) {
+  if (!MayEdit(line, column) || !IsCountText(text)) return false;
+  const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  const DetailCell cell = CellAt(layout, line, column).value();
+  const std::int32_t count = CountOfText(text);
+  Take(CorrectCell(result_, cell, count, ColumnsInUse()));
+  NoteFitting(markers_, cell, count);
+  return true;
+}
+
+// The tally once more.
+
+void DetailPresenter::RestoreValues() {
+  if (rbt::RowOf(result_.kind).range == TallyRange::positions) {
+    MsgBox(kNoRestore, kNoRestoreTitle);
+    return;
+  }
+  if (MsgBox(kRestoreQuestion, kDetailTitle, MessageButtons::yes_no) != MessageAnswer::yes) return;
+  // A tally that faults leaves nothing in the place of the current result, and the list stays.
+  const AtEnd place([this] { TallyGrid = result_.Grid(); });
+  result_ = WithUlbonRaised(CountTally(result_.kind), result_.ulbon_percent);
+  markers_ = {};
+}
+
+// Printing.
+
+void DetailPresenter::OpenPrint() {
+  mode_ = DetailMode::printing;
+  print_panel_.Open(Papers::all);
+  FocusOn(DetailButton::a4_landscape);
+}
+
+void DetailPresenter::ClosePrint() {
+  print_panel_.Close();
+  BackToButtons(DetailButton::print);
+}
+
+void DetailPresenter::Print(ReportPaper paper) {
+  if (!print_panel_.Date().YearPasses()) return FocusOn(kYearBox);
+  if (!parts_.print) return SayNotReady("印字");
+  DetailArguments detail = DetailArgumentsOf(Settings);
+  detail.Memos = memos_;
+  detail.Installed = installed_;
+  const PrintPanelView panel = print_panel_.View();
+  parts_.print(
+      {.result = result_, .paper = paper, .date = panel.date, .detail = detail, .preview = panel.preview});
+  ClosePrint();
+}
+
+void DetailPresenter::OpenSettings() {
+  if (!parts_.open_settings) return SayNotReady("設定");
+  parts_.open_settings();
+  print_panel_.Date().FollowStyle();
+}
+
+// Fields.
+
+bool DetailPresenter::TypeMemoPosition(std::string_view text) {
+  const auto position = ZeroOrOne(text);
+  if (!position) return false;
+  SaveSetting(kMemoPositionKey, *position);
+  Settings.MemoPosition = *position;
+  return true;
+}
+
+bool DetailPresenter::TypeInstalled(std::string_view text) {
+  const auto installed = ZeroOrOne(text);
+  if (installed) installed_ = *installed == 1;
+  return installed.has_value();
+}
+
+void DetailPresenter::ChooseDatePlace(DatePlace place) {
+  const std::int32_t position = place == DatePlace::right ? 1 : 0;
+  SaveSetting(kDetailDatePositionKey, position);
+  Settings.DetailDatePosition = position;
+}
+
+// Saved tallies, and the way out.
+
+void DetailPresenter::Save() {
+  if (!parts_.save) return SayNotReady("保存");
+  parts_.save(result_);
+}
+
+void DetailPresenter::Load() {
+  if (!parts_.load) return SayNotReady("読込");
+  if (std::optional<TallyResult> loaded = parts_.load()) Take(std::move(*loaded));
+}
+
+void DetailPresenter::Leave() {
+  if (std::exchange(left_, true)) return;
+  // A call for the material detail that another program has left open is answered now.
+  if (ReadHandOver(kMaterialDetailKey) == "1") WriteHandOver(kMaterialDetailKey, "0");
+}
+
+void DetailPresenter::SayNotReady(std::string_view what) {
+  MsgBox(fmt::format("「{}」は、まだご利用いただけません。", what), kDetailTitle);
+}
+
+}  // namespace rbt

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "session/detail/detail_view.h"
+
+#include <utility>
+
+#include "platform/numbers/number_mask.h"
+#include "session/detail/detail_presenter.h"
+#include "shell/config/settings.h"
+
+namespace rbt {
+
+namespace {
+
+std::string OneOrZero(bool is_one) { return is_one ? "1" : "0"; }
+
+}  // namespace
+
+DetailView DetailPresenter::View() {
+  const TallyTable& table = result_.Grid();
+  const DetailArguments kept = DetailArgumentsOf(Settings);
+  DetailView view;
+  view.head = head_;
+  view.material = material_;
+  view.total_weight = FormatNumber(table.TotalStockWeight, "#,##0") + " ㎏";
+  view.layout = {Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  view.captions = DetailCaptions(view.layout);
+  view.rows = DetailRows(table, view.layout);
+  view.colours = AlternateColours();
+  view.mode = mode_;
+  for (const DetailButtonRow& row : DetailButtons()) {
+    view.enabled[static_cast<std::size_t>(row.button)] = IsWithinReach(row.button);
+  }
+  view.percent = percent_;
+  view.help = help_;
+  view.memos = memos_;
+  view.memo_position = OneOrZero(kept.MemoPosition == MemoPlace::above);
+  view.installed = OneOrZero(installed_);
+  view.date_place = kept.DatePosition;
+  const PrintPanelView panel = print_panel_.View();
+  view.date = panel.date;
+  view.preview = panel.preview;
+  view.fields_enabled = mode_ == DetailMode::buttons || mode_ == DetailMode::printing;
+  view.focus = std::exchange(focus_, {});
+  view.left = left_;
+  return view;
+}
+
+}  // namespace rbt

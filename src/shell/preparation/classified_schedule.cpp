@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "shell/preparation/classified_schedule.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "platform/system/message.h"
+#include "shell/context/site_context.h"
+#include "shell/preparation/preparation.h"
+#include "store/database.h"
+
+namespace rbt {
+
+namespace {
+
+/// Asked while the schedule is held or locked for writing.
+bool IsKnownAsClassified(const Database& schedule) {
+  const auto state = schedule.State();
+  return state && state == SiteContext.ClassifiedAt;
+}
+
+void NoteAsClassified(const Database& schedule) { SiteContext.ClassifiedAt = schedule.State(); }
+
+bool MayBeWritten(const Database& schedule) { return !SiteContext.OnlyRead && schedule.MayBeWritten(); }
+
+void TellOfCopy() {
+  if (SiteContext.ToldOfCopy) return;
+  SiteContext.ToldOfCopy = true;
+  MsgBox(fmt::format("{} は読むだけにします。分類は写しの上で行い、元のファイルは書き換えません。",
+                     SiteContext.SelectedDbName));
+}
+
+/// The copy is made of the state that is held.
+void PutCopyInPlace(const std::vector<std::string>& statements) {
+  auto copy = std::make_unique<Database>(Database::CopyOf(*SiteContext.WorkDatabase));
+  copy->ExecuteTogether(statements);
+  SiteContext.CopiedAt = SiteContext.WorkDatabase->State();
+  SiteContext.WorkDatabase = std::move(copy);
+  TellOfCopy();
+}
+
+/// A private copy stands as long as its original does.
+bool IsCopyOfWhatStands() {
+  if (!SiteContext.WorkDatabase->IsPrivateCopy()) return false;
+  const auto state = Database::OpenReadOnly(SiteContext.WorkDatabase->File()).State();
+  return state && state == SiteContext.CopiedAt;
+}
+
+}  // namespace
+
+void ClassifyAtLoad(const StartModeTraits& start_mode) {
+  Database& schedule = *SiteContext.WorkDatabase;
+  // One that may only be read is classified when it is tallied.
+  if (!MayBeWritten(schedule)) return;
+  const std::vector<std::string> all = PreparationStatements(schedule, start_mode);
+  schedule.Hold();
+  // A slit bar of a threaded shape is classified to and fro: the load alone would write it each time.
+  if (schedule.WouldChangeTogether(all)) {
+    Transaction transaction(schedule);
+    ClassifySchedule(schedule, start_mode);
+    transaction.CommitAndHold();
+  }
+  NoteAsClassified(schedule);
+  schedule.LetGo();
+}
+
+void RefreshAtActivation(const StartModeTraits& start_mode) {
+  Database& schedule = *SiteContext.WorkDatabase;
+  if (!MayBeWritten(schedule)) return;
+  if (!schedule.WouldChangeTogether(RefreshStatements(schedule, start_mode))) return;
+  Transaction transaction(schedule);
+  const bool was_classified = IsKnownAsClassified(schedule);
+  RefreshSchedule(schedule, start_mode);
+  transaction.CommitAndHold();
+  if (was_classified) NoteAsClassified(schedule);
+  schedule.LetGo();
+}
+
+void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
+  if (IsCopyOfWhatStands()) return;
+  if (SiteContext.WorkDatabase->IsPrivateCopy() || SiteContext.WorkDatabase->HasMoved()) OpenWorkDatabase();
+  Database& schedule = *SiteContext.WorkDatabase;
+  schedule.Hold();
+  if (IsKnownAsClassified(schedule)) return;
+  const std::vector<std::string> all = PreparationStatements(schedule, start_mode);
+  if (schedule.WouldChangeTogether(all)) {
+    if (!MayBeWritten(schedule)) return PutCopyInPlace(all);
+    Transaction transaction(schedule);
+    // Another program may have given it other columns while the lock was waited for.
+    schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
+    transaction.CommitAndHold();
+  }
+  NoteAsClassified(schedule);
+}
+
+void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
+  HoldClassifiedSchedule(start_mode);
+  Database& schedule = *SiteContext.WorkDatabase;
+  const std::vector<std::string> fills = FillStatements();
+  if (!schedule.WouldChangeTogether(fills)) return;
+  if (schedule.IsPrivateCopy()) {
+    FillFloorsAndParts(schedule);
+    return;
+  }
+  if (!MayBeWritten(schedule)) return PutCopyInPlace(fills);
+  Transaction transaction(schedule);
+  // The write let go of what was held: another start mode may have come in between.
+  schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
+  FillFloorsAndParts(schedule);
+  transaction.CommitAndHold();
+  NoteAsClassified(schedule);
+}
+
+ClassifiedSchedule::~ClassifiedSchedule() {
+  if (SiteContext.WorkDatabase) SiteContext.WorkDatabase->LetGo();
+}
+
+}  // namespace rbt

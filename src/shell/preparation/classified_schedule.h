@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "data/start_mode.h"
+
+namespace rbt {
+
+/// The load's part of the classification on the bound site, see `ClassifySchedule`; nothing where load and
+/// activation together would leave the schedule as it is.
+void ClassifyAtLoad(const StartModeTraits& start_mode);
+/// The activation's part, see `RefreshSchedule`.
+void RefreshAtActivation(const StartModeTraits& start_mode);
+
+/// Sees to it that the bound site's schedule, which is open in `SiteContext`, is classified for a start mode,
+/// load and activation together, and holds it so: what is read from then on is one state of the file, and no
+/// other program's start mode comes in between. Nothing is done for a file that nobody has changed since it
+/// was classified. Where the site may only be read and another classification stands in it, a private copy
+/// takes its place in `SiteContext`, and the user is told, once for each site. Let go, or the first write,
+/// ends the hold.
+void HoldClassifiedSchedule(const StartModeTraits& start_mode);
+
+/// The same with a floor and a part for every line, see `FillFloorsAndParts`: for the floor and part tallies.
+void HoldScheduleWithFloors(const StartModeTraits& start_mode);
+
+/// `HoldClassifiedSchedule` for the life of the object: one tally of a window.
+class ClassifiedSchedule {
+ public:
+  explicit ClassifiedSchedule(const StartModeTraits& start_mode) { HoldClassifiedSchedule(start_mode); }
+  ClassifiedSchedule(const ClassifiedSchedule&) = delete;
+  ClassifiedSchedule& operator=(const ClassifiedSchedule&) = delete;
+  ~ClassifiedSchedule();
+};
+
+}  // namespace rbt
