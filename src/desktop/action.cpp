@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include "desktop/wait_sign.h"
 #include "platform/system/message.h"
 #include "shell/context/run_state.h"
 
@@ -25,6 +26,7 @@ class Running {
 
 bool RunAction(std::string_view title, const std::function<void()>& action) {
   const Running running;
+  const WaitSign sign;
   try {
     action();
     return true;

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QColorDialog>
 
+#include "desktop/wait_sign.h"
+
 namespace rbt {
 
 namespace {
@@ -28,6 +30,7 @@ std::optional<std::int32_t> AskColour(std::string_view title, std::int32_t rgb) 
   dialog.setWindowTitle(QString::fromUtf8(title));
   // One dialog everywhere: the desktop's own may know neither the title nor Esc.
   dialog.setOption(QColorDialog::DontUseNativeDialog);
+  const WorkAtRest rest;
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return RgbOfColour(dialog.currentColor());
 }

@@ -15,6 +15,9 @@
 #include <QScreen>
 #include <QWindow>
 
+#include "desktop/form_place.h"
+#include "desktop/wait_sign.h"
+
 namespace rbt {
 
 namespace {
@@ -144,7 +147,8 @@ void ShowModally(QWidget& form) {
   form.setWindowModality(Qt::ApplicationModal);
   form.winId();  // makes the window that stays above the one below, wherever the user clicks
   if (below) form.windowHandle()->setTransientParent(below->windowHandle());
-  Center_Form(form);
+  PlaceForm(form);
+  const WorkAtRest rest;
   form.show();
   form.activateWindow();
   if (form.isVisible()) loop.exec();

@@ -13,7 +13,7 @@ void PrepareForm(QWidget& form);
 /// Puts a form in the middle of its screen, whole pixels towards the upper left.
 void Center_Form(QWidget& form);
 
-/// Shows a form over all others, in the middle of the screen, and returns when it is hidden or closed; the
+/// Shows a form over all others, where `PlaceForm` puts it, and returns when it is hidden or closed; the
 /// window below is active again then.
 void ShowModally(QWidget& form);
 

@@ -2,6 +2,7 @@
 #include "desktop/grid_control.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include <QAbstractTableModel>
 #include <QClipboard>
@@ -126,8 +127,10 @@ class GridControl::Model : public QAbstractTableModel {
   QColor fore_;
 };
 
-GridControl::GridControl(QWidget* parent) : QTableView(parent), model_(new Model(this)) {
+GridControl::GridControl(QWidget* parent)
+    : QTableView(parent), model_(new Model(this)), painter_(new GridCellPainter(this)) {
   setModel(model_);
+  setItemDelegate(painter_);
   setSelectionMode(QAbstractItemView::ContiguousSelection);
   setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                   QAbstractItemView::AnyKeyPressed);
@@ -148,21 +151,57 @@ void GridControl::SetColumns(std::vector<GridColumn> columns) {
 }
 
 void GridControl::LayOutColumns() {
-  const QFontMetrics metrics(font());
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);  // totals need the most room
   const int half_width = metrics.horizontalAdvance(QLatin1Char('0'));
   constexpr int kPadding = 14;
+  natural_widths_.assign(static_cast<std::size_t>(model_->columnCount()), 0);
   for (int column = 0; column < model_->columnCount(); ++column) {
     const GridColumn& description = model_->ColumnAt(column);
     const int caption = metrics.horizontalAdvance(QString::fromStdString(description.caption));
-    setColumnWidth(column, std::max(description.characters * half_width, caption) + kPadding);
     setColumnHidden(column, !description.visible);
+    if (!description.visible) continue;
+    natural_widths_[static_cast<std::size_t>(column)] =
+        std::max(description.characters * half_width, caption) + kPadding;
   }
-  verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
+  verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
+  FillFrame();
+}
+
+/// Room to spare goes to the columns by their widths; for want of room they keep theirs and scroll.
+void GridControl::FillFrame() {
+  int needed = std::accumulate(natural_widths_.begin(), natural_widths_.end(), 0);
+  int spare = std::max(0, viewport()->width() - needed);
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const int natural = natural_widths_[static_cast<std::size_t>(column)];
+    if (natural == 0) continue;
+    const int share = spare * natural / needed;
+    setColumnWidth(column, natural + share);
+    spare -= share;
+    needed -= natural;
+  }
+}
+
+void GridControl::MeasureUnits() {
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  std::vector<int> rooms(static_cast<std::size_t>(model_->columnCount()), 0);
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    for (int column = 0; column < model_->columnCount(); ++column) {
+      const CellParts parts = PartsOfCell(QString::fromStdString(model_->Text(row, column)));
+      int& room = rooms[static_cast<std::size_t>(column)];
+      room = std::max(room, metrics.horizontalAdvance(parts.unit));
+    }
+  }
+  painter_->SetUnitRooms(std::move(rooms));
 }
 
 void GridControl::SetRows(std::vector<std::vector<std::string>> rows) {
   const int scrolled = verticalScrollBar()->value();
   model_->SetRows(std::move(rows));
+  MeasureUnits();
   if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
   verticalScrollBar()->setValue(scrolled);
 }
@@ -173,6 +212,11 @@ std::string GridControl::Cell(int row, int column) const { return model_->Text(r
 
 void GridControl::SetCell(int row, int column, std::string text) {
   model_->SetText(row, column, std::move(text));
+}
+
+void GridControl::SetTotals(const std::vector<std::size_t>& rows) {
+  painter_->SetTotals({rows.begin(), rows.end()});
+  viewport()->update();
 }
 
 void GridControl::SetAlternateColours(const QColor& back, const QColor& fore) {
@@ -194,20 +238,30 @@ QString GridControl::SelectedText() const {
       if (!isColumnHidden(column)) cells.append(model_->index(currentIndex().row(), column));
     }
   }
+  if (cells.isEmpty()) return {};
   std::sort(cells.begin(), cells.end());
-  QString text;
+  QStringList heads;
+  QStringList lines;
   int row = -1;
   for (const QModelIndex& cell : cells) {
-    if (row >= 0) text += cell.row() == row ? '\t' : '\n';
+    const QString text = TextForPaste(cell.data().toString());
+    if (cell.row() == cells.front().row()) {
+      heads += model_->headerData(cell.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+    }
+    if (cell.row() == row) {
+      lines.back() += QLatin1Char('\t') + text;
+    } else {
+      lines += text;
+    }
     row = cell.row();
-    text += cell.data().toString().trimmed();
   }
-  return text;
+  lines.prepend(heads.join(QLatin1Char('\t')));
+  return lines.join(QLatin1Char('\n'));
 }
 
 QSize GridControl::sizeHint() const {
-  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-  for (int column = 0; column < model_->columnCount(); ++column) width += columnWidth(column);
+  const int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() +
+                    std::accumulate(natural_widths_.begin(), natural_widths_.end(), 0);
   const int rows = 26;
   const int height = 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
                      rows * verticalHeader()->defaultSectionSize();
@@ -226,6 +280,11 @@ void GridControl::keyPressEvent(QKeyEvent* event) {
 void GridControl::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange) LayOutColumns();
+}
+
+void GridControl::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FillFrame();
 }
 
 }  // namespace rbt

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include <QColor>
 #include <QTableView>
+
+#include "desktop/grid_cell.h"
 
 namespace rbt {
 
@@ -20,7 +23,7 @@ struct GridColumn {
 };
 
 /// A grid of texts: the form writes rows, the user walks them with the keys and copies them (Ctrl+C,
-/// tab-separated). Cells of unlocked columns are edited in place.
+/// tab-separated). Columns fill the frame. Cells of unlocked columns are edited in place.
 class GridControl : public QTableView {
  public:
   /// Asked before a cell is edited and before an edited text is taken; false refuses.
@@ -39,6 +42,9 @@ class GridControl : public QTableView {
   std::string Cell(int row, int column) const;
   void SetCell(int row, int column, std::string text);
 
+  /// Rows that are sums of others, in rising order: set off by a rule and by bold letters.
+  void SetTotals(const std::vector<std::size_t>& rows);
+
   /// Every second row in these colours; two invalid colours turn it off.
   void SetAlternateColours(const QColor& back, const QColor& fore);
 
@@ -46,7 +52,8 @@ class GridControl : public QTableView {
   void OnBeforeUpdate(BeforeUpdate handler);
   void OnAfterEdit(AfterEdit handler);
 
-  /// The selected cells, or the current row, as lines of tab-separated texts.
+  /// The captions, then the selected cells, or the current row, as lines of tab-separated texts; numbers
+  /// without commas and units, as a calculation sheet takes them in.
   QString SelectedText() const;
 
   QSize sizeHint() const override;
@@ -54,12 +61,17 @@ class GridControl : public QTableView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   class Model;
   void LayOutColumns();
+  void FillFrame();
+  void MeasureUnits();
 
   Model* model_;
+  GridCellPainter* painter_;
+  std::vector<int> natural_widths_;  ///< of the columns that are seen; 0 of the others
 };
 
 }  // namespace rbt

@@ -3,8 +3,11 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QLibraryInfo>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStyleFactory>
 #include <QTranslator>
 
@@ -29,6 +32,8 @@ QCheckBox:disabled, QRadioButton:disabled { color: #6a7580; }
 QCheckBox:focus, QRadioButton:focus { background: #fff8d9; border-color: #1457a8; }
 QGroupBox { border: 1px solid #9fb0bf; border-radius: 5px; margin-top: 0.7em; background: #e3ebf3; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 12px; }
+QTableView { border: 2px solid #9fb0bf; }
+QTableView:focus { border-color: #1457a8; }
 QFrame#statusLine { background: #ffffff; border: 1px solid #b4c1cd; border-radius: 3px; }
 )";
 
@@ -50,6 +55,27 @@ QPalette Colours() {
   return colours;
 }
 
+/// Three bars in their section, one above two, on the blue of the focus.
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int side : {16, 24, 32, 48, 64, 128}) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 16.0, side / 16.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor("#1457a8"));
+    painter.drawRoundedRect(QRectF(0.5, 0.5, 15.0, 15.0), 3.0, 3.0);
+    painter.setBrush(Qt::white);
+    for (const QPointF& bar : {QPointF(8.0, 5.0), QPointF(4.8, 10.6), QPointF(11.2, 10.6)}) {
+      painter.drawEllipse(bar, 2.5, 2.5);
+    }
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
 /// The toolkit's own dialogs speak Japanese where its translation is installed, else English.
 void InstallTranslation() {
   auto* translator = new QTranslator(qApp);
@@ -62,7 +88,8 @@ void InstallTranslation() {
 
 void PrepareDesktop() {
   QApplication::setApplicationName("rbtally1");
-  QApplication::setApplicationDisplayName("重量集計");
+  // No display name: the toolkit would put it behind every title.
+  QApplication::setWindowIcon(ProgramIcon());
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QFont font;

@@ -3,7 +3,7 @@
 
 namespace rbt {
 
-/// Readies the application object for the forms: display name, fixed-pitch Japanese font ("ＭＳ ゴシック"
+/// Readies the application object for the forms: icon, fixed-pitch Japanese font ("ＭＳ ゴシック"
 /// where it is installed, else IPAGothic), colours, the visible focus. The program does not end with its last
 /// window: a hidden menu comes back.
 void PrepareDesktop();

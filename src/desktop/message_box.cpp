@@ -13,9 +13,13 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include "desktop/wait_sign.h"
+
 namespace rbt {
 
 namespace {
+
+constexpr std::string_view kProgramTitle = "重量集計";
 
 struct Answer {
   MessageAnswer answer;
@@ -73,7 +77,7 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   box.setIcon(answers.size() == 1 ? QMessageBox::Information : QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
   box.setText(PlainText(text));
-  box.setWindowTitle(title.empty() ? QApplication::applicationDisplayName() : PlainText(title));
+  box.setWindowTitle(PlainText(title.empty() ? kProgramTitle : title));
   QAbstractButton* cautious = nullptr;
   for (const Answer& answer : answers) {
     QPushButton* button = box.addButton(QString::fromUtf8(answer.caption), answer.role);
@@ -83,6 +87,7 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   }
   box.setEscapeButton(cautious);
   KeepLines(box);
+  const WorkAtRest rest;
   box.exec();
   if (below) below->activateWindow();
   for (const Answer& answer : answers) {

@@ -17,6 +17,7 @@
 #include "platform/print/paper.h"
 #include "platform/system/message.h"
 #include "platform/system/printing.h"
+#include "shell/config/settings.h"
 #include "ui_preview_form.h"
 
 namespace rbt {
@@ -62,6 +63,7 @@ PreviewParts SystemPreviewParts() {
   for (const PrinterSurface& printer : Printers().Installed()) {
     if (printer.Kind() == DeviceKind::installed_printer) parts.printers.push_back(printer.DeviceName());
   }
+  parts.settings_printer = Settings.TallyPrinter;
   parts.print = PrintDocument;
   parts.choose_printer = ChoosePrinter;
   parts.ask_file = AskPdfFile;
@@ -179,12 +181,21 @@ std::optional<std::string> PreviewForm::OwnPrinter() const {
   return shared && installed ? std::optional(name) : std::nullopt;
 }
 
+/// A printer that is not the one of the settings prints on what lies in it.
+std::string PreviewForm::OwnPaperNote(const std::string& printer) const {
+  if (parts_.settings_printer.empty() || printer == parts_.settings_printer) return "";
+  const PrintedDocument& document = documents_[pages_.front().document];
+  return "（今の用紙 " + PaperCaption(document.paper_code, document.orientation) +
+         " のまま：入らない部分は切れます）";
+}
+
 void PreviewForm::ShowPrinter() {
   const bool can_print = !parts_.printers.empty();
   ui_->cmdPrint->setEnabled(can_print);
   ui_->cmdPrint->setToolTip(can_print ? QString() : QString::fromUtf8(kNoPrinter));
   const std::optional<std::string> printer = OwnPrinter();
-  const std::string target = printer ? "印刷先：" + *printer : "印刷先：印刷の時に選びます。";
+  const std::string target =
+      printer ? "印刷先：" + *printer + OwnPaperNote(*printer) : "印刷先：印刷の時に選びます。";
   ui_->lblStatus->setText(QString::fromStdString(can_print ? target : kNoPrinter));
 }
 

@@ -23,6 +23,7 @@ namespace rbt {
 struct PreviewParts {
   /// Names of the printers of the system, without this program's own PDF device.
   std::vector<std::string> printers;
+  std::string settings_printer = {};  ///< that the settings name, there or not; any other keeps its own paper
   std::function<void(const std::string& device_name, const PrintedDocument& document)> print;
   /// Asks which of the printers to take; nothing when the user turns back.
   std::function<std::optional<std::string>(const std::vector<std::string>& printers)> choose_printer;
@@ -69,6 +70,7 @@ class PreviewForm : public QWidget {
   void TakeStartSize();
   void ShowPage(std::size_t page);
   void ShowZoom();
+  std::string OwnPaperNote(const std::string& printer) const;
   void ShowPrinter();
   std::optional<std::string> OwnPrinter() const;
 

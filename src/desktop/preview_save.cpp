@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "desktop/painting_surface.h"
+#include "desktop/wait_sign.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
@@ -83,6 +84,7 @@ std::optional<fs::path> AskPdfFile(QWidget& form, const fs::path& offered) {
   dialog.setLabelText(QFileDialog::FileType, QStringLiteral("種類："));
   dialog.setLabelText(QFileDialog::Accept, QStringLiteral("保存"));
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
+  const WorkAtRest rest;
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return fs::path(dialog.selectedFiles().constFirst().toStdString());
 }

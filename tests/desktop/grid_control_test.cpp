@@ -3,7 +3,10 @@
 
 #include <QClipboard>
 #include <QHeaderView>
+#include <QImage>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include "support/desktop/key_press.h"
@@ -63,10 +66,74 @@ TEST(GridControl, CopiesTheSelectionOrTheCurrentRow) {
   Grid grid;
   grid.setCurrentIndex(grid.model()->index(1, 0));
   Press(grid, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), "D1\t10");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "太さ\t本数\nD1\t10");
   grid.selectionModel()->select(QItemSelection(grid.model()->index(1, 0), grid.model()->index(2, 1)),
                                 QItemSelectionModel::ClearAndSelect);
-  EXPECT_EQ(grid.SelectedText(), "D1\t10\nD2\t20");
+  EXPECT_EQ(grid.SelectedText(), "太さ\t本数\nD1\t10\nD2\t20");
+  grid.selectionModel()->select(QItemSelection(grid.model()->index(3, 1), grid.model()->index(4, 1)),
+                                QItemSelectionModel::ClearAndSelect);
+  EXPECT_EQ(grid.SelectedText(), "本数\n30\n40") << "the heads of the columns that are taken";
+}
+
+TEST(GridControl, CopiesNumbersAsNumbers) {
+  Grid grid;
+  const std::pair<const char*, const char*> cells[] = {
+      {"1,234,567 ", "1234567"}, {"434 kg", "434"}, {"-1,250 kg", "-1250"},
+      {"3.25 ％", "3.25"},       {"D10", "D10"},    {"総　　合　　計", "総　　合　　計"},
+      {" 6.0 m 3", "6.0 m 3"},   {"1階2", "1階2"},  {"", ""}};
+  for (const auto& [text, pasted] : cells) EXPECT_EQ(TextForPaste(text).toStdString(), pasted);
+}
+
+TEST(GridControl, DigitsOfAColumnEndAtOnePlaceWhateverStandsBehindThem) {
+  Grid grid;
+  grid.SetRows({{"D10", "1,234 "}, {"計", "434 kg"}, {"率", "3.25 ％"}});
+  const auto* painter = static_cast<GridCellPainter*>(grid.itemDelegate());
+  const QRect cell(100, 0, 80, 20);
+  const QFontMetrics metrics(grid.font());
+  EXPECT_GE(cell.right() - painter->DigitsEnd(cell, 1), metrics.horizontalAdvance("kg"));
+  EXPECT_EQ(PartsOfCell("434 kg").number, "434");
+  EXPECT_EQ(PartsOfCell("434 kg").unit, "kg");
+  EXPECT_EQ(PartsOfCell("1,234 ").number, "1,234");
+  EXPECT_EQ(PartsOfCell("1,234 ").unit, "");
+  EXPECT_EQ(PartsOfCell("D10").number, "D10");
+  EXPECT_EQ(grid.Cell(1, 1), "434 kg") << "the text itself is as it was";
+}
+
+TEST(GridControl, ColumnsFillTheFrame) {
+  Grid grid;
+  grid.resize(700, 300);
+  Settle();
+  int width = 0;
+  for (int column = 0; column < 3; ++column)
+    width += grid.isColumnHidden(column) ? 0 : grid.columnWidth(column);
+  EXPECT_EQ(width, grid.viewport()->width());
+  const int natural = grid.sizeHint().width();
+  grid.resize(60, 300);
+  Settle();
+  EXPECT_EQ(grid.sizeHint().width(), natural);
+  EXPECT_GT(grid.columnWidth(0) + grid.columnWidth(1), grid.viewport()->width()) << "texts are not cut";
+}
+
+TEST(GridControl, ShowsWhetherItHasTheFocus) {
+  QWidget form;
+  QVBoxLayout layout(&form);
+  GridControl grid;
+  QPushButton button("終了");
+  layout.addWidget(&grid);
+  layout.addWidget(&button);
+  form.resize(300, 200);
+  form.show();
+  form.activateWindow();
+  button.setFocus();
+  Settle();
+  const QImage without = grid.grab().toImage();
+  grid.setFocus();
+  Settle();
+  EXPECT_NE(grid.grab().toImage().pixelColor(1, 60), without.pixelColor(1, 60));
+  layout.removeWidget(&grid);
+  layout.removeWidget(&button);
+  grid.setParent(nullptr);
+  button.setParent(nullptr);
 }
 
 TEST(GridControl, EditsUnlockedCellsAndAsksBefore) {

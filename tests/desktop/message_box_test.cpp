@@ -64,7 +64,7 @@ TEST(MessageBox, ShowsTextAndTitleAsTheyAre) {
 }
 
 TEST(MessageBox, WithoutATitleBearsTheProgramsName) {
-  EXPECT_EQ(Show("a", "", MessageButtons::ok, Qt::Key_Return).title, QApplication::applicationDisplayName());
+  EXPECT_EQ(Show("a", "", MessageButtons::ok, Qt::Key_Return).title, "重量集計");
 }
 
 TEST(MessageBox, GivesTheFocusBackToTheControlThatHadIt) {

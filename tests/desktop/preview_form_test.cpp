@@ -46,6 +46,7 @@ class Preview : public testing::Test {
   void Open(std::vector<PrintedDocument> documents) {
     PreviewParts parts;
     parts.printers = printers;
+    parts.settings_printer = settings_printer;
     parts.print = [this](const std::string& device, const PrintedDocument& document) {
       if (print_fault) throw Fault(FaultKind::file, device + ": out of paper");
       printed.emplace_back(device, document.pages.size());
@@ -70,6 +71,7 @@ class Preview : public testing::Test {
   QPushButton& Button(const char* name) const { return *form->findChild<QPushButton*>(name); }
   bool SheetIsInside() const { return QRectF(Sheet().viewport()->rect()).contains(Sheet().SheetPlace()); }
 
+  std::string settings_printer;
   std::vector<std::string> printers{"甲", "乙"};
   std::optional<std::string> choice;
   bool print_fault = false;
@@ -169,6 +171,15 @@ TEST_F(Preview, PrintsOnThePrinterThatTheDocumentsWereMadeFor) {
   EXPECT_TRUE(offers.empty());
   EXPECT_EQ(Label("lblStatus"), "「乙」に送りました。");
   EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(Preview, SaysThatAPrinterOtherThanTheOneOfTheSettingsKeepsItsPaper) {
+  settings_printer = "事務所";
+  Open({Document("乙", kPaperA4, kLandscape, 1)});
+  EXPECT_EQ(Label("lblStatus"), "印刷先：乙（今の用紙 A4 横 のまま：入らない部分は切れます）");
+  settings_printer = "乙";
+  Open({Document("乙", kPaperA4, kLandscape, 1)});
+  EXPECT_EQ(Label("lblStatus"), "印刷先：乙");
 }
 
 TEST_F(Preview, AHeldPrintKeyPrintsOnce) {

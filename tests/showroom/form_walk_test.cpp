@@ -179,6 +179,22 @@ TEST(AllForms, ShowTheirCaptionsWhole) {
   }
 }
 
+/// What a screen of 1366 x 768 leaves beside its task bar and a title bar, and one of 1920 x 1080 at one and
+/// a half times the size.
+TEST(AllForms, FitASmallScreen) {
+  constexpr QSize kRoom(1280, 648);
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    for (const FormState& state : entry.states) {
+      const std::unique_ptr<QWidget> form = Shown(entry, state);
+      form->resize(1, 1);
+      Settle();
+      EXPECT_LE(form->width(), kRoom.width()) << entry.name << " " << state.name;
+      EXPECT_LE(form->height(), kRoom.height()) << entry.name << " " << state.name;
+    }
+  }
+}
+
 TEST(AllForms, AnswerEveryKeyOfTheirTableInEveryState) {
   const WalkedSite site;
   const ModalFormCloser closer;

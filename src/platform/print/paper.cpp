@@ -22,6 +22,12 @@ std::int32_t PaperCodeOfSheet(double width_mm, double height_mm) {
   return found == kPapers.end() ? kCustomPaper : found->code;
 }
 
+std::string PaperCaption(std::int32_t paper_code, std::int32_t orientation) {
+  const PaperRow* paper = FindPaper(paper_code);
+  const std::string name(paper == nullptr ? "特別な大きさ" : paper->name);
+  return name + (orientation == kLandscape ? " 横" : " 縦");
+}
+
 SheetSize SheetOf(std::int32_t paper_code, std::int32_t orientation) {
   const PaperRow* paper = FindPaper(paper_code);
   if (paper == nullptr) paper = FindPaper(kPaperA4);

@@ -13,9 +13,13 @@
 
 #include "desktop/action.h"
 #include "desktop/form.h"
+#include "desktop/form_place.h"
 #include "desktop/message_box.h"
 #include "desktop/texts.h"
+#include "screens/panels/busy_notice.h"
 #include "screens/panels/form_actions.h"
+#include "screens/panels/hint_line.h"
+#include "session/menu/menu_entries.h"
 #include "ui_jsmenu.h"
 
 namespace rbt {
@@ -61,14 +65,15 @@ JSMENU::JSMENU(MenuParts parts, std::span<const MenuScreen> screens)
     actions.push_back({std::string(row.control), row.key, [this, &row] { presenter_.Start(row.control); }});
   }
   new FormActions(*this, std::move(actions), KeysAct::always);
+  std::vector<ControlHint> hints;
+  for (const MenuEntry& entry : MenuEntries()) hints.push_back({entry.control, entry.hint});
+  new HintLine(*this, *ui_->lblHelp, hints);
 }
 
 JSMENU::~JSMENU() {
-  for (const QPointer<QWidget>& form : open_forms_) {
-    if (form.isNull()) continue;
-    form->disconnect(this);
-    delete form.data();
-  }
+  if (!HasOpenForm()) return;
+  open_form_->disconnect(this);
+  delete open_form_.data();
 }
 
 std::vector<int> JSMENU::Keys() {
@@ -80,11 +85,12 @@ std::vector<int> JSMENU::Keys() {
 }
 
 void JSMENU::Open() {
+  start_notice_ = std::make_unique<StartNotice>();
   if (!RunAction(*this, [this] { presenter_.Load(); })) presenter_.End(EXIT_FAILURE);
   if (presenter_.HasEnded()) return;
-  Center_Form(*this);
   Activate();
   if (presenter_.HasEnded()) return;
+  PlaceForm(*this);
   show();
   activateWindow();
 }
@@ -101,20 +107,31 @@ void JSMENU::ShowLoad(const LoadView& view) {
   ui_->LabelCT->setText(Text(view.time));
 }
 
+void JSMENU::Hide() {
+  start_notice_.reset();
+  hide();
+}
+
 void JSMENU::ShowState(const MenuState& state) {
+  start_notice_.reset();
   for (const std::string_view control : MenuControls()) {
     findChild<QWidget*>(Text(control))->setVisible(state.Shows(control));
   }
+  ui_->lblSite->setText(Text(state.site));
   if (state.status_text) ui_->JSMENUMS->setText(Text(*state.status_text));
   FocusFirstButton();
 }
 
 void JSMENU::FocusFirstButton() {
+  const auto live = [this](const QWidget& control) {
+    return (control.focusPolicy() & Qt::TabFocus) && control.isVisibleTo(this) && control.isEnabledTo(this);
+  };
   const QWidget* focused = focusWidget();
-  if (focused != nullptr && focused->isVisibleTo(this)) return;
+  if (focused != nullptr && live(*focused)) return;
   QWidget* next = ui_->cmdShuukei;
-  while (next != nullptr && !next->isVisibleTo(this)) next = next->nextInFocusChain();
-  if (next != nullptr) next->setFocus();
+  // Frames and labels stand in the chain too; the exit is always live.
+  while (!live(*next)) next = next->nextInFocusChain();
+  next->setFocus();
 }
 
 const MenuScreen* JSMENU::FindScreen(std::string_view form) const {
@@ -123,15 +140,12 @@ const MenuScreen* JSMENU::FindScreen(std::string_view form) const {
   return screen == screens_.end() ? nullptr : &*screen;
 }
 
-bool JSMENU::RaiseForm(std::string_view form) {
-  std::erase_if(open_forms_, [](const QPointer<QWidget>& open) { return open.isNull(); });
-  for (const QPointer<QWidget>& open : open_forms_) {
-    if (open->objectName() != Text(form)) continue;
-    open->raise();
-    open->activateWindow();
-    return true;
-  }
-  return false;
+bool JSMENU::RaiseOpenForm() {
+  if (!HasOpenForm()) return false;
+  if (open_form_->isMinimized()) open_form_->showNormal();
+  open_form_->raise();
+  open_form_->activateWindow();
+  return true;
 }
 
 void JSMENU::OpenForm(std::string_view form) {
@@ -139,8 +153,8 @@ void JSMENU::OpenForm(std::string_view form) {
   opened->setAttribute(Qt::WA_DeleteOnClose);
   opened->setObjectName(Text(form));
   connect(opened, &QObject::destroyed, this, &JSMENU::ShowAgain);
-  open_forms_.emplace_back(opened);
-  Center_Form(*opened);
+  open_form_ = opened;
+  PlaceForm(*opened);
   opened->show();
   opened->activateWindow();
 }
@@ -189,7 +203,12 @@ void JSMENU::ServeActivation() {
 
 void JSMENU::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!presenter_.HasEnded()) RunAction(*this, [this] { presenter_.Leave(); });
+  if (!presenter_.HasEnded()) RunAction(*this, [this] { presenter_.Start("cmdExit"); });
+}
+
+void JSMENU::mousePressEvent(QMouseEvent* event) {
+  QWidget::mousePressEvent(event);
+  presenter_.LeadBack();
 }
 
 }  // namespace rbt

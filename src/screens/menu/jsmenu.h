@@ -18,6 +18,8 @@ class JSMENU;
 
 namespace rbt {
 
+class StartNotice;
+
 /// The window of the main menu. Each of its keys starts what its button starts, in whatever state the button
 /// is, hidden ones included.
 class JSMENU : public QWidget, private MenuWindow {
@@ -36,15 +38,17 @@ class JSMENU : public QWidget, private MenuWindow {
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   void ShowLoad(const LoadView& view) override;
-  void Hide() override { hide(); }
+  void Hide() override;
   void Minimise() override { showMinimized(); }
   void ShowAgain() override;
   void AskForActivation() override;
   bool HasForm(std::string_view form) const override { return FindScreen(form) != nullptr; }
-  bool RaiseForm(std::string_view form) override;
+  bool HasOpenForm() const override { return !open_form_.isNull(); }
+  bool RaiseOpenForm() override;
   void OpenForm(std::string_view form) override;
   void ShowFormModally(std::string_view form) override;
 
@@ -54,9 +58,10 @@ class JSMENU : public QWidget, private MenuWindow {
   void FocusFirstButton();
 
   std::unique_ptr<Ui::JSMENU> ui_;
+  std::unique_ptr<StartNotice> start_notice_;  ///< until the first state of the menu is known
   MenuPresenter presenter_;
   std::span<const MenuScreen> screens_;
-  std::vector<QPointer<QWidget>> open_forms_;
+  QPointer<QWidget> open_form_;  ///< the screen of a tally: one at a time
   bool activation_due_ = false;
   bool focus_served_ = false;  ///< the activation of the present turn at the focus has run
 };

@@ -15,6 +15,12 @@ void FocusText(QLineEdit& box) {
   box.selectAll();
 }
 
+void KeepRoomOf(QWidget& control) {
+  QSizePolicy room = control.sizePolicy();
+  room.setRetainSizeWhenHidden(true);
+  control.setSizePolicy(room);
+}
+
 void ShowButton(QPushButton& button, const ButtonView& view) {
   if (!view.caption.empty()) button.setText(Text(view.caption));
   button.setVisible(view.shown);

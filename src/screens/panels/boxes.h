@@ -14,6 +14,8 @@ namespace rbt {
 void ShowText(QLineEdit& box, std::string_view text);
 /// Puts the focus on a box and selects it.
 void FocusText(QLineEdit& box);
+/// The control's room stays its own while it is out of sight.
+void KeepRoomOf(QWidget& control);
 void ShowButton(QPushButton& button, const ButtonView& view);
 
 }  // namespace rbt

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "screens/panels/busy_notice.h"
 
+#include <QApplication>
+#include <QThread>
+#include <QWindow>
+
+#include "desktop/form.h"
 #include "desktop/texts.h"
 #include "ui_busy_notice.h"
 
@@ -13,5 +18,21 @@ BusyNotice::BusyNotice(QWidget* parent) : QFrame(parent), ui_(std::make_unique<U
 BusyNotice::~BusyNotice() = default;
 
 void BusyNotice::Tell(std::string_view words) { ui_->WaitMsgL->setText(Text(words)); }
+
+StartNotice::StartNotice() {
+  notice_.setWindowFlag(Qt::SplashScreen);
+  notice_.setObjectName("startNotice");
+  notice_.adjustSize();
+  Center_Form(notice_);
+  notice_.show();
+  // It is painted once the window system has put it up, which takes a few turns.
+  constexpr int kTurns = 20;
+  constexpr unsigned long kMilliseconds = 5;
+  for (int turn = 0; turn < kTurns && !notice_.windowHandle()->isExposed(); ++turn) {
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QThread::msleep(kMilliseconds);
+  }
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
 
 }  // namespace rbt

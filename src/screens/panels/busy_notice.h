@@ -25,4 +25,13 @@ class BusyNotice : public QFrame {
   std::unique_ptr<Ui::BusyNotice> ui_;
 };
 
+/// The same words in a window of their own, before the first form shows.
+class StartNotice {
+ public:
+  StartNotice();
+
+ private:
+  BusyNotice notice_;
+};
+
 }  // namespace rbt

@@ -2,12 +2,18 @@
 #include "screens/panels/date_boxes.h"
 
 #include <algorithm>
+#include <chrono>
+#include <optional>
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 
 #include "desktop/action.h"
 #include "desktop/form.h"
+#include "desktop/message_box.h"
+#include "platform/system/message.h"
 #include "screens/panels/boxes.h"
 #include "screens/panels/digit_box.h"
 #include "ui_date_boxes.h"
@@ -47,19 +53,36 @@ void DateBoxes::Show(const DateTexts& texts, bool enabled) {
   }
 }
 
-void DateBoxes::FocusYear() {
-  ui_->txtYear->setFocus();
-  ui_->txtYear->selectAll();
+void DateBoxes::FocusBox(std::size_t box) { FocusText(*boxes_.at(box)); }
+
+std::size_t DateBoxes::FocusedBox() const {
+  const auto at = std::find(boxes_.begin(), boxes_.end(), window()->focusWidget());
+  return static_cast<std::size_t>(at - boxes_.begin());
 }
 
-bool DateBoxes::CheckYear() {
-  if (date_->YearPasses()) return true;
-  FocusYear();
+bool DateBoxes::Accepts(std::size_t boxes) {
+  const std::optional<DateRefusal> refusal = date_->Refusal(boxes);
+  if (!refusal) return true;
+  MsgBox(refusal->text, window()->windowTitle().toStdString());
+  FocusBox(refusal->box);
   return false;
 }
 
+/// The mouse can leave the boxes too. A click is let come to its end first: it may put the boxes away.
+void DateBoxes::CheckAfterLeaving() {
+  constexpr std::chrono::milliseconds kClick{20};
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    QTimer::singleShot(kClick, this, &DateBoxes::CheckAfterLeaving);
+    return;
+  }
+  if (!ui_->txtYear->isEnabled() || MessageBoxOpen()) return;
+  // What lies to the left of the focus was passed by on the way there.
+  RunAction(*this, [this] { Accepts(FocusedBox()); });
+}
+
+/// Back to the left a box is left as it stands: what is wrong in it may have to be mended there.
 bool DateBoxes::Move(std::size_t from, int step) {
-  if (!CheckYear()) return true;
+  if (!Accepts(step > 0 ? from + 1 : from)) return true;
   const int to = static_cast<int>(from) + step;
   if (to < 0 || to >= static_cast<int>(boxes_.size())) return false;
   FocusText(*boxes_[static_cast<std::size_t>(to)]);
@@ -87,10 +110,8 @@ bool DateBoxes::AnswerKey(std::size_t box, int key) {
 
 bool DateBoxes::eventFilter(QObject* receiver, QEvent* event) {
   if (date_ == nullptr) return false;
-  if (event->type() == QEvent::FocusOut && receiver == ui_->txtYear) {
-    // The mouse can leave the box too; the focus comes back once the move is over.
-    QMetaObject::invokeMethod(
-        this, [this] { RunAction(*this, [this] { CheckYear(); }); }, Qt::QueuedConnection);
+  if (event->type() == QEvent::FocusOut) {
+    QMetaObject::invokeMethod(this, &DateBoxes::CheckAfterLeaving, Qt::QueuedConnection);
     return false;
   }
   if (event->type() != QEvent::KeyPress) return false;

@@ -32,6 +32,8 @@ class FilterPanel : public QFrame {
   QWidget* LastControl() const;
 
  private:
+  void HoldStill();
+
   std::unique_ptr<Ui::FilterPanel> ui_;
 };
 

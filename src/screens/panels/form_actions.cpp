@@ -3,9 +3,11 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPushButton>
 
 #include "desktop/action.h"
+#include "desktop/key_card.h"
 #include "desktop/key_table.h"
 #include "desktop/texts.h"
 
@@ -28,12 +30,30 @@ bool FormActions::CanBePressed(const FormAction& action) const {
   return button->isVisibleTo(&form_) && button->isEnabled();
 }
 
+bool FormActions::Acts(const FormAction& action) const {
+  return keys_act_ == KeysAct::always || CanBePressed(action);
+}
+
+void FormActions::ShowKeys() const {
+  std::vector<KeyCardRow> rows;
+  for (const FormAction& action : actions_) {
+    if (action.key == 0 || action.control.empty() || !Acts(action)) continue;
+    const auto* button = form_.findChild<QAbstractButton*>(Text(action.control));
+    rows.push_back({QKeySequence(action.key).toString(), button->text().simplified(), button->toolTip()});
+  }
+  ShowKeyCard(form_.windowTitle(), rows);
+}
+
 bool FormActions::Answer(const QKeyEvent& press) const {
+  if (press.modifiers().testFlag(Qt::ShiftModifier) && IsPress(press, Qt::Key_F1)) {
+    if (!IsRepeat(press)) ShowKeys();
+    return true;
+  }
   bool ours = false;
   for (const FormAction& action : actions_) {
     if (action.key == 0 || !IsPress(press, action.key)) continue;
     ours = true;
-    if (keys_act_ != KeysAct::always && !CanBePressed(action)) continue;
+    if (!Acts(action)) continue;
     if (!IsRepeat(press)) action.call();
     break;
   }

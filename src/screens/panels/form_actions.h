@@ -26,7 +26,8 @@ enum class KeysAct {
 };
 
 /// Wires a form by its table. What is called runs as an action of the form; a held key acts once. A check box
-/// turns over by itself at a click.
+/// turns over by itself at a click. Shift+F1 shows the keys that act now, each with the caption and the tool
+/// tip of its control.
 class FormActions : public QObject {
  public:
   FormActions(QWidget& form, std::vector<FormAction> actions, KeysAct keys_act);
@@ -34,6 +35,8 @@ class FormActions : public QObject {
  private:
   bool Answer(const QKeyEvent& press) const;
   bool CanBePressed(const FormAction& action) const;
+  bool Acts(const FormAction& action) const;
+  void ShowKeys() const;
 
   QWidget& form_;
   std::vector<FormAction> actions_;

@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 
+#include "desktop/texts.h"
 #include "ui_print_panel.h"
 
 namespace rbt {
@@ -25,6 +26,9 @@ void PrintPanel::Show(const PrintPanelView& view) {
     control->setEnabled(view.papers != Papers::none);
   }
   ui_->chkPreview->setChecked(view.preview);
+  ui_->lblPrinter->setText(Text(view.printer_notice));
+  ui_->lblPrinter->setVisible(!view.printer_notice.empty());
+  ui_->btnPrinter->setVisible(view.offers_printers);
 }
 
 void PrintPanel::Focus(FocusTarget target) {

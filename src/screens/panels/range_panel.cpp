@@ -38,7 +38,21 @@ void RangePanel::Show(const RangeView& view) {
 
 void RangePanel::FocusBox(std::size_t box) { FocusText(*boxes_.at(box)); }
 
+bool RangePanel::HoldsFocus() const {
+  return std::find(boxes_.begin(), boxes_.end(), window()->focusWidget()) != boxes_.end();
+}
+
 bool RangePanel::eventFilter(QObject* receiver, QEvent* event) {
+  if (event->type() == QEvent::FocusOut && intents_.leave) {
+    // Where the focus goes shows once the move is over; within the boxes, and to another window, is no leave.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (!HoldsFocus()) RunAction(*this, intents_.leave);
+        },
+        Qt::QueuedConnection);
+    return false;
+  }
   if (event->type() != QEvent::KeyPress) return false;
   const auto at = std::find(boxes_.begin(), boxes_.end(), receiver);
   if (at == boxes_.end()) return false;

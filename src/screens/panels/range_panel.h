@@ -17,6 +17,7 @@ namespace rbt {
 struct RangeIntents {
   std::function<void(std::size_t box, std::string text)> type;
   std::function<void(std::size_t box)> enter;  ///< Enter in the box
+  std::function<void()> leave = {};            ///< the focus has left the boxes for another control
 };
 
 /// The range of the schedule that a scoped tally asks for. Enter is passed on, Up moves back.
@@ -40,6 +41,8 @@ class RangePanel : public QFrame {
   void SetBoxes(std::vector<QLineEdit*> boxes);
 
  private:
+  bool HoldsFocus() const;
+
   std::vector<QLineEdit*> boxes_;
   RangeIntents intents_;
 };

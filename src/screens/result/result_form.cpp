@@ -10,9 +10,11 @@
 #include "desktop/form.h"
 #include "desktop/texts.h"
 #include "screens/panels/date_boxes.h"
+#include "screens/panels/hint_line.h"
 #include "screens/panels/page_range_panel.h"
 #include "screens/panels/shape_range_panel.h"
 #include "session/panels/at_end.h"
+#include "session/result/result_hints.h"
 #include "ui_result_form.h"
 
 namespace rbt {
@@ -30,6 +32,8 @@ ResultForm::ResultForm(const ResultScreen& screen, ResultParts parts)
   ui_->filterPanel->OnUplift([this](std::string text) { presenter_.TypeUplift(std::move(text)); },
                              [this] { Do(&ResultPresenter::TakeUplift); });
   ConnectActions();
+  FloatBusyNotice();
+  new HintLine(*this, *ui_->lblHelp, ResultHints());
   presenter_.OnShow([this] { Show(); });
   Show();
 }
@@ -70,7 +74,25 @@ void ResultForm::PlaceRange() {
   range_->Bind(
       {.type = [this](std::size_t box, std::string text) { presenter_.TypeRange(box, std::move(text)); },
        .enter =
-           [this](std::size_t box) { Do([box](ResultPresenter& screen) { screen.EnterRangeBox(box); }); }});
+           [this](std::size_t box) { Do([box](ResultPresenter& screen) { screen.EnterRangeBox(box); }); },
+       .leave = [this] { Do(&ResultPresenter::LeaveRange); }});
+}
+
+/// The wait notice lies over the grid: in the layout it would move everything at each press.
+void ResultForm::FloatBusyNotice() {
+  ui_->formLayout->removeWidget(ui_->SSPanel4);
+  ui_->SSPanel4->setAutoFillBackground(true);
+  ui_->SSPanel4->hide();
+}
+
+void ResultForm::ShowBusy(bool busy) {
+  if (busy) {
+    const QRect place = ui_->dbgJS->isVisible() ? ui_->dbgJS->geometry() : rect();
+    ui_->SSPanel4->adjustSize();
+    ui_->SSPanel4->move(place.center() - ui_->SSPanel4->rect().center());
+    ui_->SSPanel4->raise();
+  }
+  ui_->SSPanel4->setVisible(busy);
 }
 
 void ResultForm::Do(const std::function<void(ResultPresenter&)>& intent) {
@@ -105,7 +127,6 @@ void ResultForm::ShowPanels(const ResultScreenView& view) {
   ui_->SSPanel3->Show(view.print_panel);
   std::vector<std::pair<QWidget*, bool>> panels{{ui_->filterPanel, view.result_shown},
                                                 {ui_->dbgJS, view.result_shown},
-                                                {ui_->SSPanel4, view.busy},
                                                 {ui_->SSPanel2, view.main_buttons_shown},
                                                 {ui_->SSPanel3, view.print_panel.open}};
   if (range_ != nullptr) {
@@ -113,6 +134,8 @@ void ResultForm::ShowPanels(const ResultScreenView& view) {
     ui_->formLayout->setStretchFactor(range_, view.result_shown ? 0 : 1);
     panels.emplace_back(range_, view.range.shown);
   }
+  ShowBusy(view.busy);
+  ui_->lblNotice->setText(Text(view.notice));
   // One takes another's place: the form must not grow to hold both.
   for (const auto& [panel, shown] : panels) {
     if (!shown) panel->hide();
@@ -135,7 +158,7 @@ void ResultForm::Focus(const FocusRequest& request) {
     case FocusTarget::leave:
       return ui_->cmdExit->setFocus();
     case FocusTarget::year:
-      return ui_->SSPanel1->Dates().FocusYear();
+      return ui_->SSPanel1->Dates().FocusBox(request.box);
     case FocusTarget::a4_landscape:
     case FocusTarget::a4_portrait:
     case FocusTarget::settings:

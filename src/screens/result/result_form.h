@@ -42,6 +42,8 @@ class ResultForm : public QWidget {
 
   void TakeControls();
   void PlaceRange();
+  void FloatBusyNotice();
+  void ShowBusy(bool busy);
   void ConnectActions();
   /// Passes an intent on and shows what has become of it, whatever ends it.
   void Do(const std::function<void(ResultPresenter&)>& intent);

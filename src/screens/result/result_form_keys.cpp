@@ -32,11 +32,11 @@ const std::vector<ResultForm::Action>& ResultForm::Actions() {
       {"cmdurubon", Qt::Key_F3, &P::PrintUlbonOfToday, &O::ulbon_print, &V::ulbon},
       {"cmdPrint2", 0, [](P& screen) { screen.OpenPrint(SheetBody::deformed_alone); }, &O::deformed_print,
        &V::print_deformed},
-      {"CmdVReturn", 0, &P::RestoreValues, &O::uplift, &V::restore_values},
+      {"CmdVReturn", Qt::Key_F4, &P::RestoreValues, &O::uplift, &V::restore_values},
       {"cmdMeisai", Qt::Key_F5, &P::ShowDetail, nullptr, &V::show_detail},
       {"cmdPGChange", Qt::Key_F7, &P::AskForRange, &O::range_change, &V::change_range},
       {"Command6", Qt::Key_F6, &P::ToggleAccumulation, &O::accumulation, &V::toggle_accumulation},
-      {"cmdExit", Qt::Key_Escape, &P::Leave, nullptr, &V::leave},
+      {"cmdExit", Qt::Key_Escape, &P::TurnBack, nullptr, &V::leave},
       {"Command1", 0, &P::Recalculate},
       {"Command2", 0, &P::ChooseForms, &O::form_choice},
       {"Command3", 0, &P::ChooseKinds},
@@ -46,6 +46,7 @@ const std::vector<ResultForm::Action>& ResultForm::Actions() {
       {"btnA4T", Qt::Key_F3, [](P& screen) { screen.Print(ReportPaper::a4t); }},
       {"btnB5Y", Qt::Key_F5, [](P& screen) { screen.Print(ReportPaper::b5y); }},
       {"chkPreview", Qt::Key_F8, [](P& screen) { screen.PrintPanel().TogglePreview(); }},
+      {"btnPrinter", Qt::Key_F9, [](P& screen) { screen.PrintPanel().ChoosePrinter(); }},
       {"btnSettei", Qt::Key_F7, &P::OpenSettings},
       {"btnReturn", Qt::Key_Escape, &P::ClosePrint},
   };
@@ -65,6 +66,8 @@ void ResultForm::ConnectActions() {
   for (const Action& action : Actions()) {
     if (!action.IsOn(presenter_.Screen())) continue;
     actions.push_back({action.control, action.key, [this, &action] { Do(action.intent); }});
+    // A main button that goes for a while leaves its room: the others stay where the hand knows them.
+    if (action.main_view != nullptr) KeepRoomOf(*findChild<QPushButton*>(action.control));
   }
   new FormActions(*this, std::move(actions), KeysAct::where_the_control_can_be_pressed);
 }

@@ -2,6 +2,7 @@
 #include "screens/result/result_forms.h"
 
 #include "desktop/preview_form.h"
+#include "desktop/printer_choice.h"
 #include "screens/result/result_form.h"
 #include "screens/selection/selection_dialogs.h"
 #include "screens/settings/settings_forms.h"
@@ -15,7 +16,8 @@ std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
   parts.choose_kinds = ChooseKinds;
   parts.choose_forms = ChooseForms;
   parts.open_settings = OpenSettings;
-  parts.print = [](const PrintOrder& order) { CarryOut(order, ShowPreview); };
+  parts.print = [](const PrintOrder& order) { return CarryOut(order, ShowPreview); };
+  parts.choose_printer = ChoosePrinter;
   return std::make_unique<ResultForm>(screen, std::move(parts));
 }
 

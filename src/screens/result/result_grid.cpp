@@ -31,6 +31,7 @@ void ResultGrid::Show(const ResultScreenView& view) {
   if (view.ulbon_view != ulbon_view_) LayOut();
   ulbon_view_ = view.ulbon_view;
   SetRows(view.rows);
+  SetTotals(view.totals);
   SetAlternateColours(view.colours ? ColourOfRgb(view.colours->back) : QColor(),
                       view.colours ? ColourOfRgb(view.colours->fore) : QColor());
 }

@@ -29,6 +29,7 @@ struct Leaves {};
 struct MenuEntry {
   std::string_view control;
   std::variant<OpensTally, RunsSibling, RunsNameCompanion, RunsStockFitter, OpensSettings, Leaves> starts;
+  std::string_view hint;  ///< what the user is told of that
 };
 
 /// All entries, in the order of their keys.

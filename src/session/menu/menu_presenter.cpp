@@ -56,17 +56,22 @@ MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int statu
 
 void MenuPresenter::Load() {
   const LoadResult result = parts_.load();
-  if (result.hand_over_to) {
-    RunAndWait(*result.hand_over_to, WindowStyle::normal);
-    return End(EXIT_SUCCESS);
-  }
+  if (result.hand_over_to) return HandOver(*result.hand_over_to);
   window_.ShowLoad({result.shows_plate_sheet, RunState.RunDate, RunState.RunTime});
 }
 
+/// The program that reads a newer site takes this one's place.
+void MenuPresenter::HandOver(const std::string& program) {
+  window_.Hide();
+  RunAndWait(program, WindowStyle::normal);
+  End(EXIT_SUCCESS);
+}
+
 void MenuPresenter::Activate() {
-  if (ended_) return;
+  if (ended_ || window_.HasOpenForm()) return;
   if (Selection.StartMode.PassesOn()) window_.Minimise();
   const MenuState state = parts_.activate();
+  if (state.hand_over_to) return HandOver(*state.hand_over_to);
   window_.ShowState(state);
   if (state.pass_on_to) PassOn(*state.pass_on_to);
 }
@@ -78,13 +83,14 @@ void MenuPresenter::PassOn(const std::string& command_line) {
 }
 
 void MenuPresenter::Start(std::string_view control) {
+  if (window_.RaiseOpenForm()) return;
   std::visit([this](const auto& starts) { Begin(starts); }, FindMenuEntry(control).starts);
 }
 
 void MenuPresenter::Begin(const OpensTally& tally) {
   Selection.TallyKind = tally.kind;
   // Without its form the menu stays in sight; the hand-over is the same.
-  if (RequireForm(tally.form, RowOf(tally.kind).name) && !window_.RaiseForm(tally.form)) {
+  if (RequireForm(tally.form, RowOf(tally.kind).name)) {
     std::optional<OutOfSight> hidden;
     if (tally.kind != TallyKind::bulk) hidden.emplace(*this);
     window_.OpenForm(tally.form);

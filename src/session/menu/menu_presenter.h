@@ -44,8 +44,10 @@ class MenuWindow {
 
   /// Forms are known by their object names. True when there is such a form.
   virtual bool HasForm(std::string_view form) const = 0;
-  /// Brings a form that is open to the front; false when it is not open.
-  virtual bool RaiseForm(std::string_view form) = 0;
+  /// True while the screen of a tally is open.
+  virtual bool HasOpenForm() const = 0;
+  /// Brings the tally's screen that is open to the front; false when none is.
+  virtual bool RaiseOpenForm() = 0;
   /// Makes and loads a form and shows it beside the menu; the menu is shown again when it is closed. Throws
   /// what keeps it from loading.
   virtual void OpenForm(std::string_view form) = 0;
@@ -56,16 +58,22 @@ class MenuWindow {
 /// The menu without its window: load, activation, and what each entry starts. Entries act in whatever state
 /// their buttons are, hidden ones included. A fault of load or activation is for the caller to end the
 /// program with; one of an entry leaves the menu in sight.
+///
+/// While the screen of a tally is open, the menu starts nothing and no activation runs: either would pull
+/// selection and site from under what that screen shows.
 class MenuPresenter {
  public:
   MenuPresenter(MenuParts parts, MenuWindow& window) : parts_(std::move(parts)), window_(window) {}
 
   /// Once, before the menu is shown. A newer site's program takes over, and this one ends.
   void Load();
-  /// At every turn of the menu at the focus. A start mode that passes on runs its companion and ends.
+  /// At every turn of the menu at the focus; with a screen open, at the turn after its end. A start mode that
+  /// passes on runs its companion and ends.
   void Activate();
-  /// What the entry of a control starts.
+  /// What the entry of a control starts. With a screen open, that comes to the front instead.
   void Start(std::string_view control);
+  /// A click beside the entries.
+  void LeadBack() { window_.RaiseOpenForm(); }
   /// Writes an accumulation that is on, and ends the program.
   void Leave();
 
@@ -82,6 +90,7 @@ class MenuPresenter {
   void Begin(const OpensSettings& entry);
   void Begin(const Leaves& entry);
 
+  void HandOver(const std::string& program);
   void CallSibling(const Sibling& sibling);
   void PassOn(const std::string& command_line);
   bool RequireForm(std::string_view form, std::string_view caption) const;

@@ -5,6 +5,7 @@
 
 #include "platform/print/diverted_deliveries.h"
 #include "platform/system/printing.h"
+#include "session/panels/printer_notice.h"
 
 namespace rbt {
 
@@ -20,9 +21,11 @@ std::vector<PrintedDocument> PrintKeepingPreviews(bool look_first, const std::fu
 
 }  // namespace
 
-void PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview) {
+std::string PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview) {
   std::vector<PrintedDocument> documents = PrintKeepingPreviews(look_first, print);
-  if (!documents.empty()) preview(std::move(documents));
+  if (documents.empty()) return PrinterOfSheets();
+  preview(std::move(documents));
+  return "";
 }
 
 }  // namespace rbt

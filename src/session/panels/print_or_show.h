@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/print/printed_document.h"
@@ -12,8 +13,8 @@ namespace rbt {
 using Preview = std::function<void(std::vector<PrintedDocument>)>;
 
 /// Prints. What the user wants to look at first, and what goes to the PDF device, is handed to `preview`
-/// instead, once `print` has brought the printer back. Throws what `print` throws; nothing is printed or
-/// shown then.
-void PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview);
+/// instead, once `print` has brought the printer back. Returns the printer that the sheet was sent to, empty
+/// for the preview. Throws what `print` throws; nothing is printed or shown then.
+std::string PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview);
 
 }  // namespace rbt

@@ -7,6 +7,7 @@ FocusTarget PrintPanelPresenter::Open(Papers papers) {
   open_ = true;
   papers_ = papers;
   date_.FillEmpty();
+  printer_ = LookForPrinter();
   switch (papers) {
     case Papers::ulbon:
       return FocusTarget::a4_portrait;
@@ -16,6 +17,12 @@ FocusTarget PrintPanelPresenter::Open(Papers papers) {
       break;
   }
   return FocusTarget::a4_landscape;
+}
+
+void PrintPanelPresenter::ChoosePrinter() {
+  if (!ask_printer_ || printer_.printers.empty()) return;
+  if (const std::optional<std::string> taken = ask_printer_(printer_.printers)) TakePrinter(*taken);
+  printer_ = LookForPrinter();
 }
 
 }  // namespace rbt

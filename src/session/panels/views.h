@@ -56,6 +56,7 @@ struct FilterView {
   ButtonView cycle_plates;
   UpliftView uplift;
   bool accumulating = false;  ///< tells that sites are being added up
+  std::string range = {};     ///< of the rows that the result is of; empty: all, or told elsewhere
   std::string warning;        ///< empty: there is none
 };
 
@@ -79,17 +80,35 @@ struct PrintPanelView {
   bool open = false;
   Papers papers = Papers::all;
   bool preview = false;
-  bool has_memo = true;  ///< the sheets bear a memo line
-  std::string memo;      ///< shown while the panel is open
-  DateTexts date;        ///< can be changed while the panel is open
+  bool has_memo = true;             ///< the sheets bear a memo line
+  std::string memo;                 ///< shown while the panel is open
+  DateTexts date;                   ///< can be changed while the panel is open
+  std::string printer_notice = {};  ///< empty: sheets go to the printer of the settings
+  bool offers_printers = false;     ///< another printer can be taken
+};
+
+/// What a form tells of a control: as its tool tip, and in the status line while it has the focus.
+struct ControlHint {
+  std::string_view control;
+  std::string_view hint;
 };
 
 /// Where the focus goes.
-enum class FocusTarget { stays, grid, uplift, range, leave, a4_landscape, a4_portrait, settings, year };
+enum class FocusTarget {
+  stays,
+  grid,
+  uplift,
+  range,
+  leave,
+  a4_landscape,
+  a4_portrait,
+  settings,
+  year  ///< of the date, or the box that many to its right
+};
 
 struct FocusRequest {
   FocusTarget target = FocusTarget::stays;
-  std::size_t box = 0;  ///< of the range, from the left
+  std::size_t box = 0;  ///< of the range or the date, from the left
 
   friend bool operator==(const FocusRequest&, const FocusRequest&) = default;
 };

@@ -15,8 +15,8 @@ void Print(const PrintOrder& order) {
 
 }  // namespace
 
-void CarryOut(const PrintOrder& order, const Preview& preview) {
-  PrintOrShow(
+std::string CarryOut(const PrintOrder& order, const Preview& preview) {
+  return PrintOrShow(
       order.preview, [&] { Print(order); }, preview);
 }
 

@@ -23,8 +23,8 @@ struct PrintOrder {
 
 /// Draws the sheet from its result and the bound site, with Ulbon and spiral rows as `RunState.ReportBody`
 /// has it, and prints it. What the user wants to look at first, and what goes to the PDF device, is handed to
-/// `preview` instead, the printer being back as it was. Throws what keeps the sheet from the printer; nothing
-/// is printed or shown then.
-void CarryOut(const PrintOrder& order, const Preview& preview);
+/// `preview` instead, the printer being back as it was. Returns the printer that the sheet was sent to, empty
+/// for the preview. Throws what keeps the sheet from the printer; nothing is printed or shown then.
+std::string CarryOut(const PrintOrder& order, const Preview& preview);
 
 }  // namespace rbt

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "session/result/range_input.h"
 
+#include <fmt/format.h>
+
 #include "platform/numbers/number_words.h"
 #include "shell/context/site_context.h"
 
@@ -40,6 +42,10 @@ class PositionInput : public RangeInput {
     selection.EndPage = ShortNumber(2);
     selection.EndLine = ShortNumber(3);
   }
+
+  std::string InWords(const std::vector<std::string>& boxes) const override {
+    return fmt::format("{}頁 {}行 ～ {}頁 {}行", boxes[0], boxes[1], boxes[2], boxes[3]);
+  }
 };
 
 /// First and last shape.
@@ -63,6 +69,10 @@ class ShapeInput : public RangeInput {
   void WriteTo(SelectionData& selection) const override {
     selection.ShapeStart = Number(0);
     selection.ShapeEnd = Number(1);
+  }
+
+  std::string InWords(const std::vector<std::string>& boxes) const override {
+    return fmt::format("形状No {} ～ {}", boxes[0], boxes[1]);
   }
 
  private:

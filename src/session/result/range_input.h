@@ -40,6 +40,13 @@ class RangeInput {
   /// Faults: `overflow` of a page or line beyond 16 bits.
   virtual void WriteTo(SelectionData& selection) const = 0;
 
+  /// Keeps the boxes as they are, as the range of the result that is shown.
+  void Keep() { kept_ = texts_; }
+  /// Sets the boxes back to that range.
+  void BringBack() { texts_ = kept_; }
+  /// That range in words; empty before one was taken.
+  std::string Told() const { return kept_.empty() ? "" : InWords(kept_); }
+
   RangeView View() const { return {.has_rows = has_rows_, .texts = texts_}; }
 
  protected:
@@ -50,11 +57,13 @@ class RangeInput {
   void SetNumber(std::size_t box, std::int32_t number) { texts_.at(box) = std::to_string(number); }
   std::int32_t Number(std::size_t box) const;
   std::int16_t ShortNumber(std::size_t box) const;
+  virtual std::string InWords(const std::vector<std::string>& boxes) const = 0;
   void SetHasRows(bool has_rows) { has_rows_ = has_rows; }
 
  private:
   std::vector<std::string_view> controls_;
   std::vector<std::string> texts_;
+  std::vector<std::string> kept_;
   bool has_rows_ = true;
 };
 

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/fault.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
 #include "platform/system/process.h"
@@ -26,6 +27,7 @@ constexpr std::string_view kAllKindsAfterReset = "異形・高強度・ネジ・
 
 ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)
     : screen_(screen), parts_(std::move(parts)), range_(MakeRangeInput(screen.Range())) {
+  print_panel_.OfferPrinters(parts_.choose_printer);
   SetSelectionDefaults();
   BindChosenSite();
   head_ = ReadHead();
@@ -60,8 +62,11 @@ void ResultPresenter::Tally() {
 void ResultPresenter::Fill() {
   const double percent = LeadingNumber(filters_.uplift.text);
   result_ = WithUlbonRaised(std::move(result_), static_cast<std::int32_t>(percent));
-  rows_ = ResultRows(result_, {ulbon_view_, DiameterGradeNames()});
+  const ResultView look{ulbon_view_, DiameterGradeNames()};
+  rows_ = ResultRows(result_, look);
+  totals_ = ResultTotals(result_, look);
   colours_ = AlternateColours();
+  filters_.range = range_ != nullptr && range_->GivesWay() ? range_->Told() : "";
   filters_.warning = screen_.offers.stock_warning ? result_.Grid().StockWarningText : "";
 }
 
@@ -73,6 +78,7 @@ void ResultPresenter::Rerun(const std::function<void()>& change) {
   });
   const AtEnd idle([this] { busy_ = false; });
   busy_ = true;
+  notice_.clear();
   if (show_) show_();
   RunPendingEvents();
   change();
@@ -111,7 +117,7 @@ void ResultPresenter::OfferModes() {
 }
 
 void ResultPresenter::DecideAvailability() {
-  offers_print_ = ShowsWholePicture(ulbon_view_);
+  offers_print_ = ShowsWholePicture();
   if (print_panel_.IsOpen()) print_panel_.OfferPapers(PapersNow());
 }
 
@@ -123,10 +129,8 @@ void ResultPresenter::Recalculate() {
 
 void ResultPresenter::ChooseForms() {
   if (!parts_.choose_forms) return SayNotReady("材料変更");
-  Rerun([this] {
-    parts_.choose_forms();
-    Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask);
-  });
+  parts_.choose_forms();
+  Rerun([] { Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask); });
 }
 
 void ResultPresenter::ChooseKinds() {
@@ -153,20 +157,41 @@ void ResultPresenter::ShowUlbonView() {
   FocusOn(FocusTarget::grid);
 }
 
+void ResultPresenter::ShowNormalView() {
+  ulbon_view_ = false;
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
+void ResultPresenter::TurnBack() {
+  if (filters_.uplift.shown && filters_.uplift.enabled) return GiveUpUplift();
+  if (ulbon_view_) return ShowNormalView();
+  Leave();
+}
+
 void ResultPresenter::BeginUplift() {
   filters_.uplift.shown = true;
   filters_.uplift.enabled = true;
   FocusOn(FocusTarget::uplift);
 }
 
+/// Back to what was taken before, whatever has been typed since.
+void ResultPresenter::GiveUpUplift() {
+  filters_.uplift = {.shown = !taken_uplift_.empty(), .enabled = false, .text = taken_uplift_};
+  Fill();
+  FocusOn(FocusTarget::grid);
+}
+
 void ResultPresenter::TakeUplift() {
   Fill();
   filters_.uplift.enabled = false;
+  taken_uplift_ = filters_.uplift.text;
   FocusOn(FocusTarget::grid);
 }
 
 void ResultPresenter::RestoreValues() {
   filters_.uplift.text.clear();
+  taken_uplift_.clear();
   filters_.uplift.shown = false;
   Tally();
   Fill();
@@ -198,7 +223,12 @@ void ResultPresenter::TakeRange() {
     if (!Passes(box)) return;
   }
   range_->WriteTo(Selection);
+  range_->Keep();
   RunRange();
+}
+
+void ResultPresenter::LeaveRange() {
+  if (range_ != nullptr && tally_ran_) range_->BringBack();
 }
 
 void ResultPresenter::RunRange() {
@@ -224,6 +254,7 @@ void ResultPresenter::AskForRange() {
 
 void ResultPresenter::ResetFilters() {
   Selection.MaterialKindMask = kAllKinds;
+  Selection.IncludeUlbon = true;
   Selection.AnchorPlateMode = ShapeFilter::with_others;
   Selection.HoopMode = ShapeFilter::with_others;
   filters_.kinds = kAllKindsAfterReset;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "session/panels/print_panel_presenter.h"
 #include "session/result/range_input.h"
@@ -55,6 +56,9 @@ class ResultPresenter {
   /// All tests once more, since Tab and the mouse pass boxes by, then the tally. Nothing when there is no
   /// range to take.
   void TakeRange();
+  /// The input has left the boxes: what was typed there and not taken goes, beside a result the boxes tell
+  /// the range that it is of.
+  void LeaveRange();
   /// Back to the input of a range, with all filters reset.
   void AskForRange();
 
@@ -69,11 +73,16 @@ class ResultPresenter {
 
   void ShowDetail();
   void ToggleAccumulation();
+  /// One step back: from the box of the uplift, else from the Ulbon rows to the whole tally, else off the
+  /// screen.
+  void TurnBack();
   /// Once: the selection is as the menu expects it and the site database closed.
   void Leave();
 
  private:
   void FirstRun();
+  void ShowNormalView();
+  void GiveUpUplift();
   void RunRange();
   bool Passes(std::size_t box);
   void ResetFilters();
@@ -96,6 +105,7 @@ class ResultPresenter {
   void FocusOn(FocusTarget target, std::size_t box = 0) { focus_ = {target, box}; }
   void FocusWork();
   FilterView Filters() const;
+  std::string_view PrintCaption() const;
   void SetMainButtons(ResultScreenView& view) const;
 
   ResultScreen screen_;
@@ -106,9 +116,12 @@ class ResultPresenter {
 
   HeadView head_;
   FilterView filters_;
-  TallyResult result_;  ///< what the screen shows, and prints
+  std::string taken_uplift_;  ///< the text that raises the rows, as it was taken last
+  TallyResult result_;        ///< what the screen shows, and prints
   GridRows rows_;
+  std::vector<std::size_t> totals_;
   std::optional<RowColours> colours_;
+  std::string notice_;
   bool ulbon_view_ = false;
   bool tally_ran_ = false;
   bool result_shown_ = true;  ///< filters and grid

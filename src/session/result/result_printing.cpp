@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The result screen's panel of print buttons, its ways out, and the view.
+#include <optional>
 #include <utility>
 
+#include <fmt/format.h>
+
+#include "platform/system/message.h"
 #include "session/panels/not_ready.h"
 #include "session/result/result_presenter.h"
 #include "shell/context/run_state.h"
@@ -12,6 +16,7 @@ namespace rbt {
 
 namespace {
 
+constexpr std::string_view kTotalsPrintCaption = "合計表印字(F1)";
 constexpr std::string_view kUlbonPrintCaption = "ｳﾙﾎﾞﾝ印字(F1)";
 
 /// The number that reports take.
@@ -21,11 +26,12 @@ std::int32_t NumberOf(SheetBody body) { return body == SheetBody::with_ulbon ? 1
 
 void ResultPresenter::OpenPrint(SheetBody body) {
   RunState.ReportBody = NumberOf(body);
+  notice_.clear();
   FocusOn(print_panel_.Open(PapersNow()));
 }
 
 Papers ResultPresenter::PapersNow() const {
-  if (!tally_ran_ || !ShowsWholePicture(false)) return Papers::none;
+  if (!tally_ran_ || !ShowsWholePicture()) return Papers::none;
   return ulbon_view_ ? Papers::ulbon : Papers::all;
 }
 
@@ -35,7 +41,10 @@ void ResultPresenter::ClosePrint() {
 }
 
 void ResultPresenter::Print(ReportPaper paper) {
-  if (!print_panel_.Date().YearPasses()) return FocusOn(FocusTarget::year);
+  if (const std::optional<DateRefusal> refusal = print_panel_.Date().Refusal()) {
+    MsgBox(refusal->text, screen_.title);
+    return FocusOn(FocusTarget::year, refusal->box);
+  }
   const bool printed = PrintSheet(Order(paper, ulbon_view_));
   // The scoped screens stay in the panel, for another sheet.
   if (printed && !screen_.IsScoped()) ClosePrint();
@@ -62,7 +71,8 @@ bool ResultPresenter::PrintSheet(const PrintOrder& order) {
     SayNotReady("印字");
     return false;
   }
-  parts_.print(order);
+  const std::string printer = parts_.print(order);
+  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
   return true;
 }
 
@@ -101,12 +111,14 @@ ResultScreenView ResultPresenter::View() {
   view.result_shown = result_shown_;
   view.filters = Filters();
   view.rows = rows_;
+  view.totals = totals_;
   view.colours = colours_;
   view.ulbon_view = ulbon_view_;
   view.busy = busy_;
   view.main_buttons_shown = !print_panel_.IsOpen();
   SetMainButtons(view);
   view.print_panel = print_panel_.View();
+  view.notice = notice_;
   view.focus = std::exchange(focus_, {});
   view.left = left_;
   return view;
@@ -121,14 +133,20 @@ FilterView ResultPresenter::Filters() const {
   return view;
 }
 
+/// Empty on a screen without the Ulbon view: as it is designed.
+std::string_view ResultPresenter::PrintCaption() const {
+  if (!screen_.offers.ulbon_view) return "";
+  return ulbon_view_ ? kUlbonPrintCaption : kTotalsPrintCaption;
+}
+
 void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   const ResultOffers& offers = screen_.offers;
   const bool idle = !busy_;
   const bool idle_result = idle && result_shown_;
-  view.print = {offers_print_, idle, ulbon_view_ ? kUlbonPrintCaption : ""};
+  view.print = {offers_print_, idle, PrintCaption()};
   view.show_ulbon_view = {offers.ulbon_view && !ulbon_view_};
   view.ulbon = {offers.uplift || (offers.ulbon_print && offers_print_), idle_result};
-  view.print_deformed = {offers.deformed_print && offers_print_, idle};
+  view.print_deformed = {offers.deformed_print && offers_print_ && !ulbon_view_, idle};
   view.restore_values = {offers.uplift};
   view.show_detail = {true, idle_result};
   view.change_range = {offers.range_change, idle_result};

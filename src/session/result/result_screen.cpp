@@ -16,11 +16,11 @@ void SetSelectionDefaults() {
   Selection.AnchorPlateMode = ShapeFilter::with_others;
 }
 
-bool ShowsWholePicture(bool ulbon_view) {
+bool ShowsWholePicture() {
   const FormMask forms = Selection.MaterialFormMask;
   return Selection.MaterialKindMask.IsAll() && (forms.IsNone() || forms.IsAll()) &&
          Selection.AnchorPlateMode == ShapeFilter::with_others &&
-         Selection.HoopMode == ShapeFilter::with_others && !ulbon_view;
+         Selection.HoopMode == ShapeFilter::with_others;
 }
 
 }  // namespace rbt

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "data/form_mask.h"
+#include "session/panels/print_panel_presenter.h"
 #include "session/panels/views.h"
 #include "session/result/print_order.h"
 #include "tally/kinds/tally_kinds.h"
@@ -53,16 +54,18 @@ struct ResultParts {
   std::function<void()> choose_kinds;   ///< the dialog of material kinds, on the selection
   std::function<void()> choose_forms;   ///< the dialog of material forms
   std::function<void()> open_settings;  ///< SETJS
-  std::function<void(const PrintOrder&)> print;
-  std::function<void()> open_detail;          ///< ZAIMEI in place of the form
-  std::function<void()> toggle_accumulation;  ///< of several sites
+  /// Gives the printer that took the sheet, empty for none.
+  std::function<std::string(const PrintOrder&)> print;
+  PrintPanelPresenter::AskPrinter choose_printer = {};  ///< in place of one that is not there
+  std::function<void()> open_detail;                    ///< ZAIMEI in place of the form
+  std::function<void()> toggle_accumulation;            ///< of several sites
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are
 /// being added up.
 void SetSelectionDefaults();
 
-/// True for the whole picture: only that may be printed and added up across sites.
-bool ShowsWholePicture(bool ulbon_view);
+/// True while no filter narrows the picture: only the whole one may be printed and added up across sites.
+bool ShowsWholePicture();
 
 }  // namespace rbt

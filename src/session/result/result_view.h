@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "session/panels/row_colours.h"
 #include "session/panels/views.h"
@@ -16,9 +19,10 @@ struct ResultScreenView {
   bool result_shown = true;  ///< filters and grid; a scoped screen has none before its tally
   FilterView filters;
   GridRows rows;
-  std::optional<RowColours> colours;  ///< nothing: all rows are alike
-  bool ulbon_view = false;            ///< the grid holds the Ulbon rows alone
-  bool busy = false;                  ///< a tally runs: the wait notice shows
+  std::vector<std::size_t> totals = {};  ///< rows that are sums of others
+  std::optional<RowColours> colours;     ///< nothing: all rows are alike
+  bool ulbon_view = false;               ///< the grid holds the Ulbon rows alone
+  bool busy = false;                     ///< a tally runs: the wait notice shows
 
   bool main_buttons_shown = true;
   ButtonView print;
@@ -32,6 +36,7 @@ struct ResultScreenView {
   ButtonView leave;
 
   PrintPanelView print_panel;
+  std::string notice = {};  ///< what has become of the last sheet
   FocusRequest focus;
   bool left = false;  ///< the screen is to be closed
 };

@@ -13,6 +13,8 @@ namespace {
 constexpr std::string_view kTitle = "その他設定";
 constexpr std::int32_t kEraStyle = 2;
 constexpr std::int32_t kOwnTitle = 3;
+/// No option stands for this number.
+constexpr std::int32_t kNoOption = -1;
 /// Ten full-width characters, which the report's title has room for.
 constexpr std::size_t kTitleBytes = 20;
 
@@ -27,11 +29,24 @@ bool CodePageHolds(std::string_view text) {
 SettingsPresenter::SettingsPresenter() : stored_title_(ReadSteelIni(kReportTitleTextKey)) {
   for (const NumberKey& key :
        {kDateStyleKey, kComparisonKindKey, kReportTitleChoiceKey, kWeldedHoopWeldsKey}) {
-    values_[key.key] = ReadSetting(key);
+    ReadOrNote(key);
   }
+  TellUnreadable();
   values_[kAlternateRowColoursKey.key] = OneOrZero(Settings.AlternateRowColours == 1);
   values_[kDetailShowsWeightKey.key] = OneOrZero(Settings.DetailShowsWeight == 1);
   values_[kPrintEmptyDiametersKey.key] = OneOrZero(Settings.PrintEmptyDiameters == 1);
+}
+
+/// One that cannot be read stands for none of its options until the user chooses anew.
+void SettingsPresenter::ReadOrNote(const NumberKey& key) {
+  const auto fault = PassOverFaults(FaultKind::type_mismatch, [&] { values_[key.key] = ReadSetting(key); });
+  if (!fault) return;
+  values_[key.key] = kNoOption;
+  unreadable_ += "\n" + fault->Where();
+}
+
+void SettingsPresenter::TellUnreadable() const {
+  if (!unreadable_.empty()) MsgBox("読めない設定があります。選び直して下さい。\n" + unreadable_, kTitle);
 }
 
 SettingsView SettingsPresenter::View() const {

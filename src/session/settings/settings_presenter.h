@@ -20,8 +20,9 @@ struct SettingsView {
 };
 
 /// The settings of dates, reports and grids without their window. A choice is saved at once; one that cannot
-/// be saved is to be taken back. The title is written at the end. Faults: `type mismatch` of a stored text
-/// that is no number, `file` of what cannot be written.
+/// be saved is to be taken back. The title is written at the end. Stored texts that are no numbers are told
+/// in one message and left without a chosen option, to be mended here. Faults: `file` of what cannot be
+/// written.
 class SettingsPresenter {
  public:
   /// Opens on what is stored.
@@ -49,10 +50,13 @@ class SettingsPresenter {
   static void Reread();
 
  private:
+  void ReadOrNote(const NumberKey& key);
+  void TellUnreadable() const;
   void Save(const NumberKey& key, std::int32_t value);
 
   std::map<std::string_view, std::int32_t> values_;  ///< by the key's name
   std::string stored_title_;
+  std::string unreadable_;  ///< places of settings that cannot be read, a line each
 };
 
 }  // namespace rbt

@@ -26,6 +26,9 @@ struct MenuState {
   std::optional<std::string> status_text;  ///< new text of `JSMENUMS`; nothing leaves it as it stands
   bool minimised = false;                  ///< the menu is minimised
   std::optional<std::string> pass_on_to;   ///< companion to run to its end, after which the program ends
+  /// Program that reads the newer format of the site that is selected now: as in `LoadResult`.
+  std::optional<std::string> hand_over_to = {};
+  std::string site = {};  ///< number and name of the bound site
 
   bool Shows(std::string_view control) const;
 };

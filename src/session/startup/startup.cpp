@@ -170,9 +170,34 @@ MenuState DescribeMenu(const StartOptions& options) {
   return state;
 }
 
+/// Number and name of the bound site, "001　試験工事".
+std::string SiteLabel() {
+  const SiteHead head = ReadSiteHead(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  return fmt::format("{:03}　{}", head.number, head.name);
+}
+
 void ForgetHoops() {
   Selection.HoopMode = ShapeFilter::with_others;
   RunState.HasHoopRows = false;
+}
+
+/// What the load makes of the bound site: archive tables, classification, names, grades. False, its database
+/// closed, for a site that a newer program reads.
+bool ReadySite(const StartOptions& options) {
+  Step(ReadyArchiveTables);
+  if (!options.command_line && NeedsNewerProgram()) {
+    SiteContext.WorkDatabase.reset();
+    return false;
+  }
+  Step(ProbeShapeTable);
+  // The command line classifies once, when it activates.
+  if (!options.command_line) Step([&] { ClassifyAtLoad(options.start_mode); });
+  Step(OpenMasterDatabase);
+  Step([&] { MarkRegisteredNames(options.start_mode); });
+  Step(ReadSiteNames);
+  Step(ReadMaker);
+  Step(ReadGrades);
+  return true;
 }
 
 }  // namespace
@@ -190,20 +215,10 @@ LoadResult LoadSite(const StartOptions& options) {
   if (!options.command_line) Step(OfferSharedImports);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
-  Step(ReadyArchiveTables);
-  if (!options.command_line && NeedsNewerProgram()) {
-    SiteContext.WorkDatabase.reset();
+  if (!ReadySite(options)) {
     result.hand_over_to = kNewerProgram;
     return result;
   }
-  Step(ProbeShapeTable);
-  // The command line classifies once, when it activates.
-  if (!options.command_line) Step([&] { ClassifyAtLoad(options.start_mode); });
-  Step(OpenMasterDatabase);
-  Step([&] { MarkRegisteredNames(options.start_mode); });
-  Step(ReadSiteNames);
-  Step(ReadMaker);
-  Step(ReadGrades);
   Step([&] { ResetAccumulation(options); });
   result.shows_plate_sheet = IsInstalled(kPlateSheetProgram);
   Step([&] { LoadRemainingSettings(registry); });
@@ -214,9 +229,22 @@ LoadResult LoadSite(const StartOptions& options) {
   return result;
 }
 
+bool FollowSelectedSite(const StartOptions& options) {
+  const std::string bound = SiteContext.SelectedDbName;
+  Step([&] { BindSite(options); });
+  if (SiteContext.SelectedDbName == bound) return true;
+  if (!ReadySite(options)) return false;
+  Step(ProbeShapes);
+  return true;
+}
+
 MenuState ActivateMenu(const StartOptions& options) {
   Step([] { RereadTitleSettings(); });
-  Step([&] { BindSite(options); });
+  if (!FollowSelectedSite(options)) {
+    MenuState handed_over;
+    handed_over.hand_over_to = kNewerProgram;
+    return handed_over;
+  }
   if (options.command_line) {
     Step([&] { HoldClassifiedSchedule(options.start_mode); });
   } else {
@@ -224,6 +252,7 @@ MenuState ActivateMenu(const StartOptions& options) {
   }
   ResetSelection();
   MenuState state = DescribeMenu(options);
+  state.site = SiteLabel();
   ForgetHoops();
   return state;
 }

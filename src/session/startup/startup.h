@@ -35,9 +35,15 @@ struct LoadResult {
 /// missing STEEL.INI or site database is named.
 LoadResult LoadSite(const StartOptions& options);
 
-/// Every time the menu gets the focus: re-reads what may have changed, refreshes the schedule, resets the
-/// selection and leaves the site database open; on the command line also held, classified for the start mode,
-/// so that all reads see one state of it (see `HoldClassifiedSchedule`). Returns how the menu stands.
+/// Binds the site that is selected now and leaves its database open. Another site than the bound one is
+/// readied whole, as the load does: archive tables, classification, names, grades, presence flags. False for
+/// one that a newer program reads.
+bool FollowSelectedSite(const StartOptions& options);
+
+/// Every time the menu gets the focus: re-reads what may have changed, follows the selected site, refreshes
+/// the schedule, resets the selection and leaves the site database open; on the command line also held,
+/// classified for the start mode, so that all reads see one state of it (see `HoldClassifiedSchedule`).
+/// Returns how the menu stands.
 MenuState ActivateMenu(const StartOptions& options);
 
 }  // namespace rbt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,6 +31,9 @@ struct GridView {
 /// The rows of a result grid, texts as they stand in the cells. The selection decides the total row's label
 /// and whether Ulbon and spiral rows belong to it; the grand total is the sum of what the grid shows.
 GridRows ShowTally(const TallyTable& table, const SelectionData& selection, const GridView& view);
+/// Which of those rows are sums of others, counted from 0.
+std::vector<std::size_t> TotalRowsOfTally(const TallyTable& table, const SelectionData& selection,
+                                          const GridView& view);
 /// One call of the stock-length engine as a row: bars, pieces per bar, metres.
 inline constexpr std::array<std::string_view, 3> kStockCaptions = {"本数", "切本数", "定尺"};
 GridRows StockRows(const StockResult& stock);

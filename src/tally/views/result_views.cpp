@@ -20,9 +20,12 @@ std::vector<std::string_view> CaptionsOf(const PartTables& /*tables*/, const Res
   return PartCaptions(view.part_names);
 }
 
+GridView GridViewOf(const TallyResult& result, const ResultView& view) {
+  return {view.show_ulbon_only, static_cast<double>(result.ulbon_percent), view.grade_names};
+}
+
 GridRows RowsOf(const TallyTable& tables, const TallyResult& result, const ResultView& view) {
-  return ShowTally(tables, result.selection,
-                   {view.show_ulbon_only, static_cast<double>(result.ulbon_percent), view.grade_names});
+  return ShowTally(tables, result.selection, GridViewOf(result, view));
 }
 GridRows RowsOf(const FloorTables& tables, const TallyResult& /*result*/, const ResultView& /*view*/) {
   return ShowFloors(tables);
@@ -45,6 +48,12 @@ std::vector<std::string_view> ResultCaptions(const TallyResult& result, const Re
 
 GridRows ResultRows(const TallyResult& result, const ResultView& view) {
   return std::visit([&](const auto& tables) { return RowsOf(tables, result, view); }, result.tables);
+}
+
+std::vector<std::size_t> ResultTotals(const TallyResult& result, const ResultView& view) {
+  const auto* tables = std::get_if<TallyTable>(&result.tables);
+  if (tables == nullptr) return {};  // floors and parts have their sums in columns and rows of their own
+  return TotalRowsOfTally(*tables, result.selection, GridViewOf(result, view));
 }
 
 std::string ResultJson(const TallyResult& result) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,8 @@ struct ResultView {
 std::vector<std::string_view> ResultCaptions(const TallyResult& result, const ResultView& view);
 /// Its rows, texts as they stand in the cells, the Ulbon rows raised as the result has it.
 GridRows ResultRows(const TallyResult& result, const ResultView& view);
+/// Which of the rows are sums of others, counted from 0.
+std::vector<std::size_t> ResultTotals(const TallyResult& result, const ResultView& view);
 /// The result as one JSON object, one field a line, closed by a line feed.
 std::string ResultJson(const TallyResult& result);
 

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMouseEvent>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -174,6 +177,89 @@ TEST(Menu, AFormThatIsOpenIsNotOpenedTwice) {
   Settle();
   first->setObjectName("found");
   EXPECT_EQ(OpenForm("JS"), nullptr);
+}
+
+TEST(Menu, WhileAScreenIsOpenNeitherAKeyNorAClickNorItsCloseStartsAnything) {
+  ScriptedMenu driver;
+  driver.screens = kReadyScreens;
+  JSMENU& menu = driver.Open();
+  Press(menu, Qt::Key_F1);
+  Settle();
+  const int activations = driver.activations;
+  menu.activateWindow();
+  Settle();
+  EXPECT_EQ(driver.activations, activations) << "the activation waits";
+  const std::function<void()> ways[] = {
+      [&] { Press(menu, Qt::Key_F3); }, [&] { driver.Click("cmdPGShuukei"); },
+      [&] { driver.Click("cmdWeldCount"); }, [&] { Press(menu, Qt::Key_Escape); }, [&] { menu.close(); }};
+  for (const auto& way : ways) {
+    way();
+    Settle();
+    EXPECT_EQ(OpenForm("PGJS"), nullptr);
+    EXPECT_EQ(Selection.TallyKind, TallyKind::bulk);
+    EXPECT_THAT(driver.launches, IsEmpty());
+    EXPECT_FALSE(driver.end_status.has_value());
+  }
+  OpenForm("JS")->close();
+  Settle();
+  EXPECT_EQ(driver.activations, activations + 1);
+}
+
+TEST(Menu, AClickOnTheMenuBringsTheOpenScreenToTheFront) {
+  ScriptedMenu driver;
+  driver.screens = kReadyScreens;
+  JSMENU& menu = driver.Open();
+  Press(menu, Qt::Key_F1);
+  Settle();
+  menu.activateWindow();
+  Settle();
+  ASSERT_TRUE(menu.isActiveWindow());
+  QMouseEvent click(QEvent::MouseButtonPress, QPointF(3, 3), menu.mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
+                    Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&menu, &click);
+  Settle();
+  EXPECT_TRUE(OpenForm("JS")->isActiveWindow());
+}
+
+TEST(Menu, SaysThatItWorksBeforeItsFirstState) {
+  ScriptedMenu driver;
+  bool shown = false;
+  bool signed_by_pointer = false;
+  const auto load = driver.parts.load;
+  driver.parts.load = [&] {
+    const QWidget* notice = OpenForm("startNotice");
+    shown = notice != nullptr && notice->isVisible();
+    signed_by_pointer = QGuiApplication::overrideCursor() != nullptr;
+    return load();
+  };
+  driver.Open();
+  EXPECT_TRUE(shown);
+  EXPECT_TRUE(signed_by_pointer);
+  EXPECT_EQ(OpenForm("startNotice"), nullptr);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(Menu, FocusIsOnALiveButtonInEveryStartMode) {
+  for (const std::int32_t mode : {-1, 0, 1, 4, 5, 7}) {
+    for (const bool counters : {true, false}) {
+      ScriptedMenu driver(mode);
+      RunState.HasWeldCounter = RunState.HasJoinCounter = RunState.HasPlateCounter = counters;
+      const JSMENU& menu = driver.Open();
+      const auto* focused = qobject_cast<QPushButton*>(menu.focusWidget());
+      ASSERT_NE(focused, nullptr) << mode;
+      EXPECT_TRUE(focused->isVisible()) << mode;
+      EXPECT_TRUE(focused->isEnabled()) << mode;
+    }
+  }
+}
+
+TEST(Menu, TellsWhatTheFocusedButtonDoes) {
+  ScriptedMenu driver;
+  driver.Open();
+  driver.Control("cmdPGShuukei").setFocus();
+  Settle();
+  EXPECT_EQ(driver.menu->findChild<QLabel*>("lblHelp")->text(), "頁と行の範囲を決めて重量を集計する");
+  EXPECT_EQ(driver.Control("cmdPGShuukei").toolTip(), "頁と行の範囲を決めて重量を集計する");
 }
 
 TEST(Menu, AFaultWhileAFormLoadsIsToldAndTheMenuComesBack) {

@@ -47,6 +47,13 @@ TEST(MenuOverASite, ShowsDateAndTimeOfTheLoad) {
   EXPECT_THAT(driver.messages, IsEmpty());
 }
 
+TEST(MenuOverASite, NamesItsSite) {
+  SiteMenu driver;
+  driver.Open();
+  EXPECT_EQ(driver.menu->findChild<QLabel*>("lblSite")->text(), "001　試験工事");
+  EXPECT_EQ(driver.menu->windowTitle(), "重量集計メニュー");
+}
+
 TEST(MenuOverASite, WithoutACommandLineShowsEverythingButTheShippingDates) {
   SiteMenu driver;
   driver.Open();

@@ -70,10 +70,44 @@ TEST(DateBoxes, AnEraYearOf32OrMoreGetsTheFocusBack) {
   Settle();
   EXPECT_EQ(panel.Focused(), "txtYear");
   panel.Key(Qt::Key_F1);
-  EXPECT_TRUE(panel.site.Messages().empty());  // nothing is printed
+  for (const ShownMessage& message : panel.site.Messages()) {
+    EXPECT_EQ(message.text, "和暦の年は 31 までです。");
+    EXPECT_EQ(message.title, "重量集計");
+  }
+  EXPECT_EQ(panel.site.Messages().size(), 3U) << "for Enter, for the way to the button, for the print key";
   panel.Box("txtYear")->setText("31");
   panel.Key(Qt::Key_Return);
   EXPECT_EQ(panel.Focused(), "txtMonth");
+}
+
+TEST(DateBoxes, AMonthAndADayThatThereIsNotGetTheFocusBack) {
+  OpenPanel panel(1);
+  panel.Box("txtMonth")->setFocus();
+  panel.Box("txtMonth")->setText("13");
+  panel.Key(Qt::Key_Return);
+  EXPECT_EQ(panel.Focused(), "txtMonth");
+  EXPECT_EQ(panel.site.Messages().back().text, "月は 12 までです。");
+  panel.Box("txtMonth")->setText("2");
+  panel.Key(Qt::Key_Return);
+  panel.Box("txtDay")->setText("29");
+  panel.Key(Qt::Key_Return);
+  EXPECT_EQ(panel.Focused(), "txtDay");
+  EXPECT_EQ(panel.site.Messages().back().text, "2 月は 28 日までです。");
+  panel.Key(Qt::Key_Up);
+  EXPECT_EQ(panel.Focused(), "txtMonth") << "the month may be what is wrong";
+  panel.Box("txtMonth")->setText("3");
+  panel.Button("btnA4Y")->setFocus();
+  Settle();
+  EXPECT_EQ(panel.Focused(), "btnA4Y");
+}
+
+TEST(DateBoxes, AreNotCheckedOnceThePanelIsClosed) {
+  OpenPanel panel(1);
+  panel.Box("txtMonth")->setFocus();
+  panel.Box("txtMonth")->setText("13");
+  panel.Key(Qt::Key_Escape);
+  EXPECT_TRUE(panel.site.Messages().empty());
+  EXPECT_EQ(panel.Focused(), "dbgJS");
 }
 
 }  // namespace rbt::test

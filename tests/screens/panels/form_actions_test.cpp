@@ -2,7 +2,9 @@
 #include "screens/panels/form_actions.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
@@ -84,6 +86,23 @@ TEST(FormActions, AKeyThatAlwaysActsDoesSoForAHiddenControlToo) {
   form.first->hide();
   form.first->setEnabled(false);
   EXPECT_EQ(form.Key(Qt::Key_F1), "first");
+}
+
+TEST(FormActions, ShiftF1ShowsTheKeysThatActNow) {
+  Form form(KeysAct::where_the_control_can_be_pressed);
+  form.first->setText("一番目 （F1）");
+  form.first->setToolTip("最初の仕事");
+  form.second->hide();
+  std::vector<std::string> texts;
+  QTimer::singleShot(0, [&texts] {
+    QWidget* card = QApplication::activeModalWidget();
+    if (card == nullptr) return;
+    for (const QLabel* label : card->findChildren<QLabel*>()) texts.push_back(label->text().toStdString());
+    Press(*card, Qt::Key_Escape);
+  });
+  EXPECT_TRUE(Press(form.form, Qt::Key_F1, Qt::ShiftModifier));
+  EXPECT_EQ(form.called, "") << "the key itself does not act";
+  EXPECT_EQ(texts, (std::vector<std::string>{"題", "F1", "一番目 （F1）", "最初の仕事", "F2", "", ""}));
 }
 
 TEST(FormActions, AHeldKeyActsOnce) {

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <list>
+#include <map>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/grid_cell.h"
+#include "platform/system/services.h"
 #include "screens/result/result_form_driver.h"
 #include "shell/config/setting_keys.h"
 #include "shell/config/settings.h"
@@ -185,14 +190,45 @@ TEST(BulkScreen, ValueRestoreTakesThePercentageBack) {
   EXPECT_EQ(js.Focused(), "dbgJS");
 }
 
-TEST(BulkScreen, F4HasNoHandler) {
+TEST(BulkScreen, F4TakesTheUpliftBack) {
   ResultFormDriver js;
   js.Open();
   js.Key(Qt::Key_F3);
   js.Type("txtPercent", "10");
   js.Key(Qt::Key_Return);
-  js.Key(Qt::Key_F4);
   EXPECT_EQ(js.Row("U 9"), "|33 ||3||");
+  js.Key(Qt::Key_F4);
+  EXPECT_EQ(js.Row("U 9"), kU9);
+  EXPECT_FALSE(js.Shows("txtPercent"));
+}
+
+TEST(BulkScreen, EscLeavesThePercentBoxThenTheUlbonViewThenTheScreen) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F2);
+  js.Key(Qt::Key_F3);
+  js.Type("txtPercent", "10");
+  js.Key(Qt::Key_Escape);
+  EXPECT_TRUE(js.form->isVisible());
+  EXPECT_FALSE(js.Shows("txtPercent"));
+  EXPECT_EQ(js.Row("U 9"), kU9) << "what was typed and not taken goes";
+  EXPECT_EQ(js.Focused(), "dbgJS");
+  EXPECT_EQ(js.Grid()->RowCount(), 7);
+  js.Key(Qt::Key_Escape);
+  EXPECT_TRUE(js.form->isVisible());
+  EXPECT_EQ(js.Row("D19"), kD19);
+  EXPECT_EQ(js.Button("cmdPrint")->text(), "合計表印字(F1)");
+  EXPECT_TRUE(js.Shows("cmdUSum"));
+  js.Key(Qt::Key_Escape);
+  EXPECT_FALSE(js.form->isVisible());
+}
+
+TEST(BulkScreen, TheCloseOfTheWindowLeavesTheScreenFromTheUlbonViewToo) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F2);
+  js.form->close();
+  EXPECT_FALSE(js.form->isVisible());
 }
 
 TEST(BulkScreen, UlbonViewShowsThinBarsAloneAndPrintsOnOnePaper) {
@@ -218,6 +254,7 @@ TEST(BulkScreen, PrintPanelHasItsOwnKeys) {
     EXPECT_FALSE(order.ulbon);
     printed.push_back(order.date.year + "/" + order.date.month + "/" + order.date.day + " " +
                       order.sub_project);
+    return std::string("甲");
   };
   js.Open();
   js.Key(Qt::Key_F1);
@@ -229,6 +266,7 @@ TEST(BulkScreen, PrintPanelHasItsOwnKeys) {
   js.Key(Qt::Key_F3);
   EXPECT_EQ(printed, std::vector<std::string>{"2026/11/21  二期 "});
   EXPECT_TRUE(js.Shows("SSPanel2"));  // back to the list
+  EXPECT_EQ(js.Label("lblNotice"), "「甲」に送りました。");
   js.Click("cmdPrint2");
   EXPECT_EQ(RunState.ReportBody, 0);
   js.Key(Qt::Key_F2);  // a key of the closed panel
@@ -313,6 +351,108 @@ TEST(BulkScreen, AnAccumulationUnderWayIsTold) {
   EXPECT_EQ(js.Label("hozon"), "集計累積保存中解除はＦ６を押す");
   EXPECT_EQ(Selection.MaterialCalcChoice,
             CalcChoice::high_strength_alone);  // an accumulation keeps the choice
+}
+
+TEST(BulkScreen, AFilterPressMovesNothingNeitherMeanwhileNorAfter) {
+  ResultFormDriver js;
+  js.Open();
+  const auto places = [&js] {
+    std::map<std::string, std::string> all;
+    for (const QWidget* control : js.form->findChildren<QWidget*>()) {
+      if (control->objectName().isEmpty() || !control->isVisible() || control->objectName() == "SSPanel4" ||
+          control->parentWidget()->objectName() == "SSPanel4") {
+        continue;
+      }
+      const QRect place(control->mapTo(js.form.get(), QPoint(0, 0)), control->size());
+      all[control->objectName().toStdString()] = std::to_string(place.x()) + "," + std::to_string(place.y()) +
+                                                 " " + std::to_string(place.width()) + "x" +
+                                                 std::to_string(place.height());
+    }
+    return all;
+  };
+  const std::map<std::string, std::string> before = places();
+  const auto expect_no_move = [&](const char* when) {
+    for (const auto& [name, place] : places()) {
+      const auto at = before.find(name);
+      if (at != before.end() && name.find("qt_") == std::string::npos) {
+        EXPECT_EQ(place, at->second) << name << " " << when;
+      }
+    }
+  };
+  int looks = 0;
+  const auto events = Services.PendingEvents;
+  Services.PendingEvents = [&] {
+    events();
+    if (!js.Shows("SSPanel4")) return;
+    ++looks;
+    expect_no_move("meanwhile");
+  };
+  for (const char* button : {"cmdHoop", "cmdTei", "cmdHoop", "cmdTei"}) {
+    js.Click(button);
+    expect_no_move(button);
+  }
+  Services.PendingEvents = events;
+  EXPECT_GE(looks, 4);
+}
+
+TEST(BulkScreen, TellsWhatTheFocusedControlDoesAndHasItAsToolTip) {
+  ResultFormDriver js;
+  js.Open();
+  js.Button("cmdMeisai")->setFocus();
+  Settle();
+  EXPECT_EQ(js.Label("lblHelp"), "材料の明細を表示する");
+  EXPECT_EQ(js.Button("cmdMeisai")->toolTip(), "材料の明細を表示する");
+  for (const QPushButton* button : js.form->findChildren<QPushButton*>()) {
+    if (button->objectName() == "Command1") continue;  // never in sight
+    EXPECT_NE(button->toolTip(), "") << button->objectName().toStdString();
+  }
+}
+
+TEST(BulkScreen, TotalsAreBoldUnderARule) {
+  ResultFormDriver js;
+  js.Open();
+  const auto* painter = static_cast<GridCellPainter*>(js.Grid()->itemDelegate());
+  for (int row = 0; row < js.Grid()->RowCount(); ++row) {
+    const std::string label = js.Grid()->Cell(row, 0);
+    const bool total = label == "す　 べ 　て" || label == "ウ ル ボ ン 合 計" || label == "総　　合　　計";
+    EXPECT_EQ(painter->IsTotal(row), total) << label;
+  }
+}
+
+TEST(BulkScreen, EnterInTheDayGoesToTheNextLiveControl) {
+  ResultFormDriver js;
+  js.Open();
+  js.Key(Qt::Key_F1);
+  js.Box("txtDay")->setFocus();
+  js.Key(Qt::Key_Return);
+  ASSERT_NE(js.form->focusWidget(), nullptr);
+  EXPECT_TRUE(js.form->focusWidget()->isVisible());
+  EXPECT_TRUE(js.form->focusWidget()->isEnabled());
+  EXPECT_EQ(js.Focused(), "Command3");
+}
+
+TEST(BulkScreen, WithoutThePrinterOfTheSettingsThePanelSaysSoAndTakesAnother) {
+  ResultFormDriver js;
+  std::vector<std::string> offered;
+  js.parts.choose_printer = [&offered](const std::vector<std::string>& printers) {
+    offered = printers;
+    return std::optional<std::string>("乙");
+  };
+  js.Open();
+  std::list<PrinterSurface> printers;
+  for (const char* name : {"甲", "乙"}) {
+    printers.emplace_back(name, DeviceKind::installed_printer, [](const PrintedDocument&) {});
+  }
+  Services.Printers = PrinterList(std::move(printers));
+  js.Key(Qt::Key_F1);
+  EXPECT_TRUE(js.Shows("lblPrinter"));
+  EXPECT_THAT(js.Label("lblPrinter"), HasSubstr("プリンタ「EPSON VP-4200」がありません。"));
+  EXPECT_TRUE(js.Shows("btnPrinter"));
+  js.Key(Qt::Key_F9);
+  EXPECT_EQ(offered, (std::vector<std::string>{"甲", "乙"}));
+  EXPECT_FALSE(js.Shows("lblPrinter"));
+  EXPECT_FALSE(js.Shows("btnPrinter"));
+  EXPECT_EQ(ReadSetting(kTallyPrinterKey), "乙");
 }
 
 }  // namespace rbt::test

@@ -84,7 +84,7 @@ class PrintDriver : public ResultFormDriver {
     SaveSetting(kTallyPrinterKey, "甲");
     parts.print = [this](PrintOrder order) {
       if (spoils_result) order.result.tables = BeyondAllSums(order.result.Grid());
-      CarryOut(order, [this](std::vector<PrintedDocument> documents) {
+      return CarryOut(order, [this](std::vector<PrintedDocument> documents) {
         for (PrintedDocument& document : documents) shown.push_back(std::move(document));
         if (while_shown) while_shown();
       });

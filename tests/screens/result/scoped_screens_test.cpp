@@ -384,7 +384,10 @@ TEST(ShapeScreen, FormChangeChangesTheCaptionAndNotTheFigures) {
 TEST(ShapeScreen, PrintsTheUlbonReportOfToday) {
   Scoped js(kShapeScreen);
   std::vector<PrintOrder> orders;
-  js.parts.print = [&](const PrintOrder& order) { orders.push_back(order); };
+  js.parts.print = [&](const PrintOrder& order) {
+    orders.push_back(order);
+    return std::string();
+  };
   SaveSetting(kDateStyleKey, 2);
   js.Start();
   js.Key(Qt::Key_F3);
@@ -574,7 +577,10 @@ TEST(ScopedScreens, ANarrowedTallyCannotBePrintedUntilItIsWholeAgain) {
 TEST(ScopedScreens, ATallyNarrowedWhileThePanelIsOpenCannotBePrinted) {
   Scoped js(kPageScreen);
   int prints = 0;
-  js.parts.print = [&](const PrintOrder&) { ++prints; };
+  js.parts.print = [&](const PrintOrder&) {
+    ++prints;
+    return std::string();
+  };
   js.Start();
   js.Run();
   js.Key(Qt::Key_F1);
@@ -591,7 +597,10 @@ TEST(ScopedScreens, PrintFromThePanelAndStayThere) {
   for (const ResultScreen* screen : kScopedScreens) {
     Scoped js(*screen);
     std::vector<PrintOrder> orders;
-    js.parts.print = [&](const PrintOrder& order) { orders.push_back(order); };
+    js.parts.print = [&](const PrintOrder& order) {
+      orders.push_back(order);
+      return std::string();
+    };
     js.Start();
     js.Run();
     RunState.ReportBody = 0;
@@ -616,7 +625,10 @@ TEST(ScopedScreens, WithoutATallyThePrintPanelServesSettingsAndReturnAlone) {
     Scoped js(*screen);
     int prints = 0;
     int settings = 0;
-    js.parts.print = [&](const PrintOrder&) { ++prints; };
+    js.parts.print = [&](const PrintOrder&) {
+      ++prints;
+      return std::string();
+    };
     js.parts.open_settings = [&] { ++settings; };
     js.Start();
     const std::string first = js.Focused();
@@ -700,6 +712,41 @@ TEST(ScopedScreens, StartModesWithoutSlitBarsLeaveTheSlitWordOut) {
   js.Click("Command3");
   EXPECT_EQ(js.Label("Label8"), "異形");
   EXPECT_FALSE(js.Shows("cmdHoop"));
+}
+
+TEST(ShapeScreen, BoxesThatWereChangedWithoutEnterGoBackToTheTalliedRangeWhenTheFocusLeavesThem) {
+  Scoped js(kShapeScreen);
+  js.Start();
+  js.EnterShapes(2, 100);
+  js.Box("txtStartKeijouNo")->setFocus();
+  js.Box("txtStartKeijouNo")->setText("5");
+  js.Key(Qt::Key_Tab);
+  ASSERT_EQ(js.Focused(), "txtEndKeijouNo");
+  EXPECT_EQ(js.Number("txtStartKeijouNo"), "5") << "the input is still in the boxes";
+  js.Button("cmdHoop")->setFocus();
+  Settle();
+  EXPECT_EQ(js.Number("txtStartKeijouNo"), "2");
+  EXPECT_EQ(js.Number("txtEndKeijouNo"), "100");
+}
+
+TEST(ShapeScreen, BeforeItsFirstTallyTheBoxesKeepWhatWasTyped) {
+  Scoped js(kShapeScreen);
+  js.Start();
+  js.Box("txtStartKeijouNo")->setText("5");
+  js.Box("txtStartKeijouNo")->setFocus();
+  js.Button("cmdExit")->setFocus();
+  Settle();
+  EXPECT_EQ(js.Number("txtStartKeijouNo"), "5");
+}
+
+TEST(PageScreens, ShowTheirRangeBesideTheResult) {
+  for (const ResultScreen* screen : kPageScreens) {
+    Scoped js(*screen);
+    js.Start();
+    js.EnterPositions(1, 2, 2, 1);
+    EXPECT_TRUE(js.Shows("lblRange"));
+    EXPECT_EQ(js.Label("lblRange"), "1頁 2行 ～ 2頁 1行");
+  }
 }
 
 }  // namespace rbt::test

@@ -166,15 +166,19 @@ TEST_F(SettingsForm, OpensOnStoredAndOnCachedValues) {
   EXPECT_EQ(Focused(), "optNenGou");
 }
 
-TEST_F(SettingsForm, AStoredTextThatIsNoNumberEndsTheLoadAndIsNamed) {
+TEST_F(SettingsForm, StoredTextsThatAreNoNumbersAreToldOnceAndMendedByAChoice) {
   SaveSetting("Kakou", "重量集計", "対比表項目", "A");
-  try {
-    Open();
-    FAIL() << "opened";
-  } catch (const Fault& fault) {
-    EXPECT_EQ(fault.Kind(), FaultKind::type_mismatch);
-    EXPECT_THAT(fault.what(), HasSubstr("対比表項目"));
+  SaveSetting("Kakou", "重量集計", "日付表記", "B");
+  Open();
+  ASSERT_EQ(site.Messages().size(), 1U);
+  EXPECT_THAT(site.Messages()[0].text, HasSubstr("対比表項目"));
+  EXPECT_THAT(site.Messages()[0].text, HasSubstr("日付表記"));
+  for (const char* option : {"OptTaihiA", "OptTaihiB", "OptTaihiC", "optAD", "optNenGou"}) {
+    EXPECT_FALSE(Option(option).isChecked()) << option;
   }
+  Option("OptTaihiB").click();
+  Settle();
+  EXPECT_EQ(ReadSetting(kComparisonKindKey), 2);
 }
 
 TEST_F(SettingsForm, OnlyTheOwnTitleOpensItsBox) {

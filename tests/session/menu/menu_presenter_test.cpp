@@ -53,7 +53,7 @@ class Menu : private MenuWindow {
   LoadResult loaded;
   MenuState state;
   std::set<std::string, std::less<>> ready{"JS", "KEIJOJS", "PGJS", "PKEIJOJS", "KAIJS", "BUIJS", "SETJS"};
-  std::set<std::string, std::less<>> open;
+  bool open = false;    ///< the screen of a tally
   bool faulty = false;  ///< what is opened, written or activated next throws
   std::vector<std::string> steps;
   std::string handed_over;  ///< when a program was started
@@ -84,9 +84,10 @@ class Menu : private MenuWindow {
   void ShowAgain() override { steps.emplace_back("show"); }
   void AskForActivation() override { steps.emplace_back("turn"); }
   bool HasForm(std::string_view form) const override { return ready.contains(form); }
-  bool RaiseForm(std::string_view form) override {
-    if (open.contains(form)) steps.push_back("raise " + std::string(form));
-    return open.contains(form);
+  bool HasOpenForm() const override { return open; }
+  bool RaiseOpenForm() override {
+    if (open) steps.emplace_back("raise");
+    return open;
   }
   void OpenForm(std::string_view form) override { Step("open " + std::string(form)); }
   void ShowFormModally(std::string_view form) override { Step("modal " + std::string(form)); }
@@ -175,11 +176,47 @@ TEST(MenuPresenter, TheSettingsThatAreNotReadySaySo) {
   EXPECT_EQ(menu.site.Messages().back().title, "重量集計メニュー");
 }
 
-TEST(MenuPresenter, AFormThatIsOpenComesToTheFrontInPlaceOfASecondOne) {
+TEST(MenuPresenter, WhileAScreenIsOpenNoEntryStartsAnythingAndTheScreenComesToTheFront) {
+  for (const EntryCase& row : kEntryCases) {
+    Menu menu;
+    menu.open = true;
+    Selection.TallyKind = TallyKind::bulk;
+    menu.presenter.Start(row.control);
+    EXPECT_THAT(menu.steps, ElementsAre("raise")) << row.control;
+    EXPECT_EQ(Selection.TallyKind, TallyKind::bulk) << row.control;
+    EXPECT_EQ(menu.HandOver("材料明細"), "-") << row.control;
+    EXPECT_FALSE(menu.presenter.HasEnded()) << row.control;
+  }
+}
+
+TEST(MenuPresenter, AnActivationWaitsUntilTheOpenScreenHasGone) {
   Menu menu;
-  menu.open.insert("PGJS");
-  menu.presenter.Start("cmdPGShuukei");
-  EXPECT_THAT(menu.steps, ElementsAre("raise PGJS"));
+  menu.open = true;
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, IsEmpty());
+  menu.open = false;
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, ElementsAre("activate", "state"));
+}
+
+TEST(MenuPresenter, AClickBesideTheEntriesLeadsBackToTheOpenScreen) {
+  Menu menu;
+  menu.presenter.LeadBack();
+  EXPECT_THAT(menu.steps, IsEmpty());
+  menu.open = true;
+  menu.presenter.LeadBack();
+  EXPECT_THAT(menu.steps, ElementsAre("raise"));
+}
+
+TEST(MenuPresenter, ASiteOfANewerFormatThatIsSelectedMeanwhileIsHandedOverAtTheActivation) {
+  Menu menu;
+  menu.state.hand_over_to = "\\rbk\\rbtally1S.exe";
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, ElementsAre("activate", "hide", "run \\rbk\\rbtally1S.exe", "hide", "end 0"));
+}
+
+TEST(MenuPresenter, EveryEntryTellsWhatItDoes) {
+  for (const MenuEntry& entry : MenuEntries()) EXPECT_NE(entry.hint, "") << entry.control;
 }
 
 TEST(MenuPresenter, AFaultWhileAFormLoadsBringsTheMenuBackAndHandsNothingOver) {
@@ -252,7 +289,7 @@ TEST(MenuPresenter, ANewerSiteIsHandedToTheProgramThatReadsIt) {
   menu.loaded.hand_over_to = "\\rbk\\rbtally1S.exe";
   menu.presenter.Load();
   menu.presenter.Activate();
-  EXPECT_THAT(menu.steps, ElementsAre("run \\rbk\\rbtally1S.exe", "hide", "end 0"));
+  EXPECT_THAT(menu.steps, ElementsAre("hide", "run \\rbk\\rbtally1S.exe", "hide", "end 0"));
 }
 
 TEST(MenuPresenter, AnActivationShowsHowTheMenuStands) {

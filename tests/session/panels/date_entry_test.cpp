@@ -26,6 +26,40 @@ TEST(YearRule, AnEraHasNoYear32AndAWesternYearMayBeAny) {
   EXPECT_TRUE(YearPasses("", 2));
 }
 
+TEST(DateRule, RefusesEraYearsMonthsAndDaysThatThereAreNot) {
+  struct Case {
+    DateTexts date;
+    std::int32_t style;
+    std::size_t boxes;
+    const char* text;
+    std::size_t box;
+  };
+  const Case cases[] = {
+      {{"32", "1", "1"}, 2, 1, "和暦の年は 31 までです。", 0},
+      {{"2026", "13", "1"}, 1, 2, "月は 12 までです。", 1},
+      {{"2026", "13", "1"}, 1, 1, "", 0},
+      {{"2026", "4", "31"}, 1, 3, "4 月は 30 日までです。", 2},
+      {{"2026", "4", "31"}, 1, 2, "", 0},
+      {{"2026", "2", "29"}, 1, 3, "2 月は 28 日までです。", 2},
+      {{"2028", "2", "29"}, 1, 3, "", 0},
+      {{"2100", "2", "29"}, 1, 3, "2 月は 28 日までです。", 2},
+      {{"7", "2", "29"}, 2, 3, "2 月は 28 日までです。", 2},  // 2025
+      {{"10", "2", "29"}, 2, 3, "", 0},                       // 2028
+      {{"31", "4", "30"}, 2, 3, "", 0},
+      {{"2026", "", "31"}, 1, 3, "", 0},
+      {{"2026", "", "32"}, 1, 3, "日は 31 までです。", 2},
+      {{"", "", ""}, 2, 3, "", 0},
+      {{"", "2", "29"}, 1, 3, "", 0},
+      {{"2026", "12", "31"}, 1, 3, "", 0},
+  };
+  for (const Case& row : cases) {
+    const std::optional<DateRefusal> refusal = RefusalOfDate(row.date, row.style, row.boxes);
+    const std::string where = row.date.year + "/" + row.date.month + "/" + row.date.day;
+    EXPECT_EQ(refusal ? refusal->text : "", row.text) << where;
+    EXPECT_EQ(refusal ? refusal->box : 0, row.box) << where;
+  }
+}
+
 TEST(DateEntry, FillsEmptyBoxesWithTodayInTheStyleOfTheSetting) {
   const SiteFixture site;
   DateEntry western;

@@ -32,6 +32,7 @@ class Presented {
     parts.print = [this](const PrintOrder& order) {
       orders.push_back(order);
       Call("print", {});
+      return printer;
     };
   }
 
@@ -79,6 +80,7 @@ class Presented {
   std::function<void()> settings;
   std::vector<std::string> calls;
   std::vector<PrintOrder> orders;
+  std::string printer;  ///< that takes the sheets; none: the preview
   std::vector<ResultScreenView> meanwhile;
 
  private:

@@ -93,7 +93,27 @@ TEST(ResultPrintPanel, PrintsTheUlbonReportInTheUlbonView) {
   EXPECT_EQ(Shown(js.orders.at(0)), "A4T ulbon 2026/11/21 [] 0");
 }
 
-TEST(ResultPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
+TEST(ResultPrintPanel, ASheetThatWasSentIsToldUntilTheNextOneOrTheNextTally) {
+  Presented js(kBulkScreen);
+  js.printer = "甲";
+  const auto print = [&] {
+    js.presenter->OpenPrint(SheetBody::with_ulbon);
+    EXPECT_EQ(js.View().notice, "");
+    js.presenter->Print(ReportPaper::a4y);
+  };
+  js.Open();
+  print();
+  EXPECT_EQ(js.View().notice, "「甲」に送りました。");
+  js.presenter->CycleHoops();
+  EXPECT_EQ(js.View().notice, "");
+  js.presenter->CycleHoops();
+  js.presenter->CycleHoops();
+  js.printer = "";
+  print();
+  EXPECT_EQ(js.View().notice, "") << "what is looked at was not sent";
+}
+
+TEST(ResultPrintPanel, ARefusedDatePrintsNothingSaysWhyAndGetsTheFocus) {
   Presented js(kBulkScreen);
   SaveSetting(kDateStyleKey, 2);
   js.Open().OpenPrint(SheetBody::with_ulbon);
@@ -101,15 +121,29 @@ TEST(ResultPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
   js.presenter->Print(ReportPaper::a4y);
   EXPECT_TRUE(js.orders.empty());
   EXPECT_TRUE((js.View().focus == FocusRequest{FocusTarget::year}));
+  EXPECT_EQ(js.Message(), "和暦の年は 31 までです。");
+  EXPECT_EQ(js.site.Messages().back().title, "重量集計");
   EXPECT_TRUE(js.View().print_panel.open);
   js.presenter->PrintPanel().Date().Type(0, "31");
+  js.presenter->PrintPanel().Date().Type(1, "13");
+  js.presenter->Print(ReportPaper::a4y);
+  EXPECT_TRUE((js.View().focus == FocusRequest{FocusTarget::year, 1}));
+  js.presenter->PrintPanel().Date().Type(1, "4");
+  js.presenter->PrintPanel().Date().Type(2, "31");
+  js.presenter->Print(ReportPaper::a4y);
+  EXPECT_TRUE((js.View().focus == FocusRequest{FocusTarget::year, 2}));
+  EXPECT_EQ(js.Message(), "4 月は 30 日までです。");
+  EXPECT_TRUE(js.orders.empty());
+  js.presenter->PrintPanel().Date().Type(2, "30");
   js.presenter->Print(ReportPaper::a4y);
   EXPECT_EQ(js.orders.size(), 1U);
 }
 
 TEST(ResultPrintPanel, AFaultOfTheReportLeavesItOpen) {
   Presented js(kBulkScreen);
-  js.parts.print = [](const PrintOrder&) { throw Fault(FaultKind::overflow, "UlbonWeldCount"); };
+  js.parts.print = [](const PrintOrder&) -> std::string {
+    throw Fault(FaultKind::overflow, "UlbonWeldCount");
+  };
   js.Open().OpenPrint(SheetBody::with_ulbon);
   EXPECT_EQ(FaultOf([&] { js.presenter->Print(ReportPaper::a4y); }), FaultKind::overflow);
   EXPECT_TRUE(js.View().print_panel.open);
@@ -205,7 +239,7 @@ void ExpectSoundView(const ResultScreenView& view, const ResultScreen& screen, c
   EXPECT_FALSE(view.busy) << walk;
   EXPECT_NE(view.main_buttons_shown, view.print_panel.open) << walk;
   EXPECT_TRUE(view.result_shown || (screen.IsScoped() && view.range.shown)) << walk;
-  const bool whole = ShowsWholePicture(false);
+  const bool whole = ShowsWholePicture();
   if (!whole) {
     EXPECT_FALSE(view.print.shown) << walk;
     EXPECT_FALSE(view.toggle_accumulation.shown) << walk;

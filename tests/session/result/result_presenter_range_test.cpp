@@ -118,6 +118,7 @@ TEST(RangeOfPages, AskedForAnewTakesEveryFilterBack) {
     js.presenter->CycleHoops();
     js.presenter->CyclePlates();
     Selection.MaterialFormMask = FormMask(1);
+    Selection.IncludeUlbon = false;
     js.presenter->AskForRange();
     const FilterView filters = js.View().filters;
     EXPECT_EQ(filters.kinds, "異形・高強度・ネジ・スリット");
@@ -128,6 +129,7 @@ TEST(RangeOfPages, AskedForAnewTakesEveryFilterBack) {
     EXPECT_EQ(Selection.MaterialFormMask, kAllForms);
     EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
     EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::with_others);
+    EXPECT_TRUE(Selection.IncludeUlbon);
     EXPECT_FALSE(RunState.HasAnchorPlateRows);
     EXPECT_EQ(Texts(js.View()), "1|1|4|7|") << "what was typed stays";
   }
@@ -184,7 +186,9 @@ TEST(RangeOfShapes, ATakenRangeResetsKindsAndModesAndKeepsTheForms) {
   js.presenter->CycleHoops();
   js.presenter->CyclePlates();
   Selection.MaterialFormMask = FormMask(1);
+  Selection.IncludeUlbon = false;
   js.Enter({2, 100});
+  EXPECT_TRUE(Selection.IncludeUlbon);
   EXPECT_EQ(Selection.ShapeStart, 2);
   EXPECT_EQ(Selection.ShapeEnd, 100);
   EXPECT_EQ(Selection.MaterialKindMask, kAllKinds);
@@ -196,6 +200,32 @@ TEST(RangeOfShapes, ATakenRangeResetsKindsAndModesAndKeepsTheForms) {
   EXPECT_EQ(js.View().filters.forms, "生材");
   EXPECT_EQ(js.Row("D13"), "60 |60 |0 |3|0|");
   EXPECT_EQ(js.Row("D19"), "0 |0 |0 |0|0|");
+}
+
+TEST(RangeOfShapes, GoesBackToTheTalliedOneWhenTheInputLeavesIt) {
+  Presented js(kShapeScreen);
+  js.Open().TypeRange(0, "5");
+  js.presenter->LeaveRange();
+  EXPECT_EQ(Texts(js.View()), "5|138|") << "there is no result yet";
+  js.Enter({2, 100});
+  js.presenter->TypeRange(0, "9");
+  js.presenter->TypeRange(1, "1");
+  js.presenter->LeaveRange();
+  EXPECT_EQ(Texts(js.View()), "2|100|");
+  EXPECT_EQ(js.View().filters.range, "") << "the boxes tell it";
+}
+
+TEST(RangeOfPages, IsToldBesideTheResult) {
+  for (const ResultScreen* screen : kPageScreens) {
+    Presented js(*screen);
+    js.Open();
+    EXPECT_EQ(js.View().filters.range, "");
+    js.Enter({1, 2, 2, 1});
+    EXPECT_EQ(js.View().filters.range, "1頁 2行 ～ 2頁 1行");
+    js.presenter->TypeRange(0, "2");
+    js.presenter->CycleHoops();
+    EXPECT_EQ(js.View().filters.range, "1頁 2行 ～ 2頁 1行") << "typed is not tallied";
+  }
 }
 
 TEST(RangeOfShapes, CountsItsHighStrengthRows) {

@@ -59,14 +59,26 @@ TEST(ResultPresenter, ShowsTheStatesOfTheBulkScreen) {
       {"recalculated", [](Presented& js) { js.Open().Recalculate(); }, kWhole, kFilters, kStays},
       {"hoops left out", [](Presented& js) { js.Open().CycleHoops(); }, kNarrowed, kFilters, kStays},
       {"plates left out", [](Presented& js) { js.Open().CyclePlates(); }, kNarrowed, kFilters, kStays},
-      {"Ulbon view", [](Presented& js) { js.Open().ShowUlbonView(); },
-       "print ulbon deformed restore detail leave", kFilters, kOnGrid},
+      {"Ulbon view", [](Presented& js) { js.Open().ShowUlbonView(); }, "print ulbon restore detail leave",
+       kFilters, kOnGrid},
+      {"Ulbon view narrowed",
+       [](Presented& js) {
+         js.Open().ShowUlbonView();
+         js.presenter->CycleHoops();
+       },
+       "ulbon restore detail leave", kFilters, kStays},
+      {"Ulbon view left",
+       [](Presented& js) {
+         js.Open().ShowUlbonView();
+         js.presenter->TurnBack();
+       },
+       kWhole, kFilters, kOnGrid},
       {"Ulbon view recalculated",
        [](Presented& js) {
          js.Open().ShowUlbonView();
          js.presenter->Recalculate();
        },
-       "ulbon restore detail leave", kFilters, kStays},
+       "print ulbon restore detail leave", kFilters, kStays},
       {"uplift begun",
        [](Presented& js) { js.Open().BeginUplift(); },
        kWhole,
@@ -84,7 +96,7 @@ TEST(ResultPresenter, ShowsTheStatesOfTheBulkScreen) {
          js.Open().ShowUlbonView();
          js.presenter->OpenPrint(SheetBody::with_ulbon);
        },
-       "print ulbon deformed restore detail leave",
+       "print ulbon restore detail leave",
        kFilters,
        {FocusTarget::a4_portrait}},
       {"panel closed",
@@ -339,7 +351,7 @@ TEST(ResultPresenter, ATallyRunsBehindTheBusyNoticeWithEverythingOutOfReach) {
     bool busy_before_dialog = false;
     js.forms = [&] { busy_before_dialog = !js.meanwhile.empty() && js.meanwhile.back().busy; };
     js.OpenWithResult().ChooseForms();
-    EXPECT_TRUE(busy_before_dialog);
+    EXPECT_FALSE(busy_before_dialog) << "the wait notice would lie over the dialog";
     ASSERT_EQ(js.meanwhile.size(), 1U);
     const ResultScreenView& view = js.meanwhile.front();
     EXPECT_EQ(MainButtons(view), buttons) << screen->name;
@@ -382,6 +394,40 @@ TEST(ResultPresenter, TheUpliftRaisesTheRowsOnceItIsTakenAndAFilterKeepsIt) {
   EXPECT_EQ(js.View().filters.uplift.text, "");
 }
 
+TEST(ResultPresenter, TurningBackLeavesTheUpliftAsItWasTakenLast) {
+  Presented js(kBulkScreen);
+  js.Open().BeginUplift();
+  js.presenter->TypeUplift("50");
+  js.presenter->TurnBack();
+  EXPECT_FALSE(js.View().filters.uplift.shown);
+  EXPECT_FALSE(js.View().left);
+  js.presenter->BeginUplift();
+  js.presenter->TypeUplift("100");
+  js.presenter->TakeUplift();
+  js.presenter->BeginUplift();
+  js.presenter->TypeUplift("7");
+  js.presenter->TurnBack();
+  EXPECT_EQ(js.View().filters.uplift.text, "100");
+  EXPECT_TRUE(js.View().filters.uplift.shown);
+  EXPECT_FALSE(js.View().filters.uplift.enabled);
+  EXPECT_EQ(js.Row("U 9"), "|60 ||3||");
+  js.presenter->TurnBack();
+  EXPECT_TRUE(js.View().left);
+}
+
+TEST(ResultPresenter, AFilterRoundInTheUlbonViewBringsItsPrintKeyBack) {
+  Presented js(kBulkScreen);
+  js.Open().ShowUlbonView();
+  for (int step = 0; step < 3; ++step) js.presenter->CycleHoops();
+  EXPECT_TRUE(js.View().print.shown);
+  EXPECT_EQ(js.View().print.caption, "ｳﾙﾎﾞﾝ印字(F1)");
+  EXPECT_FALSE(js.View().print_deformed.shown);
+  js.presenter->TurnBack();
+  EXPECT_FALSE(js.View().left);
+  EXPECT_FALSE(js.View().ulbon_view);
+  EXPECT_EQ(js.View().print.caption, "合計表印字(F1)");
+}
+
 TEST(ResultPresenter, AnEmptyUpliftCountsAsNothing) {
   Presented js(kBulkScreen);
   js.Open().TypeUplift("");
@@ -392,7 +438,7 @@ TEST(ResultPresenter, AnEmptyUpliftCountsAsNothing) {
 TEST(ResultPresenter, TheUlbonViewShowsThinBarsAloneUnderItsOwnPrintCaption) {
   Presented js(kBulkScreen);
   js.Open();
-  EXPECT_EQ(js.View().print.caption, "");
+  EXPECT_EQ(js.View().print.caption, "合計表印字(F1)");
   js.presenter->ShowUlbonView();
   EXPECT_TRUE(js.View().ulbon_view);
   EXPECT_EQ(js.View().rows.size(), 7U);

@@ -26,6 +26,20 @@ class Activate : public testing::Test {
     return ActivateMenu(options_);
   }
 
+  /// GENBA002.MDB with the rows of the first site, a companion and a row of its own in the master file.
+  void SelectAnotherSite() {
+    std::filesystem::copy_file(site_.Data(kScheduleFile), site_.Data("GENBA002.MDB"));
+    std::filesystem::copy_file(site_.Data(kCompanionFile), site_.Data("HIROI002.mdb"));
+    site_.Add(kMasterFile, "工事テーブル",
+              {{"番号", std::int64_t{2}},
+               {"工事名", std::string("次の現場")},
+               {"データパス", std::string("GENBA002.MDB")},
+               {"長い工事名", std::string("次の長い現場名")},
+               {"工事名区切り文字数", std::int64_t{4}},
+               {"メーカーNo", std::int64_t{7}}});
+    site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "GENBA002.MDB");
+  }
+
   SiteFixture site_;
   StartOptions options_;
 };
@@ -64,11 +78,39 @@ TEST_F(Activate, WithoutPreparationTheScheduleStaysAsItIs) {
 
 TEST_F(Activate, FollowsTheSelectedSite) {
   LoadSite(options_);
-  std::filesystem::copy_file(site_.Data(kScheduleFile), site_.Data("GENBA002.MDB"));
-  site_.SetIni(kSteelFile, "データ", "選択ＤＢ名", "GENBA002.MDB");
+  SelectAnotherSite();
   ActivateMenu(options_);
   EXPECT_EQ(SiteContext.SelectedDbName, "GENBA002.MDB");
   EXPECT_EQ(SiteContext.WorkDatabase->File().filename(), "GENBA002.MDB");
+}
+
+TEST_F(Activate, BindsAnotherSiteWhole) {
+  site_.Execute(kMasterFile,
+                "UPDATE 工事テーブル SET 長い工事名 = '初めの現場', 工事名区切り文字数 = 3, メーカーNo = 5");
+  EXPECT_EQ(LoadAndActivate().site, "001　試験工事");
+  SelectAnotherSite();
+  site_.Execute(
+      "GENBA002.MDB",
+      "INSERT INTO 加工テーブル (行No, 頁, 行, 太さ, 形状No, 伸切寸) VALUES (1, 1, 1, 19, 138, 7100)");
+  site_.Execute(kMasterFile, "UPDATE T_SD SET SD名 = 'SD490' WHERE SDコード = 1");
+  EXPECT_EQ(ActivateMenu(options_).site, "002　次の現場");
+  EXPECT_EQ(SiteContext.SiteNumberText, "002");
+  EXPECT_EQ(SiteContext.LongSiteName, "次の長い現場名");
+  EXPECT_EQ(SiteContext.LongSiteNameWidth, 4);
+  EXPECT_EQ(SiteContext.MakerNumber, 7);
+  EXPECT_EQ(SiteContext.GradeNames[1], "SD490");
+  EXPECT_TRUE(RunState.HasAnchorPlateRows);
+  // Classified as at a load: the form of a bar of 7.1 m.
+  EXPECT_EQ(Shown(site_.Rows("GENBA002.MDB", "SELECT 予備3 FROM 加工テーブル")[0][0]), "3");
+}
+
+TEST_F(Activate, HandsAnotherSiteOfANewerFormatOver) {
+  LoadAndActivate();
+  SelectAnotherSite();
+  site_.Add("GENBA002.MDB", "データーベースバージョン", {{"バージョン", "7.0"}});
+  site_.PutProgram("DATA/rbtallyS.exe");
+  EXPECT_EQ(ActivateMenu(options_).hand_over_to, "\\rbk\\rbtally1S.exe");
+  EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
 }
 
 TEST_F(Activate, OnASiteThatHasGoneFaultsWithItsName) {

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/wait_sign.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace rbt {
+
+namespace {
+
+bool SignShows() { return QGuiApplication::overrideCursor() != nullptr; }
+
+void ShowSign() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+
+}  // namespace
+
+WaitSign::WaitSign() : ours_(!SignShows()) {
+  if (ours_) ShowSign();
+}
+
+WaitSign::~WaitSign() {
+  if (ours_) QGuiApplication::restoreOverrideCursor();
+}
+
+WorkAtRest::WorkAtRest() : signed_(SignShows()) {
+  if (signed_) QGuiApplication::restoreOverrideCursor();
+}
+
+WorkAtRest::~WorkAtRest() {
+  if (signed_) ShowSign();
+}
+
+}  // namespace rbt
