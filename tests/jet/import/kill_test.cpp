@@ -28,7 +28,6 @@ namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::UnorderedElementsAre;
 
 constexpr int kRows = 300;
 
