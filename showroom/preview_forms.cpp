@@ -11,6 +11,7 @@
 #include "reports/forms/report_forms.h"
 #include "reports/frame/print_frame.h"
 #include "screens/result/result_forms.h"
+#include "session/result/result_screen.h"
 #include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
@@ -38,7 +39,7 @@ PrintedDocument Drawn(std::string_view word, const TallyResult& result) {
 
 std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> forms,
                               std::vector<std::string> printers) {
-  MakeJS();  // binds the site
+  MakeResultForm(kBulkScreen);  // binds the site
   const TallyResult result = CountTally(TallyKind::bulk);
   std::vector<PrintedDocument> documents;
   for (const std::string_view word : forms) documents.push_back(Drawn(word, result));
