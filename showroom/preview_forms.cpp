@@ -49,7 +49,7 @@ std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> forms,
   return std::make_unique<PreviewForm>(std::move(documents), std::move(parts));
 }
 
-PreviewForm& Preview(QWidget& form) { return static_cast<PreviewForm&>(form); }
+PreviewForm& PreviewIn(QWidget& form) { return static_cast<PreviewForm&>(form); }
 
 FormEntry Entry(std::function<std::unique_ptr<QWidget>()> make, std::vector<FormState> states) {
   return {.name = "PreviewForm",
@@ -64,12 +64,12 @@ FormEntry Entry(std::function<std::unique_ptr<QWidget>()> make, std::vector<Form
 std::vector<FormEntry> PreviewForms() {
   return {Entry([] { return Make({kA4Portrait}, SamplePrinters()); },
                 {{"portrait", [](QWidget&) {}},
-                 {"actual-size", [](QWidget& form) { Preview(form).ShowActualSize(); }},
-                 {"page-width", [](QWidget& form) { Preview(form).ShowPageWidth(); }},
+                 {"actual-size", [](QWidget& form) { PreviewIn(form).ShowActualSize(); }},
+                 {"page-width", [](QWidget& form) { PreviewIn(form).ShowPageWidth(); }},
                  {"zoomed",
                   [](QWidget& form) {
-                    Preview(form).ShowActualSize();
-                    for (int step = 0; step < 3; ++step) Preview(form).ZoomIn();
+                    PreviewIn(form).ShowActualSize();
+                    for (int step = 0; step < 3; ++step) PreviewIn(form).ZoomIn();
                   }}}),
           Entry([] { return Make({kA4Landscape}, {}); }, {{"landscape-without-a-printer", [](QWidget&) {}}}),
           Entry(
@@ -77,7 +77,7 @@ std::vector<FormEntry> PreviewForms() {
                 return Make({kA4Portrait, kB5Landscape, kA4Landscape}, SamplePrinters());
               },
               {{"first-of-three", [](QWidget&) {}},
-               {"second-of-three", [](QWidget& form) { Preview(form).ShowNextPage(); }}}),
+               {"second-of-three", [](QWidget& form) { PreviewIn(form).ShowNextPage(); }}}),
           {.name = "PrinterChoice",
            .make = [] { return std::make_unique<PrinterChoice>(SamplePrinters()); },
            .first_focus = "lstPrinter",
