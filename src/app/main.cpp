@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -11,6 +12,7 @@
 #include "data/start_mode.h"
 #include "desktop/action.h"
 #include "desktop/colour.h"
+#include "desktop/lock_question.h"
 #include "desktop/look.h"
 #include "desktop/message_box.h"
 #include "desktop/pending_events.h"
@@ -27,6 +29,7 @@ namespace rbt {
 namespace {
 
 constexpr int kWrongUsage = 2;
+constexpr std::chrono::seconds kLockPatience{3};
 constexpr const char* kUsage =
     "usage: rbtally1 [--root DIR] [START-MODE ...]\n"
     "\n"
@@ -72,6 +75,10 @@ bool UseRoot(const Arguments& arguments) {
 void SetUpServices() {
   const auto preview = [](const PrintedDocument& document) { ShowPreview({document}); };
   Services.Messages = ShowMessage;
+  // A window that stands still tells why after a moment.
+  Services.LockPatience = kLockPatience;
+  Services.WaitOn = AskToWaitOn;
+  Services.OnWait = NoteWait;
   Services.Colours = AskColour;
   Services.PendingEvents = ProcessEventsWithoutInput;
   Services.Printers = PdfDeviceAlone(preview);

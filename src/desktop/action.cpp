@@ -6,8 +6,10 @@
 
 #include <QWidget>
 
+#include "desktop/pending_events.h"
 #include "desktop/wait_sign.h"
 #include "platform/system/message.h"
+#include "session/panels/fault_words.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
@@ -16,11 +18,27 @@ namespace {
 
 class Running {
  public:
-  Running() { ++RunState.RunningActions; }
+  Running() {
+    if (RunState.RunningActions++ == 0) RunState.HasWaited = RunState.GaveUpWaiting = false;
+  }
   Running(const Running&) = delete;
   Running& operator=(const Running&) = delete;
-  ~Running() { --RunState.RunningActions; }
+  ~Running() {
+    if (RunState.RunningActions == 1 && RunState.HasWaited) {
+      // What was typed while a file was waited for must not start another action. What falls due meanwhile is
+      // told that this one still runs: it would be deaf.
+      RunState.HasWaited = false;
+      ProcessEventsWithoutInput();
+    }
+    --RunState.RunningActions;
+  }
 };
+
+void Tell(const std::exception& fault, std::string_view title) {
+  // Who gave up waiting knows that the action has ended.
+  if (RunState.GaveUpWaiting && IsOfLock(fault)) return;
+  MsgBox(FaultWords(fault), title, MessageButtons::ok_to_warning);
+}
 
 }  // namespace
 
@@ -32,7 +50,7 @@ bool RunAction(std::string_view title, const std::function<void()>& action) {
     return true;
   } catch (const std::exception& fault) {
     // Faults, and what the libraries throw: nothing may pass through the event loop.
-    MsgBox(fault.what(), title);
+    Tell(fault, title);
     return false;
   }
 }

@@ -73,8 +73,10 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
   if (numbers) DrawParts(*painter, cell, index);
   if (total) {
-    painter->setPen(QPen(cell.palette.color(QPalette::Text), 1));
-    painter->drawLine(cell.rect.topLeft(), cell.rect.topRight());
+    // A line of one pixel may fall between two pixels of a scaled screen, under the line of the table.
+    constexpr int kRule = 2;
+    painter->fillRect(cell.rect.left(), cell.rect.top(), cell.rect.width(), kRule,
+                      cell.palette.color(QPalette::Text));
   }
   painter->restore();
 }

@@ -63,6 +63,9 @@ class GridControl : public QTableView {
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
+  /// Draws the cells with another painter, which the grid owns; before there are rows.
+  void SetPainter(GridCellPainter* painter);
+
  private:
   class Model;
   void LayOutColumns();

@@ -32,10 +32,16 @@ constexpr Answer kCancel{MessageAnswer::cancel, QMessageBox::RejectRole, "キャ
 constexpr Answer kYes{MessageAnswer::yes, QMessageBox::YesRole, "はい(&Y)"};
 constexpr Answer kNo{MessageAnswer::no, QMessageBox::NoRole, "いいえ(&N)"};
 
+constexpr Answer kRetry{MessageAnswer::retry, QMessageBox::AcceptRole, "再試行(&R)"};
+constexpr Answer kAbort{MessageAnswer::cancel, QMessageBox::RejectRole, "中止"};
+constexpr Answer kExit{MessageAnswer::cancel, QMessageBox::RejectRole, "終了"};
+
 constexpr std::array kOkOnly{kOk};
 constexpr std::array kOkCancel{kOk, kCancel};
 constexpr std::array kYesNo{kYes, kNo};
 constexpr std::array kYesNoCancel{kYes, kNo, kCancel};
+constexpr std::array kRetryAbort{kRetry, kAbort};
+constexpr std::array kRetryExit{kRetry, kExit};
 
 /// The last answer of each set is the cautious one.
 std::span<const Answer> Answers(MessageButtons buttons) {
@@ -46,10 +52,31 @@ std::span<const Answer> Answers(MessageButtons buttons) {
       return kYesNo;
     case MessageButtons::yes_no_cancel:
       return kYesNoCancel;
+    case MessageButtons::retry_abort:
+      return kRetryAbort;
+    case MessageButtons::retry_exit:
+      return kRetryExit;
     case MessageButtons::ok:
+    case MessageButtons::ok_to_warning:
       break;
   }
   return kOkOnly;
+}
+
+QMessageBox::Icon Sign(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::ok:
+      return QMessageBox::Information;
+    case MessageButtons::ok_to_warning:
+    case MessageButtons::retry_abort:
+    case MessageButtons::retry_exit:
+      return QMessageBox::Warning;
+    case MessageButtons::ok_cancel:
+    case MessageButtons::yes_no:
+    case MessageButtons::yes_no_cancel:
+      break;
+  }
+  return QMessageBox::Question;
 }
 
 QString PlainText(std::string_view text) {
@@ -74,7 +101,7 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   const QPointer<QWidget> below = QApplication::activeWindow();
   QMessageBox box(below);
   const std::span<const Answer> answers = Answers(buttons);
-  box.setIcon(answers.size() == 1 ? QMessageBox::Information : QMessageBox::Question);
+  box.setIcon(Sign(buttons));
   box.setTextFormat(Qt::PlainText);
   box.setText(PlainText(text));
   box.setWindowTitle(PlainText(title.empty() ? kProgramTitle : title));

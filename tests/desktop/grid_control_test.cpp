@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QImage>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -162,6 +163,37 @@ TEST(GridControl, MovesByTheKeyboardAndLeavesByTab) {
   EXPECT_EQ(grid.currentIndex().row(), 1);
   Press(grid, Qt::Key_End, Qt::ControlModifier);
   EXPECT_EQ(grid.currentIndex().row(), 49);
+}
+
+TEST(Grid, TheRuleOfATotalShowsAtAnyScale) {
+  GridControl grid;
+  grid.SetColumns({{"a", 10}});
+  grid.SetRows({{"1"}, {"2"}});
+  auto* painter_of_cells = static_cast<GridCellPainter*>(grid.itemDelegate());
+  painter_of_cells->SetTotals({1});
+  constexpr double kScale = 1.5;
+  for (int top = 20; top < 26; ++top) {
+    QImage picture(180, 120, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(kScale);
+    picture.fill(Qt::white);
+    QStyleOptionViewItem cell;
+    cell.rect = QRect(10, top, 80, 20);
+    {
+      QPainter painter(&picture);
+      painter.setClipRect(cell.rect);
+      painter_of_cells->paint(&painter, cell, grid.model()->index(1, 0));
+      // The line between two rows, as the table draws it afterwards.
+      painter.setClipping(false);
+      painter.setPen(Qt::lightGray);
+      painter.drawLine(10, top - 1, 90, top - 1);
+    }
+    int dark_rows = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      // Left of the digits nothing but the rule is dark.
+      if (picture.pixelColor(30, y).lightness() < 100) ++dark_rows;
+    }
+    EXPECT_GE(dark_rows, 1) << top;
+  }
 }
 
 }  // namespace rbt::test

@@ -18,6 +18,8 @@ struct Seen {
   QString text;
   QString title;
   QString focused;
+  QString answers;
+  QMessageBox::Icon sign = QMessageBox::NoIcon;
   bool open = false;
   MessageAnswer answer = MessageAnswer::ok;
 };
@@ -30,6 +32,8 @@ Seen Show(std::string_view text, std::string_view title, MessageButtons buttons,
     seen.open = MessageBoxOpen();
     seen.text = box->text();
     seen.title = box->windowTitle();
+    seen.sign = box->icon();
+    for (const QAbstractButton* button : box->buttons()) seen.answers += button->text() + "|";
     if (const auto* button = qobject_cast<QAbstractButton*>(box->focusWidget()))
       seen.focused = button->text();
     Press(*box, key);
@@ -52,6 +56,28 @@ TEST(MessageBox, EscTakesTheCautiousAnswer) {
   EXPECT_EQ(Show("a", "t", MessageButtons::ok_cancel, Qt::Key_Escape).answer, MessageAnswer::cancel);
   EXPECT_EQ(Show("a", "t", MessageButtons::yes_no, Qt::Key_Escape).answer, MessageAnswer::no);
   EXPECT_EQ(Show("a", "t", MessageButtons::yes_no_cancel, Qt::Key_Escape).answer, MessageAnswer::cancel);
+}
+
+TEST(MessageBox, OffersToTryAgainOrToGiveUpTheActionOrTheProgram) {
+  const Seen retry = Show("a", "t", MessageButtons::retry_abort, Qt::Key_Return);
+  EXPECT_EQ(retry.answer, MessageAnswer::retry);
+  EXPECT_EQ(retry.answers, "再試行(&R)|中止|");
+  EXPECT_EQ(Show("a", "t", MessageButtons::retry_abort, Qt::Key_Escape).answer, MessageAnswer::cancel);
+  const Seen exit = Show("a", "t", MessageButtons::retry_exit, Qt::Key_Escape);
+  EXPECT_EQ(exit.answer, MessageAnswer::cancel);
+  EXPECT_EQ(exit.answers, "再試行(&R)|終了|");
+}
+
+TEST(MessageBox, BearsASignForWhatItTells) {
+  const std::pair<MessageButtons, QMessageBox::Icon> signs[] = {
+      {MessageButtons::ok, QMessageBox::Information},
+      {MessageButtons::ok_to_warning, QMessageBox::Warning},
+      {MessageButtons::retry_abort, QMessageBox::Warning},
+      {MessageButtons::retry_exit, QMessageBox::Warning},
+      {MessageButtons::yes_no, QMessageBox::Question}};
+  for (const auto& [buttons, sign] : signs) {
+    EXPECT_EQ(Show("a", "t", buttons, Qt::Key_Return).sign, sign) << static_cast<int>(buttons);
+  }
 }
 
 TEST(MessageBox, ShowsTextAndTitleAsTheyAre) {

@@ -9,14 +9,13 @@ PATIENCE = 20.0  # seconds; a busy machine draws slowly
 
 
 class Desk:
-    """A screen of 1366 x 768. Programs on it are started with `environment`."""
+    """A screen of some size. Programs on it are started with `environment`."""
 
-    SIZE = (1366, 768)
-
-    def __init__(self, environment):
+    def __init__(self, environment, size):
+        self.size = size
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.SIZE[0]}x{self.SIZE[1]}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size[0]}x{size[1]}x24", "-nolisten", "tcp"],
             pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as number:

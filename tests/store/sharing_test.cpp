@@ -132,7 +132,10 @@ TEST_F(ASharedFile, is_waited_for_on_and_on_where_somebody_says_so) {
     if (asked.size() == 3) writing.reset();
     return true;
   };
+  int pauses = 0;
+  Services.OnWait = [&] { ++pauses; };
   EXPECT_EQ(ours.Execute("UPDATE T SET a = 2"), 1);
+  EXPECT_GE(pauses, 3);
   EXPECT_EQ(asked, std::vector<std::filesystem::path>(3, file_));
 }
 

@@ -7,9 +7,23 @@ namespace rbt {
 namespace {
 
 TEST(KindCaption, NamesTheKindsOfTheMaskInTheirOrder) {
-  EXPECT_EQ(KindCaption(KindMask(1)), "異形のみ");
-  EXPECT_EQ(KindCaption(KindMask(11)), "異形･ネジ･スリット");
-  EXPECT_EQ(KindCaption(KindMask(15)), "異形･ネジ･高強度･スリット");
+  constexpr const char* kCaptions[] = {"異形のみ",
+                                       "ネジのみ",
+                                       "異形･ネジ",
+                                       "高強度のみ",
+                                       "異形･高強度",
+                                       "ネジ･高強度",
+                                       "異形･ネジ･高強度",
+                                       "スリットのみ",
+                                       "異形･スリット",
+                                       "ネジ･スリット",
+                                       "異形･ネジ･スリット",
+                                       "高強度･スリット",
+                                       "異形･高強度･スリット",
+                                       "ネジ･高強度･スリット",
+                                       "異形･ネジ･高強度･スリット"};
+  std::int32_t mask = 0;
+  for (const char* caption : kCaptions) EXPECT_EQ(KindCaption(KindMask(++mask)), caption) << mask;
   EXPECT_EQ(KindCaption(KindMask(0)), "");
   EXPECT_EQ(KindCaption(KindMask(16)), "");
 }

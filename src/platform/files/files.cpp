@@ -10,6 +10,7 @@
 
 #include "platform/files/file_descriptor.h"
 #include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
 #include "platform/files/system_error.h"
 
 namespace rbt {
@@ -36,6 +37,19 @@ bool IsTaken(const fs::path& name) {
 
 bool TakesFiles(const fs::path& folder) {
   return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+bool MayBeReplaced(const fs::path& file) {
+  if (::faccessat(AT_FDCWD, file.c_str(), F_OK, AT_EACCESS) == 0 &&
+      ::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
+    return false;
+  }
+  fs::path folder = FolderOf(file);
+  std::error_code error;
+  while (!fs::exists(folder, error) && folder.has_parent_path() && folder != folder.parent_path()) {
+    folder = folder.parent_path();
+  }
+  return TakesFiles(folder);
 }
 
 void WriteFileAtomically(const fs::path& file, std::string_view bytes) {

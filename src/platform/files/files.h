@@ -13,6 +13,10 @@ bool IsTaken(const std::filesystem::path& name);
 /// Whether this user may make files in a folder.
 bool TakesFiles(const std::filesystem::path& folder);
 
+/// Whether this user may write a file anew, or make it where there is none; folders that are missing are
+/// made.
+bool MayBeReplaced(const std::filesystem::path& file);
+
 /// The bytes of a file; throws `file`.
 std::string ReadFileBytes(const std::filesystem::path& file);
 /// Writes the whole file or leaves the old one, see `FileInWork`. An existing file keeps its permissions; a

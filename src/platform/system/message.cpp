@@ -12,8 +12,19 @@ namespace rbt {
 namespace {
 
 MessageAnswer DefaultAnswer(MessageButtons buttons) {
-  const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
-  return asks ? MessageAnswer::yes : MessageAnswer::ok;
+  switch (buttons) {
+    case MessageButtons::yes_no:
+    case MessageButtons::yes_no_cancel:
+      return MessageAnswer::yes;
+    case MessageButtons::retry_abort:
+    case MessageButtons::retry_exit:
+      return MessageAnswer::cancel;
+    case MessageButtons::ok:
+    case MessageButtons::ok_cancel:
+    case MessageButtons::ok_to_warning:
+      break;
+  }
+  return MessageAnswer::ok;
 }
 
 /// A message may break its lines for the window; on standard error it stays one line.

@@ -20,6 +20,7 @@ bool LockWait::Again() {
     if (!Services.WaitOn(file_)) return false;
     end_ = Clock::now() + Services.LockPatience;
   }
+  Services.OnWait();
   std::this_thread::sleep_for(pause_);
   pause_ = std::min(2 * pause_, kLongestPause);
   return true;

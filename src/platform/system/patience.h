@@ -26,6 +26,8 @@ class LockWait {
   std::chrono::milliseconds pause_{1};
 };
 
+/// Called before each pause of a wait.
+using WaitHook = std::function<void()>;
 /// Asked when a file was waited for in vain: true waits as long once more.
 using LockQuestion = std::function<bool(const std::filesystem::path& file)>;
 /// That of the command line, which tells its user instead.

@@ -30,10 +30,11 @@ struct ServicesData {
   std::function<DateTime()> Clock = SystemClock;
   /// `MsgBox()`.
   MessageHandler Messages = TellOnStandardError;
-  /// `LockWait`: how long a file is waited for that another program holds, and who is asked whether to wait
-  /// on.
+  /// `LockWait`: how long a file is waited for that another program holds, who is asked whether to wait on,
+  /// and who is told of each pause.
   std::chrono::milliseconds LockPatience{10'000};
   LockQuestion WaitOn = GiveUpWaiting;
+  WaitHook OnWait = [] {};
   /// `StatementLimit()`.
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.

@@ -14,6 +14,8 @@
 #include "screens/panels/boxes.h"
 #include "screens/panels/date_boxes.h"
 #include "screens/panels/digit_box.h"
+#include "screens/panels/hint_line.h"
+#include "session/floorpart/floorpart_hints.h"
 #include "session/panels/at_end.h"
 #include "ui_floorpart_form.h"
 
@@ -56,6 +58,8 @@ FloorPartForm::FloorPartForm(const FloorPartScreen& screen, FloorPartParts parts
   Bind();
   BindCorrection();
   ConnectActions();
+  ui_->SSPanel4->Float(*ui_->formLayout);
+  new HintLine(*this, *ui_->lblHelp, FloorPartHints(screen));
   presenter_.OnShow([this] { Show(); });
   Show();
 }
@@ -115,15 +119,10 @@ void FloorPartForm::Show() {
     close();
     return;
   }
-  if (view.busy && !busy_shown_) focus_before_busy_ = focusWidget();
-  const bool work_goes_on = busy_shown_ && !view.busy;
-  busy_shown_ = view.busy;
-  ShowPanels(view);
-  ShowMainButtons(view);
-  // What was out of reach meanwhile has lost the focus.
-  if (work_goes_on && focus_before_busy_ != nullptr && focus_before_busy_->isVisible()) {
-    focus_before_busy_->setFocus();
-  }
+  focus_over_work_.Show(view.busy, [&] {
+    ShowPanels(view);
+    ShowMainButtons(view);
+  });
   Focus(view.focus);
   if (view.beep) QApplication::beep();
 }
@@ -138,19 +137,14 @@ void FloorPartForm::ShowPanels(const FloorPartView& view) {
   ui_->dbgKai->Show(view.grid);
   if (!view.raise_note.empty()) ui_->SSPanel4->Tell(view.raise_note);
   ShowText(*ui_->Text1, view.uplift.text);
-  const std::array<std::pair<QWidget*, bool>, 6> panels{{{ui_->pnlInputKai, view.input.shown},
+  const std::array<std::pair<QWidget*, bool>, 5> panels{{{ui_->pnlInputKai, view.input.shown},
                                                          {ui_->dbgKai, !view.input.shown},
-                                                         {ui_->SSPanel4, !view.raise_note.empty()},
                                                          {ui_->upliftGroup, view.uplift.shown},
                                                          {ui_->SSPanel2, view.main_buttons_shown},
                                                          {ui_->SSPanel3, view.print_panel.open}}};
-  // One takes another's place: the form must not grow to hold both.
-  for (const auto& [panel, shown] : panels) {
-    if (!shown) panel->hide();
-  }
-  for (const auto& [panel, shown] : panels) {
-    if (shown) panel->show();
-  }
+  SwitchPanels(panels);
+  ui_->SSPanel4->ShowOver(ui_->dbgKai->isVisible() ? ui_->dbgKai->geometry() : rect(),
+                          !view.raise_note.empty());
 }
 
 void FloorPartForm::Focus(FloorPartFocus target) {

@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
-#include <QPointer>
 #include <QWidget>
 
+#include "screens/panels/stage.h"
 #include "session/floorpart/floorpart_presenter.h"
 
 namespace Ui {
@@ -54,8 +54,7 @@ class FloorPartForm : public QWidget {
   FloorPartPresenter presenter_;
   std::unique_ptr<Ui::FloorPartForm> ui_;
   bool activated_ = false;
-  bool busy_shown_ = false;
-  QPointer<QWidget> focus_before_busy_;
+  FocusOverWork focus_over_work_{*this};
 };
 
 }  // namespace rbt

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
-#include <QStyledItemDelegate>
 
 #include "data/parts.h"
 #include "desktop/colour.h"
@@ -27,9 +26,9 @@ bool TypesWeight(const QString& text) {
 }  // namespace
 
 /// Edits a cell in a box of digits and commas.
-class FloorPartGrid::WeightEditing : public QStyledItemDelegate {
+class FloorPartGrid::WeightEditing : public GridCellPainter {
  public:
-  explicit WeightEditing(FloorPartGrid& grid) : QStyledItemDelegate(&grid), grid_(grid) {}
+  explicit WeightEditing(FloorPartGrid& grid) : GridCellPainter(&grid), grid_(grid) {}
 
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                         const QModelIndex& /*index*/) const override {
@@ -45,9 +44,7 @@ class FloorPartGrid::WeightEditing : public QStyledItemDelegate {
   FloorPartGrid& grid_;
 };
 
-FloorPartGrid::FloorPartGrid(QWidget* parent) : GridControl(parent) {
-  setItemDelegate(new WeightEditing(*this));
-}
+FloorPartGrid::FloorPartGrid(QWidget* parent) : GridControl(parent) { SetPainter(new WeightEditing(*this)); }
 
 void FloorPartGrid::Show(const FloorPartGridView& view) {
   SetOpen(view.open);
@@ -63,6 +60,7 @@ void FloorPartGrid::Show(const FloorPartGridView& view) {
     SetColumns(std::move(columns));
   }
   SetRows(view.rows);
+  if (!view.rows.empty()) SetTotals({view.rows.size() - 1});
   SetAlternateColours(view.colours ? ColourOfRgb(view.colours->back) : QColor(),
                       view.colours ? ColourOfRgb(view.colours->fore) : QColor());
 }

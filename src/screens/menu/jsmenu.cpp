@@ -140,6 +140,7 @@ void JSMENU::OpenForm(std::string_view form) {
 }
 
 void JSMENU::ShowFormModally(std::string_view form) {
+  start_notice_.reset();
   const std::unique_ptr<QWidget> shown = FindScreen(form)->make();
   ShowModally(*shown);
 }

@@ -2,6 +2,7 @@
 #include "screens/panels/busy_notice.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QThread>
 #include <QWindow>
 
@@ -18,6 +19,21 @@ BusyNotice::BusyNotice(QWidget* parent) : QFrame(parent), ui_(std::make_unique<U
 BusyNotice::~BusyNotice() = default;
 
 void BusyNotice::Tell(std::string_view words) { ui_->WaitMsgL->setText(Text(words)); }
+
+void BusyNotice::Float(QLayout& layout) {
+  layout.removeWidget(this);
+  setAutoFillBackground(true);
+  hide();
+}
+
+void BusyNotice::ShowOver(const QRect& place, bool shown) {
+  if (shown) {
+    adjustSize();
+    move(place.center() - rect().center());
+    raise();
+  }
+  setVisible(shown);
+}
 
 StartNotice::StartNotice() {
   notice_.setWindowFlag(Qt::SplashScreen);

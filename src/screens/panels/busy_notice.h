@@ -5,6 +5,9 @@
 #include <string_view>
 
 #include <QFrame>
+#include <QRect>
+
+class QLayout;
 
 namespace Ui {
 class BusyNotice;
@@ -20,6 +23,11 @@ class BusyNotice : public QFrame {
 
   /// Other words than the usual ones.
   void Tell(std::string_view words);
+
+  /// Takes the notice out of its form's layout, where it would move everything at each press.
+  void Float(QLayout& layout);
+  /// In the middle of a place of its form, or out of sight.
+  void ShowOver(const QRect& place, bool shown);
 
  private:
   std::unique_ptr<Ui::BusyNotice> ui_;

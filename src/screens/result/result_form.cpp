@@ -32,7 +32,7 @@ ResultForm::ResultForm(const ResultScreen& screen, ResultParts parts)
   ui_->filterPanel->OnUplift([this](std::string text) { presenter_.TypeUplift(std::move(text)); },
                              [this] { Do(&ResultPresenter::TakeUplift); });
   ConnectActions();
-  FloatBusyNotice();
+  ui_->SSPanel4->Float(*ui_->formLayout);
   new HintLine(*this, *ui_->lblHelp, ResultHints());
   presenter_.OnShow([this] { Show(); });
   Show();
@@ -78,21 +78,8 @@ void ResultForm::PlaceRange() {
        .leave = [this] { Do(&ResultPresenter::LeaveRange); }});
 }
 
-/// The wait notice lies over the grid: in the layout it would move everything at each press.
-void ResultForm::FloatBusyNotice() {
-  ui_->formLayout->removeWidget(ui_->SSPanel4);
-  ui_->SSPanel4->setAutoFillBackground(true);
-  ui_->SSPanel4->hide();
-}
-
 void ResultForm::ShowBusy(bool busy) {
-  if (busy) {
-    const QRect place = ui_->dbgJS->isVisible() ? ui_->dbgJS->geometry() : rect();
-    ui_->SSPanel4->adjustSize();
-    ui_->SSPanel4->move(place.center() - ui_->SSPanel4->rect().center());
-    ui_->SSPanel4->raise();
-  }
-  ui_->SSPanel4->setVisible(busy);
+  ui_->SSPanel4->ShowOver(ui_->dbgJS->isVisible() ? ui_->dbgJS->geometry() : rect(), busy);
 }
 
 void ResultForm::Do(const std::function<void(ResultPresenter&)>& intent) {
@@ -108,15 +95,10 @@ void ResultForm::Show() {
     close();
     return;
   }
-  if (view.busy && !busy_shown_) focus_before_busy_ = focusWidget();
-  const bool work_goes_on = busy_shown_ && !view.busy;
-  busy_shown_ = view.busy;
-  ShowPanels(view);
-  ShowMainButtons(view);
-  // What was out of reach meanwhile has lost the focus.
-  if (work_goes_on && focus_before_busy_ != nullptr && focus_before_busy_->isVisible()) {
-    focus_before_busy_->setFocus();
-  }
+  focus_over_work_.Show(view.busy, [&] {
+    ShowPanels(view);
+    ShowMainButtons(view);
+  });
   Focus(view.focus);
 }
 
@@ -136,13 +118,7 @@ void ResultForm::ShowPanels(const ResultScreenView& view) {
   }
   ShowBusy(view.busy);
   ui_->lblNotice->setText(Text(view.notice));
-  // One takes another's place: the form must not grow to hold both.
-  for (const auto& [panel, shown] : panels) {
-    if (!shown) panel->hide();
-  }
-  for (const auto& [panel, shown] : panels) {
-    if (shown) panel->show();
-  }
+  SwitchPanels(panels);
 }
 
 void ResultForm::Focus(const FocusRequest& request) {

@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
-#include <QPointer>
 #include <QWidget>
 
+#include "screens/panels/stage.h"
 #include "session/result/result_presenter.h"
 
 namespace Ui {
@@ -42,7 +42,6 @@ class ResultForm : public QWidget {
 
   void TakeControls();
   void PlaceRange();
-  void FloatBusyNotice();
   void ShowBusy(bool busy);
   void ConnectActions();
   /// Passes an intent on and shows what has become of it, whatever ends it.
@@ -56,8 +55,7 @@ class ResultForm : public QWidget {
   ResultPresenter presenter_;
   std::unique_ptr<Ui::ResultForm> ui_;
   RangePanel* range_ = nullptr;  ///< null on the bulk screen
-  bool busy_shown_ = false;
-  QPointer<QWidget> focus_before_busy_;
+  FocusOverWork focus_over_work_{*this};
 };
 
 }  // namespace rbt

@@ -12,9 +12,11 @@
 #include "session/panels/site_head.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/detail/detail_change.h"
 #include "tally/detail/detail_entry.h"
 #include "tally/kinds/tally_kinds.h"
+#include "tally/selection.h"
 
 namespace rbt {
 
@@ -199,6 +201,7 @@ void DetailPresenter::RestoreValues() {
   if (MsgBox(kRestoreQuestion, kDetailTitle, MessageButtons::yes_no) != MessageAnswer::yes) return;
   // A tally that faults leaves nothing in the place of the current result, and the list stays.
   const AtEnd place([this] { TallyGrid = result_.Grid(); });
+  const ClassifiedSchedule held(Selection.StartMode);
   result_ = WithUlbonRaised(CountTally(result_.kind), result_.ulbon_percent);
   markers_ = {};
 }

@@ -19,7 +19,7 @@
 #include "shell/config/settings.h"
 #include "shell/context/reference_names.h"
 #include "shell/context/site_context.h"
-#include "shell/preparation/preparation.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/captions.h"
 #include "tally/floorpart/hand_correction.h"
 #include "tally/kinds/tally_kinds.h"
@@ -46,10 +46,16 @@ constexpr double kPercent = 100.0;
 
 /// Saved tallies need their table. Where the load could bring the site up to date, it is there.
 void ProvideFloorArchive(Database& site) {
+  if (!site.MayBeWritten()) return;
   if (Table_Exists(kFloorArchive, site)) return;
   for (const TableDef& table : ArchiveTables()) {
     if (table.name == kFloorArchive) site.CreateTable(table);
   }
+}
+
+SpecialMask SpecialFloorsNow() {
+  const ClassifiedSchedule held(Selection.StartMode, FloorsAndParts::filled);
+  return SpecialFloorsOf(*SiteContext.WorkDatabase);
 }
 
 /// As the site's head has it, in the room that these screens give it.
@@ -79,17 +85,17 @@ FloorPartPresenter::FloorPartPresenter(const FloorPartScreen& screen, FloorPartP
   TakeAllBack();
   installed_ = ReadSetting(kFloorTallyStockKey) == 1;
   BindChosenSite();
-  ReadSchedule(*SiteContext.WorkDatabase);
+  ReadSchedule();
   head_ = ReadFloorPartHead();
   StampTime();
 }
 
-void FloorPartPresenter::ReadSchedule(Database& site) {
-  empty_ = !site.HasRows("SELECT * FROM 加工テーブル");
+void FloorPartPresenter::ReadSchedule() {
+  empty_ = !SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル");
   if (empty_) return;
-  ProvideFloorArchive(site);
-  FillFloorsAndParts(site);
-  const std::optional<FloorExtent> extent = ReadFloorExtent(site);
+  ProvideFloorArchive(*SiteContext.WorkDatabase);
+  const ClassifiedSchedule held(Selection.StartMode, FloorsAndParts::filled);
+  const std::optional<FloorExtent> extent = ReadFloorExtent(*SiteContext.WorkDatabase);
   if (!extent) throw Fault(FaultKind::invalid_use_of_null, "加工テーブル 階");
   extent_ = *extent;
   input_ = FloorInput(extent_);
@@ -172,7 +178,7 @@ void FloorPartPresenter::Run() {
   SpecialMask specials;
   SpecialSeen = kAllTaken;
   if (!IsSpecialFloor(range->end)) {
-    const SpecialMask found = SpecialFloorsOf(*SiteContext.WorkDatabase);
+    const SpecialMask found = SpecialFloorsNow();
     specials = AskAboutSpecialFloors(found, screen_.question_titles);
     SpecialSeen += found.AsNumber();
     SpecialTaken += specials.AsNumber();
@@ -225,7 +231,7 @@ void FloorPartPresenter::Tally() {
   busy_ = true;
   if (show_) show_();
   RunPendingEvents();
-  result_ = CountTally(screen_.kind);
+  Count();
   HoseiZumi = false;
   Fill();
   StampTime();
@@ -233,6 +239,12 @@ void FloorPartPresenter::Tally() {
   OfferModes();
   result_shown_ = true;
   done = true;
+}
+
+/// Over one state of the schedule, with what other programs have done to it since.
+void FloorPartPresenter::Count() {
+  const ClassifiedSchedule held(Selection.StartMode, FloorsAndParts::filled);
+  result_ = CountTally(screen_.kind);
 }
 
 void FloorPartPresenter::Fill() {

@@ -82,10 +82,11 @@ class FloorPartPresenter {
   /// What the user is about to do to the figures.
   enum class Change { none, uplift, correction };
 
-  void ReadSchedule(Database& site);
+  void ReadSchedule();
   void TakeAllBack();
   void RunOver(const FloorRange& range, SpecialMask specials);
   void Tally();
+  void Count();
   void BackToInput();
   void Fill();
   void TellModes();

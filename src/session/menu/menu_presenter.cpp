@@ -11,6 +11,9 @@
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "session/menu/captions.h"
+#include "session/panels/at_end.h"
+#include "session/panels/fault_words.h"
+#include "session/settings/setting_options.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "tally/kinds/tally_kinds.h"
@@ -54,8 +57,32 @@ MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int statu
       .end_program = std::move(end_program)};
 }
 
+/// A step whose fault ends the program: told so to whoever asks the user to wait. Should the fault lie in a
+/// setting that the settings form shows, it can be mended there first.
+template <typename Result>
+Result MenuPresenter::Vitally(const std::function<Result()>& step) {
+  const AtEnd ended([] { RunState.FaultEndsProgram = false; });
+  for (;;) {
+    try {
+      RunState.FaultEndsProgram = true;
+      return step();
+    } catch (const Fault& fault) {
+      RunState.FaultEndsProgram = false;
+      if (!MendsSetting(fault)) throw;
+    }
+  }
+}
+
+bool MenuPresenter::MendsSetting(const Fault& fault) {
+  if (!IsOfShownSetting(fault) || !window_.HasForm(kSettingsForm)) return false;
+  const std::string question = FaultWords(fault) + "\n\n「その他設定」を開いて選び直しますか。";
+  if (MsgBox(question, kMenuTitle, MessageButtons::yes_no) != MessageAnswer::yes) return false;
+  window_.ShowFormModally(kSettingsForm);
+  return true;
+}
+
 void MenuPresenter::Load() {
-  const LoadResult result = parts_.load();
+  const LoadResult result = Vitally(parts_.load);
   if (result.hand_over_to) return HandOver(*result.hand_over_to);
   window_.ShowLoad({result.shows_plate_sheet, RunState.RunDate, RunState.RunTime});
 }
@@ -70,7 +97,7 @@ void MenuPresenter::HandOver(const std::string& program) {
 void MenuPresenter::Activate() {
   if (ended_ || window_.HasOpenForm()) return;
   if (Selection.StartMode.PassesOn()) window_.Minimise();
-  const MenuState state = parts_.activate();
+  const MenuState state = Vitally(parts_.activate);
   if (state.hand_over_to) return HandOver(*state.hand_over_to);
   window_.ShowState(state);
   if (state.pass_on_to) PassOn(*state.pass_on_to);
@@ -96,7 +123,7 @@ void MenuPresenter::Begin(const OpensTally& tally) {
     window_.OpenForm(tally.form);
     if (hidden) hidden->GiveOver();
   }
-  WriteHandOver(kMaterialDetailKey, "0");
+  if (HandOverMayBeWritten()) WriteHandOver(kMaterialDetailKey, "0");
 }
 
 void MenuPresenter::Begin(const RunsSibling& entry) { CallSibling(entry.sibling); }

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/fault.h"
 #include "session/menu/menu_entries.h"
 #include "session/startup/startup.h"
 
@@ -57,7 +58,8 @@ class MenuWindow {
 
 /// The menu without its window: load, activation, and what each entry starts. Entries act in whatever state
 /// their buttons are, hidden ones included. A fault of load or activation is for the caller to end the
-/// program with; one of an entry leaves the menu in sight.
+/// program with, unless it lies in a setting that the user mends in the settings when asked; one of an entry
+/// leaves the menu in sight.
 ///
 /// While the screen of a tally is open, the menu starts nothing and no activation runs: either would pull
 /// selection and site from under what that screen shows.
@@ -89,6 +91,10 @@ class MenuPresenter {
   void Begin(const RunsStockFitter& entry);
   void Begin(const OpensSettings& entry);
   void Begin(const Leaves& entry);
+
+  template <typename Result>
+  Result Vitally(const std::function<Result()>& step);
+  bool MendsSetting(const Fault& fault);
 
   void HandOver(const std::string& program);
   void CallSibling(const Sibling& sibling);

@@ -13,6 +13,7 @@
 #include "shell/context/reference_names.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/captions.h"
 #include "tally/selection.h"
 #include "tally/views/result_views.h"
@@ -53,8 +54,12 @@ void ResultPresenter::FirstRun() {
 
 // The tally and what it fills.
 
-void ResultPresenter::Tally() {
+/// Over one state of the schedule, whose change counter is looked at first: what other programs have done to
+/// it since, another start mode's classes among it, is taken in.
+void ResultPresenter::Tally(const std::function<void()>& before) {
   tally_ran_ = false;
+  const ClassifiedSchedule held(Selection.StartMode);
+  if (before) before();
   result_ = CountTally(screen_.kind);
   tally_ran_ = true;
 }
@@ -81,9 +86,10 @@ void ResultPresenter::Rerun(const std::function<void()>& change) {
   notice_.clear();
   if (show_) show_();
   RunPendingEvents();
-  change();
-  ResetMeaninglessModes(Selection);
-  Tally();
+  Tally([&] {
+    change();
+    ResetMeaninglessModes(Selection);
+  });
   Fill();
   // The scoped screens name the kinds after a choice of kinds alone.
   if (range_ == nullptr) TellKinds();

@@ -88,7 +88,7 @@ class ResultPresenter {
   void ResetFilters();
   void ShowStage();
 
-  void Tally();
+  void Tally(const std::function<void()>& before = {});
   void Fill();
   void Rerun(const std::function<void()>& change);
   void TellKinds();

@@ -14,10 +14,16 @@ void Choose(std::int32_t& colour) {
   if (const auto chosen = ChooseColour("色選択", colour)) colour = *chosen;
 }
 
+/// One that cannot be read was told of at the load.
+std::int32_t ColourNow(const IniKey& key) {
+  UnreadableSettings told_at_load;
+  return ReadSteelIniColour(key, told_at_load);
+}
+
 }  // namespace
 
 ColoursPresenter::ColoursPresenter()
-    : back_(ReadSteelIniColour(kGridRowBackColorKey)), fore_(ReadSteelIniColour(kGridRowForeColorKey)) {}
+    : back_(ColourNow(kGridRowBackColorKey)), fore_(ColourNow(kGridRowForeColorKey)) {}
 
 void ColoursPresenter::ChooseBack() { Choose(back_); }
 void ColoursPresenter::ChooseFore() { Choose(fore_); }

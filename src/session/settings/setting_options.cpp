@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/fault.h"
+#include "shell/config/settings.h"
 
 namespace rbt {
 
@@ -60,6 +61,16 @@ const SettingOption& FindSettingOption(std::string_view control) {
     throw Fault(FaultKind::subscript_out_of_range, "setting option " + std::string(control));
   }
   return *option;
+}
+
+bool IsOfShownSetting(const Fault& fault) {
+  const auto names = [&](const NumberKey& key) {
+    const std::string place = PlaceOf(key, "");  // with the quotes of its empty text
+    return fault.Where().find(place.substr(0, place.size() - 1)) != std::string::npos;
+  };
+  return names(kWeldedHoopWeldsKey) ||
+         std::any_of(kOptions.begin(), kOptions.end(),
+                     [&](const SettingOption& each) { return names(each.key); });
 }
 
 std::span<const SettingHint> SettingHints() { return kHints; }

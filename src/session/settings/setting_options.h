@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "platform/fault.h"
 #include "shell/config/setting_keys.h"
 
 namespace rbt {
@@ -18,6 +19,9 @@ struct SettingOption {
 std::span<const SettingOption> SettingOptions();
 /// Faults: `subscript out of range` for a control that is no option.
 const SettingOption& FindSettingOption(std::string_view control);
+
+/// True for a fault of a stored setting that the settings form shows and can mend.
+bool IsOfShownSetting(const Fault& fault);
 
 /// What the settings tell of a control.
 struct SettingHint {

@@ -39,7 +39,7 @@ SettingsPresenter::SettingsPresenter() : stored_title_(ReadSteelIni(kReportTitle
 
 /// One that cannot be read stands for none of its options until the user chooses anew.
 void SettingsPresenter::ReadOrNote(const NumberKey& key) {
-  const auto fault = PassOverFaults(FaultKind::type_mismatch, [&] { values_[key.key] = ReadSetting(key); });
+  const auto fault = PassOverFaultsOfContent([&] { values_[key.key] = ReadSetting(key); });
   if (!fault) return;
   values_[key.key] = kNoOption;
   unreadable_ += "\n" + fault->Where();
@@ -103,8 +103,9 @@ bool SettingsPresenter::WriteTitle(const std::string& title) const {
 void SettingsPresenter::Reread() {
   LoadGridColours();
   RereadTitleSettings();
-  Settings.AlternateRowColours = ReadSetting(kAlternateRowColoursKey);
-  Settings.PrintEmptyDiameters = ReadSetting(kPrintEmptyDiametersKey);
+  UnreadableSettings told_at_load;
+  Settings.AlternateRowColours = ReadLook(kAlternateRowColoursKey, {}, told_at_load);
+  Settings.PrintEmptyDiameters = ReadLook(kPrintEmptyDiametersKey, {}, told_at_load);
   Settings.DateStyle = ReadSetting(kDateStyleKey);
   Settings.ComparisonKind = ReadSetting(kComparisonKindKey);
 }

@@ -2,13 +2,18 @@
 #include "session/startup/startup.h"
 
 #include <filesystem>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "archive/check_jsyukei.h"
 #include "data/reference.h"
 #include "data/shapes.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
 #include "platform/files/system_error.h"
 #include "platform/files/work_place.h"
 #include "platform/numbers/number_words.h"
@@ -16,6 +21,7 @@
 #include "platform/profile/ini_file.h"
 #include "platform/profile/registry.h"
 #include "platform/system/clock.h"
+#include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "session/startup/offer_import.h"
@@ -83,6 +89,28 @@ double ReadSiteVersion() {
 
 bool NeedsNewerProgram() { return ReadSiteVersion() > kNewestVersion && FamilyFileExists(kNewerProgramMark); }
 
+/// Once: what this user may not write is looked at all the same.
+void TellWhatIsOnlyRead(const StartOptions& options) {
+  if (options.command_line || !options.prepare) return;
+  std::vector<std::string> files;
+  if (!SiteContext.WorkDatabase->MayBeWritten()) files.push_back(SiteContext.WorkDatabase->File().string());
+  if (!MayBeReplaced(RegistryFile())) files.push_back(RegistryFile().string());
+  if (files.empty()) return;
+  MsgBox(
+      fmt::format("次のファイルは書き込めないので、読むだけにします。\n"
+                  "集計と印字はできますが、保存や設定の変更はできません。\n\n{}",
+                  fmt::join(files, "\n")));
+  SiteContext.ToldOfCopy = true;
+}
+
+void TellUnreadable(const UnreadableSettings& places) {
+  if (places.empty()) return;
+  MsgBox(
+      fmt::format("読めない設定があるので、初めの値を使います。\n"
+                  "「その他設定」で選び直すか、設定ファイルを直して下さい。\n\n{}",
+                  fmt::join(places, "\n")));
+}
+
 /// Finds out nothing: sites without a shape table are worked on like any other.
 void ProbeShapeTable() {
   Database& site = *SiteContext.WorkDatabase;
@@ -108,12 +136,14 @@ void ReadMaker() {
 
 void ReadGrades() { SiteContext.GradeNames = ReadGradeNames(*SiteContext.MasterDatabase); }
 
+/// Where nothing may be written no accumulation can have begun, and none can begin.
 void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
   if (options.command_line) return;
-  SaveSetting(kAccumulateFlagKey, 0);
+  if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
   if (!FamilyFileExists(kAccumulationFile)) return;
   const std::filesystem::path file = MapPath(kAccumulationFile);
+  if (!TakesFiles(FolderOf(file))) return;
   std::error_code error;
   std::filesystem::remove(file, error);
   if (error) throw FileFault(file, "cannot be deleted", error.value());
@@ -209,19 +239,25 @@ LoadResult LoadSite(const StartOptions& options) {
   SiteContext.OnlyRead = !options.prepare;
   SiteContext.ClassifiedAt.reset();
   if (options.prepare) ClearOldLeftovers();
-  Step(LoadGridColours);
+  UnreadableSettings unreadable;
+  const auto note = [&](UnreadableSettings places) {
+    unreadable.insert(unreadable.end(), places.begin(), places.end());
+  };
+  Step([&] { note(LoadGridColours()); });
   Selection.StartMode = options.start_mode;
-  Step([&] { LoadTallySettings(registry); });
+  Step([&] { note(LoadTallySettings(registry)); });
   if (!options.command_line) Step(OfferSharedImports);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
+  TellWhatIsOnlyRead(options);
   if (!ReadySite(options)) {
     result.hand_over_to = kNewerProgram;
     return result;
   }
   Step([&] { ResetAccumulation(options); });
   result.shows_plate_sheet = IsInstalled(kPlateSheetProgram);
-  Step([&] { LoadRemainingSettings(registry); });
+  Step([&] { note(LoadRemainingSettings(registry)); });
+  TellUnreadable(unreadable);
   Step(ProbeShapes);
   SiteContext.WorkDatabase.reset();
   Step(ProbeCounters);

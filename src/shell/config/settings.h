@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/profile/registry.h"
 #include "shell/config/setting_keys.h"
@@ -37,11 +38,20 @@ void SaveSetting(const BooleanKey& key, bool value);
 std::string ReadSteelIni(const IniKey& key);
 /// Where a setting stands, with its text, for faults: `Kakou\プラス\長さ "abc"`.
 std::string PlaceOf(const TextKey& key, std::string_view text);
+std::string PlaceOf(const NumberKey& key, std::string_view text);
 /// The same of a key of `STEEL.INI`: `STEEL.INI [加工帳] 文字の色 "abc"`.
 std::string PlaceOf(const IniKey& key, std::string_view text);
-/// A colour of `STEEL.INI`, RGB with red in the low byte: an empty text is the default, any other its leading
-/// number.
-std::int32_t ReadSteelIniColour(const IniKey& key);
+
+/// Places of settings that cannot be read, as `PlaceOf` tells them.
+using UnreadableSettings = std::vector<std::string>;
+/// A setting that tells how things look, not what they come to: one that cannot be read is its default, and
+/// is added to `unreadable`.
+std::int32_t ReadLook(const NumberKey& key, const RegistryReading& registry, UnreadableSettings& unreadable);
+bool ReadLook(const BooleanKey& key, const RegistryReading& registry, UnreadableSettings& unreadable);
+/// A colour of `STEEL.INI`, RGB with red in the low byte: the leading number of the text, the default for an
+/// empty text and, added to `unreadable`, for one that begins with no number or goes beyond 32 bits.
+std::int32_t ReadSteelIniColour(const IniKey& key, UnreadableSettings& unreadable);
+
 /// Writes a key of `STEEL.INI`. Faults: `file`, which names the file; `type mismatch` for a text that code
 /// page 932 lacks.
 void WriteSteelIni(const IniKey& key, std::string_view value);
@@ -51,6 +61,8 @@ void WriteSteelIni(const IniKey& key, std::string_view value);
 std::string ReadHandOver(std::string_view key);
 /// Faults as those of `WriteSteelIni`.
 void WriteHandOver(std::string_view key, std::string_view value);
+/// False where this user only looks at the root.
+bool HandOverMayBeWritten();
 
 inline constexpr std::string_view kSteelIni = "\\RBK\\DATA\\STEEL.INI";
 inline constexpr std::string_view kNextPrgIni = "\\RBK\\DATA\\NEXTPRG.INI";
@@ -91,13 +103,16 @@ struct SettingsData {
 
 extern SettingsData Settings;
 
+// Each gives those that could not be read and have their defaults now: how things look. A number that
+// figures, dates or sheets depend on faults with `type mismatch` or `overflow` and its place.
+
 /// `GridRowBackColor` and `GridRowForeColor`.
-void LoadGridColours();
+UnreadableSettings LoadGridColours();
 /// `UseFixedTable`, `AlternateRowColours`, `PrintEmptyDiameters`, `Use13mColumn`, `CapInstalledWeight`.
-void LoadTallySettings(const RegistryReading& registry = {});
+UnreadableSettings LoadTallySettings(const RegistryReading& registry = {});
 /// Everything else that is kept, the title settings included.
-void LoadRemainingSettings(const RegistryReading& registry = {});
+UnreadableSettings LoadRemainingSettings(const RegistryReading& registry = {});
 /// `DetailShowsWeight`, `ReportTitleChoice` and, when the choice is 3, `ReportTitleText`, else empty.
-void RereadTitleSettings(const RegistryReading& registry = {});
+UnreadableSettings RereadTitleSettings(const RegistryReading& registry = {});
 
 }  // namespace rbt

@@ -7,7 +7,7 @@
 namespace rbt {
 
 /// What is held for the run beside the selection: presence flags, the accumulation, the report body, date and
-/// time of the load, the actions that run.
+/// time of the load, the actions that run and what holds them up.
 struct RunStateData {
   bool HasAnchorPlateRows = false;  ///< the site, or the last tally's rows, hold an anchor-plate shape
   bool HasHoopRows = false;         ///< ... hold shape 87
@@ -19,6 +19,9 @@ struct RunStateData {
   std::string RunDate;              ///< "yyyymmdd" at load
   std::string RunTime;              ///< "hhnnss" at load
   std::int32_t RunningActions = 0;  ///< of forms, also while they wait in a message box or for a sibling
+  bool FaultEndsProgram = false;    ///< load or activation runs: its fault ends the program
+  bool HasWaited = false;           ///< the running action has waited for a file that another program held
+  bool GaveUpWaiting = false;       ///< ... and the user has given that up: what becomes of it is known
 };
 
 extern RunStateData RunState;

@@ -115,7 +115,15 @@ void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
   NoteAsClassified(schedule);
 }
 
-ClassifiedSchedule::~ClassifiedSchedule() {
+ClassifiedSchedule::ClassifiedSchedule(const StartModeTraits& start_mode, FloorsAndParts lines) {
+  if (lines == FloorsAndParts::filled) {
+    HoldScheduleWithFloors(start_mode);
+  } else {
+    HoldClassifiedSchedule(start_mode);
+  }
+}
+
+ClassifiedSchedule::Release::~Release() {
   if (SiteContext.WorkDatabase) SiteContext.WorkDatabase->LetGo();
 }
 

@@ -22,13 +22,25 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode);
 /// The same with a floor and a part for every line, see `FillFloorsAndParts`: for the floor and part tallies.
 void HoldScheduleWithFloors(const StartModeTraits& start_mode);
 
-/// `HoldClassifiedSchedule` for the life of the object: one tally of a window.
+/// What a hold sees to beside the classes.
+enum class FloorsAndParts { as_they_are, filled };
+
+/// `HoldClassifiedSchedule`, or `HoldScheduleWithFloors`, for the life of the object: one tally of a window.
+/// The database of the site may be another object from then on.
 class ClassifiedSchedule {
  public:
-  explicit ClassifiedSchedule(const StartModeTraits& start_mode) { HoldClassifiedSchedule(start_mode); }
-  ClassifiedSchedule(const ClassifiedSchedule&) = delete;
-  ClassifiedSchedule& operator=(const ClassifiedSchedule&) = delete;
-  ~ClassifiedSchedule();
+  explicit ClassifiedSchedule(const StartModeTraits& start_mode,
+                              FloorsAndParts lines = FloorsAndParts::as_they_are);
+
+ private:
+  /// Lets go, also where the hold has come to a fault.
+  struct Release {
+    Release() = default;
+    Release(const Release&) = delete;
+    Release& operator=(const Release&) = delete;
+    ~Release();
+  };
+  Release release_;
 };
 
 }  // namespace rbt

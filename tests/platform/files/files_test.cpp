@@ -100,6 +100,22 @@ TEST(WriteFileAtomically, DoesNotReplaceAWriteProtectedFile) {
   EXPECT_EQ(ReadFileBytes(folder / "x.ini"), "old");
 }
 
+TEST(MayBeReplaced, GoesByTheFileAndByTheFolderThatTakesItsSuccessor) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(MayBeReplaced(folder / "new.ini"));
+  EXPECT_TRUE(MayBeReplaced(folder / "a" / "b" / "new.ini")) << "folders are made";
+  const OrdinaryUser user(folder.Path());
+  WriteFileAtomically(folder / "x.ini", "old");
+  EXPECT_TRUE(MayBeReplaced(folder / "x.ini"));
+  fs::permissions(folder / "x.ini", fs::perms{0444});
+  EXPECT_FALSE(MayBeReplaced(folder / "x.ini"));
+  fs::permissions(folder / "x.ini", fs::perms{0644});
+  fs::permissions(folder.Path(), fs::perms{0555});
+  EXPECT_FALSE(MayBeReplaced(folder / "x.ini"));
+  EXPECT_FALSE(MayBeReplaced(folder / "a" / "new.ini"));
+  fs::permissions(folder.Path(), fs::perms{0755});
+}
+
 TEST(WriteFileAtomically, RefusesAFolderAndAMissingFolder) {
   const TemporaryFolder folder;
   fs::create_directory(folder / "d");

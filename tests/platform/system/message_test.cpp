@@ -21,6 +21,14 @@ TEST(MsgBox, WithoutATitleIsTheTextAlone) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "終わりました\n");
 }
 
+TEST(MsgBox, WithoutAWindowTriesNothingAgain) {
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(MsgBox("a", "", MessageButtons::retry_abort), MessageAnswer::cancel);
+  EXPECT_EQ(MsgBox("a", "", MessageButtons::retry_exit), MessageAnswer::cancel);
+  EXPECT_EQ(MsgBox("a", "", MessageButtons::ok_to_warning), MessageAnswer::ok);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\na\na\n");
+}
+
 TEST(MsgBox, GoesToTheServiceInPlace) {
   const test::KeptServices services;
   std::string seen;

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The floor and part forms by their keys: input, result, print buttons, the way out.
+#include <QTimer>
 #include <gtest/gtest.h>
 
+#include "desktop/grid_cell.h"
+#include "platform/system/services.h"
 #include "screens/floorpart/floorpart_form_driver.h"
 #include "screens/floorpart/floorpart_forms.h"
 #include "screens/menu/screens.h"
@@ -340,6 +343,80 @@ TEST(FloorForm, HidesTheRowNumber) {
   form.OpenWithResult();
   EXPECT_TRUE(form.Grid()->isColumnHidden(13));
   EXPECT_FALSE(form.Grid()->isColumnHidden(12));
+}
+
+TEST(FloorPartForms, TellWhatTheFocusedControlDoesAndHaveItAsToolTip) {
+  for (const FloorPartScreen* screen : kBothForms) {
+    FloorPartDriver form(*screen);
+    form.OpenWithResult();
+    form.Button("cmdKaiHenkou")->setFocus();
+    Settle();
+    EXPECT_EQ(form.Label("lblHelp"), "階の範囲を入力し直す");
+    EXPECT_EQ(form.Button("cmdKaiHenkou")->toolTip(), "階の範囲を入力し直す");
+    for (const QPushButton* button : form.form->findChildren<QPushButton*>()) {
+      const std::string name = button->objectName().toStdString();
+      if (std::count(screen->without.begin(), screen->without.end(), name) > 0) continue;
+      EXPECT_NE(button->toolTip(), "") << screen->name << " " << name;
+    }
+  }
+}
+
+TEST(FloorPartForms, TheTotalRowIsSetOffAndDigitsStandUnderEachOther) {
+  for (const FloorPartScreen* screen : kBothForms) {
+    FloorPartDriver form(*screen);
+    form.OpenWithResult();
+    const auto* painter = dynamic_cast<const GridCellPainter*>(form.Grid()->itemDelegate());
+    ASSERT_NE(painter, nullptr);
+    const int last = form.Grid()->RowCount() - 1;
+    EXPECT_TRUE(painter->IsTotal(last)) << screen->name;
+    EXPECT_FALSE(painter->IsTotal(last - 1)) << screen->name;
+  }
+}
+
+TEST(FloorPartForms, CopyTheTableWithItsHeadsAndNumbersThatPasteAsNumbers) {
+  FloorPartDriver form(kFloorScreen);
+  form.OpenWithResult();
+  form.Key(Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = form.Grid()->SelectedText().split(QLatin1Char('\n'));
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_EQ(lines[0].count(QLatin1Char('\t')), lines[1].count(QLatin1Char('\t')));
+  EXPECT_EQ(lines[1].section(QLatin1Char('\t'), 1, 1), "135");
+}
+
+TEST(FloorPartForms, TheNoticeOfARaiseFloatsOverTheGrid) {
+  FloorPartDriver form(kFloorScreen);
+  form.OpenWithResult();
+  form.Key(Qt::Key_F5);
+  form.Type("10");
+  const QRect buttons = form.form->findChild<QWidget*>("SSPanel2")->geometry();
+  std::string seen;
+  QRect meanwhile;
+  const auto events = Services.PendingEvents;
+  Services.PendingEvents = [&] {
+    events();
+    if (!form.Shows("SSPanel4")) return;
+    seen = form.Label("WaitMsgL");
+    meanwhile = form.form->findChild<QWidget*>("SSPanel2")->geometry();
+  };
+  form.Key(Qt::Key_Return);
+  Services.PendingEvents = events;
+  EXPECT_EQ(seen, "上乗せ中です  お待ち下さい");
+  EXPECT_EQ(meanwhile.bottom(), buttons.bottom());
+  EXPECT_FALSE(form.Shows("SSPanel4"));
+}
+
+TEST(FloorPartForms, ShiftF1ShowsTheKeysOfTheInput) {
+  FloorPartDriver form(kPartScreen);
+  form.Open();
+  std::string seen;
+  QTimer::singleShot(0, [&] {
+    QWidget* card = QApplication::activeModalWidget();
+    ASSERT_NE(card, nullptr);
+    seen = card->windowTitle().toStdString();
+    card->close();
+  });
+  form.Key(Qt::Key_F1, Qt::ShiftModifier);
+  EXPECT_EQ(seen, "キー一覧");
 }
 
 }  // namespace rbt::test

@@ -46,6 +46,59 @@ TEST(BulkScreen, ShowsTheTallyWhenItOpens) {
   EXPECT_FALSE(js.Shows("Lwarning"));
 }
 
+TEST(BulkScreen, BearsItsTitleTheHeadOfTheSiteAndItsCaptions) {
+  ResultFormDriver js;
+  js.Open();
+  EXPECT_EQ(js.form->windowTitle(), "重量集計");
+  const std::pair<const char*, const char*> head[] = {
+      {"lblKojNo", "001"},     {"lblKojNa", "試験工事"}, {"lblKykCd", "1"},       {"lblKykNa", "試験商店"},
+      {"LabelCD", "20261121"}, {"LabelCT", "090000"},    {"lblSubKojNa", "メモ"}, {"Label4", "(形状No87)を"}};
+  for (const auto& [label, text] : head) EXPECT_EQ(js.Label(label), text) << label;
+  const std::pair<const char*, const char*> captions[] = {
+      {"cmdPrint", "合計表印字(F1)"}, {"cmdUSum", "ｳﾙﾎﾞﾝ集計(F2)"}, {"cmdurubon", "ｳﾙﾎﾞﾝ%増し(F3)"},
+      {"cmdPrint2", "異形印字(F3)"},  {"CmdVReturn", "値戻し(F4)"}, {"cmdMeisai", "明細表示(F5)"},
+      {"Command6", "集計加算（F6)"},  {"Command1", "計算用"},       {"Command2", "材料変更"},
+      {"Command3", "材質変更"},       {"cmdHoop", "含む"},          {"cmdTei", "含む"},
+      {"cmdExit", "終了（Esc）"},     {"btnA4Y", "A4ヨコ （F1）"},  {"btnA4T", "A4タテ （F3）"},
+      {"btnB5Y", "B5ヨコ （F5）"},    {"btnSettei", "設定 （F7）"}, {"btnReturn", "終 了 （Esc）"}};
+  for (const auto& [button, text] : captions)
+    EXPECT_EQ(js.Button(button)->text().toStdString(), text) << button;
+  const char* columns[] = {"太    さ", "定尺重量", "取付重量", "差    引", "圧    接", "切    断"};
+  for (int column = 0; column < 6; ++column) {
+    EXPECT_EQ(js.Grid()->model()->headerData(column, Qt::Horizontal).toString().toStdString(),
+              columns[column]);
+  }
+}
+
+TEST(ResultScreens, AskToWaitInTheirWordsWhileATallyRuns) {
+  const std::pair<const ResultScreen*, const char*> screens[] = {{&kBulkScreen, "お待ち下さい"},
+                                                                 {&kPageScreen, "お待ち下さい"},
+                                                                 {&kShapeScreen, "計算中！！"},
+                                                                 {&kPageShapeScreen, "計算中！！"}};
+  for (const auto& [screen, words] : screens) {
+    ResultFormDriver js;
+    js.Open(*screen);
+    js.form->TakeRange();
+    Settle();
+    const char* panel = screen == &kBulkScreen ? "SSPanel4" : "waitPanel";
+    EXPECT_FALSE(js.Shows(panel)) << screen->name;
+    std::string seen;
+    bool print_in_reach = true;
+    const auto events = Services.PendingEvents;
+    Services.PendingEvents = [&] {
+      if (!js.Shows(panel)) return;
+      seen = js.Label("WaitMsgL");
+      print_in_reach = js.Button("cmdPrint")->isEnabled();
+    };
+    js.Click("cmdHoop");
+    Services.PendingEvents = events;
+    EXPECT_EQ(seen, words) << screen->name;
+    EXPECT_FALSE(print_in_reach) << screen->name;
+    EXPECT_FALSE(js.Shows(panel)) << screen->name;
+    EXPECT_TRUE(js.Button("cmdExit")->isEnabled()) << screen->name;
+  }
+}
+
 TEST(BulkScreen, HasTheButtonsOfHoopsAndPlatesOnlyWhereTheSiteHasSuchShapes) {
   ResultFormDriver js;
   js.Open();

@@ -2,6 +2,7 @@
 // How the screens of floors and parts ask for their floors, tally them, and are left.
 #include <gtest/gtest.h>
 
+#include "platform/files/files.h"
 #include "session/floorpart/floorpart_driver.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
@@ -516,6 +517,37 @@ TEST(FloorPartScreens, AreLeftWithTheSelectionAsTheMenuExpectsIt) {
     EXPECT_FALSE(Selection.UlbonOnly);
     EXPECT_EQ(Selection.UwanoseRitu + Selection.BuiUwanoseRitu, 0.0);
     EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
+  }
+}
+
+TEST(FloorPartScreens, ATallyTakesInWhatOtherProgramsHaveMadeOfTheSchedule) {
+  FloorPartPresented js(kFloorScreen);
+  js.OpenWithAll();
+  EXPECT_EQ(js.Row("1階"), "135|0|0|0|135") << js.Labels();
+  // As a thin bar, which D19 never is, and a line without a floor: both have to be worked out again.
+  js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 予備2 = 2 WHERE 太さ = 19");
+  js.site.AddRow(TenBars(19, 1, 0));
+  js.presenter->CycleHoops();
+  js.presenter->CycleHoops();
+  js.presenter->CycleHoops();
+  EXPECT_EQ(js.Row("1階"), "135|0|0|0|135") << js.Labels();
+  EXPECT_EQ(js.site.Rows(kScheduleFile, "SELECT 階, 部位 FROM 加工テーブル WHERE 行No = 5"),
+            (std::vector<std::vector<Value>>{{Value{std::int64_t{78}}, Value{std::int64_t{0}}}}));
+}
+
+TEST(FloorPartScreens, OfASiteThatMayOnlyBeReadTallyOnACopyAndLeaveTheFileAsItIs) {
+  for (const FloorPartScreen* screen : kBothScreens) {
+    FloorPartPresented js(*screen);
+    js.site.AddRow(TenBars(19, 1, 0));  // without a floor and a part
+    FloorPartSite::Load();
+    const std::string before = ReadFileBytes(js.site.Data(kScheduleFile));
+    SiteContext.OnlyRead = true;
+    js.presenter = std::make_unique<FloorPartPresenter>(*screen, js.parts);
+    js.presenter->EnterAllFloors();
+    js.presenter->Run();
+    EXPECT_FALSE(js.View().input.shown) << screen->name;
+    EXPECT_EQ(ReadFileBytes(js.site.Data(kScheduleFile)), before) << screen->name;
+    js.presenter->Leave();
   }
 }
 

@@ -15,6 +15,7 @@
 #include "shell/context/run_state.h"
 #include "support/fault_of.h"
 #include "support/kept_services.h"
+#include "support/looking_only.h"
 #include "support/site_fixture.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/selection.h"
@@ -53,17 +54,27 @@ class Menu : private MenuWindow {
   LoadResult loaded;
   MenuState state;
   std::set<std::string, std::less<>> ready{"JS", "KEIJOJS", "PGJS", "PKEIJOJS", "KAIJS", "BUIJS", "SETJS"};
-  bool open = false;    ///< the screen of a tally
-  bool faulty = false;  ///< what is opened, written or activated next throws
+  bool open = false;                          ///< the screen of a tally
+  bool faulty = false;                        ///< what is opened, written or activated next throws
+  const NumberKey* broken_setting = nullptr;  ///< that the load stumbles over until the settings were open
+  std::vector<bool> vital;                    ///< what load and activation knew of themselves
   std::vector<std::string> steps;
   std::string handed_over;  ///< when a program was started
   MenuPresenter presenter;
 
  private:
   MenuParts Parts() {
-    return {.load = [this] { return loaded; },
+    return {.load =
+                [this] {
+                  vital.push_back(RunState.FaultEndsProgram);
+                  if (broken_setting != nullptr) {
+                    throw Fault(FaultKind::type_mismatch, PlaceOf(*broken_setting, "abc"));
+                  }
+                  return loaded;
+                },
             .activate =
                 [this] {
+                  vital.push_back(RunState.FaultEndsProgram);
                   Step("activate");
                   return state;
                 },
@@ -90,7 +101,10 @@ class Menu : private MenuWindow {
     return open;
   }
   void OpenForm(std::string_view form) override { Step("open " + std::string(form)); }
-  void ShowFormModally(std::string_view form) override { Step("modal " + std::string(form)); }
+  void ShowFormModally(std::string_view form) override {
+    broken_setting = nullptr;
+    Step("modal " + std::string(form));
+  }
 
   KeptServices services_;
 };
@@ -309,6 +323,48 @@ TEST(MenuPresenter, AStartModeThatPassesOnRunsItsCompanionMinimisedAndEnds) {
     steps.insert(steps.end(), {"hide", there ? "end 0" : "end 1"});
     EXPECT_EQ(menu.steps, steps);
   }
+}
+
+TEST(MenuPresenter, ASettingThatTheSettingsFormShowsCanBeMendedAndTheLoadRunsAgain) {
+  Menu menu;
+  menu.broken_setting = &kDateStyleKey;
+  menu.presenter.Load();
+  EXPECT_THAT(menu.steps, ElementsAre("modal SETJS", "load "));
+  ASSERT_EQ(menu.site.Messages().size(), 1U);
+  EXPECT_EQ(menu.site.Messages()[0].buttons, MessageButtons::yes_no);
+  EXPECT_NE(menu.Message().find("日付表記"), std::string::npos);
+  EXPECT_NE(menu.Message().find("「その他設定」を開いて選び直しますか。"), std::string::npos);
+}
+
+TEST(MenuPresenter, ASettingThatIsNotMendedOrNotShownThereEndsTheLoad) {
+  Menu menu;
+  menu.broken_setting = &kDateStyleKey;
+  menu.site.Answer(MessageAnswer::no);
+  EXPECT_EQ(FaultOf([&] { menu.presenter.Load(); }), FaultKind::type_mismatch);
+  EXPECT_THAT(menu.steps, IsEmpty());
+  menu.broken_setting = &kUse13mColumnKey;
+  EXPECT_EQ(FaultOf([&] { menu.presenter.Load(); }), FaultKind::type_mismatch);
+  EXPECT_EQ(menu.site.Messages().size(), 1U);
+}
+
+TEST(MenuPresenter, LoadAndActivationAreKnownAsThoseWhoseFaultEndsTheProgram) {
+  Menu menu;
+  EXPECT_FALSE(RunState.FaultEndsProgram);
+  menu.presenter.Load();
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.vital, ElementsAre(true, true));
+  EXPECT_FALSE(RunState.FaultEndsProgram);
+}
+
+TEST(MenuPresenter, ATallyOpensWhereTheHandOverMayNotBeWritten) {
+  Menu menu;
+  {
+    const LookingOnly looking{menu.site.Root().Path()};
+    menu.presenter.Start("cmdShuukei");
+    menu.presenter.Start("cmdPGShuukei");
+  }
+  EXPECT_THAT(menu.steps, ElementsAre("open JS", "hide", "open PGJS"));
+  EXPECT_EQ(menu.HandOver("材料明細"), "-");
 }
 
 }  // namespace rbt::test

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "session/result/result_presenter.h"
 
+#include <chrono>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/system/services.h"
 #include "session/result/result_presenter_driver.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -44,6 +47,14 @@ void ExpectState(Presented& js, const State& state) {
   EXPECT_TRUE(view.focus == state.focus) << where << ": focus " << static_cast<int>(view.focus.target);
   EXPECT_FALSE(view.busy) << where;
   EXPECT_TRUE(js.View().focus == FocusRequest{}) << where << ": asked for once";
+}
+
+/// Whether another program could change the schedule now.
+bool OthersWrite() {
+  return !FaultOf([] {
+    Database theirs = Database::Open(SiteContext.WorkDatabase->File());
+    theirs.Execute("UPDATE 加工テーブル SET 行No = 行No + 100");
+  });
 }
 
 constexpr const char* kWhole = "print ulbon-view ulbon deformed restore detail add leave";
@@ -288,6 +299,52 @@ TEST(ResultPresenter, KindsWithoutHoopsTakeTheHoopsModeBack) {
   js.presenter->ChooseKinds();
   EXPECT_EQ(Selection.HoopMode, ShapeFilter::with_others);
   EXPECT_EQ(js.View().filters.cycle_hoops.caption, "含む");
+  EXPECT_EQ(js.Row("D25"), kPlate) << "before the tally: of hoops alone nothing would be left";
+}
+
+TEST(ResultPresenter, KindsWithoutPlatesTakeThePlatesModeBackBeforeTheTally) {
+  for (const ResultScreen* screen : kAllScreens) {
+    Presented js(*screen);
+    js.kinds = [] { Selection.MaterialKindMask = KindMask(12); };
+    js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 予備2 = 3 WHERE 太さ = 19");
+    js.OpenWithResult();
+    js.presenter->CyclePlates();
+    js.presenter->CyclePlates();
+    EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::alone);
+    EXPECT_EQ(js.Row("D19"), kNone) << screen->name;
+    js.presenter->ChooseKinds();
+    EXPECT_EQ(Selection.AnchorPlateMode, ShapeFilter::with_others) << screen->name;
+    EXPECT_EQ(js.Row("D19"), kD19) << screen->name;
+  }
+}
+
+TEST(ResultPresenter, AFilterRoundTakesInWhatOtherProgramsHaveMadeOfTheSchedule) {
+  for (const ResultScreen* screen : kAllScreens) {
+    Presented js(*screen);
+    js.OpenWithResult();
+    EXPECT_EQ(js.Row("D19"), kD19) << screen->name;
+    // As thin bars, which D19 never are: the classes have to be worked out again.
+    js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 予備2 = 2 WHERE 太さ = 19");
+    js.presenter->Recalculate();
+    EXPECT_EQ(js.Row("D19"), kD19) << screen->name;
+    EXPECT_EQ(js.site.Rows(kScheduleFile, "SELECT 予備2 FROM 加工テーブル WHERE 太さ = 19")[0][0],
+              Value{std::int64_t{1}});
+    js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 本数 = 0, 合計 = 0, 伸総計 = 0 WHERE 太さ = 19");
+    js.presenter->Recalculate();
+    EXPECT_NE(js.Row("D19"), kD19) << screen->name;
+  }
+}
+
+TEST(ResultPresenter, HoldsTheScheduleForATallyAndLetsItGo) {
+  Services.LockPatience = std::chrono::milliseconds(0);
+  static bool writes_meanwhile;
+  writes_meanwhile = true;
+  ResultScreen screen = kShapeScreen;
+  screen.before_first_run = [] { writes_meanwhile = OthersWrite(); };
+  Presented js(screen);
+  js.OpenWithResult();
+  EXPECT_FALSE(writes_meanwhile);
+  EXPECT_TRUE(OthersWrite());
 }
 
 TEST(ResultPresenter, AChoiceOfFormsSetsTheCalculationFromTheKinds) {

@@ -19,6 +19,11 @@ namespace rbt::test {
 
 namespace {
 
+std::int32_t Colour(const IniKey& key) {
+  UnreadableSettings unreadable;
+  return ReadSteelIniColour(key, unreadable);
+}
+
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
@@ -138,10 +143,10 @@ TEST(ColoursPresenter, AsksForColoursAndSavesThemInTheEndAlone) {
   EXPECT_EQ(colours.Back(), 0x0000FF);
   EXPECT_EQ(colours.Fore(), fore) << "no answer";
   EXPECT_EQ(asked, (std::vector<std::int32_t>{16777152, fore}));
-  EXPECT_EQ(ReadSteelIniColour(kGridRowBackColorKey), 16777152);
+  EXPECT_EQ(Colour(kGridRowBackColorKey), 16777152);
   colours.Save();
-  EXPECT_EQ(ReadSteelIniColour(kGridRowBackColorKey), 0x0000FF);
-  EXPECT_EQ(ReadSteelIniColour(kGridRowForeColorKey), fore);
+  EXPECT_EQ(Colour(kGridRowBackColorKey), 0x0000FF);
+  EXPECT_EQ(Colour(kGridRowForeColorKey), fore);
 }
 
 }  // namespace rbt::test

@@ -10,6 +10,8 @@
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/classified_schedule.h"
+#include "support/looking_only.h"
 #include "support/site_fixture.h"
 #include "tally/selection.h"
 
@@ -330,6 +332,110 @@ TEST_F(Load, CanBeRepeatedOnTheSameSite) {
   const auto first = site_.Rows(kScheduleFile, "SELECT * FROM 加工テーブル");
   Run();
   EXPECT_EQ(site_.Rows(kScheduleFile, "SELECT * FROM 加工テーブル"), first);
+}
+
+TEST_F(Load, TellsSettingsOfLooksThatCannotBeReadInOneNoticeAndTakesTheirDefaults) {
+  site_.SetIni(kSteelFile, "加工帳", "行の背景色", "99999999999");
+  SetRegistryText("Kakou", "重量集計", "一行おきの色分け", "はい");
+  SetRegistryText("Kakou", "自社名登録", "自社名印刷", "x");
+  Run();
+  ASSERT_THAT(site_.Messages(), SizeIs(1));
+  const std::string text = site_.Messages()[0].text;
+  EXPECT_THAT(text, HasSubstr("初めの値を使います"));
+  EXPECT_THAT(text, HasSubstr("行の背景色 \"99999999999\""));
+  EXPECT_THAT(text, HasSubstr("一行おきの色分け \"はい\""));
+  EXPECT_THAT(text, HasSubstr("自社名印刷 \"x\""));
+  EXPECT_EQ(Settings.GridRowBackColor, 16777152);
+  EXPECT_EQ(Settings.AlternateRowColours, 1);
+}
+
+TEST_F(Load, ANumberThatFiguresDependOnIsATypeMismatch) {
+  SetRegistryText("Jyuryo", "定尺", "定尺13有無", "有");
+  EXPECT_THAT(FaultOfRun(), HasSubstr("type mismatch: Jyuryo\\定尺\\定尺13有無 \"有\""));
+}
+
+TEST_F(Load, OfWhatMayNotBeWrittenLooksAtItAndSaysSoOnce) {
+  site_.AddRow({{"太さ", 6}, {"形状No", 138}, {"伸切寸", 7000}, {"伸本定", 1}});
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  const std::string before = ReadFileBytes(site_.Data(kScheduleFile));
+  {
+    const LookingOnly looking{site_.Root().Path(), site_.Root().SettingsFile().parent_path()};
+    Run();
+    ActivateMenu(options_);
+    HoldClassifiedSchedule(options_.start_mode);
+    EXPECT_TRUE(SiteContext.WorkDatabase->IsPrivateCopy());
+    EXPECT_FALSE(HandOverMayBeWritten());
+    SiteContext.WorkDatabase.reset();
+    SiteContext.MasterDatabase.reset();
+  }
+  ASSERT_THAT(site_.Messages(), SizeIs(1));
+  EXPECT_THAT(site_.Messages()[0].text, HasSubstr("読むだけにします"));
+  EXPECT_THAT(site_.Messages()[0].text, HasSubstr("GENBA001.MDB"));
+  EXPECT_THAT(site_.Messages()[0].text, HasSubstr("settings.ini"));
+  EXPECT_EQ(ReadFileBytes(site_.Data(kScheduleFile)), before);
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+}
+
+TEST_F(Load, SaysNothingOfRightsWhereEverythingMayBeWritten) {
+  Run();
+  EXPECT_THAT(site_.Messages(), IsEmpty());
+  EXPECT_TRUE(HandOverMayBeWritten());
+}
+
+/// What each step leaves, in the order in which it can be seen.
+class Seen {
+ public:
+  void Watch(std::string name, std::function<bool()> is_there) {
+    watched_.emplace_back(std::move(name), std::move(is_there));
+  }
+  void Look() {
+    for (auto& [name, is_there] : watched_) {
+      if (!is_there || !is_there()) continue;
+      order.push_back(name);
+      is_there = nullptr;
+    }
+  }
+  std::vector<std::string> order;
+
+ private:
+  std::vector<std::pair<std::string, std::function<bool()>>> watched_;
+};
+
+TEST_F(Load, TakesItsStepsInTheirOrder) {
+  site_.AddRow({{"太さ", 19}, {"形状No", 87}, {"伸切寸", 7000}, {"伸本定", 1}});
+  site_.Add(kCompanionFile, "登録名", {{"登録AN", 1}, {"表示番号", 0}});
+  site_.Execute(kMasterFile, "UPDATE 工事テーブル SET 長い工事名 = '長い名前', メーカーNo = 3");
+  site_.SetIni(kSteelFile, "加工帳", "行の背景色", "255");
+  SetRegistryText("Jyuryo", "定尺", "定尺13有無", "1");
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  SetRegistryText("Kakou", "出荷日設定", "出荷日", "2");
+  SetRegistryText("Kakou", "定尺", "テーブル有無", "1");
+  site_.PutProgram("KAKOU/rbweldcnt.exe");
+  RunState.AccumulateFlag = 1;
+  Seen seen;
+  // Watched backwards: two that come at once would stand the wrong way round.
+  seen.Watch("date of the load", [] { return !RunState.RunDate.empty(); });
+  seen.Watch("counters", [] { return RunState.HasWeldCounter; });
+  seen.Watch("hoops", [] { return RunState.HasHoopRows; });
+  seen.Watch("other settings", [] { return Settings.ShippingDate == 2; });
+  seen.Watch("accumulation ended", [] { return RunState.AccumulateFlag == 0; });
+  seen.Watch("grades", [] { return SiteContext.GradeNames[10] == "SD10"; });
+  seen.Watch("maker", [] { return SiteContext.MakerNumber == 3; });
+  seen.Watch("long name", [] { return SiteContext.LongSiteName == "長い名前"; });
+  seen.Watch("names selected", [this] { return Marks() == std::vector<std::string>{"1"}; });
+  seen.Watch("master file", [] { return SiteContext.MasterDatabase != nullptr; });
+  seen.Watch("classified", [this] { return site_.Column("予備3") == std::vector<std::string>{"2"}; });
+  seen.Watch("site", [] { return SiteContext.WorkDatabase != nullptr; });
+  seen.Watch("stock table", [] { return SiteContext.FixedStockDatabase != nullptr; });
+  seen.Watch("tally settings", [] { return Settings.Use13mColumn == 1; });
+  seen.Watch("colours", [] { return Settings.GridRowBackColor == 255; });
+  Services.PendingEvents = [&] { seen.Look(); };
+  Run();
+  seen.Look();
+  EXPECT_THAT(seen.order,
+              ElementsAre("colours", "tally settings", "stock table", "site", "classified", "master file",
+                          "names selected", "long name", "maker", "grades", "accumulation ended",
+                          "other settings", "hoops", "counters", "date of the load"));
 }
 
 }  // namespace

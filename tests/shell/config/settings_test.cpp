@@ -178,9 +178,23 @@ TEST_F(Configuration, FaultsAtANumberSettingThatIsNoNumberAndNamesIt) {
   }
   SaveSetting("Kakou", "定尺", "テーブル有無", "有");
   ExpectFault(FaultKind::type_mismatch, "Kakou\\定尺\\テーブル有無", [] { LoadTallySettings(); });
-  SaveSetting("Kakou", "重量集計", "日付表記", "1");
+}
+
+TEST_F(Configuration, TakesTheDefaultsOfYesAndNoSettingsThatTellHowThingsLook) {
+  SaveSetting("Kakou", "重量集計", "一行おきの色分け", "有");
+  SaveSetting("Kakou", "重量集計", "重量の無い太さの印字", "99999999999");
+  EXPECT_EQ(LoadTallySettings().size(), 2U);
+  EXPECT_EQ(Settings.AlternateRowColours, 1);
+  EXPECT_EQ(Settings.PrintEmptyDiameters, 0);
+  SaveSetting("Kakou", "自社名登録", "自社名印刷", "する");
   SaveSetting("Zaiko", "日付", "入力暦", "西暦");
-  ExpectFault(FaultKind::type_mismatch, "Zaiko\\日付\\入力暦", [] { LoadRemainingSettings(); });
+  SaveSetting("Kakou", "重量集計", "明細画面重量表示", "x");
+  const UnreadableSettings unreadable = LoadRemainingSettings();
+  ASSERT_EQ(unreadable.size(), 3U);
+  EXPECT_NE(unreadable[0].find("Kakou\\自社名登録\\自社名印刷 \"する\""), std::string::npos) << unreadable[0];
+  EXPECT_EQ(Settings.PrintOwnCompany, 0);
+  EXPECT_TRUE(Settings.EraCalendar);
+  EXPECT_EQ(Settings.DetailShowsWeight, 0);
 }
 
 TEST_F(Configuration, RoundsNumbersHalvesToEvenAndFaultsBeyondTheirWidth) {
@@ -193,22 +207,24 @@ TEST_F(Configuration, RoundsNumbersHalvesToEvenAndFaultsBeyondTheirWidth) {
   ExpectFault(FaultKind::overflow, "kakou\\定尺チェック\\定尺", [] { LoadRemainingSettings(); });
 }
 
-TEST_F(Configuration, NamesAColourBeyondItsWidthByFileSectionAndKey) {
-  PutSteelIni("[加工帳]\r\n行の背景色=99999999999\r\n");
-  ExpectFault(FaultKind::overflow, "STEEL.INI [加工帳] 行の背景色 \"99999999999\"",
-              [] { LoadGridColours(); });
+TEST_F(Configuration, TakesTheDefaultOfAColourThatCannotBeReadAndNamesIt) {
+  PutSteelIni("[加工帳]\r\n行の背景色=99999999999\r\n文字の色=赤\r\n");
+  EXPECT_EQ(LoadGridColours(), (UnreadableSettings{"STEEL.INI [加工帳] 行の背景色 \"99999999999\"",
+                                                   "STEEL.INI [加工帳] 文字の色 \"赤\""}));
+  EXPECT_EQ(Settings.GridRowBackColor, 16777152);
+  EXPECT_EQ(Settings.GridRowForeColor, 0);
 }
 
 TEST_F(Configuration, ReadsTheGridColoursAsDecimalNumbers) {
   PutSteelIni("[加工帳]\r\n行の背景色=255\r\n文字の色= 65280 緑\r\n");
-  LoadGridColours();
+  EXPECT_TRUE(LoadGridColours().empty());
   EXPECT_EQ(Settings.GridRowBackColor, 255);
   EXPECT_EQ(Settings.GridRowForeColor, 65280);
 }
 
-TEST_F(Configuration, TakesTheDefaultForAnEmptyColourAndBlackForAWord) {
-  PutSteelIni("[加工帳]\r\n行の背景色=\r\n文字の色=赤\r\n");
-  LoadGridColours();
+TEST_F(Configuration, TakesTheDefaultForAnEmptyColour) {
+  PutSteelIni("[加工帳]\r\n行の背景色=\r\n");
+  EXPECT_TRUE(LoadGridColours().empty());
   EXPECT_EQ(Settings.GridRowBackColor, 16777152);
   EXPECT_EQ(Settings.GridRowForeColor, 0);
 }

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "session/panels/fault_words.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "platform/fault.h"
+
+namespace rbt {
+
+namespace {
+
+/// What is told of faults of one kind, or of all kinds, whose text holds a mark.
+struct Telling {
+  std::optional<FaultKind> kind;
+  std::string_view mark;  ///< empty: any text
+  std::string_view wrong;
+  std::string_view remedy;
+};
+
+// Causes first, whatever the kind; then the kinds. The first that fits is told.
+constexpr Telling kTellings[] = {
+    {FaultKind::locked, "", "ほかのプログラムが使用しています。",
+     "使用が終わってから、もう一度操作して下さい。"},
+    {FaultKind::file, "no site: [", "現場が選ばれていません。", "現場を選んでから、もう一度始めて下さい。"},
+    {FaultKind::file, "is no site", "現場のファイルではありません。", "現場を選び直して下さい。"},
+    {FaultKind::file, "needs the newer program", "新しい形式の現場です。",
+     "メニューに戻り、新しい形式を読むプログラムで開いて下さい。"},
+    {FaultKind::file, "rbtally import", "変換していないデータベースです。",
+     "下に示したコマンドで取り込んでから、もう一度操作して下さい。"},
+    {FaultKind::file, "code page 932", "設定ファイルの文字コードが違います。",
+     "UTF-8 で保存し直してから、もう一度始めて下さい。"},
+    {std::nullopt, "does not exist", "ファイルが見つかりません。",
+     "ファイルの場所と名前を確かめ、無ければ控えから戻して下さい。"},
+    {std::nullopt, "No such file or directory", "ファイルまたはフォルダが見つかりません。",
+     "場所と名前を確かめ、無ければ控えから戻して下さい。"},
+    {std::nullopt, "Permission denied", "使う権利がありません。",
+     "ファイルとフォルダの読み書きの権利を確かめて下さい。"},
+    {std::nullopt, "Operation not permitted", "使う権利がありません。",
+     "ファイルとフォルダの読み書きの権利を確かめて下さい。"},
+    {std::nullopt, "Read-only file system", "書き込めない場所にあります。",
+     "書き込める場所に移してから、もう一度操作して下さい。"},
+    {std::nullopt, "readonly database", "書き込む権利がありません。",
+     "ファイルとフォルダの読み書きの権利を確かめて下さい。"},
+    {std::nullopt, "No space left", "ディスクに空きがありません。",
+     "不要なファイルを消してから、もう一度操作して下さい。"},
+    {std::nullopt, "disk is full", "ディスクに空きがありません。",
+     "不要なファイルを消してから、もう一度操作して下さい。"},
+    {std::nullopt, "malformed", "ファイルが壊れています。", "控えから戻して下さい。"},
+    {std::nullopt, "not a database", "データベースではないか、壊れています。", "控えから戻して下さい。"},
+    {std::nullopt, "damaged", "ファイルが壊れています。", "控えから戻して下さい。"},
+    {FaultKind::storage, "", "ファイルの読み書きができませんでした。",
+     "ディスクとネットワークを確かめてから、もう一度操作して下さい。"},
+    {FaultKind::file, "", "処理ができませんでした。",
+     "下の行の原因を取り除いてから、もう一度操作して下さい。"},
+    {FaultKind::database, "", "データベースの処理ができませんでした。",
+     "ファイルの形式が違うか、壊れている恐れがあります。ファイルを確かめて下さい。"},
+    {FaultKind::field_not_found, "", "ファイルに必要な項目がありません。",
+     "ファイルの形式を確かめて下さい。"},
+    {FaultKind::type_mismatch, "", "数値でなければならない値が、数値ではありません。",
+     "下の行に示した設定またはデータを直して下さい。"},
+    {FaultKind::overflow, "", "値が大きすぎます。", "下の行に示した設定またはデータを直して下さい。"},
+    {FaultKind::invalid_use_of_null, "", "必要な値が入っていません。",
+     "下の行に示したデータを入れて下さい。"},
+    {FaultKind::division_by_zero, "", "0 で割る計算になりました。", "下の行に示したデータを直して下さい。"},
+    {FaultKind::subscript_out_of_range, "", "値が決められた範囲の外にあります。",
+     "下の行に示したデータを直して下さい。"},
+};
+
+const Telling* Find(const Fault& fault) {
+  const auto* const telling =
+      std::find_if(std::begin(kTellings), std::end(kTellings), [&](const Telling& each) {
+        return (!each.kind || *each.kind == fault.Kind()) &&
+               fault.Where().find(each.mark) != std::string::npos;
+      });
+  return telling == std::end(kTellings) ? nullptr : telling;
+}
+
+/// The name of the file whose path stands in a text: from the stroke that begins a word to the next colon.
+std::string FileNamedIn(std::string_view text) {
+  std::size_t begin = 0;
+  while (begin < text.size() && (text[begin] != '/' || (begin > 0 && text[begin - 1] != ' '))) ++begin;
+  if (begin == text.size()) return "";
+  const std::string_view path = text.substr(begin, text.find(": ", begin) - begin);
+  return std::filesystem::path(path).filename().string();
+}
+
+}  // namespace
+
+std::string FaultWords(const std::exception& fault) {
+  const auto* const ours = dynamic_cast<const Fault*>(&fault);
+  const Telling* const telling = ours == nullptr ? nullptr : Find(*ours);
+  if (telling == nullptr) return fmt::format("続けられない誤りが起きました。\n\n{}", fault.what());
+  const std::string file = FileNamedIn(ours->Where());
+  const std::string named = file.empty() ? "" : fmt::format("「{}」\n", file);
+  return fmt::format("{}{}\n{}\n\n{}", named, telling->wrong, telling->remedy, fault.what());
+}
+
+bool IsOfLock(const std::exception& fault) {
+  const auto* const ours = dynamic_cast<const Fault*>(&fault);
+  return ours != nullptr && ours->Kind() == FaultKind::locked;
+}
+
+}  // namespace rbt

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "session/panels/fault_words.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+#include "platform/files/system_error.h"
+
+namespace rbt::test {
+
+namespace {
+
+std::string Told(FaultKind kind, const std::string& where) { return FaultWords(Fault(kind, where)); }
+
+}  // namespace
+
+TEST(FaultWords, NameTheFileWhatIsWrongAndWhatToDoAboveTheFaultsOwnText) {
+  const Fault fault = FileFault("/rbk/DATA/GENBA001.MDB", "cannot be opened", EACCES);
+  EXPECT_EQ(FaultWords(fault),
+            "「GENBA001.MDB」\n"
+            "使う権利がありません。\n"
+            "ファイルとフォルダの読み書きの権利を確かめて下さい。\n"
+            "\n"
+            "/rbk/DATA/GENBA001.MDB: cannot be opened: Permission denied");
+}
+
+TEST(FaultWords, GoByTheCauseBeforeTheKind) {
+  struct Case {
+    FaultKind kind;
+    const char* where;
+    const char* begin;
+  };
+  const Case cases[] = {
+      {FaultKind::file, "/r/DATA/STEEL.INI: the file does not exist",
+       "「STEEL.INI」\nファイルが見つかりません。"},
+      {FaultKind::file, "/r/DATA/STEEL.INI: no site: [データ] 選択ＤＢ名 is empty",
+       "「STEEL.INI」\n現場が選ばれていません。"},
+      {FaultKind::storage, "attempt to write a readonly database: /r/DATA/X.MDB: UPDATE T SET a = 1",
+       "「X.MDB」\n書き込む権利がありません。"},
+      {FaultKind::storage, "database or disk is full: /r/DATA/X.MDB: INSERT",
+       "「X.MDB」\nディスクに空きがありません。"},
+      {FaultKind::storage, "database disk image is malformed: /r/X.MDB: SELECT",
+       "「X.MDB」\nファイルが壊れています。"},
+      {FaultKind::storage, "disk I/O error: /r/X.MDB: SELECT",
+       "「X.MDB」\nファイルの読み書きができませんでした。"},
+      {FaultKind::locked, "another program holds the file: /r/X.MDB: BEGIN",
+       "「X.MDB」\nほかのプログラムが使用しています。"},
+      {FaultKind::database, "no such table: 階: /r/X.MDB: SELECT",
+       "「X.MDB」\nデータベースの処理ができませんでした。"},
+      {FaultKind::file, "甲: the printer is gone", "処理ができませんでした。"},
+  };
+  for (const Case& row : cases) {
+    const std::string told = Told(row.kind, row.where);
+    EXPECT_EQ(told.rfind(row.begin, 0), 0U) << told;
+    EXPECT_NE(told.find(std::string("\n\n") + row.where), std::string::npos) << told;
+  }
+}
+
+TEST(FaultWords, TellEveryKindInJapaneseWithItsTechnicalLine) {
+  for (const FaultKind kind :
+       {FaultKind::subscript_out_of_range, FaultKind::overflow, FaultKind::division_by_zero,
+        FaultKind::type_mismatch, FaultKind::invalid_use_of_null, FaultKind::field_not_found,
+        FaultKind::database, FaultKind::storage, FaultKind::locked, FaultKind::file}) {
+    const Fault fault(kind, "伸切寸");
+    const std::string told = FaultWords(fault);
+    EXPECT_EQ(told.substr(told.find("\n\n")), std::string("\n\n") + fault.what());
+    EXPECT_EQ(told.find("続けられない"), std::string::npos) << told;
+  }
+}
+
+TEST(FaultWords, TellWhatTheLibrariesThrowWithItsText) {
+  EXPECT_EQ(FaultWords(std::runtime_error("bad_alloc")), "続けられない誤りが起きました。\n\nbad_alloc");
+}
+
+TEST(FaultWords, KnowAFaultOfALock) {
+  EXPECT_TRUE(IsOfLock(Fault(FaultKind::locked, "x")));
+  EXPECT_FALSE(IsOfLock(Fault(FaultKind::storage, "x")));
+  EXPECT_FALSE(IsOfLock(std::runtime_error("x")));
+}
+
+}  // namespace rbt::test
