@@ -303,7 +303,7 @@ TEST(ResultPresenter, KindsWithoutHoopsTakeTheHoopsModeBack) {
 }
 
 TEST(ResultPresenter, KindsWithoutPlatesTakeThePlatesModeBackBeforeTheTally) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.kinds = [] { Selection.MaterialKindMask = KindMask(12); };
     js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 予備2 = 3 WHERE 太さ = 19");
@@ -319,7 +319,7 @@ TEST(ResultPresenter, KindsWithoutPlatesTakeThePlatesModeBackBeforeTheTally) {
 }
 
 TEST(ResultPresenter, AFilterRoundTakesInWhatOtherProgramsHaveMadeOfTheSchedule) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.OpenWithResult();
     EXPECT_EQ(js.Row("D19"), kD19) << screen->name;
