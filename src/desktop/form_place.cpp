@@ -41,11 +41,12 @@ std::optional<QRect> KeptPlace(const QString& name) {
   return QRect(place[0], place[1], place[2], place[3]);
 }
 
+/// A place that cannot be kept, be it for want of rights or because another program holds the settings, is
+/// none.
 void KeepPlace(const QString& name, const QRect& place) {
   const QString text =
       QStringLiteral("%1 %2 %3 %4").arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height());
-  PassOverFaults(FaultKind::file,
-                 [&] { SetRegistryText(kApplication, kSection, name.toStdString(), text.toStdString()); });
+  PassOverFaults([&] { SetRegistryText(kApplication, kSection, name.toStdString(), text.toStdString()); });
 }
 
 /// A form that the screen cannot hold begins at its edge: `last` then lies before `first`.

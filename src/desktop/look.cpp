@@ -35,6 +35,9 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
 QTableView { border: 2px solid #9fb0bf; }
 QTableView:focus { border-color: #1457a8; }
 QFrame#statusLine { background: #ffffff; border: 1px solid #b4c1cd; border-radius: 3px; }
+QFrame#SSPanel1, QFrame#filterPanel, QFrame#pnlInputKai, QFrame#Frame1, QFrame#SSPanel4, QFrame#waitPanel {
+  border: 1px solid #b4c1cd;
+}
 )";
 
 QPalette Colours() {

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/form_place.h"
 
+#include <chrono>
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include <QElapsedTimer>
 #include <QScreen>
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include "platform/files/file_descriptor.h"
+#include "platform/files/file_lock.h"
 #include "platform/profile/registry.h"
 #include "support/desktop/key_press.h"
 #include "support/site_fixture.h"
@@ -98,6 +104,22 @@ TEST(FormPlace, APlaceBeyondTheScreenAndOneThatCannotBeReadAreMended) {
     EXPECT_TRUE(form.screen()->availableGeometry().contains(QRect(form.pos(), form.size()))) << kept;
     EXPECT_EQ(form.size(), QSize(300, 200)) << kept;
   }
+}
+
+TEST(FormPlace, OneThatCannotBeKeptBecauseTheSettingsAreHeldIsLeftWithoutAWord) {
+  const SiteFixture site;
+  Services.LockPatience = std::chrono::milliseconds(0);
+  SetRegistryText("rbtally1", "画面", "PGJS", "1 2 300 200");
+  Form form;
+  PlaceForm(form);
+  form.show();
+  WaitForTheWindow();
+  form.move(40, 50);
+  const FileDescriptor folder(::open(RegistryFile().parent_path().c_str(), O_RDONLY | O_DIRECTORY));
+  ASSERT_TRUE(Lock(folder, LOCK_EX | LOCK_NB));
+  form.hide();
+  EXPECT_FALSE(RegistryText("rbtally1", "画面", "JS"));
+  EXPECT_TRUE(site.Messages().empty());
 }
 
 }  // namespace rbt::test

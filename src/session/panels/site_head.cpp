@@ -2,9 +2,11 @@
 #include "session/panels/site_head.h"
 
 #include "data/reference.h"
-#include "platform/fault.h"
+#include "platform/files/system_error.h"
 #include "platform/numbers/number_mask.h"
+#include "platform/system/paths.h"
 #include "session/startup/startup.h"
+#include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "tally/selection.h"
@@ -16,7 +18,8 @@ void BindChosenSite() {
   options.start_mode = Selection.StartMode;
   // The menu has bound the site; should another be selected since, no sheet may mix the two.
   if (!FollowSelectedSite(options)) {
-    throw Fault(FaultKind::file, SiteContext.SelectedDbName + ": this site needs the newer program");
+    throw FileFaultText(MapPath("\\RBK\\DATA\\" + ReadSteelIni(kSelectedDbNameKey)),
+                        "needs the newer program");
   }
   if (!SiteContext.MasterDatabase) OpenMasterDatabase();
 }

@@ -211,6 +211,25 @@ void ForgetHoops() {
   RunState.HasHoopRows = false;
 }
 
+/// Another site than the bound one is bound whole or not at all: a fault on the way leaves none, so that the
+/// next turn begins anew.
+class NewSite {
+ public:
+  NewSite() = default;
+  NewSite(const NewSite&) = delete;
+  NewSite& operator=(const NewSite&) = delete;
+  ~NewSite() {
+    if (!ready_ && IsNew()) SelectSite("");
+  }
+
+  bool IsNew() const { return SiteContext.SelectedDbName != bound_; }
+  void NoteReady() { ready_ = true; }
+
+ private:
+  std::string bound_ = SiteContext.SelectedDbName;
+  bool ready_ = false;
+};
+
 /// What the load makes of the bound site: archive tables, classification, names, grades. False, its database
 /// closed, for a site that a newer program reads.
 bool ReadySite(const StartOptions& options) {
@@ -266,11 +285,12 @@ LoadResult LoadSite(const StartOptions& options) {
 }
 
 bool FollowSelectedSite(const StartOptions& options) {
-  const std::string bound = SiteContext.SelectedDbName;
+  NewSite site;
   Step([&] { BindSite(options); });
-  if (SiteContext.SelectedDbName == bound) return true;
+  if (!site.IsNew()) return true;
   if (!ReadySite(options)) return false;
   Step(ProbeShapes);
+  site.NoteReady();
   return true;
 }
 

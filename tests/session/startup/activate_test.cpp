@@ -9,6 +9,7 @@
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
+#include "support/fault_of.h"
 #include "support/site_fixture.h"
 #include "tally/selection.h"
 
@@ -102,6 +103,20 @@ TEST_F(Activate, BindsAnotherSiteWhole) {
   EXPECT_TRUE(RunState.HasAnchorPlateRows);
   // Classified as at a load: the form of a bar of 7.1 m.
   EXPECT_EQ(Shown(site_.Rows("GENBA002.MDB", "SELECT 予備3 FROM 加工テーブル")[0][0]), "3");
+}
+
+TEST_F(Activate, ThatStumblesOverAnotherSiteBindsItWholeTheNextTime) {
+  LoadAndActivate();
+  SelectAnotherSite();
+  const std::filesystem::path companion = site_.Data("HIROI002.mdb");
+  const std::filesystem::path away = site_.Data("away");
+  std::filesystem::rename(companion, away);
+  EXPECT_EQ(FaultOf([&] { ActivateMenu(options_); }), FaultKind::file);
+  std::filesystem::rename(away, companion);
+  ActivateMenu(options_);
+  EXPECT_EQ(SiteContext.SelectedDbName, "GENBA002.MDB");
+  EXPECT_EQ(SiteContext.LongSiteName, "次の長い現場名");
+  EXPECT_EQ(SiteContext.MakerNumber, 7);
 }
 
 TEST_F(Activate, HandsAnotherSiteOfANewerFormatOver) {
