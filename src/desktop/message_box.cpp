@@ -49,6 +49,7 @@ std::span<const Answer> Answers(MessageButtons buttons) {
     case MessageButtons::ok_cancel:
       return kOkCancel;
     case MessageButtons::yes_no:
+    case MessageButtons::yes_no_default_no:
       return kYesNo;
     case MessageButtons::yes_no_cancel:
       return kYesNoCancel;
@@ -73,6 +74,7 @@ QMessageBox::Icon Sign(MessageButtons buttons) {
       return QMessageBox::Warning;
     case MessageButtons::ok_cancel:
     case MessageButtons::yes_no:
+    case MessageButtons::yes_no_default_no:
     case MessageButtons::yes_no_cancel:
       break;
   }
@@ -109,7 +111,7 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   for (const Answer& answer : answers) {
     QPushButton* button = box.addButton(QString::fromUtf8(answer.caption), answer.role);
     button->setObjectName(QString::fromUtf8(answer.caption));
-    if (cautious == nullptr) box.setDefaultButton(button);
+    if (cautious == nullptr || buttons == MessageButtons::yes_no_default_no) box.setDefaultButton(button);
     cautious = button;
   }
   box.setEscapeButton(cautious);

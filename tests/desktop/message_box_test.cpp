@@ -49,6 +49,7 @@ TEST(MessageBox, EnterTakesTheFirstAnswer) {
   EXPECT_EQ(Show("a", "t", MessageButtons::ok_cancel, Qt::Key_Return).answer, MessageAnswer::ok);
   EXPECT_EQ(Show("a", "t", MessageButtons::yes_no, Qt::Key_Enter).answer, MessageAnswer::yes);
   EXPECT_EQ(Show("a", "t", MessageButtons::yes_no_cancel, Qt::Key_Return).answer, MessageAnswer::yes);
+  EXPECT_EQ(Show("a", "t", MessageButtons::yes_no_default_no, Qt::Key_Return).answer, MessageAnswer::no);
 }
 
 TEST(MessageBox, EscTakesTheCautiousAnswer) {

@@ -16,6 +16,8 @@ MessageAnswer DefaultAnswer(MessageButtons buttons) {
     case MessageButtons::yes_no:
     case MessageButtons::yes_no_cancel:
       return MessageAnswer::yes;
+    case MessageButtons::yes_no_default_no:
+      return MessageAnswer::no;
     case MessageButtons::retry_abort:
     case MessageButtons::retry_exit:
       return MessageAnswer::cancel;

@@ -7,7 +7,7 @@
 
 #include "data/floors.h"
 #include "tally/captions.h"
-#include "tally/mask_text.h"
+#include "tally/floorpart/floor_words.h"
 
 namespace rbt {
 
@@ -24,22 +24,6 @@ constexpr std::array<FloorWord, 3> kSpecialFloorsAlone{{
     {kPenthouseFloor, "データは ﾍﾟﾝﾄﾊｳｽ 階なし のみです。"},
     {kRoofFloor, "データは R階 ﾍﾟﾝﾄﾊｳｽ 階なし のみです。"},
 }};
-
-constexpr std::array<FloorWord, 3> kOneSpecialFloor{{
-    {kRoofFloor, "Ｒ階"},
-    {kPenthouseFloor, "ＰＨ階"},
-    {kNoFloor, "階なし"},
-}};
-
-constexpr MaskText<SpecialMask> kTakenBeside[] = {
-    {1, "Ｒ階を含む。"},
-    {2, "Ｐ階を含む。"},
-    {3, "Ｒ階、Ｐ階を含む。"},
-    {4, "階なしを含む。"},
-    {5, "Ｒ階、階なしを含む。"},
-    {6, "Ｐ階、階なしを含む。"},
-    {7, "Ｒ階、Ｐ階、階なしを含む。"},
-};
 
 /// Narrower than elsewhere.
 constexpr FormMask kCutAndBent = FormMask::Of({MaterialForm::cut_bent});
@@ -64,11 +48,13 @@ std::string AskedScope(const FloorInput::Texts& boxes) {
 }
 
 std::string TalliedScope(const FloorInput::Texts& boxes, SpecialMask taken) {
-  for (const FloorWord& row : kOneSpecialFloor) {
-    const std::string code = std::to_string(row.floor);
-    if (boxes[FloorInput::kStart] == code && boxes[FloorInput::kEnd] == code) return std::string(row.word);
+  for (const int special : kSpecialFloors) {
+    const std::string code = std::to_string(special);
+    if (boxes[FloorInput::kStart] == code && boxes[FloorInput::kEnd] == code) {
+      return std::string(SpecialFloorWord(special));
+    }
   }
-  const std::string_view beside = TextOfMask(kTakenBeside, taken);
+  const std::string_view beside = TakenBesideWords(taken);
   return beside.empty() ? AskedScope(boxes) : std::string(beside);
 }
 

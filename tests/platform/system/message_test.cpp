@@ -15,6 +15,12 @@ TEST(MsgBox, WithoutAWindowIsOneLineOnStandardErrorAndTheDefaultAnswer) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "確認: 登録されていません。 続けますか\n");
 }
 
+TEST(MsgBox, WithNoAsTheDefaultIsAnsweredNo) {
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(MsgBox("続けますか", "", MessageButtons::yes_no_default_no), MessageAnswer::no);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "続けますか\n");
+}
+
 TEST(MsgBox, WithoutATitleIsTheTextAlone) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(MsgBox("終わりました", "", MessageButtons::ok_cancel), MessageAnswer::ok);
