@@ -215,6 +215,7 @@ void FloorPartPresenter::BackToInput() {
   SpecialSeen = 0;
   SpecialTaken = 0;
   HoseiZumi = false;
+  LoadZumi = false;
   change_ = Change::none;
   print_panel_.Close();
   focus_ = FloorPartFocus::start;
@@ -233,6 +234,7 @@ void FloorPartPresenter::Tally() {
   RunPendingEvents();
   Count();
   HoseiZumi = false;
+  LoadZumi = false;
   Fill();
   StampTime();
   TellModes();
