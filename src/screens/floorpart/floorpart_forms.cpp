@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/floorpart/floorpart_forms.h"
 
+#include "screens/archive/saved_tally_dialogs.h"
 #include "screens/floorpart/floorpart_form.h"
 #include "screens/selection/selection_dialogs.h"
 
@@ -12,6 +13,8 @@ std::unique_ptr<QWidget> Make(const FloorPartScreen& screen) {
   FloorPartParts parts;
   parts.choose_kinds = ChooseKindsOfFloorsAndParts;
   parts.choose_forms = ChooseForms;
+  parts.save = [](const TallyResult& result) { SaveWithDialog(result, {}); };
+  parts.load = LoadWithDialog;
   return std::make_unique<FloorPartForm>(screen, std::move(parts));
 }
 
