@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/archive/load_files.h"
 
-#include <algorithm>
 #include <utility>
-
-#include <QListWidget>
-#include <QSignalBlocker>
 
 #include "desktop/action.h"
 #include "desktop/form.h"
@@ -53,7 +49,8 @@ LoadFiles::LoadFiles(TallyKind kind) : presenter_(kind), ui_(std::make_unique<Ui
 LoadFiles::~LoadFiles() = default;
 
 void LoadFiles::BindFields() {
-  connect(ui_->List1, &QListWidget::itemSelectionChanged, this, [this] { TellSelection(); });
+  ui_->List1->OnSelection(
+      [this](std::vector<std::size_t> entries) { presenter_.Select(std::move(entries)); });
   connect(ui_->FileNameText, &QLineEdit::textEdited, this, [this](const QString& text) {
     RunAction(*this, [&] {
       if (!presenter_.TypeNewName(text.toStdString()))
@@ -70,14 +67,6 @@ void LoadFiles::BindActions() {
   new FormActions(*this, std::move(actions), KeysAct::where_the_control_can_be_pressed);
 }
 
-void LoadFiles::TellSelection() {
-  std::vector<std::size_t> entries;
-  for (int row = 0; row < ui_->List1->count(); ++row) {
-    if (ui_->List1->item(row)->isSelected()) entries.push_back(static_cast<std::size_t>(row));
-  }
-  presenter_.Select(std::move(entries));
-}
-
 void LoadFiles::Do(const std::function<void(LoadPresenter&)>& intent) {
   const AtEnd show([this] { Show(); });
   intent(presenter_);
@@ -85,7 +74,7 @@ void LoadFiles::Do(const std::function<void(LoadPresenter&)>& intent) {
 
 void LoadFiles::Show() {
   const LoadView view = presenter_.View();
-  ShowEntries(view);
+  ui_->List1->Show(view.entries, view.selected, view.notice);
   ui_->List1->setEnabled(!view.naming);
   ui_->LoadButton->setEnabled(!view.naming);
   ui_->DelButton->setEnabled(!view.naming);
@@ -95,25 +84,6 @@ void LoadFiles::Show() {
   if (view.focus == LoadFocus::list) ui_->List1->setFocus();
   if (view.focus == LoadFocus::new_name) FocusText(*ui_->FileNameText);
   if (view.left) close();
-}
-
-void LoadFiles::ShowEntries(const LoadView& view) {
-  const QSignalBlocker silent(ui_->List1);
-  QStringList texts;
-  for (const std::string& entry : view.entries) texts.append(Text(entry));
-  if (texts.isEmpty()) texts.append(Text(view.notice));
-  QStringList shown;
-  for (int row = 0; row < ui_->List1->count(); ++row) shown.append(ui_->List1->item(row)->text());
-  if (texts != shown) {
-    ui_->List1->clear();
-    ui_->List1->addItems(texts);
-  }
-  if (view.entries.empty()) ui_->List1->item(0)->setFlags(Qt::NoItemFlags);
-  for (int row = 0; row < ui_->List1->count(); ++row) {
-    const bool selected = std::find(view.selected.begin(), view.selected.end(),
-                                    static_cast<std::size_t>(row)) != view.selected.end();
-    ui_->List1->item(row)->setSelected(selected);
-  }
 }
 
 }  // namespace rbt

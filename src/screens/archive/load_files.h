@@ -37,8 +37,6 @@ class LoadFiles : public QWidget {
   void BindActions();
   void Do(const std::function<void(LoadPresenter&)>& intent);
   void Show();
-  void ShowEntries(const LoadView& view);
-  void TellSelection();
 
   LoadPresenter presenter_;
   std::unique_ptr<Ui::LoadFiles> ui_;

@@ -7,7 +7,6 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QListWidget>
 
 #include "desktop/action.h"
 #include "desktop/form.h"
@@ -55,7 +54,7 @@ void SaveFiles::Fill() {
   const std::array<QLineEdit*, 3> boxes{ui_->txtMemo_0, ui_->txtMemo_1, ui_->txtMemo_2};
   const SaveView view = presenter_.View();
   ui_->lblKind->setText(Text(view.kind));
-  for (const std::string& name : view.names) ui_->List1->addItem(Text(name));
+  ui_->List1->Show(view.names);
   for (std::size_t i = 0; i < boxes.size(); ++i) boxes.at(i)->setText(Text(view.memos.at(i)));
   ui_->SaveMemoChk->setChecked(view.keeps_memos);
   ui_->SaveMemoChk->setVisible(view.offers_memos);
@@ -69,8 +68,8 @@ void SaveFiles::BindFields() {
       if (!presenter_.TypeName(text.toStdString())) TakeBack(*ui_->SaveNameText, presenter_.View().name);
     });
   });
-  connect(ui_->List1, &QListWidget::currentRowChanged, this, [this](int row) {
-    presenter_.Select(row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row)));
+  ui_->List1->OnSelection([this](const std::vector<std::size_t>& entries) {
+    presenter_.Select(entries.empty() ? std::nullopt : std::optional(entries.front()));
   });
   const std::array<QLineEdit*, 3> boxes{ui_->txtMemo_0, ui_->txtMemo_1, ui_->txtMemo_2};
   for (std::size_t i = 0; i < boxes.size(); ++i) {

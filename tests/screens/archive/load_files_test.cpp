@@ -59,6 +59,7 @@ TEST_F(LoadFilesForm, ANoticeInTheListCannotBeSelected) {
 TEST_F(LoadFilesForm, F1LoadsTheEntryThatTheArrowsChose) {
   auto form = Open();
   form.Key(Qt::Key_Down);
+  form.Key(Qt::Key_Down);
   form.Key(Qt::Key_Up);
   form.Key(Qt::Key_F1);
   EXPECT_THAT(site_.Told(), testing::HasSubstr("[ 三 ]  を読み込みます"));
@@ -66,6 +67,18 @@ TEST_F(LoadFilesForm, F1LoadsTheEntryThatTheArrowsChose) {
   const auto loaded = form.dialog->TakeLoaded();
   ASSERT_TRUE(loaded);
   EXPECT_EQ(loaded->result.Grid(), SmallTally().Grid());
+}
+
+TEST_F(LoadFilesForm, AListOfOneIsWorkedByTheKeyboardAlone) {
+  site_.Keep("一");
+  for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Up}) {
+    auto form = OpenOnWhatThereIs();
+    EXPECT_TRUE(form.List()->selectedItems().isEmpty());
+    form.Key(arrow);
+    EXPECT_TRUE(form.List()->item(0)->isSelected());
+    form.Key(Qt::Key_F3);
+    EXPECT_TRUE(form.Shows("FileNameText"));
+  }
 }
 
 TEST_F(LoadFilesForm, F2DeletesAllThatAreSelected) {

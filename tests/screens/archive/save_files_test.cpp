@@ -146,6 +146,16 @@ TEST_F(SaveFilesForm, AnEmptyBoxTakesTheEntryThatWasClicked) {
               testing::ElementsAre("20261121"));
 }
 
+TEST_F(SaveFilesForm, AnEntryThatTheFocusOnlyPassedIsNotTaken) {
+  site_.Keep("一");
+  auto form = Open();
+  form.Key(Qt::Key_Delete);
+  form.Key(Qt::Key_Tab);
+  EXPECT_EQ(form.Focused(), "List1");
+  form.Key(Qt::Key_F1);
+  EXPECT_EQ(site_.Told(), "入力確認: 何も入力されていません\n名前を入力してください|");
+}
+
 TEST_F(SaveFilesForm, F2OpensTheCsvDialogAndEscLeaves) {
   int opened = 0;
   parts_.export_csv = [&] { ++opened; };
