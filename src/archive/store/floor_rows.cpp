@@ -22,7 +22,7 @@ constexpr std::string_view kFloors = "階別重量集計";
 
 /// A floor as the rows name it: "12", "2-" of a basement; those with names of their own keep them.
 std::string FloorTextOf(int floor_code) {
-  const std::string label = FloorListLabel(floor_code);
+  std::string label = FloorListLabel(floor_code);
   if (floor_code == kFoundationFloor || IsSpecialFloor(floor_code)) return label;
   return ReplaceAll(ReplaceAll(label, "階", ""), "Ｂ", "-");
 }

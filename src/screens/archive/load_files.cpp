@@ -52,9 +52,9 @@ void LoadFiles::BindFields() {
   ui_->List1->OnSelection(
       [this](std::vector<std::size_t> entries) { presenter_.Select(std::move(entries)); });
   connect(ui_->FileNameText, &QLineEdit::textEdited, this, [this](const QString& text) {
-    RunAction(*this, [&] {
-      if (!presenter_.TypeNewName(text.toStdString()))
-        TakeBack(*ui_->FileNameText, presenter_.View().new_name);
+    RunAction(*this, [this, name = text.toStdString()] {
+      if (!presenter_.TakesNewName(name)) TakeBack(*ui_->FileNameText, presenter_.NewName());
+      presenter_.TypeNewName(name);
     });
   });
 }

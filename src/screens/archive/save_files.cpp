@@ -64,8 +64,9 @@ void SaveFiles::Fill() {
 
 void SaveFiles::BindFields() {
   connect(ui_->SaveNameText, &QLineEdit::textEdited, this, [this](const QString& text) {
-    RunAction(*this, [&] {
-      if (!presenter_.TypeName(text.toStdString())) TakeBack(*ui_->SaveNameText, presenter_.View().name);
+    RunAction(*this, [this, name = text.toStdString()] {
+      if (!presenter_.TakesName(name)) TakeBack(*ui_->SaveNameText, presenter_.Name());
+      presenter_.TypeName(name);
     });
   });
   ui_->List1->OnSelection([this](const std::vector<std::size_t>& entries) {

@@ -96,13 +96,16 @@ void LoadPresenter::Delete() {
 
 // Renaming.
 
-bool LoadPresenter::TypeNewName(std::string text) {
+bool LoadPresenter::TakesNewName(std::string_view text) const {
+  return !RefusedCharacter(InsertedText(new_name_, text));
+}
+
+void LoadPresenter::TypeNewName(std::string text) {
   if (const auto refusal = RefusedCharacter(InsertedText(new_name_, text))) {
     MsgBox(refusal->text, refusal->title);
-    return false;
+    return;
   }
   new_name_ = std::move(text);
-  return true;
 }
 
 void LoadPresenter::BeginNaming() {
@@ -122,7 +125,7 @@ void LoadPresenter::EndNaming() {
   focus_ = LoadFocus::list;
 }
 
-bool LoadPresenter::TakesNewName() {
+bool LoadPresenter::RequireNewName() {
   focus_ = LoadFocus::new_name;
   if (const auto refusal = RefusedLength(new_name_)) {
     MsgBox(refusal->text, refusal->title);
@@ -142,7 +145,7 @@ bool LoadPresenter::TakesNewName() {
 
 void LoadPresenter::Rename() {
   if (!naming_) return BeginNaming();
-  if (!TakesNewName()) return;
+  if (!RequireNewName()) return;
   const std::string name(Trim(new_name_));
   const SavedTally saved = list_.at(selected_.front());
   EndNaming();

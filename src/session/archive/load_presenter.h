@@ -38,8 +38,10 @@ class LoadPresenter {
   LoadView View();
   /// The entries that are selected now, in their order.
   void Select(std::vector<std::size_t> entries) { selected_ = std::move(entries); }
-  /// The new name was edited: see `SavePresenter::TypeName`.
-  bool TypeNewName(std::string text);
+  /// The new name, edited as the name of a save is.
+  const std::string& NewName() const { return new_name_; }
+  bool TakesNewName(std::string_view text) const;
+  void TypeNewName(std::string text);
 
   /// The first of the selected ones; the dialog ends with it.
   void Load();
@@ -58,7 +60,7 @@ class LoadPresenter {
   void ReadList();
   /// A store's refusal is told, and the list is read again.
   void Change(const std::function<void()>& change);
-  bool TakesNewName();
+  bool RequireNewName();
   void BeginNaming();
   void EndNaming();
 

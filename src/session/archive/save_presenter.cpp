@@ -60,14 +60,16 @@ SaveView SavePresenter::View() {
   return view;
 }
 
-bool SavePresenter::TypeName(std::string text) {
+bool SavePresenter::TakesName(std::string_view text) const {
+  return !RefusedCharacter(InsertedText(name_, text));
+}
+
+void SavePresenter::TypeName(std::string text) {
   if (const auto refusal = RefusedCharacter(InsertedText(name_, text))) {
     MsgBox(refusal->text, refusal->title);
-    focus_on_name_ = false;
-    return false;
+    return;
   }
   name_ = std::move(text);
-  return true;
 }
 
 std::optional<std::string> SavePresenter::NameToSave() {

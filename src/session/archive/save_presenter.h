@@ -40,9 +40,11 @@ class SavePresenter {
 
   SaveView View();
 
-  /// The name was edited: false for a text whose new characters cannot be taken, which is told; the old one
-  /// stays.
-  bool TypeName(std::string text);
+  const std::string& Name() const { return name_; }
+  /// False for an edited name whose new characters cannot be taken.
+  bool TakesName(std::string_view text) const;
+  /// The name was edited: one that cannot be taken is told, and the old one stays.
+  void TypeName(std::string text);
   void TypeMemo(std::size_t index, std::string text) { memos_.at(index) = std::move(text); }
   void KeepMemos(bool keep) { keeps_memos_ = keep; }
   /// An entry of the list is selected, or none.

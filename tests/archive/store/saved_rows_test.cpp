@@ -13,8 +13,6 @@ namespace rbt::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 class SavedRows : public testing::Test {
  protected:

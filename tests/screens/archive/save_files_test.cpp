@@ -62,6 +62,17 @@ TEST_F(SaveFilesForm, ACommaIsRefusedAtTheKeystroke) {
   EXPECT_EQ(form.Text("SaveNameText"), "基礎");
 }
 
+TEST_F(SaveFilesForm, ARefusedCharacterIsGoneWhileItsMessageIsShown) {
+  auto form = Open();
+  std::string shown;
+  Services.Messages = [&](std::string_view, std::string_view, MessageButtons) {
+    shown = form.Text("SaveNameText");
+    return MessageAnswer::ok;
+  };
+  form.Type("基,");
+  EXPECT_EQ(shown, "基");
+}
+
 TEST_F(SaveFilesForm, ARefusedCharacterLeavesTheCursorWhereItWas) {
   auto form = Open();
   form.Type("基礎");

@@ -207,7 +207,7 @@ TEST_F(LoadDialog, NothingElseIsDoneMeanwhile) {
 }
 
 TEST_F(LoadDialog, TheSecondPressRenames) {
-  EXPECT_TRUE(OpenForNaming().TypeNewName(" 新しい "));
+  OpenForNaming().TypeNewName(" 新しい ");
   dialog_->Rename();
   EXPECT_EQ(site_.Told(), "名前の変更:  [ 新しい ] に変更しました|");
   const LoadView view = dialog_->View();
@@ -249,7 +249,8 @@ TEST_F(LoadDialog, ANewNameThatIsTooLongIsRefused) {
 }
 
 TEST_F(LoadDialog, RefusesACharacterOfTheNewNameAtItsKeystroke) {
-  EXPECT_FALSE(OpenForNaming().TypeNewName("三,"));
+  EXPECT_FALSE(OpenForNaming().TakesNewName("三,"));
+  dialog_->TypeNewName("三,");
   EXPECT_EQ(site_.Told(), "注意: 「 , 」は使えません。他の文字に変えてください|");
   EXPECT_EQ(dialog_->View().new_name, "三");
 }

@@ -12,7 +12,6 @@ namespace rbt::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr const char* kAsked = "保存の確認: [ 基礎 ] を保存しますか？|";
 constexpr const char* kAskedToReplace =
@@ -74,7 +73,8 @@ TEST_F(SaveDialog, RefusesACharacterAtItsKeystroke) {
   for (const char character : std::string(",!\"#&%;:*|$'")) {
     SavePresenter& dialog = OpenNamed("基礎");
     const std::size_t told = site_.Messages().size();
-    EXPECT_FALSE(dialog.TypeName(std::string("基礎") + character));
+    EXPECT_FALSE(dialog.TakesName(std::string("基礎") + character));
+    dialog.TypeName(std::string("基礎") + character);
     EXPECT_EQ(site_.Told(told),
               std::string("注意: 「 ") + character + " 」は使えません。他の文字に変えてください|");
     EXPECT_EQ(dialog.View().name, "基礎");
@@ -83,7 +83,10 @@ TEST_F(SaveDialog, RefusesACharacterAtItsKeystroke) {
 
 TEST_F(SaveDialog, LetsTheCharactersOfTheProposalStand) {
   SavePresenter& dialog = Open();
-  EXPECT_TRUE(dialog.TypeName(dialog.View().name + "あ"));
+  const std::string longer = dialog.Name() + "あ";
+  EXPECT_TRUE(dialog.TakesName(longer));
+  dialog.TypeName(longer);
+  EXPECT_EQ(dialog.View().name, longer);
   EXPECT_EQ(site_.Told(), "");
 }
 
