@@ -85,4 +85,29 @@ TEST_F(KilledChange, ARenameIsWholeOrNot) {
   });
 }
 
+TEST_F(KilledChange, ASaveWhoseSystemCallFailsIsWholeOrAFaultThatLeavesNothing) {
+  if (!CanFailCalls()) GTEST_SKIP() << "calls cannot be made to fail on this machine";
+  const auto save = [&] { return site_.Save(floors_, ArchiveSite::Order("新しい", 9)); };
+  const auto before = site_.Dump();
+  ASSERT_TRUE(save());
+  const auto after = site_.Dump();
+  int faults = 0;
+  for (int n = 1;; n += FailingCallStep(5)) {
+    SCOPED_TRACE(n);
+    Restore();
+    const Ending ending = WithFailingCall(n, save);
+    if (ending == Ending::too_few_calls) break;
+    EXPECT_NE(ending, Ending::wrong);
+    EXPECT_NE(ending, Ending::crash);
+    const auto now = site_.Dump();
+    EXPECT_TRUE(now == before || now == after);
+    if (ending == Ending::well) {
+      EXPECT_TRUE(now == after);
+    } else {
+      ++faults;
+    }
+  }
+  EXPECT_GT(faults, 0);
+}
+
 }  // namespace rbt::test
