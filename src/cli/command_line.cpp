@@ -61,6 +61,11 @@ void CommandLine::Argument(const std::string& name, std::string& target, const s
   line_.add_option(name, target, description)->required();
 }
 
+void CommandLine::Arguments(const std::string& name, std::vector<std::string>& target,
+                            const std::string& description) {
+  line_.add_option(name, target, description)->required();
+}
+
 void CommandLine::OptionalArgument(const std::string& name, std::string& target,
                                    const std::string& description) {
   line_.add_option(name, target, description);

@@ -32,6 +32,8 @@ class CommandLine {
   CommandLine(CLI::App& line, Order& order) : line_(line), order_(order) {}
 
   void Argument(const std::string& name, std::string& target, const std::string& description);
+  /// One or more.
+  void Arguments(const std::string& name, std::vector<std::string>& target, const std::string& description);
   void OptionalArgument(const std::string& name, std::string& target, const std::string& description);
   /// One of the words, which the help lists.
   void WordArgument(const std::string& name, std::string& target, const std::vector<std::string>& words,

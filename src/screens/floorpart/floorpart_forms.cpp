@@ -2,6 +2,7 @@
 #include "screens/floorpart/floorpart_forms.h"
 
 #include "desktop/preview_form.h"
+#include "screens/archive/saved_tally_dialogs.h"
 #include "screens/floorpart/floorpart_form.h"
 #include "screens/floorpart/print_dlg.h"
 #include "screens/selection/selection_dialogs.h"
@@ -21,6 +22,8 @@ std::unique_ptr<QWidget> Make(const FloorPartScreen& screen) {
       if (dialog) dialog->ShowPage(1);
     });
   };
+  parts.save = [](const TallyResult& result) { SaveWithDialog(result, {}); };
+  parts.load = LoadWithDialog;
   return std::make_unique<FloorPartForm>(screen, std::move(parts));
 }
 

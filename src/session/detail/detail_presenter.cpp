@@ -263,12 +263,16 @@ void DetailPresenter::ChooseDatePlace(DatePlace place) {
 
 void DetailPresenter::Save() {
   if (!parts_.save) return SayNotReady("保存");
-  parts_.save(result_);
+  parts_.save(result_, memos_);
 }
 
 void DetailPresenter::Load() {
   if (!parts_.load) return SayNotReady("読込");
-  if (std::optional<TallyResult> loaded = parts_.load()) Take(std::move(*loaded));
+  std::optional<LoadedTally> loaded = parts_.load(result_.kind);
+  if (!loaded) return;
+  Take(std::move(loaded->result));
+  memos_ = std::move(loaded->memos);
+  markers_ = {};
 }
 
 void DetailPresenter::Leave() {

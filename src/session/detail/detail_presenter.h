@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "archive/store/load_tally.h"
 #include "session/detail/detail_controls.h"
 #include "session/detail/detail_order.h"
 #include "session/detail/detail_view.h"
@@ -20,8 +21,9 @@ namespace rbt {
 struct DetailParts {
   std::function<void()> open_settings;  ///< SETJS
   std::function<void(const DetailOrder& order)> print;
-  std::function<void(const TallyResult& result)> save;
-  std::function<std::optional<TallyResult>()> load;  ///< nothing: none was chosen
+  /// The dialogs of saved tallies, on a list with its memos and on those of a kind.
+  std::function<void(const TallyResult& result, const SavedMemos& memos)> save;
+  std::function<std::optional<LoadedTally>(TallyKind kind)> load;  ///< nothing: none was loaded
 };
 
 /// The last counts of fittings that the user entered by hand. Sheets and tallies leave them alone.
@@ -107,7 +109,7 @@ class DetailPresenter {
   CorrectionMarkers markers_;
   DetailMode mode_ = DetailMode::buttons;
   std::string percent_;
-  std::array<std::string, 3> memos_;
+  SavedMemos memos_;
   bool installed_ = false;
   PrintPanelPresenter print_panel_;
   std::string_view help_;

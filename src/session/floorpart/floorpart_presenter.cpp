@@ -215,6 +215,7 @@ void FloorPartPresenter::BackToInput() {
   SpecialSeen = 0;
   SpecialTaken = 0;
   HoseiZumi = false;
+  LoadZumi = false;
   change_ = Change::none;
   print_panel_.Close();
   focus_ = FloorPartFocus::start;
@@ -234,6 +235,7 @@ void FloorPartPresenter::Tally() {
   Count();
   HoseiZumi = false;
   filters_locked_ = false;
+  LoadZumi = false;
   Fill();
   StampTime();
   TellModes();

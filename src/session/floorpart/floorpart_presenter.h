@@ -74,7 +74,9 @@ class FloorPartPresenter {
   void ClosePrint();
   PrintPanelPresenter& PrintPanel() { return print_panel_; }
   void Save() const;
-  void Load() const;
+  /// Shows a saved tally in place of the one that was tallied: it is printed and saved, not filtered, raised
+  /// or corrected, until the next run.
+  void Load();
   /// Once: the selection is as the menu expects it and the site database closed.
   void Leave();
 
@@ -87,6 +89,7 @@ class FloorPartPresenter {
   void RunOver(const FloorRange& range, SpecialMask specials);
   void Tally();
   void Count();
+  void ShowLoaded(TallyResult result);
   void BackToInput();
   void Fill();
   void TellModes();
@@ -130,6 +133,7 @@ class FloorPartPresenter {
   std::int32_t SpecialSeen = 0;   ///< compares equal to `SpecialTaken` when all special floors with rows ...
   std::int32_t SpecialTaken = 0;  ///< ... were taken into a range of all floors
   bool HoseiZumi = false;         ///< a correction by hand is held
+  bool LoadZumi = false;          ///< the result is a saved tally
   Change change_ = Change::none;
   bool filters_locked_ = false;  ///< the list of floors was printed over a correction, which must stay
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
 
+#include "archive/store/load_tally.h"
 #include "session/floorpart/floor_questions.h"
 #include "session/floorpart/floorpart_columns.h"
 #include "session/floorpart/floorpart_order.h"
@@ -50,6 +52,10 @@ struct FloorPartParts {
   std::function<void()> choose_kinds;  ///< the dialog of material kinds or Ulbon alone, on the selection
   std::function<void()> choose_forms;  ///< the dialog of material forms
   std::function<void(const FloorPartOrder& order)> print;
+  /// The dialogs of saved tallies, on a result and on those of a kind. An empty one is not ready yet: its
+  /// button says so.
+  std::function<void(const TallyResult& result)> save = {};
+  std::function<std::optional<LoadedTally>(TallyKind kind)> load = {};  ///< nothing: none was loaded
 };
 
 }  // namespace rbt

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the screens of floors and parts show, their print panel and the ways out.
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "session/floorpart/floor_texts.h"
@@ -29,9 +31,32 @@ void FloorPartPresenter::ClosePrint() {
   focus_ = FloorPartFocus::first_row;
 }
 
-void FloorPartPresenter::Save() const { SayNotReady("保存", screen_.title); }
+void FloorPartPresenter::Save() const {
+  if (!parts_.save) return SayNotReady("保存", screen_.title);
+  parts_.save(result_);
+}
 
-void FloorPartPresenter::Load() const { SayNotReady("読込", screen_.title); }
+void FloorPartPresenter::Load() {
+  if (!parts_.load) return SayNotReady("読込", screen_.title);
+  if (std::optional<LoadedTally> loaded = parts_.load(screen_.kind)) ShowLoaded(std::move(loaded->result));
+}
+
+void FloorPartPresenter::ShowLoaded(TallyResult result) {
+  result_ = std::move(result);
+  LoadZumi = true;
+  HoseiZumi = false;
+  SetUplift("");  // the saved figures carry theirs
+  Fill();
+  const SelectionData& saved = result_.selection;
+  scope_ = TalliedScope({std::to_string(saved.KaiStart), std::to_string(saved.KaiEnd)}, saved.TokubetuMask);
+  filters_.kinds = FloorPartKindCaption(saved.MaterialKindMask);
+  filters_.forms = FloorPartFormCaption(saved.MaterialFormMask);
+  // Which shapes there are is not kept; a filter that is in force is told.
+  filters_.tells_hoops = filters_.tells_hoops || saved.HoopMode != ShapeFilter::with_others;
+  TellModes();
+  StampTime();
+  focus_ = FloorPartFocus::first_row;
+}
 
 void FloorPartPresenter::Leave() {
   if (std::exchange(left_, true)) return;
@@ -51,7 +76,8 @@ FloorPartView FloorPartPresenter::View() {
   FloorPartView view;
   view.head = head_;
   view.scope = scope_;
-  view.weight_word = installed_ ? kInstalledWord : kStockWord;
+  // A saved tally comes back in stock weights.
+  view.weight_word = installed_ && !LoadZumi ? kInstalledWord : kStockWord;
   view.input = {.shown = !result_shown_,
                 .enabled = !busy_,
                 .notice = empty_ ? "" : FloorsOfSchedule(extent_),
@@ -75,8 +101,9 @@ FloorPartView FloorPartPresenter::View() {
 
 FilterView FloorPartPresenter::Filters() const {
   FilterView view = filters_;
-  // The figures stay while sheets of them are printed.
-  const bool in_reach = !busy_ && change_ == Change::none && !print_panel_.IsOpen() && !filters_locked_;
+  // The figures stay while sheets of them are printed, and those of a saved tally as they are.
+  const bool in_reach =
+      !busy_ && change_ == Change::none && !print_panel_.IsOpen() && !filters_locked_ && !LoadZumi;
   view.tells_hoops = result_shown_ && filters_.tells_hoops;
   view.tells_plates = result_shown_ && filters_.tells_plates;
   view.choose_kinds = {result_shown_, in_reach};
@@ -91,7 +118,7 @@ void FloorPartPresenter::SetMainButtons(FloorPartView& view) const {
   const ButtonView of_result{true, in_reach && result_shown_};
   view.open_print = of_result;
   view.change_floors = of_result;
-  view.change_weights = of_result;
+  view.change_weights = {true, of_result.enabled && !LoadZumi};
   view.save = {true, of_result.enabled && HoldsAllFloors()};
   view.load = of_result;
   view.manage = of_result;

@@ -494,26 +494,46 @@ TEST(DetailPresenter, ButtonsThatAreNotReadySaySo) {
   EXPECT_EQ(detail.View().mode, DetailMode::printing);
 }
 
-TEST(DetailPresenter, SavesTheListAsItStandsAndShowsTheOneThatIsLoaded) {
+TEST(DetailPresenter, SavesTheListAsItStandsWithItsMemos) {
   Detailed detail;
   std::optional<TallyResult> saved;
-  detail.parts.save = [&](const TallyResult& result) { saved = result; };
-  std::optional<TallyResult> stored;
-  detail.parts.load = [&] { return stored; };
+  SavedMemos memos;
+  detail.parts.save = [&](const TallyResult& result, const SavedMemos& of_screen) {
+    saved = result;
+    memos = of_screen;
+  };
   DetailPresenter& zaimei = detail.Open();
   BeginEditing(zaimei);
   zaimei.EditCell(3, 7, "20");
   zaimei.Escape();
+  zaimei.TypeMemo(1, "控え");
   zaimei.Press(DetailButton::save);
   EXPECT_EQ(saved, zaimei.Result());
+  EXPECT_EQ(memos, (SavedMemos{"", "控え", ""}));
+}
+
+TEST(DetailPresenter, ShowsTheTallyThatIsLoadedWithItsMemos) {
+  Detailed detail(TallyKind::shape);
+  std::optional<LoadedTally> stored;
+  detail.parts.load = [&](TallyKind kind) {
+    EXPECT_EQ(kind, TallyKind::shape);
+    return stored;
+  };
+  DetailPresenter& zaimei = detail.Open();
+  BeginEditing(zaimei);
+  zaimei.EditCell(3, 7, "20");
+  zaimei.EditCell(3, 24, "5");
+  zaimei.Escape();
   zaimei.Press(DetailButton::load);
   EXPECT_EQ(detail.D19(), "20") << "none was chosen";
-  stored = detail.counted;
-  stored->origin = ResultOrigin::loaded;
+  stored = LoadedTally{.result = detail.counted, .memos = {"一", "", "三"}, .has_rows = true};
+  stored->result.origin = ResultOrigin::loaded;
   zaimei.Press(DetailButton::load);
   EXPECT_EQ(detail.D19(), "10");
   EXPECT_EQ(zaimei.Result().origin, ResultOrigin::loaded);
-  EXPECT_EQ(TallyGrid, stored->Grid());
+  EXPECT_EQ(zaimei.Markers(), CorrectionMarkers());
+  EXPECT_EQ(detail.View().memos, (SavedMemos{"一", "", "三"}));
+  EXPECT_EQ(TallyGrid, stored->result.Grid());
 }
 
 TEST(DetailPresenter, LeavingAnswersACallOfAnotherProgramForTheDetail) {
