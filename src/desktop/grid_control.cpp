@@ -71,6 +71,10 @@ class GridControl::Model : public QAbstractTableModel {
     endResetModel();
   }
 
+  void SetCharacters(const std::vector<int>& characters) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) columns_[i].characters = characters.at(i);
+  }
+
   void SetRows(std::vector<std::vector<std::string>> rows) {
     const int before = rowCount();
     const int after = static_cast<int>(rows.size());
@@ -147,6 +151,11 @@ GridControl::~GridControl() = default;
 
 void GridControl::SetColumns(std::vector<GridColumn> columns) {
   model_->SetColumns(std::move(columns));
+  LayOutColumns();
+}
+
+void GridControl::SetCharacters(const std::vector<int>& characters) {
+  model_->SetCharacters(characters);
   LayOutColumns();
 }
 

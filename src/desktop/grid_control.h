@@ -35,6 +35,8 @@ class GridControl : public QTableView {
   ~GridControl() override;
 
   void SetColumns(std::vector<GridColumn> columns);
+  /// Other widths for the columns, in half-width characters; current cell and open box stay.
+  void SetCharacters(const std::vector<int>& characters);
   /// Replaces all rows; the scroll position and, where it is still there, the current cell stay.
   void SetRows(std::vector<std::vector<std::string>> rows);
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string_view>
 
@@ -35,9 +34,6 @@ struct DetailButtonRow {
 };
 std::span<const DetailButtonRow, kDetailButtonCount> DetailButtons();
 const DetailButtonRow& RowOf(DetailButton button);
-
-/// The button of a key, among the main ones or those of the print panel.
-std::optional<DetailButton> ButtonOfKey(int key, bool in_print_panel);
 
 /// The help line while a control has the focus: that of the button or field, else that of the screen.
 std::string_view HelpOf(std::string_view control);

@@ -4,11 +4,10 @@
 #include <utility>
 #include <variant>
 
-#include <fmt/format.h>
-
 #include "data/reference.h"
 #include "platform/system/message.h"
 #include "session/panels/at_end.h"
+#include "session/panels/not_ready.h"
 #include "session/panels/site_head.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
@@ -36,6 +35,13 @@ std::string_view MaterialOfSite() {
 
 int ColumnsInUse() { return StockColumnsInUse(Settings.Use13mColumn == 1); }
 
+/// What the fields start from is read at each load: other programs of the family share these settings.
+void ReadFieldSettings() {
+  Settings.DetailPrint = ReadSetting(kDetailPrintKey);
+  Settings.MemoPosition = ReadSetting(kMemoPositionKey);
+  Settings.DetailDatePosition = ReadSetting(kDetailDatePositionKey);
+}
+
 /// The number that a field of "0" and "1" was given; nothing for another text.
 std::optional<std::int32_t> ZeroOrOne(std::string_view text) {
   if (text == "0") return 0;
@@ -54,12 +60,9 @@ void NoteFitting(CorrectionMarkers& markers, const DetailCell& cell, std::int32_
 }  // namespace
 
 DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
-    : result_(std::move(result)),
-      parts_(std::move(parts)),
-      head_(ReadHead()),
-      material_(MaterialOfSite()),
-      installed_(DetailArgumentsOf(Settings).Installed),
-      help_(HelpOf("")) {
+    : result_(std::move(result)), parts_(std::move(parts)), head_(ReadHead()), material_(MaterialOfSite()) {
+  ReadFieldSettings();
+  installed_ = DetailArgumentsOf(Settings).Installed;
   Selection.MaterialKindMask = kAllKinds;
   TallyGrid = result_.Grid();
   print_panel_.Date().FillEmpty();
@@ -104,11 +107,6 @@ void DetailPresenter::Press(DetailButton button) {
   }
 }
 
-void DetailPresenter::PressFunctionKey(int number) {
-  const auto button = ButtonOfKey(number, mode_ == DetailMode::printing);
-  if (button && number > 0) Press(*button);
-}
-
 void DetailPresenter::Escape() {
   switch (mode_) {
     case DetailMode::percent:
@@ -119,17 +117,6 @@ void DetailPresenter::Escape() {
       return ClosePrint();
     case DetailMode::buttons:
       return Leave();
-  }
-}
-
-void DetailPresenter::MoveFrom(DetailButton button, int step) {
-  const bool in_print_panel = RowOf(button).in_print_panel;
-  const auto buttons = DetailButtons();
-  const auto count = static_cast<int>(buttons.size());
-  for (int at = static_cast<int>(button) + step; at >= 0 && at < count; at += step) {
-    const DetailButtonRow& row = buttons[static_cast<std::size_t>(at)];
-    if (row.in_print_panel != in_print_panel) return;
-    if (IsWithinReach(row.button)) return FocusOn(row.button);
   }
 }
 
@@ -207,7 +194,7 @@ void DetailPresenter::RestoreValues() {
 
 void DetailPresenter::OpenPrint() {
   mode_ = DetailMode::printing;
-  print_panel_.Open(Papers::all);
+  print_panel_.Open(Papers::a4);
   FocusOn(DetailButton::a4_landscape);
 }
 
@@ -274,8 +261,6 @@ void DetailPresenter::Leave() {
   if (ReadHandOver(kMaterialDetailKey) == "1") WriteHandOver(kMaterialDetailKey, "0");
 }
 
-void DetailPresenter::SayNotReady(std::string_view what) {
-  MsgBox(fmt::format("「{}」は、まだご利用いただけません。", what), kDetailTitle);
-}
+void DetailPresenter::SayNotReady(std::string_view what) { rbt::SayNotReady(what, kDetailTitle); }
 
 }  // namespace rbt

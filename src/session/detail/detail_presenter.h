@@ -50,14 +50,10 @@ class DetailPresenter {
 
   // Buttons and keys.
   void Press(DetailButton button);
-  /// F1 to F7: presses the button of the key.
-  void PressFunctionKey(int number);
   /// Esc: leaves a mode, or the screen.
   void Escape();
-  /// Left (-1) or Right (1) on a button: the focus goes to the next one within reach, and stays at the ends.
-  void MoveFrom(DetailButton button, int step);
-  /// A control has got the focus: its help is shown.
-  void FocusMoved(std::string_view control) { help_ = HelpOf(control); }
+  /// Once, whatever the screen is at: a call of another program for it is answered.
+  void Leave();
 
   // Percentage.
   /// False for a text that the box does not take: another key than those of a decimal number.
@@ -92,7 +88,6 @@ class DetailPresenter {
   void OpenSettings();
   void Save();
   void Load();
-  void Leave();
 
   void Take(TallyResult result);
   void BackToButtons(DetailButton focus);
@@ -110,7 +105,6 @@ class DetailPresenter {
   std::array<std::string, 3> memos_;
   bool installed_ = false;
   PrintPanelPresenter print_panel_;
-  std::string_view help_;
   std::string_view focus_;
   bool left_ = false;
 };

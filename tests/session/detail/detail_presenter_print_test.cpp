@@ -23,12 +23,13 @@ TEST(DetailFields, StartAsTheSettingsHaveThemWithTodaysDate) {
   EXPECT_EQ(view.memo_position, "0");
   EXPECT_EQ(view.installed, "0");
   EXPECT_EQ(view.date_place, DatePlace::centre);
-  EXPECT_EQ(view.date.year, "2026");
-  EXPECT_EQ(view.date.month, "11");
-  EXPECT_EQ(view.date.day, "21");
-  Settings.MemoPosition = 1;
-  Settings.DetailPrint = 1;
-  Settings.DetailDatePosition = 1;
+  EXPECT_EQ(view.print_panel.date.year, "2026");
+  EXPECT_EQ(view.print_panel.date.month, "11");
+  EXPECT_EQ(view.print_panel.date.day, "21");
+  // Another program has changed them meanwhile.
+  SaveSetting(kMemoPositionKey, 1);
+  SaveSetting(kDetailPrintKey, 1);
+  SaveSetting(kDetailDatePositionKey, 1);
   detail.Open();
   view = detail.View();
   EXPECT_EQ(view.memo_position, "1");
@@ -150,8 +151,8 @@ TEST(DetailPrintPanel, EmptyDateBoxesAreFilledWhenItOpens) {
   zaimei.PrintPanel().Date().Type(1, "");
   zaimei.PrintPanel().Date().Type(2, "7");
   zaimei.Press(DetailButton::print);
-  EXPECT_EQ(detail.View().date.month, "11");
-  EXPECT_EQ(detail.View().date.day, "7");
+  EXPECT_EQ(detail.View().print_panel.date.month, "11");
+  EXPECT_EQ(detail.View().print_panel.date.day, "7");
 }
 
 TEST(DetailPrintPanel, TheSettingsChosenInItShowInGridAndYear) {
@@ -166,7 +167,7 @@ TEST(DetailPrintPanel, TheSettingsChosenInItShowInGridAndYear) {
   const DetailView view = detail.View();
   EXPECT_EQ(view.mode, DetailMode::printing);
   EXPECT_EQ(view.rows.size(), 26U);
-  EXPECT_EQ(view.date.year, "08");
+  EXPECT_EQ(view.print_panel.date.year, "08");
 }
 
 TEST(DetailPrintPanel, MemosStayWhenItIsOpenedAgain) {
