@@ -164,7 +164,6 @@ void GridControl::LayOutColumns() {
   bold.setBold(true);
   const QFontMetrics metrics(bold);  // totals need the most room
   const int half_width = metrics.horizontalAdvance(QLatin1Char('0'));
-  constexpr int kPadding = 14;
   natural_widths_.assign(static_cast<std::size_t>(model_->columnCount()), 0);
   for (int column = 0; column < model_->columnCount(); ++column) {
     const GridColumn& description = model_->ColumnAt(column);
@@ -172,7 +171,7 @@ void GridControl::LayOutColumns() {
     setColumnHidden(column, !description.visible);
     if (!description.visible) continue;
     natural_widths_[static_cast<std::size_t>(column)] =
-        std::max(description.characters * half_width, caption) + kPadding;
+        std::max(description.characters * half_width, caption) + padding_;
   }
   verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
   FillFrame();

@@ -64,6 +64,8 @@ class GridControl : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// What a column is wider than its texts, in pixels; before the columns are set.
+  void SetPadding(int padding) { padding_ = padding; }
 
  private:
   class Model;
@@ -74,6 +76,7 @@ class GridControl : public QTableView {
   Model* model_;
   GridCellPainter* painter_;
   std::vector<int> natural_widths_;  ///< of the columns that are seen; 0 of the others
+  int padding_ = 14;
 };
 
 }  // namespace rbt

@@ -5,6 +5,9 @@
 #include <string>
 #include <utility>
 
+#include <QFontMetrics>
+#include <QHeaderView>
+
 #include "desktop/colour.h"
 #include "platform/text/characters.h"
 
@@ -15,6 +18,12 @@ namespace {
 /// Columns of what a line is and holds.
 constexpr std::size_t kNameColumns = 2;
 constexpr int kFewestCharacters = 4;
+
+/// Between many columns there is little room.
+constexpr int kPadding = 8;
+
+constexpr double kSmallestPoints = 9;
+constexpr double kPointStep = 0.5;
 
 /// What each column needs for its texts.
 std::vector<int> ColumnCharacters(const DetailView& view) {
@@ -30,6 +39,8 @@ std::vector<int> ColumnCharacters(const DetailView& view) {
 int Sign(int number) { return (number > 0) - (number < 0); }
 
 }  // namespace
+
+DetailGrid::DetailGrid(QWidget* parent) : NumberGrid(parent) { SetPadding(kPadding); }
 
 void DetailGrid::Show(const DetailView& view) {
   const bool opens = !IsOpen() && view.mode == DetailMode::editing;
@@ -58,6 +69,28 @@ void DetailGrid::LayOut(const DetailView& view) {
   if (characters == characters_) return;
   characters_ = std::move(characters);
   SetCharacters(characters_);
+  FitLetters();
+}
+
+void DetailGrid::FitLetters() {
+  QFont letters = parentWidget()->font();
+  for (double points = letters.pointSizeF(); points >= kSmallestPoints; points -= kPointStep) {
+    letters.setPointSizeF(points);
+    verticalHeader()->setMinimumSectionSize(QFontMetrics(letters).height());
+    // Under a style sheet letters do not pass from a frame to what it shows.
+    for (QWidget* shows :
+         {static_cast<QWidget*>(horizontalHeader()), horizontalHeader()->viewport(), viewport()}) {
+      shows->setFont(letters);
+    }
+    setFont(letters);
+    if (sizeHint().width() <= width()) return;
+  }
+}
+
+void DetailGrid::resizeEvent(QResizeEvent* event) {
+  NumberGrid::resizeEvent(event);
+  // Scroll bars come and go with the letters; what they leave does not count.
+  if (std::exchange(fitted_width_, width()) != width()) FitLetters();
 }
 
 QModelIndex DetailGrid::Editable(QModelIndex cell, int rows, int columns) const {

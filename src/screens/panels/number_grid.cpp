@@ -25,6 +25,7 @@ class NumberGrid::Editing : public QStyledItemDelegate {
                         const QModelIndex& /*index*/) const override {
     auto* box = new QLineEdit(parent);
     box->setFrame(false);
+    box->setFont(grid_.font());
     box->setAlignment(Qt::AlignRight);
     box->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9,]*"), box));
     grid_.editor_ = box;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The correction of counts in the purchase list, by its keys.
+#include <QHeaderView>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -195,6 +196,22 @@ TEST(DetailCorrection, ACountBeyondAllBoundsIsToldAndLeavesTheCell) {
   EXPECT_THAT(zaimei.Told().back().text, HasSubstr("overflow"));
   EXPECT_EQ(zaimei.Cell(3, 7), "10");
   EXPECT_EQ(zaimei.form->Result(), zaimei.counted);
+}
+
+TEST(DetailCorrection, LettersBecomeSmallerUntilAllColumnsAreInSight) {
+  ZaimeiDriver zaimei;
+  for (int l = 0; l < 18; ++l) zaimei.counted.Grid().BarCount[0][l] = 12'345;
+  zaimei.OpenForm();
+  const auto points = [&] { return zaimei.Grid()->font().pointSizeF(); };
+  const double at_first = points();
+  EXPECT_LT(at_first, zaimei.form->font().pointSizeF());
+  EXPECT_LE(zaimei.Grid()->horizontalHeader()->length(), zaimei.Grid()->viewport()->width());
+  zaimei.form->resize(zaimei.form->width() / 2, zaimei.form->height());
+  Settle();
+  EXPECT_EQ(points(), 9.0) << "they can be read still";
+  zaimei.form->resize(zaimei.form->width() * 4, zaimei.form->height());
+  Settle();
+  EXPECT_EQ(points(), zaimei.form->font().pointSizeF());
 }
 
 TEST(DetailCorrection, ALongCountWidensItsColumn) {
