@@ -2,6 +2,7 @@
 #include "screens/detail/detail_grid.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -72,18 +73,22 @@ void DetailGrid::LayOut(const DetailView& view) {
   FitLetters();
 }
 
+void DetailGrid::TakeLetters(const QFont& letters) {
+  verticalHeader()->setMinimumSectionSize(QFontMetrics(letters).height());
+  // Under a style sheet letters do not pass from a frame to what it shows.
+  QHeaderView* captions = horizontalHeader();
+  for (QWidget* shows : std::initializer_list<QWidget*>{captions, captions->viewport(), viewport()}) {
+    shows->setFont(letters);
+  }
+  setFont(letters);
+}
+
 void DetailGrid::FitLetters() {
   QFont letters = parentWidget()->font();
-  for (double points = letters.pointSizeF(); points >= kSmallestPoints; points -= kPointStep) {
-    letters.setPointSizeF(points);
-    verticalHeader()->setMinimumSectionSize(QFontMetrics(letters).height());
-    // Under a style sheet letters do not pass from a frame to what it shows.
-    for (QWidget* shows :
-         {static_cast<QWidget*>(horizontalHeader()), horizontalHeader()->viewport(), viewport()}) {
-      shows->setFont(letters);
-    }
-    setFont(letters);
-    if (sizeHint().width() <= width()) return;
+  TakeLetters(letters);
+  while (sizeHint().width() > width() && letters.pointSizeF() - kPointStep >= kSmallestPoints) {
+    letters.setPointSizeF(letters.pointSizeF() - kPointStep);
+    TakeLetters(letters);
   }
 }
 

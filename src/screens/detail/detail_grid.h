@@ -24,6 +24,7 @@ class DetailGrid : public NumberGrid {
  private:
   void LayOut(const DetailView& view);
   void FitLetters();
+  void TakeLetters(const QFont& letters);
   /// The first cell that can be corrected from `cell` on, so many rows and columns a step; none: invalid.
   QModelIndex Editable(QModelIndex cell, int rows, int columns) const;
 

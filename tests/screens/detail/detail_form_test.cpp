@@ -12,7 +12,6 @@ namespace rbt::test {
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
