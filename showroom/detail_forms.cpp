@@ -7,6 +7,7 @@
 #include "screens/detail/detail_form.h"
 #include "screens/detail/detail_forms.h"
 #include "screens/result/result_forms.h"
+#include "session/result/result_screen.h"
 #include "shell/config/settings.h"
 #include "tally/kinds/tally_kinds.h"
 
@@ -18,7 +19,7 @@ void Click(QWidget& form, const char* button) { form.findChild<QPushButton*>(but
 
 std::unique_ptr<QWidget> Make(bool with_weights) {
   Settings.DetailShowsWeight = with_weights ? 1 : 0;
-  MakeJS();  // binds the site
+  MakeResultForm(kBulkScreen);  // binds the site
   return MakeZAIMEI(CountTally(TallyKind::bulk));
 }
 

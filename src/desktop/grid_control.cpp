@@ -131,10 +131,9 @@ class GridControl::Model : public QAbstractTableModel {
   QColor fore_;
 };
 
-GridControl::GridControl(QWidget* parent)
-    : QTableView(parent), model_(new Model(this)), painter_(new GridCellPainter(this)) {
+GridControl::GridControl(QWidget* parent) : QTableView(parent), model_(new Model(this)), painter_(nullptr) {
   setModel(model_);
-  setItemDelegate(painter_);
+  SetPainter(new GridCellPainter(this));
   setSelectionMode(QAbstractItemView::ContiguousSelection);
   setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                   QAbstractItemView::AnyKeyPressed);
@@ -148,6 +147,12 @@ GridControl::GridControl(QWidget* parent)
 }
 
 GridControl::~GridControl() = default;
+
+void GridControl::SetPainter(GridCellPainter* painter) {
+  delete painter_;
+  painter_ = painter;
+  setItemDelegate(painter_);
+}
 
 void GridControl::SetColumns(std::vector<GridColumn> columns) {
   model_->SetColumns(std::move(columns));

@@ -64,6 +64,8 @@ class GridControl : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// Draws the cells with another painter, which belongs to the grid; before the rows are set.
+  void SetPainter(GridCellPainter* painter);
   /// What a column is wider than its texts, in pixels; before the columns are set.
   void SetPadding(int padding) { padding_ = padding; }
 

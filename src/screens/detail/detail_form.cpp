@@ -34,13 +34,15 @@ struct DetailForm::Action {
 
 std::vector<DetailForm::Action> DetailForm::Actions() {
   std::vector<Action> actions;
-  actions.reserve(kDetailButtonCount + 2);
+  actions.reserve(kDetailButtonCount + 3);
   for (const DetailButtonRow& row : DetailButtons()) {
     actions.push_back({row.control, row.key == 0 ? Qt::Key_Escape : Qt::Key_F1 + row.key - 1,
                        [button = row.button](DetailPresenter& presenter) { presenter.Press(button); }});
   }
   actions.push_back(
       {"chkPreview", Qt::Key_F8, [](DetailPresenter& presenter) { presenter.PrintPanel().TogglePreview(); }});
+  actions.push_back(
+      {"btnPrinter", Qt::Key_F9, [](DetailPresenter& presenter) { presenter.PrintPanel().ChoosePrinter(); }});
   // Behind the buttons that Esc presses: it ends what has none.
   actions.push_back({"", Qt::Key_Escape, &DetailPresenter::Escape});
   return actions;
@@ -77,7 +79,9 @@ void DetailForm::TakeCaptions() {
   // The memos of this form stand together; the one in the head that screens share stays out of sight.
   ui_->SSPanel1->findChild<QWidget*>("txtSubKojNa")->setObjectName("txtHeadMemo");
   for (const DetailButtonRow& row : DetailButtons()) {
-    findChild<QPushButton*>(Text(row.control))->setText(Text(row.caption));
+    auto* button = findChild<QPushButton*>(Text(row.control));
+    button->setText(Text(row.caption));
+    button->setToolTip(Text(row.help));
   }
   KeepRoomOf(*ui_->picPercent);
 }
@@ -143,6 +147,7 @@ void DetailForm::ShowPanels(const DetailView& view) {
   ui_->fields->Show(view);
   ui_->lblMaterial->setText(Text(view.material));
   ui_->lblTotalWeight->setText(Text(view.total_weight));
+  ui_->lblNotice->setText(Text(view.notice));
   ShowText(*ui_->txtPercent, view.percent);
   ui_->dbgZaimei->Show(view);
   ui_->SSPanel3->Show(view.print_panel);

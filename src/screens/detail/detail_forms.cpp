@@ -5,6 +5,7 @@
 
 #include "desktop/form.h"
 #include "desktop/preview_form.h"
+#include "desktop/printer_choice.h"
 #include "screens/detail/detail_form.h"
 #include "screens/settings/settings_forms.h"
 
@@ -13,7 +14,8 @@ namespace rbt {
 std::unique_ptr<DetailForm> MakeZAIMEI(TallyResult result) {
   DetailParts parts;
   parts.open_settings = OpenSettings;
-  parts.print = [](const DetailOrder& order) { CarryOut(order, ShowPreview); };
+  parts.print = [](const DetailOrder& order) { return CarryOut(order, ShowPreview); };
+  parts.choose_printer = ChoosePrinter;
   return std::make_unique<DetailForm>(std::move(result), std::move(parts));
 }
 

@@ -48,6 +48,7 @@ void DetailGrid::Show(const DetailView& view) {
   SetOpen(view.mode == DetailMode::editing);
   LayOut(view);
   SetRows(view.rows);
+  SetTotals(view.totals);
   SetAlternateColours(view.colours ? ColourOfRgb(view.colours->back) : QColor(),
                       view.colours ? ColourOfRgb(view.colours->fore) : QColor());
   if (opens && !IsEditable(currentIndex())) setCurrentIndex(Editable(model()->index(0, 0), 0, 1));

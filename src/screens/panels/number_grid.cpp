@@ -4,7 +4,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
-#include <QStyledItemDelegate>
+
+#include "desktop/grid_cell.h"
 
 namespace rbt {
 
@@ -17,9 +18,9 @@ bool TypesNumber(const QString& text) {
 }  // namespace
 
 /// Edits a cell in a box of digits and commas.
-class NumberGrid::Editing : public QStyledItemDelegate {
+class NumberGrid::Editing : public GridCellPainter {
  public:
-  explicit Editing(NumberGrid& grid) : QStyledItemDelegate(&grid), grid_(grid) {}
+  explicit Editing(NumberGrid& grid) : GridCellPainter(&grid), grid_(grid) {}
 
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                         const QModelIndex& /*index*/) const override {
@@ -36,7 +37,7 @@ class NumberGrid::Editing : public QStyledItemDelegate {
   NumberGrid& grid_;
 };
 
-NumberGrid::NumberGrid(QWidget* parent) : GridControl(parent) { setItemDelegate(new Editing(*this)); }
+NumberGrid::NumberGrid(QWidget* parent) : GridControl(parent) { SetPainter(new Editing(*this)); }
 
 void NumberGrid::SetOpen(bool open) {
   open_ = open;

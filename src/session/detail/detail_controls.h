@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -41,6 +42,6 @@ std::string_view HelpOf(std::string_view control);
 inline constexpr std::string_view kDetailTitle = "材料明細表";
 inline constexpr std::string_view kDetailGrid = "dbgZaimei";
 inline constexpr std::string_view kPercentBox = "txtPercent";
-inline constexpr std::string_view kYearBox = "txtYear";
+inline constexpr std::array<std::string_view, 3> kDateBoxes{"txtYear", "txtMonth", "txtDay"};
 
 }  // namespace rbt

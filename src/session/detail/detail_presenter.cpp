@@ -4,6 +4,8 @@
 #include <utility>
 #include <variant>
 
+#include <fmt/format.h>
+
 #include "data/reference.h"
 #include "platform/system/message.h"
 #include "session/panels/at_end.h"
@@ -65,6 +67,7 @@ DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
   installed_ = DetailArgumentsOf(Settings).Installed;
   Selection.MaterialKindMask = kAllKinds;
   TallyGrid = result_.Grid();
+  print_panel_.OfferPrinters(parts_.choose_printer);
   print_panel_.Date().FillEmpty();
   FocusOn(DetailButton::percent);
 }
@@ -194,6 +197,7 @@ void DetailPresenter::RestoreValues() {
 
 void DetailPresenter::OpenPrint() {
   mode_ = DetailMode::printing;
+  notice_.clear();
   print_panel_.Open(Papers::a4);
   FocusOn(DetailButton::a4_landscape);
 }
@@ -204,14 +208,18 @@ void DetailPresenter::ClosePrint() {
 }
 
 void DetailPresenter::Print(ReportPaper paper) {
-  if (!print_panel_.Date().YearPasses()) return FocusOn(kYearBox);
+  if (const std::optional<DateRefusal> refusal = print_panel_.Date().Refusal()) {
+    MsgBox(refusal->text, kDetailTitle);
+    return FocusOn(kDateBoxes.at(refusal->box));
+  }
   if (!parts_.print) return SayNotReady("印字");
   DetailArguments detail = DetailArgumentsOf(Settings);
   detail.Memos = memos_;
   detail.Installed = installed_;
   const PrintPanelView panel = print_panel_.View();
-  parts_.print(
+  const std::string printer = parts_.print(
       {.result = result_, .paper = paper, .date = panel.date, .detail = detail, .preview = panel.preview});
+  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
   ClosePrint();
 }
 

@@ -19,7 +19,9 @@ namespace rbt {
 /// What the detail screen leans on. An empty one is not ready yet: its button says so.
 struct DetailParts {
   std::function<void()> open_settings;  ///< SETJS
-  std::function<void(const DetailOrder& order)> print;
+  /// Gives the printer that took the sheet, empty for none.
+  std::function<std::string(const DetailOrder& order)> print;
+  PrintPanelPresenter::AskPrinter choose_printer;  ///< in place of one that is not there
   std::function<void(const TallyResult& result)> save;
   std::function<std::optional<TallyResult>()> load;  ///< nothing: none was chosen
 };
@@ -105,6 +107,7 @@ class DetailPresenter {
   std::array<std::string, 3> memos_;
   bool installed_ = false;
   PrintPanelPresenter print_panel_;
+  std::string notice_;
   std::string_view focus_;
   bool left_ = false;
 };

@@ -31,6 +31,7 @@ struct DetailView {
   DetailLayout layout;
   std::vector<std::string_view> captions;
   GridRows rows;
+  std::vector<std::size_t> totals;    ///< rows that are sums of others
   std::optional<RowColours> colours;  ///< nothing: all rows are alike
 
   DetailMode mode = DetailMode::buttons;
@@ -42,6 +43,7 @@ struct DetailView {
   std::string installed;      ///< "0" no, "1" yes
   DatePlace date_place = DatePlace::centre;
   bool fields_enabled = true;  ///< memos, positions, date
+  std::string notice;          ///< what has become of the last sheet
   PrintPanelView print_panel;  ///< with the date, which is shown all the time
 
   std::string_view focus;  ///< control that takes it; empty: it stays

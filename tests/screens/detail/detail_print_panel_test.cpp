@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The purchase list's fields and its print panel, by their keys.
+#include <list>
+
 #include <QCheckBox>
 #include <QRadioButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/system/services.h"
 #include "screens/detail/detail_form_driver.h"
 #include "shell/config/settings.h"
 
@@ -169,9 +172,37 @@ TEST(DetailFormPrintPanel, AYearThatDoesNotPassGetsTheFocusAndNothingIsPrinted) 
   EXPECT_TRUE(zaimei.Shows("SSPanel3"));
 }
 
+TEST(DetailFormPrintPanel, TellsThePrinterThatTookTheSheet) {
+  ZaimeiDriver zaimei;
+  zaimei.printer = "甲";
+  zaimei.OpenForm();
+  zaimei.Key(Qt::Key_F4);
+  zaimei.Key(Qt::Key_F1);
+  EXPECT_EQ(zaimei.Label("lblNotice"), "「甲」に送りました。");
+}
+
+TEST(DetailFormPrintPanel, AnotherPrinterCanBeTakenInPlaceOfOneThatIsNotThere) {
+  ZaimeiDriver zaimei;
+  std::list<PrinterSurface> printers;
+  printers.emplace_back("乙", DeviceKind::installed_printer, [](const PrintedDocument&) {});
+  Services.Printers = PrinterList(std::move(printers));
+  std::vector<std::string> offered;
+  zaimei.parts.choose_printer = [&offered](const std::vector<std::string>& names) {
+    offered = names;
+    return std::optional<std::string>();
+  };
+  zaimei.OpenForm();
+  zaimei.Key(Qt::Key_F9);
+  EXPECT_THAT(offered, IsEmpty()) << "the panel is closed";
+  zaimei.Key(Qt::Key_F4);
+  EXPECT_TRUE(zaimei.Shows("btnPrinter"));
+  zaimei.Key(Qt::Key_F9);
+  EXPECT_THAT(offered, ElementsAre("乙"));
+}
+
 TEST(DetailFormPrintPanel, AFaultOfTheSheetIsToldAndLeavesItOpen) {
   ZaimeiDriver zaimei;
-  zaimei.parts.print = [](const DetailOrder&) { throw Fault(FaultKind::file, "no paper"); };
+  zaimei.parts.print = [](const DetailOrder&) -> std::string { throw Fault(FaultKind::file, "no paper"); };
   zaimei.OpenForm();
   zaimei.Key(Qt::Key_F4);
   zaimei.Key(Qt::Key_F3);

@@ -15,8 +15,6 @@ namespace {
 
 using testing::StartsWith;
 
-const ResultScreen* const kScreens[] = {&kBulkScreen, &kPageScreen, &kShapeScreen, &kPageShapeScreen};
-
 /// A result screen that shows the result of its default range, and what is done in the purchase list behind
 /// F5.
 class DetailOfResult : public ResultFormDriver {
@@ -52,7 +50,7 @@ void RaiseByHalf(DetailForm& list) {
 }  // namespace
 
 TEST(DetailOfResults, F5OpensTheListOfTheScreensResultInItsPlaceAndEscLeadsBack) {
-  for (const ResultScreen* screen : kScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     DetailOfResult js(*screen);
     TallyKind kind{};
     js.InTheList([&kind](DetailForm& list) { kind = list.Result().kind; });
@@ -65,7 +63,7 @@ TEST(DetailOfResults, F5OpensTheListOfTheScreensResultInItsPlaceAndEscLeadsBack)
 }
 
 TEST(DetailOfResults, TheScreenShowsWhatTheListHasMadeOfItsResult) {
-  for (const ResultScreen* screen : kScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     DetailOfResult js(*screen);
     js.InTheList(RaiseByHalf);
     EXPECT_THAT(js.Row("D19"), StartsWith("203 |")) << screen->name;  // 15 x 13.5 kg

@@ -121,7 +121,7 @@ TEST(DetailPrintPanel, PrintsTheListThatTheGridShowsWhateverWasTalliedSince) {
   EXPECT_EQ(detail.orders.back().result.Grid().BarCount[3][5], 20);
 }
 
-TEST(DetailPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
+TEST(DetailPrintPanel, ADateThatIsNoneIsToldPrintsNothingAndGetsTheFocus) {
   Detailed detail;
   SaveSetting(kDateStyleKey, 2);
   DetailPresenter& zaimei = detail.Open();
@@ -131,14 +131,34 @@ TEST(DetailPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
   EXPECT_THAT(detail.orders, IsEmpty());
   EXPECT_EQ(detail.View().focus, "txtYear");
   EXPECT_EQ(detail.View().mode, DetailMode::printing);
+  EXPECT_EQ(detail.Messages().back().title, "材料明細表");
   zaimei.PrintPanel().Date().Type(0, "31");
+  zaimei.PrintPanel().Date().Type(1, "13");
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().focus, "txtMonth");
+  EXPECT_THAT(detail.orders, IsEmpty());
+  zaimei.PrintPanel().Date().Type(1, "12");
   zaimei.Press(DetailButton::a4_landscape);
   EXPECT_EQ(detail.orders.size(), 1U);
 }
 
+TEST(DetailPrintPanel, TellsThePrinterThatTookTheSheetUntilItIsOpenedAgain) {
+  Detailed detail;
+  detail.printer = "甲";
+  DetailPresenter& zaimei = detail.Open();
+  zaimei.Press(DetailButton::print);
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().notice, "「甲」に送りました。");
+  zaimei.Press(DetailButton::print);
+  EXPECT_EQ(detail.View().notice, "");
+  detail.printer = "";
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().notice, "") << "it was looked at";
+}
+
 TEST(DetailPrintPanel, AFaultOfTheReportLeavesItOpen) {
   Detailed detail;
-  detail.parts.print = [](const DetailOrder&) { throw Fault(FaultKind::file, "no paper"); };
+  detail.parts.print = [](const DetailOrder&) -> std::string { throw Fault(FaultKind::file, "no paper"); };
   DetailPresenter& zaimei = detail.Open();
   zaimei.Press(DetailButton::print);
   EXPECT_EQ(FaultOf([&] { zaimei.Press(DetailButton::a4_landscape); }), FaultKind::file);

@@ -27,7 +27,7 @@ TallyResult WithTwentyBars(TallyResult result) {
 }  // namespace
 
 TEST(ResultPresenterDetail, HandsItsResultOnAndShowsAndPrintsTheOneThatComesBack) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     TallyResult handed;
     js.detail = [&](TallyResult result) {
@@ -50,7 +50,7 @@ TEST(ResultPresenterDetail, HandsItsResultOnAndShowsAndPrintsTheOneThatComesBack
 }
 
 TEST(ResultPresenterDetail, KeepsTheKindsThatItsResultIsOf) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.kinds = [] { Selection.MaterialKindMask = kOneKind; };
     js.detail = WithTwentyBars;
@@ -65,7 +65,7 @@ TEST(ResultPresenterDetail, KeepsTheKindsThatItsResultIsOf) {
 }
 
 TEST(ResultPresenterDetail, TellsAllKindsOnceTheyWereTalliedAnewInTheList) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.kinds = [] { Selection.MaterialKindMask = kOneKind; };
     js.detail = [](const TallyResult& result) { return CountTally(result.kind); };
