@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "showroom/archive_forms.h"
+#include "showroom/detail_forms.h"
 #include "showroom/floorpart_forms.h"
 #include "showroom/menu_forms.h"
 #include "showroom/preview_forms.h"
@@ -15,8 +16,8 @@ namespace rbt {
 
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
-  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ResultForms(), FloorPartForms(),
-                                       ArchiveForms(), SelectionForms(), PreviewForms()}) {
+  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ResultForms(), DetailForms(),
+                                       FloorPartForms(), ArchiveForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

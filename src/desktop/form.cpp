@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include "desktop/form_place.h"
@@ -153,6 +154,18 @@ void ShowModally(QWidget& form) {
   form.activateWindow();
   if (form.isVisible()) loop.exec();
   if (below) below->activateWindow();
+}
+
+void ShowInPlace(QWidget& form) {
+  const QPointer<QWidget> before = QApplication::activeWindow();
+  // Once the form is up, so that the focus does not go to another window in between.
+  QTimer::singleShot(0, &form, [before] {
+    if (before) before->hide();
+  });
+  ShowModally(form);
+  if (!before) return;
+  before->show();
+  before->activateWindow();
 }
 
 bool MoveFocusByArrow(QWidget& form, int arrow_key) {
