@@ -9,14 +9,13 @@ if(RBTALLY_DESKTOP)
                      LIBRARIES GTest::gmock Qt6::Widgets Qt6::PrintSupport OPTIONS ${RBTALLY_TEST_OPTIONS})
 endif()
 
-set(test_environment LC_ALL=C.UTF-8 TZ=Asia/Tokyo QT_QPA_PLATFORM=offscreen)
-
 # What takes long begins early.
 set(long_cost 1000)
 
 # rbtally_tests([QT] SOURCES... [LIBRARIES library...] [LONG] [PARTS n]): the tests of the room of the same folder, one
-# program. ctest runs each test by itself, of kills and damages a sample (tests/support/sample.h). Shuffled, one process
-# runs them all, or n processes a part each; GTEST_RANDOM_SEED repeats an order.
+# program. ctest runs each test by itself. Shuffled, one process runs them all, or n processes a part each;
+# GTEST_RANDOM_SEED repeats an order. What tests find in their environment is told by the presets: they cannot be
+# told in a list here, which gtest_discover_tests takes apart.
 function(rbtally_tests)
   cmake_parse_arguments(ARG "QT;LONG" "PARTS" "LIBRARIES" ${ARGN})
   file(RELATIVE_PATH room ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
@@ -39,16 +38,16 @@ function(rbtally_tests)
   endif()
   if(NOT RBTALLY_SHUFFLE)
     gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
-      PROPERTIES TIMEOUT 300 COST ${cost} ENVIRONMENT "${test_environment};RBTALLY_SAMPLE=1")
+      PROPERTIES TIMEOUT 300 COST ${cost})
   elseif(NOT ARG_PARTS)
     add_test(NAME ${name} COMMAND ${name} --gtest_shuffle)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 900 COST ${cost} ENVIRONMENT "${test_environment}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 COST ${cost})
   else()
     foreach(part RANGE 1 ${ARG_PARTS})
       math(EXPR index "${part} - 1")
       add_test(NAME ${name}/${part} COMMAND ${name} --gtest_shuffle)
       set_tests_properties(${name}/${part} PROPERTIES TIMEOUT 900 COST ${cost}
-        ENVIRONMENT "${test_environment};GTEST_TOTAL_SHARDS=${ARG_PARTS};GTEST_SHARD_INDEX=${index}")
+        ENVIRONMENT "GTEST_TOTAL_SHARDS=${ARG_PARTS};GTEST_SHARD_INDEX=${index}")
     endforeach()
   endif()
 endfunction()

@@ -11,6 +11,7 @@
 #include "reports/forms/report_forms.h"
 #include "reports/frame/print_frame.h"
 #include "screens/result/result_forms.h"
+#include "session/result/result_screen.h"
 #include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
@@ -38,7 +39,7 @@ PrintedDocument Drawn(std::string_view word, const TallyResult& result) {
 
 std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> forms,
                               std::vector<std::string> printers) {
-  MakeJS();  // binds the site
+  MakeResultForm(kBulkScreen);  // binds the site
   const TallyResult result = CountTally(TallyKind::bulk);
   std::vector<PrintedDocument> documents;
   for (const std::string_view word : forms) documents.push_back(Drawn(word, result));
@@ -48,7 +49,7 @@ std::unique_ptr<QWidget> Make(std::initializer_list<std::string_view> forms,
   return std::make_unique<PreviewForm>(std::move(documents), std::move(parts));
 }
 
-PreviewForm& Preview(QWidget& form) { return static_cast<PreviewForm&>(form); }
+PreviewForm& PreviewIn(QWidget& form) { return static_cast<PreviewForm&>(form); }
 
 FormEntry Entry(std::function<std::unique_ptr<QWidget>()> make, std::vector<FormState> states) {
   return {.name = "PreviewForm",
@@ -63,12 +64,12 @@ FormEntry Entry(std::function<std::unique_ptr<QWidget>()> make, std::vector<Form
 std::vector<FormEntry> PreviewForms() {
   return {Entry([] { return Make({kA4Portrait}, SamplePrinters()); },
                 {{"portrait", [](QWidget&) {}},
-                 {"actual-size", [](QWidget& form) { Preview(form).ShowActualSize(); }},
-                 {"page-width", [](QWidget& form) { Preview(form).ShowPageWidth(); }},
+                 {"actual-size", [](QWidget& form) { PreviewIn(form).ShowActualSize(); }},
+                 {"page-width", [](QWidget& form) { PreviewIn(form).ShowPageWidth(); }},
                  {"zoomed",
                   [](QWidget& form) {
-                    Preview(form).ShowActualSize();
-                    for (int step = 0; step < 3; ++step) Preview(form).ZoomIn();
+                    PreviewIn(form).ShowActualSize();
+                    for (int step = 0; step < 3; ++step) PreviewIn(form).ZoomIn();
                   }}}),
           Entry([] { return Make({kA4Landscape}, {}); }, {{"landscape-without-a-printer", [](QWidget&) {}}}),
           Entry(
@@ -76,7 +77,7 @@ std::vector<FormEntry> PreviewForms() {
                 return Make({kA4Portrait, kB5Landscape, kA4Landscape}, SamplePrinters());
               },
               {{"first-of-three", [](QWidget&) {}},
-               {"second-of-three", [](QWidget& form) { Preview(form).ShowNextPage(); }}}),
+               {"second-of-three", [](QWidget& form) { PreviewIn(form).ShowNextPage(); }}}),
           {.name = "PrinterChoice",
            .make = [] { return std::make_unique<PrinterChoice>(SamplePrinters()); },
            .first_focus = "lstPrinter",

@@ -47,22 +47,26 @@ std::vector<FormState> ScopedStates() {
            }}};
 }
 
-FormEntry Entry(const ResultScreen& screen, std::unique_ptr<QWidget> (*make)(), std::string first_focus,
-                std::vector<FormState> states) {
+std::string FirstFocus(const ResultScreen& screen) {
+  if (!screen.IsScoped()) return "dbgJS";
+  return screen.Range() == TallyRange::shapes ? "txtStartKeijouNo" : "txtStartPage";
+}
+
+FormEntry Entry(const ResultScreen& screen) {
   return {.name = std::string(screen.name),
-          .make = make,
-          .first_focus = std::move(first_focus),
+          .make = [&screen] { return MakeResultForm(screen); },
+          .first_focus = FirstFocus(screen),
           .keys = ResultForm::Keys(screen),
-          .states = std::move(states)};
+          .states = screen.IsScoped() ? ScopedStates() : BulkStates()};
 }
 
 }  // namespace
 
 std::vector<FormEntry> ResultForms() {
-  return {Entry(kBulkScreen, MakeJS, "dbgJS", BulkStates()),
-          Entry(kPageScreen, MakePGJS, "txtStartPage", ScopedStates()),
-          Entry(kShapeScreen, MakeKEIJOJS, "txtStartKeijouNo", ScopedStates()),
-          Entry(kPageShapeScreen, MakePKEIJOJS, "txtStartPage", ScopedStates())};
+  std::vector<FormEntry> entries;
+  entries.reserve(ResultScreens().size());
+  for (const ResultScreen* const screen : ResultScreens()) entries.push_back(Entry(*screen));
+  return entries;
 }
 
 }  // namespace rbt

@@ -26,10 +26,8 @@ void ShowStockWarning(const TallyResult& result) {
   if (table != nullptr && !table->StockWarningText.empty()) MsgBox(Trim(table->StockWarningText));
 }
 
-void TakeShapes(const SelectionOptions& options) {
-  const ShapeRange shapes = options.shapes.value_or(WholeShapeRange(*SiteContext.WorkDatabase));
-  Selection.ShapeStart = shapes.first;
-  Selection.ShapeEnd = shapes.last;
+ShapeRange ShapesOf(const SelectionOptions& options) {
+  return options.shapes.value_or(WholeShapeRange(*SiteContext.WorkDatabase));
 }
 
 /// The positions asked for; a bound that is not given is that of the schedule.
@@ -38,14 +36,6 @@ PositionRange PositionsOf(const SelectionOptions& options) {
   const PositionRange whole =
       WholePositionRange(*SiteContext.WorkDatabase, Selection.TallyKind).value_or(PositionRange());
   return {options.from.value_or(whole.first), options.to.value_or(whole.last)};
-}
-
-void TakePositions(const SelectionOptions& options) {
-  const PositionRange range = PositionsOf(options);
-  Selection.StartPage = range.first.page;
-  Selection.StartLine = range.first.line;
-  Selection.EndPage = range.last.page;
-  Selection.EndLine = range.last.line;
 }
 
 void TakeAskedFloors(const SelectionOptions& options) {
@@ -70,9 +60,9 @@ void TakeAskedFloors(const SelectionOptions& options) {
 void TakeRange(TallyRange range, const SelectionOptions& options) {
   switch (range) {
     case TallyRange::shapes:
-      return TakeShapes(options);
+      return TakeShapes(Selection, ShapesOf(options));
     case TallyRange::positions:
-      return TakePositions(options);
+      return TakePositions(Selection, PositionsOf(options));
     case TallyRange::floors:
       return TakeAskedFloors(options);
     case TallyRange::whole_site:

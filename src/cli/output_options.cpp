@@ -16,6 +16,7 @@ void AddForceOption(CommandLine& line, bool& force) {
 void RequireOutputs(std::vector<NamedOutput> outputs, bool force) {
   std::erase_if(outputs, [](const NamedOutput& output) { return output.file.path.empty(); });
   std::vector<OutputFile> files;
+  files.reserve(outputs.size());
   for (const NamedOutput& output : outputs) files.push_back(output.file);
   if (const auto twice = NamedTwice(files)) {
     throw UsageError(fmt::format("{} and {} name the same file {}", outputs[twice->first].option,

@@ -22,7 +22,6 @@
 #include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
 #include "shell/config/settings.h"
-#include "shell/context/run_state.h"
 #include "tally/detail/detail_entry.h"
 
 namespace rbt {
@@ -110,12 +109,12 @@ void RequireNoDetailOptions(const ReportOptions& options) {
 
 /// The uplift of Ulbon, the last one given: a whole number.
 std::int32_t UlbonPercent(const DetailChanges& changes) {
-  constexpr double kHighest = 999999.0;
   if (changes.empty()) return 0;
   const std::string& text = std::get<PercentChange>(changes.back()).text;
   const bool is_whole = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-  if (!is_whole || PercentOfText(text) > kHighest) {
-    throw UsageError("--percent: " + text + " is no whole number of 0 to 999999");
+  if (!is_whole || PercentOfText(text) > kHighestUlbonPercent) {
+    throw UsageError("--percent: " + text + " is no whole number of 0 to " +
+                     std::to_string(kHighestUlbonPercent));
   }
   return static_cast<std::int32_t>(PercentOfText(text));
 }
@@ -153,10 +152,9 @@ void RunReport(const ReportOptions& options) {
   RequireFiles(options);
   const ReportForm& form = FindReportForm(options.name);
   const TallyResult result = ResultFor(form, options);
-  RunState.ReportBody = options.body;
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
   const ReportArguments arguments{
-      options.sub_project,       date.year, date.month, date.day, RunState.ReportBody, result.ulbon_percent,
+      options.sub_project,       date.year, date.month, date.day, options.body, result.ulbon_percent,
       DetailArgumentsOf(options)};
   WriteDocuments(DocumentsOf(form, arguments, result), options);
 }

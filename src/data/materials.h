@@ -38,7 +38,7 @@ inline constexpr std::array<FormWord, 4> kFormWords{{
     {MaterialForm::cut_bent, "切断加工"},
 }};
 
-/// Names, each closed by one ideographic blank, that mark slit bars of part 3.
+/// Names, each closed by one ideographic blank, that mark slit bars of 部位 3.
 inline constexpr std::array<std::string_view, 2> kSlitNames{"縦ｽﾘｯﾄ筋　", "横ｽﾘｯﾄ筋　"};
 
 /// Cut lengths in mm at which a bar is used whole: the stock lengths from 3.5 m to 12 m.

@@ -49,6 +49,9 @@ void KeepPlace(const QString& name, const QRect& place) {
   PassOverFaults([&] { SetRegistryText(kApplication, kSection, name.toStdString(), text.toStdString()); });
 }
 
+/// A form that the screen cannot hold begins at its edge: `last` then lies before `first`.
+int Within(int at, int first, int last) { return std::max(first, std::min(at, last)); }
+
 /// Place of the frame, size of what it holds: as `move` and `resize` take them.
 QRect PlaceOf(const QWidget& form) { return {form.pos(), form.size()}; }
 
@@ -94,8 +97,8 @@ void PlaceForm(QWidget& form) {
                 area.top() + (largest.height() - taken.height()) / 2);
   if (kept) corner = kept->topLeft();
   // The screen may be another one than the place was kept on.
-  corner.setX(std::clamp(corner.x(), area.left(), area.left() + area.width() - taken.width()));
-  corner.setY(std::clamp(corner.y(), area.top(), area.top() + largest.height() - taken.height()));
+  corner.setX(Within(corner.x(), area.left(), area.left() + area.width() - taken.width()));
+  corner.setY(Within(corner.y(), area.top(), area.top() + largest.height() - taken.height()));
   form.move(corner);
   if (!name.isEmpty()) new PlaceKeeper(form);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "platform/fault.h"
 
@@ -19,28 +20,33 @@ std::optional<Fault> PassOverFaults(Action&& action) {
   return std::nullopt;
 }
 
-/// The same for faults of one kind; all others pass through.
-template <typename Action>
-std::optional<Fault> PassOverFaults(FaultKind kind, Action&& action) {
+/// The same for the faults of which `guards` says true; all others pass through.
+template <typename Guards, typename Action>
+std::optional<Fault> PassOverFaultsIf(const Guards& guards, Action&& action) {
   try {
     action();
   } catch (const Fault& fault) {
-    if (fault.Kind() != kind) throw;
+    if (!guards(fault)) throw;
     return fault;
   }
   return std::nullopt;
 }
 
-/// The same for faults that lie in what was read; a broken disk, a full one, a lock pass through.
+/// Those of one kind.
+template <typename Action>
+std::optional<Fault> PassOverFaults(FaultKind kind, Action&& action) {
+  return PassOverFaultsIf([kind](const Fault& fault) { return fault.Kind() == kind; },
+                          std::forward<Action>(action));
+}
+
+/// Those that lie in what was read; a broken disk, a full one, a lock pass through.
 template <typename Action>
 std::optional<Fault> PassOverFaultsOfContent(Action&& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    if (fault.Kind() == FaultKind::storage || fault.Kind() == FaultKind::locked) throw;
-    return fault;
-  }
-  return std::nullopt;
+  return PassOverFaultsIf(
+      [](const Fault& fault) {
+        return fault.Kind() != FaultKind::storage && fault.Kind() != FaultKind::locked;
+      },
+      std::forward<Action>(action));
 }
 
 }  // namespace rbt

@@ -145,15 +145,14 @@ bool Connection::NeedsRecovery() const {
 void Connection::RunSetting(const char* sql) const {
   const int code = sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr);
   if (code == SQLITE_OK) return;
-  const Fault fault = StoreFault(*this, code, "opening it");
-  if (fault.Kind() == FaultKind::locked) throw fault;
+  if (IsHeldElsewhere(code)) throw StoreFault(*this, code, "opening it");
   throw FileFaultText(file_, sqlite3_errmsg(Handle()));
 }
 
 /// By the connection's own file: opening and closing it beside SQLite would lose the connection's locks.
 std::string Connection::Bytes(std::int64_t at, int count) const {
   sqlite3_file* file = nullptr;
-  sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
   if (file == nullptr || file->pMethods == nullptr) return {};
   std::string bytes(static_cast<std::size_t>(count), '\0');
   const int code = file->pMethods->xRead(file, bytes.data(), count, at);

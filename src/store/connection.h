@@ -24,6 +24,9 @@ class Connection;
 /// runtime's words come with the store's message, the file and the statement.
 Fault StoreFault(const Connection& connection, int code, std::string_view statement);
 
+/// True of an error that says another program, or another connection, holds the file.
+bool IsHeldElsewhere(int code);
+
 /// A prepared statement. `text` stands for it in faults: the statement the caller wrote.
 class Statement {
  public:

@@ -51,9 +51,11 @@ std::string MessageOf(sqlite3* connection, int code) {
 
 }  // namespace
 
+bool IsHeldElsewhere(int code) { return (code & 0xFF) == SQLITE_BUSY || (code & 0xFF) == SQLITE_LOCKED; }
+
 Fault StoreFault(const Connection& connection, int code, std::string_view statement) {
   const std::string where = fmt::format("{}: {}", connection.File().string(), statement);
-  if ((code & 0xFF) == SQLITE_BUSY || (code & 0xFF) == SQLITE_LOCKED) {
+  if (IsHeldElsewhere(code)) {
     return {FaultKind::locked, fmt::format("another program holds the file: {}", where)};
   }
   const std::string message = MessageOf(connection.Handle(), code);

@@ -123,16 +123,9 @@ Value CheckedBytes(const FieldDef& field, const Value& value, const FieldPlace& 
   return value;
 }
 
-}  // namespace
-
-std::string FieldPlace::Text() const {
-  return table.empty() ? std::string(field) : fmt::format("{}.{}", table, field);
-}
-
-std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace& place) {
+/// Of a column that is not null.
+double NumberAt(sqlite3_stmt* row, int column, const FieldPlace& place) {
   switch (sqlite3_column_type(row, column)) {
-    case SQLITE_NULL:
-      return std::nullopt;
     case SQLITE_TEXT:
       return NumberOfText(TextAt(row, column), place.Text());
     case SQLITE_BLOB:
@@ -140,6 +133,17 @@ std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace
     default:
       return sqlite3_column_double(row, column);
   }
+}
+
+}  // namespace
+
+std::string FieldPlace::Text() const {
+  return table.empty() ? std::string(field) : fmt::format("{}.{}", table, field);
+}
+
+std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace& place) {
+  if (sqlite3_column_type(row, column) == SQLITE_NULL) return std::nullopt;
+  return NumberAt(row, column, place);
 }
 
 std::optional<std::int32_t> ReadInt32(sqlite3_stmt* row, int column, const FieldPlace& place) {
@@ -174,10 +178,10 @@ Value ReadStored(sqlite3_stmt* row, int column, const FieldDef* field, const Fie
   if (IsText(field->type)) return *ReadText(row, column, place);
   if (IsWhole(field->type)) {
     if (stored == SQLITE_INTEGER) return std::int64_t{sqlite3_column_int64(row, column)};
-    return RoundedWhole(*ReadDouble(row, column, place), place);
+    return RoundedWhole(NumberAt(row, column, place), place);
   }
   if (field->type == FieldType::binary || field->type == FieldType::ole) return BytesAt(row, column);
-  const double number = *ReadDouble(row, column, place);
+  const double number = NumberAt(row, column, place);
   if (field->type == FieldType::currency) return CheckedCurrency(number, place);
   return number;
 }

@@ -72,4 +72,16 @@ ShapeRange WholeShapeRange(Database& site, const std::optional<LineRange>& lines
   return {shape("Min(形状No)"), shape("Max(形状No)")};
 }
 
+void TakeShapes(SelectionData& selection, const ShapeRange& shapes) {
+  selection.ShapeStart = shapes.first;
+  selection.ShapeEnd = shapes.last;
+}
+
+void TakePositions(SelectionData& selection, const PositionRange& positions) {
+  selection.StartPage = positions.first.page;
+  selection.StartLine = positions.first.line;
+  selection.EndPage = positions.last.page;
+  selection.EndLine = positions.last.line;
+}
+
 }  // namespace rbt

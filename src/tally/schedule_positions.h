@@ -8,6 +8,7 @@
 
 #include "data/shapes.h"
 #include "store/database.h"
+#include "tally/selection.h"
 #include "tally/tally_kind.h"
 
 namespace rbt {
@@ -48,5 +49,9 @@ Value GetKeijouNoSQL(Database& site, std::string_view expression, std::string_vi
 /// Smallest and largest 形状No of the schedule, within a range of lines when one is given; 0 and 0 when no
 /// row has a shape.
 ShapeRange WholeShapeRange(Database& site, const std::optional<LineRange>& lines = std::nullopt);
+
+/// Puts a range into the selection.
+void TakeShapes(SelectionData& selection, const ShapeRange& shapes);
+void TakePositions(SelectionData& selection, const PositionRange& positions);
 
 }  // namespace rbt

@@ -46,6 +46,9 @@ struct TallyResult {
   friend bool operator==(const TallyResult&, const TallyResult&) = default;
 };
 
+/// More is not typed into the box of six digits, and the command line refuses it.
+inline constexpr std::int32_t kHighestUlbonPercent = 999999;
+
 /// The result with its Ulbon rows raised by `percent`, counted from the tables each time: raising twice is
 /// raising by the last. With 0 they stand as tallied.
 TallyResult WithUlbonRaised(TallyResult result, std::int32_t percent);

@@ -57,6 +57,14 @@ TEST(FormPlace, AFormThatIsLargerThanTheWorkAreaIsHeldToIt) {
   EXPECT_LT(form.height(), area.height());
 }
 
+TEST(FormPlace, AFormThatCannotShrinkIntoTheWorkAreaBeginsAtItsEdge) {
+  const SiteFixture site;
+  Form form;
+  form.setMinimumSize(5000, 4000);
+  PlaceForm(form);
+  EXPECT_EQ(form.pos(), form.screen()->availableGeometry().topLeft());
+}
+
 TEST(FormPlace, IsWhereTheUserLeftTheFormOfThatName) {
   const SiteFixture site;
   {

@@ -20,6 +20,7 @@
 #include "platform/system/printing.h"
 #include "platform/system/services.h"
 #include "screens/result/result_forms.h"
+#include "session/result/result_screen.h"
 #include "session/startup/startup.h"
 #include "support/desktop/key_press.h"
 
@@ -57,7 +58,7 @@ void PrintSheets(std::span<char*> buttons) {
   options.command_line = true;
   LoadSite(options);
   ActivateMenu(options);
-  const std::unique_ptr<QWidget> screen = MakeJS();
+  const std::unique_ptr<QWidget> screen = MakeResultForm(kBulkScreen);
   screen->show();
   test::Settle();
   for (const std::string_view button : buttons) {

@@ -44,6 +44,8 @@ expect_fault(src/screens/form.cpp "#include \"store/rows.h\"\n" "screens does no
 expect_fault(src/tally/sums.h "#include <QString>\n" "only rooms above the rules may include Qt")
 expect_fault(src/store/rows.h "#include \"platform/system/services.h\"\n" "only a main sets the services")
 expect_fault(src/tally/sums.h "#include <sqlite3.h>\n" "only src/store/ knows sqlite3")
+expect_fault(src/tally/sums.h "#include <nlohmann/json.hpp>\n" "only src/platform/json/ knows nlohmann/")
+expect_fault(src/tally/sums.h "#include <CLI/CLI.hpp>\n" "only src/cli/command_line.cpp knows CLI/")
 expect_fault(src/cellar/box.h "" "its folder is no room of the house")
 expect_fault(tests/cellar/box_test.cpp "" "there is no room cellar")
 expect_fault(src/tally/sums.h "extern SumsData Sums;\n" "Sums is none of the global objects")

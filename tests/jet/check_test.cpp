@@ -300,7 +300,7 @@ TEST(JetCheck, DamagesBeyondTwoHundredAreCounted) {
   for (int i = 0; i < 300; ++i) rows.push_back({Value{std::int64_t{i}}});
   Bytes image =
       test::JetImage(JetVersion::jet4, {{"表", {Field("番号", FieldType::integer32)}, rows, {"番号"}}});
-  const std::size_t leaf = 6 * 4096;  // rows on pages 4 and 5, the index on 6
+  const std::size_t leaf = std::size_t{6} * 4096;  // rows on pages 4 and 5, the index on 6
   ASSERT_EQ(image.at(leaf), 4);
   std::fill_n(image.begin() + static_cast<std::ptrdiff_t>(leaf) + 0x1B, 0x1E0 - 0x1B,
               static_cast<unsigned char>(0));

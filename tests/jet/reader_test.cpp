@@ -282,7 +282,7 @@ TEST(JetReader, ADefinitionThatRunsOnAndOnIsDamage) {
     bytes[page * 4096 + 4] = static_cast<unsigned char>(next & 0xFF);
     bytes[page * 4096 + 5] = static_cast<unsigned char>(next >> 8);
   };
-  bytes.resize(bytes.size() + 1000 * 4096);
+  bytes.resize(bytes.size() + std::size_t{1000} * 4096);
   continue_at(2, first);
   for (std::size_t page = first; page + 1 < first + 1000; ++page) continue_at(page, page + 1);
   const auto file = JetFile::FromBytes(std::move(bytes), "GENBA001.MDB");
@@ -353,7 +353,8 @@ TEST(JetReader, AFileCutOffInsideAPageIsRefused) {
 
 TEST(JetReader, DamageNamesFilePageAndCause) {
   auto bytes = test::BytesOf(Sample("jet4/delTestV2000.mdb"));
-  std::fill_n(bytes.begin() + 2 * 4096, 4096, static_cast<unsigned char>(0));  // the catalog's definition
+  std::fill_n(bytes.begin() + std::ptrdiff_t{2} * 4096, 4096,
+              static_cast<unsigned char>(0));  // the catalog's definition
   const auto file = JetFile::FromBytes(std::move(bytes), "GENBA001.MDB");
   EXPECT_EQ(FaultOf([&] { ReadCatalog(*file); }), "GENBA001.MDB: page 2: is of type 0 where type 2 is due");
 }

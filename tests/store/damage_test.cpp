@@ -71,7 +71,7 @@ TEST_F(ADamagedFile, that_is_sound_after_all_gives_every_row) {
 }
 
 TEST_F(ADamagedFile, cut_short_anywhere_faults) {
-  const auto step = static_cast<std::size_t>(997 * test::SampleStep(5));
+  const auto step = std::size_t{997} * static_cast<std::size_t>(test::SampleStep(5));
   for (std::size_t length = 0; length < bytes_.size(); length += step) {
     test::WriteBytes(file_, bytes_.substr(0, length));
     EXPECT_TRUE(UseEverything(file_).faulted) << length << " of " << bytes_.size() << " bytes";

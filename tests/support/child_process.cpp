@@ -125,7 +125,7 @@ class TracedChild {
   ~TracedChild() {
     if (ended_) return;
     kill(child_, SIGKILL);
-    Wait();
+    while (waitpid(child_, nullptr, 0) < 0 && errno == EINTR) continue;
   }
 
   /// Goes on to the next system call that changes something; false when the action came to its end.

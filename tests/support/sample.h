@@ -6,7 +6,7 @@
 namespace rbt::test {
 
 // Tests that kill a program or damage a file try many moments and copies: all of them, but a fixed sample
-// where RBTALLY_SAMPLE is set, as ctest does in trees without sanitizers.
+// where RBTALLY_SAMPLE is set, as the presets do for trees without sanitizers.
 
 /// Of how many moments or copies one is tried: of 1, or of `many` where a sample is enough. Of random copies
 /// these are the first of all.

@@ -33,8 +33,10 @@ std::optional<std::string> QuotedText(std::string_view literal) {
   if (literal.size() < 2 || literal.front() != '"' || literal.back() != '"') return std::nullopt;
   std::string text;
   for (std::size_t i = 1; i + 1 < literal.size(); ++i) {
-    if (literal[i] == '"' && (i + 2 >= literal.size() || literal[++i] != '"')) return std::nullopt;
     text += literal[i];
+    if (literal[i] != '"') continue;
+    ++i;
+    if (i + 1 >= literal.size() || literal[i] != '"') return std::nullopt;
   }
   return text;
 }

@@ -8,6 +8,8 @@
 
 #include <fmt/format.h>
 
+#include "platform/numbers/significant_digits.h"
+
 namespace rbt {
 
 namespace {
@@ -148,10 +150,7 @@ std::string Format(Decimal number, std::string_view mask_text) {
 
 /// A double stands for its decimal text of fifteen significant digits.
 Decimal DecimalOf(double value) {
-  const std::string text = fmt::format("{:.14e}", std::fabs(value));
-  const std::size_t e = text.find('e');
-  const int exponent = std::atoi(text.c_str() + e + 1);
-  std::string digits = text.substr(0, 1) + text.substr(2, e - 2);
+  auto [digits, exponent] = DigitsOf(value);
   Decimal number;
   number.negative = value < 0;
   if (exponent < 0) {

@@ -12,13 +12,12 @@
 #include <fmt/format.h>
 
 #include "platform/fault.h"
+#include "platform/numbers/significant_digits.h"
 #include "platform/text/characters.h"
 
 namespace rbt {
 
 namespace {
-
-constexpr int kSignificantDigits = 15;
 
 template <typename T>
 T Narrow(double x, std::string_view where) {
@@ -148,14 +147,7 @@ std::string ShortestDecimal(double x) {
   if (std::isnan(x)) return "NaN";
   if (std::isinf(x)) return x < 0 ? "-Infinity" : "Infinity";
   if (x == 0.0) return "0";
-  // Fifteen significant digits as d.dddE+xx, then laid out.
-  std::string text = fmt::format("{:.14e}", x);
-  const std::size_t e = text.find('e');
-  const int exponent = std::atoi(text.c_str() + e + 1);
-  std::string digits;
-  for (const char c : text.substr(0, e)) {
-    if (IsDigit(c)) digits.push_back(c);
-  }
+  auto [digits, exponent] = DigitsOf(x);
   digits.erase(digits.find_last_not_of('0') + 1);
   const std::string sign = x < 0 ? "-" : "";
   const int count = static_cast<int>(digits.size());

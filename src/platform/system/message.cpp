@@ -34,7 +34,8 @@ void WriteOneLine(std::string_view text, std::string_view title) {
   line.append(text);
   line.erase(std::remove(line.begin(), line.end(), '\r'), line.end());
   std::replace(line.begin(), line.end(), '\n', ' ');
-  std::cerr << line << std::endl;
+  line += '\n';
+  std::cerr << line;
 }
 
 }  // namespace

@@ -2,13 +2,13 @@
 #include "screens/menu/jsmenu.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <utility>
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeySequence>
 #include <QTimer>
 
 #include "desktop/action.h"
@@ -26,32 +26,11 @@ namespace rbt {
 
 namespace {
 
-struct MenuKey {
-  std::string_view control;
-  int key;
-};
-
-/// The keys of the menu's entries; an entry without a key is here for its button.
-constexpr std::array<MenuKey, 18> kMenuKeys{{
-    {"cmdShuukei", Qt::Key_F1},
-    {"cmdAllSites", Qt::Key_F2},
-    {"cmdPGShuukei", Qt::Key_F3},
-    {"cmdWeldCount", Qt::Key_F4},
-    {"cmdKeijoShuukei", Qt::Key_F5},
-    {"cmdPlateCount", Qt::Key_F6},
-    {"cmdKeijoPGShuukeia", Qt::Key_F7},
-    {"cmdKaiShuukei", Qt::Key_F8},
-    {"cmdBuiShuukei", Qt::Key_F9},
-    {"cmdKaiBuiK", Qt::Key_F10},
-    {"cmdSiteSum", Qt::Key_F11},
-    {"cmdTouroS", Qt::Key_F12},
-    {"cmdCouplerCount", Qt::Key_0},
-    {"cmdCutCount", Qt::Key_1},
-    {"cmdMeiEfu", Qt::Key_2},
-    {"cmdPlateSheet", Qt::Key_3},
-    {"Command1", 0},
-    {"cmdExit", Qt::Key_Escape},
-}};
+/// Of the Qt::Key enumeration; 0 for an entry without one.
+int KeyOf(const MenuEntry& entry) {
+  if (entry.key.empty()) return 0;
+  return QKeySequence::fromString(Text(entry.key), QKeySequence::PortableText)[0].key();
+}
 
 }  // namespace
 
@@ -60,9 +39,10 @@ JSMENU::JSMENU(MenuParts parts, std::span<const MenuScreen> screens)
   ui_->setupUi(this);
   PrepareForm(*this);
   std::vector<FormAction> actions;
-  actions.reserve(kMenuKeys.size());
-  for (const MenuKey& row : kMenuKeys) {
-    actions.push_back({std::string(row.control), row.key, [this, &row] { presenter_.Start(row.control); }});
+  actions.reserve(MenuEntries().size());
+  for (const MenuEntry& entry : MenuEntries()) {
+    actions.push_back(
+        {std::string(entry.control), KeyOf(entry), [this, &entry] { presenter_.Start(entry.control); }});
   }
   new FormActions(*this, std::move(actions), KeysAct::always);
   std::vector<ControlHint> hints;
@@ -78,8 +58,8 @@ JSMENU::~JSMENU() {
 
 std::vector<int> JSMENU::Keys() {
   std::vector<int> keys;
-  for (const MenuKey& row : kMenuKeys) {
-    if (row.key != 0) keys.push_back(row.key);
+  for (const MenuEntry& entry : MenuEntries()) {
+    if (const int key = KeyOf(entry); key != 0) keys.push_back(key);
   }
   return keys;
 }

@@ -1,30 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "screens/menu/screens.h"
 
-#include <array>
+#include <vector>
 
 #include <QWidget>
 
 #include "screens/floorpart/floorpart_forms.h"
 #include "screens/result/result_forms.h"
 #include "screens/settings/settings_forms.h"
+#include "session/result/result_screen.h"
 
 namespace rbt {
 
 namespace {
 
-constexpr std::array<MenuScreen, 7> kMenuScreens{{
-    {"JS", MakeJS},
-    {"KEIJOJS", MakeKEIJOJS},
-    {"PGJS", MakePGJS},
-    {"PKEIJOJS", MakePKEIJOJS},
-    {"KAIJS", MakeKAIJS},
-    {"BUIJS", MakeBUIJS},
-    {"SETJS", MakeSETJS},
-}};
+std::vector<MenuScreen> ReadyScreens() {
+  std::vector<MenuScreen> screens{{"KAIJS", MakeKAIJS}, {"BUIJS", MakeBUIJS}, {"SETJS", MakeSETJS}};
+  for (const ResultScreen* const screen : ResultScreens()) {
+    screens.push_back({screen->name, [screen] { return MakeResultForm(*screen); }});
+  }
+  return screens;
+}
 
 }  // namespace
 
-std::span<const MenuScreen> MenuScreens() { return kMenuScreens; }
+std::span<const MenuScreen> MenuScreens() {
+  static const std::vector<MenuScreen> screens = ReadyScreens();
+  return screens;
+}
 
 }  // namespace rbt

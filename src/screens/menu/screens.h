@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -12,7 +13,7 @@ namespace rbt {
 /// One form that the menu opens, with the function that makes and loads it.
 struct MenuScreen {
   std::string_view form;  ///< object name
-  std::unique_ptr<QWidget> (*make)();
+  std::function<std::unique_ptr<QWidget>()> make;
 };
 
 /// Those that are ready. Of the others the menu says that they cannot be used yet.

@@ -9,9 +9,7 @@
 
 namespace rbt {
 
-namespace {
-
-std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
+std::unique_ptr<QWidget> MakeResultForm(const ResultScreen& screen) {
   ResultParts parts;
   parts.choose_kinds = ChooseKinds;
   parts.choose_forms = ChooseForms;
@@ -20,12 +18,5 @@ std::unique_ptr<QWidget> Make(const ResultScreen& screen) {
   parts.choose_printer = ChoosePrinter;
   return std::make_unique<ResultForm>(screen, std::move(parts));
 }
-
-}  // namespace
-
-std::unique_ptr<QWidget> MakeJS() { return Make(kBulkScreen); }
-std::unique_ptr<QWidget> MakePGJS() { return Make(kPageScreen); }
-std::unique_ptr<QWidget> MakeKEIJOJS() { return Make(kShapeScreen); }
-std::unique_ptr<QWidget> MakePKEIJOJS() { return Make(kPageShapeScreen); }
 
 }  // namespace rbt

@@ -7,10 +7,9 @@ class QWidget;
 
 namespace rbt {
 
-/// The result screens, made and loaded: bulk, page and line, shape, shape by page and line.
-std::unique_ptr<QWidget> MakeJS();
-std::unique_ptr<QWidget> MakePGJS();
-std::unique_ptr<QWidget> MakeKEIJOJS();
-std::unique_ptr<QWidget> MakePKEIJOJS();
+struct ResultScreen;
+
+/// A result screen, made and loaded, with the dialogs and doors it leans on. `screen` outlives the form.
+std::unique_ptr<QWidget> MakeResultForm(const ResultScreen& screen);
 
 }  // namespace rbt

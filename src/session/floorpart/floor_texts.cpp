@@ -54,8 +54,9 @@ std::string FloorsOfSchedule(const FloorExtent& extent) {
   if (!extent.KaiFound()) {
     return fmt::format("データは{}階 ～ {}階まで登録されています。", extent.KaiMin, extent.KaiMax);
   }
-  // Below ground it is counted downwards, as the button for all floors does.
-  return fmt::format("データは0階（基礎階）～ {}階まで登録されています。", AllFloors(extent).end);
+  // A building that ends at its foundation is told downwards; basements without one are not.
+  const std::int16_t end = extent.KaiMax == kFoundationFloor ? extent.KaiMin : extent.KaiMax;
+  return fmt::format("データは0階（基礎階）～ {}階まで登録されています。", end);
 }
 
 std::string AskedScope(const FloorInput::Texts& boxes) {

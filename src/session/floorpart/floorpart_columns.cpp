@@ -22,6 +22,7 @@ constexpr int kWiderWidth = 1250;
 std::vector<FloorPartColumn> Columns(const std::vector<std::string_view>& captions,
                                      std::span<const int> widths) {
   std::vector<FloorPartColumn> columns;
+  columns.reserve(captions.size());
   for (std::size_t i = 0; i < captions.size(); ++i) {
     columns.push_back({.caption = std::string(captions[i]), .width = widths[i], .centred = i == 0});
   }

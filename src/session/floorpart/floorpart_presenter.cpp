@@ -216,6 +216,7 @@ void FloorPartPresenter::BackToInput() {
   SpecialTaken = 0;
   HoseiZumi = false;
   change_ = Change::none;
+  print_panel_.Close();
   focus_ = FloorPartFocus::start;
 }
 

@@ -25,9 +25,10 @@ struct RunsStockFitter {};
 struct OpensSettings {};
 struct Leaves {};
 
-/// An entry of the menu: its control, and what that starts.
+/// An entry of the menu: its control and key, and what they start.
 struct MenuEntry {
   std::string_view control;
+  std::string_view key;  ///< as it is called: "F1", "0", "Esc"; empty: the button alone
   std::variant<OpensTally, RunsSibling, RunsNameCompanion, RunsStockFitter, OpensSettings, Leaves> starts;
   std::string_view hint;  ///< what the user is told of that
 };

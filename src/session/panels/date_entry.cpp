@@ -19,7 +19,6 @@ constexpr std::int32_t kFirstYearRefused = 32;
 
 constexpr std::int32_t kMonths = 12;
 constexpr std::int32_t kLongestMonth = 31;
-constexpr std::int32_t kFebruary = 2;
 constexpr std::int32_t kLeapYear = 2000;
 constexpr std::int32_t kFirstFullYear = 100;
 

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "session/result/print_order.h"
 
-#include "shell/context/run_state.h"
-
 namespace rbt {
 
 namespace {
 
 void Print(const PrintOrder& order) {
-  const ReportArguments arguments{order.sub_project, order.date.year,     order.date.month,
-                                  order.date.day,    RunState.ReportBody, order.result.ulbon_percent};
+  const ReportArguments arguments{order.sub_project, order.date.year, order.date.month,
+                                  order.date.day,    order.body,      order.result.ulbon_percent};
   PrintForm(order.ulbon ? UlbonForm() : ChosenComparison(order.paper), arguments, order.result);
 }
 

@@ -37,10 +37,7 @@ class PositionInput : public RangeInput {
   }
 
   void WriteTo(SelectionData& selection) const override {
-    selection.StartPage = ShortNumber(0);
-    selection.StartLine = ShortNumber(1);
-    selection.EndPage = ShortNumber(2);
-    selection.EndLine = ShortNumber(3);
+    TakePositions(selection, {{ShortNumber(0), ShortNumber(1)}, {ShortNumber(2), ShortNumber(3)}});
   }
 
   std::string InWords(const std::vector<std::string>& boxes) const override {
@@ -66,10 +63,7 @@ class ShapeInput : public RangeInput {
     return ShapeRangeRefusal({Number(0), Number(1)}, whole_);
   }
 
-  void WriteTo(SelectionData& selection) const override {
-    selection.ShapeStart = Number(0);
-    selection.ShapeEnd = Number(1);
-  }
+  void WriteTo(SelectionData& selection) const override { TakeShapes(selection, {Number(0), Number(1)}); }
 
   std::string InWords(const std::vector<std::string>& boxes) const override {
     return fmt::format("形状No {} ～ {}", boxes[0], boxes[1]);

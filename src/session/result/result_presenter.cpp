@@ -65,7 +65,7 @@ void ResultPresenter::Tally(const std::function<void()>& before) {
 }
 
 void ResultPresenter::Fill() {
-  const double percent = LeadingNumber(filters_.uplift.text);
+  const double percent = std::min(LeadingNumber(filters_.uplift.text), double{kHighestUlbonPercent});
   result_ = WithUlbonRaised(std::move(result_), static_cast<std::int32_t>(percent));
   const ResultView look{ulbon_view_, DiameterGradeNames()};
   rows_ = ResultRows(result_, look);
@@ -123,7 +123,7 @@ void ResultPresenter::OfferModes() {
 }
 
 void ResultPresenter::DecideAvailability() {
-  offers_print_ = ShowsWholePicture();
+  offers_print_ = ShowsWholePicture(tally_ran_ ? result_.selection : Selection);
   if (print_panel_.IsOpen()) print_panel_.OfferPapers(PapersNow());
 }
 

@@ -31,7 +31,7 @@ void ResultPresenter::OpenPrint(SheetBody body) {
 }
 
 Papers ResultPresenter::PapersNow() const {
-  if (!tally_ran_ || !ShowsWholePicture()) return Papers::none;
+  if (!tally_ran_ || !ShowsWholePicture(result_.selection)) return Papers::none;
   return ulbon_view_ ? Papers::ulbon : Papers::all;
 }
 
@@ -61,6 +61,7 @@ PrintOrder ResultPresenter::Order(ReportPaper paper, bool ulbon) const {
   return {.result = result_,
           .paper = paper,
           .ulbon = ulbon,
+          .body = RunState.ReportBody,
           .date = panel.date,
           .sub_project = panel.memo,
           .preview = panel.preview};

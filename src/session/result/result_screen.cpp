@@ -16,11 +16,11 @@ void SetSelectionDefaults() {
   Selection.AnchorPlateMode = ShapeFilter::with_others;
 }
 
-bool ShowsWholePicture() {
-  const FormMask forms = Selection.MaterialFormMask;
-  return Selection.MaterialKindMask.IsAll() && (forms.IsNone() || forms.IsAll()) &&
-         Selection.AnchorPlateMode == ShapeFilter::with_others &&
-         Selection.HoopMode == ShapeFilter::with_others;
+bool ShowsWholePicture(const SelectionData& selection) {
+  const FormMask forms = selection.MaterialFormMask;
+  return selection.MaterialKindMask.IsAll() && (forms.IsNone() || forms.IsAll()) &&
+         selection.AnchorPlateMode == ShapeFilter::with_others &&
+         selection.HoopMode == ShapeFilter::with_others;
 }
 
 }  // namespace rbt

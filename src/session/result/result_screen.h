@@ -44,6 +44,9 @@ struct ResultScreen {
   TallyRange Range() const { return RowOf(kind).range; }
 };
 
+/// All of them.
+std::span<const ResultScreen* const> ResultScreens();
+
 extern const ResultScreen kBulkScreen;       ///< JS
 extern const ResultScreen kPageScreen;       ///< PGJS
 extern const ResultScreen kShapeScreen;      ///< KEIJOJS
@@ -65,7 +68,8 @@ struct ResultParts {
 /// being added up.
 void SetSelectionDefaults();
 
-/// True while no filter narrows the picture: only the whole one may be printed and added up across sites.
-bool ShowsWholePicture();
+/// True while no filter narrows the picture of a selection: only the whole one may be printed and added up
+/// across sites.
+bool ShowsWholePicture(const SelectionData& selection);
 
 }  // namespace rbt

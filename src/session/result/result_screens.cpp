@@ -82,4 +82,10 @@ constinit const ResultScreen kPageShapeScreen{.name = "PKEIJOJS",
                                               .captions = kPageShapeCaptions,
                                               .names = kScopedNames};
 
+std::span<const ResultScreen* const> ResultScreens() {
+  static constexpr std::array<const ResultScreen*, 4> kScreens{&kBulkScreen, &kPageScreen, &kShapeScreen,
+                                                               &kPageShapeScreen};
+  return kScreens;
+}
+
 }  // namespace rbt

@@ -21,7 +21,7 @@ namespace {
 
 struct NumberBinding {
   NumberKey key;
-  std::int32_t SettingsData::*field;
+  std::int32_t SettingsData::*field = nullptr;
   bool of_look = false;  ///< yes or no, and no figure depends on it
 };
 
@@ -55,7 +55,7 @@ constexpr NumberBinding kRemainingNumbers[] = {
 
 struct TextBinding {
   TextKey key;
-  std::string SettingsData::*field;
+  std::string SettingsData::*field = nullptr;
 };
 
 constexpr TextBinding kRemainingTexts[] = {

@@ -46,9 +46,11 @@ void ProvideFixedStockDatabase() {
   if (SiteContext.OnlyRead || !TakesFiles(FolderOf(file))) return;
   FileInWork copy(file);
   CopyDatabaseFile(original, copy.Path());
-  const auto fault = PassOverFaults(FaultKind::file, [&] { copy.PutInPlace(); });
-  // Another program that starts now has made it.
-  if (fault && !FamilyFileExists(kFixedStockDatabase)) throw *fault;
+  // Another program that starts now may have made it.
+  const auto is_there = [](const Fault& fault) {
+    return fault.Kind() == FaultKind::file && FamilyFileExists(kFixedStockDatabase);
+  };
+  PassOverFaultsIf(is_there, [&] { copy.PutInPlace(); });
 }
 
 void OpenFixedStockDatabase() {

@@ -87,6 +87,7 @@ std::string SelectWriter::Body(const std::string& columns) const {
   const std::string_view scan = grouped_ && writer_.DependsOnRowOrder() ? " NOT INDEXED" : "";
   std::string sql = fmt::format("SELECT {} FROM {}{}{}", columns, QuoteName(table_.name), scan, where_);
   std::vector<std::string> keys;
+  keys.reserve(group_.size());
   for (const FieldDef* const field : group_) keys.push_back(SortKey(*field));
   if (!keys.empty()) sql += fmt::format(" GROUP BY {}", fmt::join(keys, ", "));
   return sql;

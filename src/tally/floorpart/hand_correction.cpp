@@ -26,7 +26,8 @@ Currency SumOf(const CheckedArray<Currency, kPartEntries>& parts) {
   return sum;
 }
 
-void PutIntoList(std::vector<ListRow>& list, int list_row, int part, Currency kilograms) {
+/// The list with the weight in it. A sum may overflow: what stands stays as it is until all sums are there.
+std::vector<ListRow> WithCell(std::vector<ListRow> list, int list_row, int part, Currency kilograms) {
   ListRow& row = RowAt(list, list_row);
   row.parts[part] = kilograms;
   row.total = SumOf(row.parts);
@@ -37,6 +38,7 @@ void PutIntoList(std::vector<ListRow>& list, int list_row, int part, Currency ki
     for (int p = kFirstPart; p < kPartEntries; ++p) totals.parts[p] += list[i].parts[p];
     totals.total += list[i].total;
   }
+  return list;
 }
 
 }  // namespace
@@ -52,7 +54,7 @@ bool MayCorrect(const PartTables& tables, int list_row, int part) {
 
 void CorrectCell(FloorTables& tables, int list_row, int part, Currency kilograms) {
   if (!MayCorrect(tables, list_row, part)) Refuse(list_row, part);
-  PutIntoList(tables.KaiGyou, list_row, part, kilograms);
+  tables.KaiGyou = WithCell(tables.KaiGyou, list_row, part, kilograms);
   const int f = FloorIndex(tables.KaiGyouKai[static_cast<std::size_t>(list_row)]);
   tables.KaiBuiGoukei[f][part] = kilograms;
   tables.KaiGoukei[f] = RowAt(tables.KaiGyou, list_row).total;
@@ -62,7 +64,7 @@ void CorrectCell(FloorTables& tables, int list_row, int part, Currency kilograms
 
 void CorrectCell(PartTables& tables, int list_row, int part, Currency kilograms) {
   if (!MayCorrect(tables, list_row, part)) Refuse(list_row, part);
-  PutIntoList(tables.BuiGyou, list_row, part, kilograms);
+  tables.BuiGyou = WithCell(tables.BuiGyou, list_row, part, kilograms);
   const int r = *tables.BuiGyouTaisa[static_cast<std::size_t>(list_row)];
   tables.BuiTaisaGoukei[r][part] = kilograms;
   tables.TaisaGoukei[r] = RowAt(tables.BuiGyou, list_row).total;

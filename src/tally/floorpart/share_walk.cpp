@@ -19,24 +19,15 @@ std::vector<std::string_view> ColumnsWith(ReadFloors floors) {
   return columns;
 }
 
-/// Calls `action`; a fault then names the row's page and line.
-template <typename Action>
-auto NamingPlace(const BarRow& row, Action action) {
-  try {
-    return action();
-  } catch (const Fault& fault) {
-    throw Fault(fault.Kind(), PlaceOf(row) + ": " + fault.Where());
-  }
-}
-
 }  // namespace
 
 void TakeShare(const BarRow& row, const std::optional<std::int32_t>& floor, const ShareRules& rules,
                const ShareTaker& take) {
-  NamingPlace(row, [&] {
-    const std::optional<RowShare> share = ShareOf(row, rules);
-    if (share) take(*share, floor);
-  });
+  At([&] { return PlaceOf(row); },
+     [&] {
+       const std::optional<RowShare> share = ShareOf(row, rules);
+       if (share) take(*share, floor);
+     });
 }
 
 void WalkShares(Database& site, std::string_view statement, const ShareRules& rules, ReadFloors floors,
@@ -49,7 +40,7 @@ void WalkShares(Database& site, std::string_view statement, const ShareRules& ru
   for (; !rows.Eof(); rows.MoveNext()) {
     const BarRow row = reader.Read(rows);
     std::optional<std::int32_t> stands_on;
-    if (floor) stands_on = NamingPlace(row, [&] { return rows.Int32(*floor); });
+    if (floor) stands_on = At([&] { return PlaceOf(row); }, [&] { return rows.Int32(*floor); });
     TakeShare(row, stands_on, rules, take);
   }
   RunPendingEvents();

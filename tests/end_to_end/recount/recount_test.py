@@ -69,8 +69,8 @@ def random_row(rng, number, tame, site_floors):
 def random_range(rng, site_floors):
     """All floors, two of the site, or any two."""
     codes = [f for f in site_floors if f is not None and -5 <= f <= 78] or [1]
-    return rng.choice([None, tuple(sorted(rng.choices(codes, k=2))), tuple(sorted(rng.choices(range(-5, 79), k=2))),
-                       tuple(rng.choices(codes + [0], k=2))])
+    return pick(rng, (None, 40), (tuple(sorted(rng.choices(codes, k=2))), 40),
+                (tuple(sorted(rng.choices(range(-5, 79), k=2))), 10), (tuple(rng.choices(codes + [0], k=2)), 10))
 
 
 def bound_at(rng, row):
@@ -214,7 +214,9 @@ class Round:
     def compare_floors(self, rows, sel, settings):
         floors.fill(rows)
         extent = floors.Extent(rows)
-        sel = {**sel, "kinds": self.rng.choice([sel["kinds"], 15, 0])}
+        # Narrow masks leave too little to count: most rounds take all.
+        sel = {**sel, "kinds": self.rng.choice([sel["kinds"], 15, 15, 0]),
+               "forms": self.rng.choice([sel["forms"], 15, 15])}
         more = ["--special", str(sel["special"]), "--uplift", str(sel["uplift"])]
         if sel["floors"] is not None:
             more += ["--floors={}..{}".format(*sel["floors"])]

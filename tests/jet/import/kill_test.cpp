@@ -28,7 +28,6 @@ namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::UnorderedElementsAre;
 
 constexpr int kRows = 300;
 
@@ -106,7 +105,7 @@ TEST_F(StoppedImport, KilledAtAnyMomentLeavesNoTargetOrAWholeOneAndTheNextOneSuc
     fs::remove(target_);
     return killed;
   });
-  EXPECT_GT(absent, 10);
+  EXPECT_GT(absent, 10 / test::SampleStep(8));
   EXPECT_GT(whole, 0);
 }
 
@@ -132,7 +131,7 @@ TEST_F(StoppedImport, KilledAtAnyMomentInPlaceLeavesTheJetFileOrTheStoreUnderThe
     WriteFileAtomically(source_, jet_);
     return killed;
   });
-  EXPECT_GT(before, 10);
+  EXPECT_GT(before, 10 / test::SampleStep(8));
   EXPECT_GT(after, 0);
 }
 

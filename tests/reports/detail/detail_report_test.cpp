@@ -20,7 +20,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::IsSupersetOf;
 
 class DetailReport : public ::testing::Test {
  protected:

@@ -29,7 +29,7 @@ std::unique_ptr<QWidget> MakePassingDialog() {
   return dialog;
 }
 
-constexpr MenuScreen kReadyScreens[] = {
+const MenuScreen kReadyScreens[] = {
     {"JS", MakeScreen},           {"KEIJOJS", MakeScreen},     {"PGJS", MakeScreen},
     {"PKEIJOJS", MakeScreen},     {"KAIJS", MakeFaultyScreen}, {"BUIJS", MakeScreen},
     {"SETJS", MakePassingDialog},

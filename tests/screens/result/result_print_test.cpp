@@ -8,6 +8,7 @@
 #include "platform/print/print_trace.h"
 #include "screens/result/result_forms.h"
 #include "screens/result/result_print_driver.h"
+#include "support/result_screens.h"
 #include "tally/tally_grid.h"
 
 namespace rbt::test {
@@ -51,8 +52,6 @@ void ExpectFiguresOfTheGrid(const PrintDriver& js, int kind) {
 }
 
 std::string LastTrace(const PrintDriver& js) { return TraceText(js.printed.back()); }
-
-const ResultScreen* const kScopedScreens[] = {&kPageScreen, &kShapeScreen, &kPageShapeScreen};
 
 }  // namespace
 
@@ -253,7 +252,7 @@ TEST(ResultPrinting, TheShapeScreenPrintsTheUlbonReportOfTodayWithF3) {
 }
 
 TEST(ResultPrinting, ScopedScreensPrintTheirGridAndStayInThePanel) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     PrintDriver js(*screen);
     js.Start();
     js.Key(kOpen);
@@ -500,11 +499,11 @@ TEST(ResultPreview, CannotBeChosenWhileThereIsNothingToPrint) {
 }
 
 TEST(ResultForms, AreMadeWithTheirPrintButtonsAndThePreviewInPlace) {
-  for (const auto make : {MakeJS, MakePGJS, MakeKEIJOJS, MakePKEIJOJS}) {
+  for (const ResultScreen* const screen : ResultScreens()) {
     PrintDriver js;
     js.Start();  // loads the site
     js.form.reset();
-    const std::unique_ptr<QWidget> form = make();
+    const std::unique_ptr<QWidget> form = MakeResultForm(*screen);
     form->show();
     form->activateWindow();
     Settle();

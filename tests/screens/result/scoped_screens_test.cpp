@@ -8,6 +8,7 @@
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
+#include "support/result_screens.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
 
@@ -69,7 +70,6 @@ class Scoped : public ResultFormDriver {
   const ResultScreen& screen_;
 };
 
-const ResultScreen* const kScopedScreens[] = {&kPageScreen, &kShapeScreen, &kPageShapeScreen};
 const ResultScreen* const kPageScreens[] = {&kPageScreen, &kPageShapeScreen};
 
 }  // namespace
@@ -450,7 +450,7 @@ TEST(ScopedScreens, HaveTheirTitlesAndButtons) {
 }
 
 TEST(ScopedScreens, CycleTheHoopsThroughIncludedLeftOutAndOnly) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     js.Start();
     js.Run();
@@ -470,7 +470,7 @@ TEST(ScopedScreens, CycleTheHoopsThroughIncludedLeftOutAndOnly) {
 }
 
 TEST(ScopedScreens, CycleThePlatesAndKeepTheButtonsOfTheFirstRun) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     js.Start();
     js.Run();
@@ -502,7 +502,7 @@ TEST(ScopedScreens, HaveTheButtonsOfHoopsAndPlatesWhereTheRangeHasSuchShapes) {
 }
 
 TEST(ScopedScreens, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     js.parts.choose_kinds = [] { Selection.MaterialKindMask = KindMask(8); };
     js.Start();
@@ -515,7 +515,7 @@ TEST(ScopedScreens, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
 }
 
 TEST(ScopedScreens, AModeOfShapesThatTheNewKindsDoNotHaveGoesBackToIncluded) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     for (const std::int32_t kinds : {4, 8, 12}) {
       Scoped js(*screen);
       js.parts.choose_kinds = [kinds] { Selection.MaterialKindMask = KindMask(kinds); };
@@ -559,7 +559,7 @@ TEST(ScopedScreens, FormChangeOfThePageScreenShowsTheFormsInShort) {
 }
 
 TEST(ScopedScreens, ANarrowedTallyCannotBePrintedUntilItIsWholeAgain) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     js.Start();
     js.Run();
@@ -594,7 +594,7 @@ TEST(ScopedScreens, ATallyNarrowedWhileThePanelIsOpenCannotBePrinted) {
 }
 
 TEST(ScopedScreens, PrintFromThePanelAndStayThere) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     std::vector<PrintOrder> orders;
     js.parts.print = [&](const PrintOrder& order) {
@@ -621,7 +621,7 @@ TEST(ScopedScreens, PrintFromThePanelAndStayThere) {
 }
 
 TEST(ScopedScreens, WithoutATallyThePrintPanelServesSettingsAndReturnAlone) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     int prints = 0;
     int settings = 0;
@@ -649,7 +649,7 @@ TEST(ScopedScreens, WithoutATallyThePrintPanelServesSettingsAndReturnAlone) {
 }
 
 TEST(ScopedScreens, WithoutATallyTheButtonsOfAResultAreNotServed) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     int details = 0;
     js.parts.open_detail = [&] { ++details; };
@@ -679,7 +679,7 @@ TEST(ScopedScreens, WhatIsNotReadyYetSaysSo) {
 }
 
 TEST(ScopedScreens, EscLeavesFromInputAndFromResult) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped input(*screen);
     input.Start();
     input.Key(Qt::Key_Escape);

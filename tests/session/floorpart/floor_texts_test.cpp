@@ -17,6 +17,8 @@ TEST(FloorsOfSchedule, AreToldByTheLowestAndTheHighest) {
       {{0, 12, true}, "データは0階（基礎階）～ 12階まで登録されています。"},
       {{-2, 12, false}, "データは0階（基礎階）～ 12階まで登録されています。"},
       {{-3, 0, true}, "データは0階（基礎階）～ -3階まで登録されています。"},
+      {{-3, -1, false}, "データは0階（基礎階）～ -1階まで登録されています。"},
+      {{0, 0, true}, "データは0階（基礎階）～ 0階まで登録されています。"},
   };
   for (const auto& row : cases) EXPECT_EQ(FloorsOfSchedule(row.extent), row.text);
 }

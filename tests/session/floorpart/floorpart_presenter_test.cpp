@@ -372,6 +372,20 @@ TEST(FloorPartScreens, AFaultOfTheTallyLeadsBackToTheInput) {
   EXPECT_EQ(js.Row("合　計"), "135|0|0|0|135");
 }
 
+TEST(FloorPartScreens, AFaultBesideThePrintButtonsLeadsBackToTheInputAlone) {
+  for (const FloorPartScreen* screen : kBothScreens) {
+    FloorPartPresented js(*screen);
+    js.OpenWithAll().OpenPrint();
+    js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 部位 = -1 WHERE 階 = 2");
+    EXPECT_NE(FaultTextOf([&] { js.presenter->CycleHoops(); }), "");
+    const FloorPartView view = js.View();
+    EXPECT_TRUE(view.input.shown);
+    EXPECT_FALSE(view.print_panel.open) << "there is nothing to print";
+    EXPECT_TRUE(view.main_buttons_shown);
+    EXPECT_EQ(MainButtons(view), "leave");
+  }
+}
+
 TEST(FloorPartScreens, AskForFloorsAnewWithEverythingTakenBack) {
   for (const FloorPartScreen* screen : kBothScreens) {
     FloorPartPresented js(*screen);

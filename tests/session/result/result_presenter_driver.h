@@ -13,10 +13,6 @@
 
 namespace rbt::test {
 
-inline const ResultScreen* const kAllScreens[] = {&kBulkScreen, &kPageScreen, &kShapeScreen,
-                                                  &kPageShapeScreen};
-inline const ResultScreen* const kScopedScreens[] = {&kPageScreen, &kShapeScreen, &kPageShapeScreen};
-
 /// A result presenter over a small site; beside the bars of `ResultSite` page 2 has a D32 and page 4 a D10 in
 /// line 7. What it leans on is kept as a list of calls, and its views in the midst of an intent are kept.
 class Presented {

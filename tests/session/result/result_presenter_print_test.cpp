@@ -26,7 +26,7 @@ std::string Shown(const PrintOrder& order) {
 }  // namespace
 
 TEST(ResultPrintPanel, TakesThePlaceOfTheMainButtonsAndKeepsTheRangeOutOfReach) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.OpenWithResult().OpenPrint(SheetBody::with_ulbon);
     EXPECT_TRUE(js.View().print_panel.open) << screen->name;
@@ -48,7 +48,7 @@ TEST(ResultPrintPanel, ItsButtonDecidesOverTheBodyOfTheSheet) {
 }
 
 TEST(ResultPrintPanel, PrintsWhatWasAskedForAndOnlyTheBulkScreenClosesIt) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.OpenWithResult().OpenPrint(SheetBody::with_ulbon);
     js.presenter->PrintPanel().TypeMemo(" 二期 ");
@@ -239,7 +239,7 @@ void ExpectSoundView(const ResultScreenView& view, const ResultScreen& screen, c
   EXPECT_FALSE(view.busy) << walk;
   EXPECT_NE(view.main_buttons_shown, view.print_panel.open) << walk;
   EXPECT_TRUE(view.result_shown || (screen.IsScoped() && view.range.shown)) << walk;
-  const bool whole = ShowsWholePicture();
+  const bool whole = ShowsWholePicture(Selection);
   if (!whole) {
     EXPECT_FALSE(view.print.shown) << walk;
     EXPECT_FALSE(view.toggle_accumulation.shown) << walk;
@@ -258,7 +258,7 @@ void ExpectSoundView(const ResultScreenView& view, const ResultScreen& screen, c
 
 TEST(EveryWalkOfThreeIntents, LeavesASoundView) {
   const std::vector<Offered> intents = AllIntents();
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     const std::size_t all = intents.size();
     for (std::size_t number = 0; number < all * all * all; number += 7) {

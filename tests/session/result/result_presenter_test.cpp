@@ -13,6 +13,7 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "support/fault_of.h"
+#include "support/result_screens.h"
 #include "tally/tally_grid.h"
 
 namespace rbt::test {
@@ -159,7 +160,7 @@ TEST(ResultPresenter, ShowsTheStatesOfTheScopedScreens) {
 }
 
 TEST(ResultPresenter, StageOfAScopedScreenIsItsRangeThenItsResult) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Presented js(*screen);
     js.Open();
     EXPECT_TRUE(js.View().range.shown) << screen->name;
@@ -205,7 +206,7 @@ TEST(ResultPresenter, OpensWithHeadAndEverythingIncluded) {
 }
 
 TEST(ResultPresenter, WhileSitesAreAddedUpTheCalculationChoiceStaysAndTheBulkScreenTellsIt) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     RunState.AccumulateFlag = 1;
     Selection.MaterialCalcChoice = CalcChoice::high_strength_alone;
@@ -229,7 +230,7 @@ TEST(ResultPresenter, CyclesHoopsAndPlatesThroughIncludedLeftOutAndAlone) {
   const Step plates[] = {{"含まず", "(形状No87)を", kHoop, kNone, kD19},
                          {"のみ", "(形状No87)を", kNone, kPlate, kNone},
                          {"含む", "(形状No87)を", kHoop, kPlate, kD19}};
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.OpenWithResult();
     for (const bool of_plates : {false, true}) {
@@ -301,7 +302,7 @@ TEST(ResultPresenter, KindsWithoutHoopsTakeTheHoopsModeBack) {
 }
 
 TEST(ResultPresenter, KindsWithoutPlatesTakeThePlatesModeBackBeforeTheTally) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.kinds = [] { Selection.MaterialKindMask = KindMask(12); };
     js.site.Execute(kScheduleFile, "UPDATE 加工テーブル SET 予備2 = 3 WHERE 太さ = 19");
@@ -317,7 +318,7 @@ TEST(ResultPresenter, KindsWithoutPlatesTakeThePlatesModeBackBeforeTheTally) {
 }
 
 TEST(ResultPresenter, AFilterRoundTakesInWhatOtherProgramsHaveMadeOfTheSchedule) {
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     js.OpenWithResult();
     EXPECT_EQ(js.Row("D19"), kD19) << screen->name;
@@ -377,7 +378,7 @@ TEST(ResultPresenter, OnlyTheWholePictureIsPrintedAndAddedUp) {
                         {15, 15, ShapeFilter::alone, kWith, false},
                         {15, 15, kWith, ShapeFilter::left_out, false},
                         {15, 15, kWith, ShapeFilter::alone, false}};
-  for (const ResultScreen* screen : kAllScreens) {
+  for (const ResultScreen* screen : ResultScreens()) {
     Presented js(*screen);
     for (const Case& row : cases) {
       js.OpenWithResult().OpenPrint(SheetBody::with_ulbon);
@@ -529,7 +530,7 @@ TEST(ResultPresenter, AFaultOfTheTallyLeavesTheBulkScreenUsable) {
 }
 
 TEST(ResultPresenter, AFaultOfTheTallyAsksAScopedScreenForItsRangeAgain) {
-  for (const ResultScreen* screen : kScopedScreens) {
+  for (const ResultScreen* screen : test::ScopedScreens()) {
     Presented js(*screen);
     js.OpenWithResult();
     SiteContext.WorkDatabase->Execute("UPDATE 加工テーブル SET 太さ=14 WHERE 太さ=19");

@@ -96,6 +96,22 @@ TEST(HandCorrection, RefusesTheTotalRowAndCellsThatAreNoPart) {
   EXPECT_FALSE(MayCorrect(empty, 0, 1));
 }
 
+TEST(HandCorrection, BeyondWhatASumHoldsIsAFaultAndLeavesTheTables) {
+  const Currency most = Kg(900'000'000'000'000);  // a Currency holds some 922 billion tonnes
+  FloorTables floors = TwoFloors();
+  CorrectCell(floors, 0, 1, most);
+  const FloorTables floors_before = floors;
+  EXPECT_EQ(FaultOf([&] { CorrectCell(floors, 0, 2, most); }), FaultKind::overflow) << "of its row";
+  EXPECT_EQ(FaultOf([&] { CorrectCell(floors, 1, 1, most); }), FaultKind::overflow) << "of its column";
+  EXPECT_EQ(FaultOf([&] { CorrectCell(floors, 1, 2, most); }), FaultKind::overflow) << "of the whole";
+  EXPECT_EQ(floors, floors_before);
+  PartTables parts = TwoParts();
+  CorrectCell(parts, 0, 1, most);
+  const PartTables parts_before = parts;
+  EXPECT_EQ(FaultOf([&] { CorrectCell(parts, 3, 2, most); }), FaultKind::overflow);
+  EXPECT_EQ(parts, parts_before);
+}
+
 TEST(HandCorrection, OfADiameterSumsItsRowItsColumnAndTheTotalAfresh) {
   PartTables tables = TwoParts();
   CorrectCell(tables, 3, 3, Kg(100));
