@@ -8,6 +8,7 @@ usage: windows_test.py RBTALLY RBTALLY1 [FOLDER]
 """
 import contextlib
 import pathlib
+import re
 import sqlite3
 import subprocess
 import sys
@@ -216,6 +217,21 @@ class Walk:
         self.desk.press("Escape")
         assert self.program.wait(timeout=20) == 0, self.program.stderr.read()
 
+    def a_setting_that_cannot_be_read_is_mended_at_the_start(self):
+        self.desk.expect_active(MENU)  # the title of the question
+        self.look("question-of-the-start")
+        self.desk.press("Return")
+        self.desk.expect_active(SETTINGS)
+        self.look("settings-message")
+        self.desk.press("Return")  # the message that one has to be chosen anew
+        self.desk.expect_active(SETTINGS)
+        self.look("settings-of-the-start")
+        self.desk.press("space", "Escape")
+        self.desk.expect_gone(SETTINGS)
+        self.desk.expect_active(MENU)
+        self.look("menu-after-the-settings")
+        assert self.world.setting("日付表記") == "1", self.world.setting("日付表記")
+
     def a_start_on_a_held_site_can_be_given_up(self):
         self.desk.expect_active(NOTICE)
         self.look("notice-of-the-start")
@@ -236,6 +252,13 @@ class Site(scenario.World):
             sibling.parent.mkdir(exist_ok=True)
             sibling.write_text(SIBLING, encoding="utf-8")
             sibling.chmod(0o755)
+
+    def spoil_setting(self, key):
+        self.settings.write_text(f"[Kakou\\重量集計]\n{key}=abc\n", encoding="utf-8")
+
+    def setting(self, key):
+        found = re.search(rf"^{key}=(.*)$", self.settings.read_text(encoding="utf-8"), re.MULTILINE)
+        return found and found[1]
 
     @contextlib.contextmanager
     def held(self):
@@ -286,6 +309,10 @@ def main():
         with walk_on(LARGE, world, program, pictures, SCALE) as walk:
             walk.menu_opens()
             walk.each_screen_opens_and_comes_back()
+            walk.the_exit_ends_the_program()
+        world.spoil_setting("日付表記")
+        with walk_on(SMALL, world, program, pictures) as walk:
+            walk.a_setting_that_cannot_be_read_is_mended_at_the_start()
             walk.the_exit_ends_the_program()
         with world.held(), walk_on(SMALL, world, program, pictures) as walk:
             walk.a_start_on_a_held_site_can_be_given_up()
