@@ -11,6 +11,8 @@
 #include "platform/system/message.h"
 #include "reports/comparison/taihi.h"
 #include "reports/detail/meisai.h"
+#include "reports/floorpart/floor_reports.h"
+#include "reports/floorpart/part_reports.h"
 #include "reports/frame/cut_figure_message.h"
 #include "reports/frame/print_frame.h"
 #include "reports/ulbon/ulbon_report.h"
@@ -26,7 +28,7 @@ constexpr std::int32_t kKindC = 3;
 constexpr std::int32_t kWithWeights = 1;
 constexpr std::int32_t kCountsAlone = 2;
 
-constexpr std::array<ReportForm, 14> kReportForms{{
+constexpr std::array<ReportForm, 22> kReportForms{{
     {"taihi-a-a4t", ReportFamily::comparison, ReportPaper::a4t, kKindA, Taihi_A_A4T},
     {"taihi-a-a4y", ReportFamily::comparison, ReportPaper::a4y, kKindA, Taihi_A_A4Y},
     {"taihi-a-b5y", ReportFamily::comparison, ReportPaper::b5y, kKindA, Taihi_A_B5Y},
@@ -41,6 +43,14 @@ constexpr std::array<ReportForm, 14> kReportForms{{
     {"meisai-a4t-count", ReportFamily::detail, ReportPaper::a4t, kCountsAlone, Meisai_A4T_Count},
     {"meisai-a4y", ReportFamily::detail, ReportPaper::a4y, kWithWeights, Meisai_A4Y},
     {"meisai-a4y-count", ReportFamily::detail, ReportPaper::a4y, kCountsAlone, Meisai_A4Y_Count},
+    {"kai-goukei", ReportFamily::floor, ReportPaper::a4y, 0, Kai_Goukei_Print},
+    {"kai-kakukai", ReportFamily::floor, ReportPaper::a4y, 0, Kai_Kakukai_Print, DocumentOf::floor},
+    {"kai-meisai", ReportFamily::floor, ReportPaper::a4y, kWithWeights, Kai_Meisai_Print},
+    {"kai-meisai-honsu", ReportFamily::floor, ReportPaper::a4y, kCountsAlone, Kai_Meisai_Honsu},
+    {"kai-bui-futo", ReportFamily::floor, ReportPaper::a4y, 0, KaiBuiFuto_Print},
+    {"bui-goukei", ReportFamily::part, ReportPaper::a4y, 0, Bui_Goukei_Print},
+    {"bui-zenbui", ReportFamily::part, ReportPaper::a4y, 0, Bui_Zenbui_Print},
+    {"bui-kakubui", ReportFamily::part, ReportPaper::a4y, 0, Bui_Kakubui_Print, DocumentOf::part},
 }};
 
 const ReportForm& FirstForm(const std::function<bool(const ReportForm&)>& fits, std::string_view sought) {
@@ -88,6 +98,11 @@ const ReportForm& ChosenComparison(ReportPaper paper) {
 const ReportForm& ChosenDetail(ReportPaper paper) {
   return ChosenForm(ReportFamily::detail, paper,
                     Settings.DetailShowsWeight == 1 ? kWithWeights : kCountsAlone);
+}
+
+const ReportForm& ChosenFloorDetail() {
+  return ChosenForm(ReportFamily::floor, ReportPaper::a4y,
+                    ReadSetting(kFloorDetailPrintKey) == 1 ? kWithWeights : kCountsAlone);
 }
 
 const ReportForm& UlbonForm() { return FindReportForm("ulbon"); }

@@ -27,7 +27,10 @@ struct PaperSetting {
 PaperSetting SettingOf(ReportPaper paper);
 
 /// Forms that print the same result in different ways.
-enum class ReportFamily { comparison, ulbon, detail };
+enum class ReportFamily { comparison, ulbon, detail, floor, part };
+
+/// What one document of a form tells of: the whole result, or one floor or part of it.
+enum class DocumentOf { result, floor, part };
 
 /// A report form. What comes in report forms loops over these rows.
 struct ReportForm {
@@ -36,6 +39,7 @@ struct ReportForm {
   ReportPaper paper;
   std::int32_t choice;  ///< number of the setting that chooses it in its family; 0: its family has no choice
   CutFigures (*draw)(PrinterSurface& Printer, const ReportArguments& arguments, const TallyResult& result);
+  DocumentOf document_of = DocumentOf::result;
 };
 
 /// All forms, in the order in which the command line lists them.
@@ -50,6 +54,9 @@ const ReportForm& UlbonForm();
 /// The purchase list that a paper button prints: with the setting 明細画面重量表示 1 that with weights, else
 /// that of counts alone. B5 has none and throws `subscript out of range`.
 const ReportForm& ChosenDetail(ReportPaper paper);
+/// The sheet of a whole floor tally: with the setting 重量集計明細 1 that with weights, else that of counts
+/// alone.
+const ReportForm& ChosenFloorDetail();
 
 /// What a print button does: the printer is set to the form's paper, the form is drawn with the arguments'
 /// texts trimmed, the printer is put back. Figures too wide for their fields are told in one message. Throws

@@ -34,6 +34,7 @@ struct ReportArguments {
   std::int32_t UlbonFlag = 1;  ///< not 0: the Ulbon and spiral rows are wanted
   std::int32_t Percent = 0;    ///< the screen's uplift of the Ulbon weights
   DetailArguments Detail = {};
+  std::int32_t FloorOrPart = 0;  ///< 階 or part of a form that tells of one alone
 };
 
 /// The same with its texts, as they were typed, trimmed: blanks alone are no sub-project text.

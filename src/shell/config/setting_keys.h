@@ -49,6 +49,8 @@ inline constexpr NumberKey kWeldedHoopWeldsKey{"Kakou", "重量集計", "溶接�
 inline constexpr NumberKey kDetailDatePositionKey{"Kakou", "重量集計", "日付印字位置", 0};
 inline constexpr NumberKey kFloorTallyStockKey{"Kakou", "重量集計", "階別集計定取", 0};
 inline constexpr NumberKey kDetailPrintKey{"Kakou", "加工帳", "重量集計明細", 0};
+/// The same of the floor screen, which prints weights unless it was told otherwise.
+inline constexpr NumberKey kFloorDetailPrintKey{"Kakou", "加工帳", "重量集計明細", 1};
 inline constexpr NumberKey kMemoPositionKey{"Kakou", "加工帳", "明細書メモ印刷位置", 0};
 inline constexpr NumberKey kAccumulateFlagKey{"Kakou", "集計保存", "フラグ", 0};
 inline constexpr NumberKey kShippingDateKey{"Kakou", "出荷日設定", "出荷日", 0};

@@ -23,6 +23,10 @@ std::array<std::string, 12> DiameterGradeNames() {
   return names;
 }
 
+std::array<std::string, 12> DiameterMakerNames() {
+  return ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName).makers;
+}
+
 std::string Get_BuiNa(std::int32_t part) {
   constexpr std::int32_t kSecondNaming = 2;
   if (!SiteContext.MasterDatabase) throw Fault(FaultKind::database, "SORANO.MDB is not open");

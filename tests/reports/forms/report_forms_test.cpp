@@ -16,6 +16,7 @@
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
 #include "support/site_fixture.h"
+#include "tally/floorpart/floor_list.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {
@@ -112,6 +113,14 @@ TEST_F(ReportFormsTest, ThePurchaseListIsWithWeightsWhereTheDetailScreenShowsThe
   EXPECT_THROW(ChosenDetail(ReportPaper::b5y), Fault);
 }
 
+TEST_F(ReportFormsTest, TheSheetOfAllFloorsIsWithWeightsUnlessTheSettingLeavesThemOut) {
+  EXPECT_EQ(ChosenFloorDetail().word, "kai-meisai");
+  SaveSetting(kFloorDetailPrintKey, 0);
+  EXPECT_EQ(ChosenFloorDetail().word, "kai-meisai-honsu");
+  SaveSetting(kFloorDetailPrintKey, 1);
+  EXPECT_EQ(ChosenFloorDetail().word, "kai-meisai");
+}
+
 TEST_F(ReportFormsTest, MemosAreTrimmedLikeTheOtherTexts) {
   ReportArguments arguments{"", "2026", "1", "2", 1, 0};
   arguments.Detail.Memos = {" 一 ", "", "  "};
@@ -121,10 +130,25 @@ TEST_F(ReportFormsTest, MemosAreTrimmedLikeTheOtherTexts) {
 
 TEST_F(ReportFormsTest, AWordThatNoFormHasIsAFault) { EXPECT_THROW(FindReportForm("taihi-a-a3t"), Fault); }
 
+/// An empty result of the tables that a form is drawn from.
+TallyResult ResultOf(ReportFamily family) {
+  TallyResult result;
+  if (family == ReportFamily::floor) {
+    FloorTables tables;
+    ListFloors(tables, {1});
+    result.tables = tables;
+  } else if (family == ReportFamily::part) {
+    result.tables = PartTables();
+  }
+  return result;
+}
+
 TEST_F(ReportFormsTest, EveryFormIsFoundByItsWordAndSetsItsPaper) {
   for (const ReportForm& form : ReportForms()) {
     EXPECT_EQ(&FindReportForm(form.word), &form) << form.word;
-    PrintForm(form, {"", "2026", "1", "2", 1, 0}, result_);
+    ReportArguments arguments{"", "2026", "1", "2", 1, 0};
+    arguments.FloorOrPart = 1;
+    PrintForm(form, arguments, ResultOf(form.family));
     EXPECT_EQ(documents_.back().orientation, SettingOf(form.paper).orientation) << form.word;
     EXPECT_EQ(documents_.back().paper_code, PaperCodeOfKind(SettingOf(form.paper).paper_kind)) << form.word;
   }
