@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <memory>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,10 +21,12 @@
 #include "platform/print/print_trace.h"
 #include "platform/system/clock.h"
 #include "platform/system/printing.h"
+#include "reports/floorpart/floor_reports.h"
 #include "reports/forms/report_forms.h"
 #include "reports/frame/report_site.h"
 #include "shell/config/settings.h"
 #include "tally/detail/detail_entry.h"
+#include "tally/list_row.h"
 
 namespace rbt {
 
@@ -32,10 +36,10 @@ struct ReportOptions {
   std::string name;
   CommonOptions common;
   SelectionOptions selection;
-  std::string tally = "bulk";
+  std::string tally;  ///< empty: as the form has it
   std::int32_t body = 1;
   DetailChanges changes;
-  std::string sub_project;
+  std::optional<std::string> sub_project;
   std::string date;
   std::string pdf;
   std::string trace;
@@ -44,6 +48,8 @@ struct ReportOptions {
   std::optional<std::string> memo_position;
   std::optional<std::string> installed;
   std::optional<std::string> date_position;
+  std::optional<std::int32_t> floor;  ///< of a form of one floor; nothing: every floor with weight
+  std::optional<std::int32_t> part;   ///< of a form of one part; nothing: every part
 };
 
 std::vector<std::string> ReportNames() {
@@ -67,10 +73,52 @@ std::optional<DateTexts> TypedDate(const std::string& date) {
 
 using Documents = std::vector<PrintedDocument>;
 
+/// The floors whose sheets are asked for, one or all; those without weight are told and have none.
+std::vector<std::int32_t> FloorsToPrint(const TallyResult& result, const std::optional<std::int32_t>& asked) {
+  std::vector<std::int32_t> floors;
+  bool listed = false;
+  for (const std::int16_t floor : ListedFloorsOf(result)) {
+    if (asked && *asked != floor) continue;
+    listed = true;
+    if (HasFloorWeight(result, floor)) {
+      floors.push_back(floor);
+    } else {
+      TellFloorIsSkipped(floor);
+    }
+  }
+  if (asked && !listed) throw UsageError("--floor: " + std::to_string(*asked) + " is no floor of the tally");
+  return floors;
+}
+
+std::vector<std::int32_t> PartsToPrint(const std::optional<std::int32_t>& asked) {
+  if (asked) return {*asked};
+  std::vector<std::int32_t> parts(kOtherParts);
+  std::iota(parts.begin(), parts.end(), kFirstPart);
+  return parts;
+}
+
+/// What each document tells of: a floor, a part, or, of a form that needs none, 0.
+std::vector<std::int32_t> SubjectsOf(const ReportForm& form, const ReportOptions& options,
+                                     const TallyResult& result) {
+  switch (form.document_of) {
+    case DocumentOf::floor:
+      return FloorsToPrint(result, options.floor);
+    case DocumentOf::part:
+      return PartsToPrint(options.part);
+    case DocumentOf::result:
+      break;
+  }
+  return {0};
+}
+
 /// The documents that a report ends. This program knows no printers but the PDF device.
-Documents DocumentsOf(const ReportForm& form, const ReportArguments& arguments, const TallyResult& result) {
+Documents DocumentsOf(const ReportForm& form, ReportArguments arguments, const TallyResult& result,
+                      const std::vector<std::int32_t>& subjects) {
   DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
-  PrintForm(form, arguments, result);
+  for (const std::int32_t subject : subjects) {
+    arguments.FloorOrPart = subject;
+    PrintForm(form, arguments, result);
+  }
   return diverted.Take();
 }
 
@@ -107,6 +155,46 @@ void RequireNoDetailOptions(const ReportOptions& options) {
   }
 }
 
+/// The one tally that a form is drawn from; empty: any that fills the diameter-by-length tables.
+std::string_view TallyOf(ReportFamily family) {
+  switch (family) {
+    case ReportFamily::floor:
+      return "floor";
+    case ReportFamily::part:
+      return "part";
+    default:
+      return {};
+  }
+}
+
+/// The word of the tally, which the form decides or `--tally` tells.
+std::string TallyWordFor(const ReportForm& form, const ReportOptions& options) {
+  const std::string own(TallyOf(form.family));
+  const std::vector<std::string> fitting = own.empty() ? GridTallyWords() : std::vector{own};
+  if (options.tally.empty()) return own.empty() ? "bulk" : own;
+  if (std::ranges::find(fitting, options.tally) == fitting.end()) {
+    throw UsageError("--tally: " + std::string(form.word) + " is not drawn from the tally " + options.tally);
+  }
+  return options.tally;
+}
+
+/// What the forms of floors and parts take, and what they do not.
+void RequireFloorPartOptions(const ReportForm& form, const ReportOptions& options) {
+  if (options.floor && form.document_of != DocumentOf::floor) {
+    throw UsageError("--floor: only the form kai-kakukai takes it");
+  }
+  if (options.part && form.document_of != DocumentOf::part) {
+    throw UsageError("--part: only the form bui-kakubui takes it");
+  }
+  if (options.part && (*options.part < kFirstPart || *options.part > kOtherParts)) {
+    throw UsageError("--part: " + std::to_string(*options.part) + " is no part of 1 to 11");
+  }
+  if (TallyOf(form.family).empty()) return;
+  if (options.sub_project)
+    throw UsageError("--subproject: " + std::string(form.word) + " has no place for it");
+  if (!options.changes.empty()) throw UsageError("--percent: --uplift raises the floor and part tallies");
+}
+
 /// The uplift of Ulbon, the last one given: a whole number.
 std::int32_t UlbonPercent(const DetailChanges& changes) {
   if (changes.empty()) return 0;
@@ -136,15 +224,20 @@ DetailArguments DetailArgumentsOf(const ReportOptions& options) {
 /// The result that a form shows: its list changed, or its Ulbon rows raised.
 TallyResult ResultFor(const ReportForm& form, const ReportOptions& options) {
   const bool is_detail = form.family == ReportFamily::detail;
+  RequireFloorPartOptions(form, options);
   if (is_detail) {
     RequireCells(options.changes);
   } else {
     RequireNoDetailOptions(options);
   }
   const std::int32_t ulbon_percent = is_detail ? 0 : UlbonPercent(options.changes);
-  TallyResult counted = CountAskedTally(options.tally, options.common, options.selection);
-  return is_detail ? Changed(std::move(counted), options.changes)
-                   : WithUlbonRaised(std::move(counted), ulbon_percent);
+  const std::string tally = TallyWordFor(form, options);
+  TallyResult counted = CountAskedTally(tally, options.common, options.selection);
+  if (is_detail) return Changed(std::move(counted), options.changes);
+  if (std::holds_alternative<TallyTable>(counted.tables)) {
+    return WithUlbonRaised(std::move(counted), ulbon_percent);
+  }
+  return counted;
 }
 
 void RunReport(const ReportOptions& options) {
@@ -154,9 +247,30 @@ void RunReport(const ReportOptions& options) {
   const TallyResult result = ResultFor(form, options);
   const DateTexts date = typed ? *typed : DefaultDateTexts(Now());
   const ReportArguments arguments{
-      options.sub_project,       date.year, date.month, date.day, options.body, result.ulbon_percent,
+      options.sub_project.value_or(""), date.year, date.month, date.day, options.body, result.ulbon_percent,
       DetailArgumentsOf(options)};
-  WriteDocuments(DocumentsOf(form, arguments, result), options);
+  const std::vector<std::int32_t> subjects = SubjectsOf(form, options, result);
+  WriteDocuments(DocumentsOf(form, arguments, result, subjects), options);
+}
+
+void AddText(CommandLine& line, const std::string& name, std::optional<std::string>& target,
+             const std::string& description) {
+  const auto take = [&target](const std::string& text) {
+    target = text;
+    return true;
+  };
+  line.FormOption(name, "TEXT", take, description);
+}
+
+void AddNumber(CommandLine& line, const std::string& name, std::optional<std::int32_t>& target,
+               const std::string& description) {
+  const auto take = [&target](const std::string& text) {
+    std::int32_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    target = number;
+    return error == std::errc() && end == text.data() + text.size();
+  };
+  line.FormOption(name, "N", take, description);
 }
 
 /// A text, or one of two words.
@@ -187,14 +301,18 @@ Action DefineReport(CommandLine& line) {
   line.WordArgument("NAME", options->name, ReportNames(), "the report form");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
-  line.WordOption("--tally", "KIND", options->tally, GridTallyWords(),
-                  "the kind of tally that fills the report");
+  AddFloorOptions(line, options->selection);
+  line.WordOption(
+      "--tally", "KIND", options->tally, TallyWords(),
+      "the kind of tally that fills the report; default bulk, floor for kai-..., part for bui-...");
   line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
   AddChangeOptions(line, options->changes, "uplift of the Ulbon weights, or of the bars of a purchase list");
-  line.TextOption("--subproject", "TEXT", options->sub_project, "a line under the project's name");
+  AddText(line, "--subproject", options->sub_project, "a line under the project's name");
   line.TextOption("--date", "YEAR/MONTH/DAY", options->date,
                   "the date as typed, the year of the era with era dates; default today");
   AddDetailOptions(line, *options);
+  AddNumber(line, "--floor", options->floor, "the one floor of kai-kakukai; default all with weight");
+  AddNumber(line, "--part", options->part, "the one part of bui-kakubui, 1 to 11; default all");
   line.TextOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
   line.TextOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
   AddForceOption(line, options->force);
