@@ -233,6 +233,7 @@ void FloorPartPresenter::Tally() {
   RunPendingEvents();
   Count();
   HoseiZumi = false;
+  filters_locked_ = false;
   Fill();
   StampTime();
   TellModes();

@@ -70,7 +70,7 @@ class FloorPartPresenter {
   // Printing, saved tallies, the way out.
   void OpenPrint();
   /// A print button, in the order of the screen's sheets.
-  void Print(std::size_t sheet) const;
+  void Print(std::size_t sheet);
   void ClosePrint();
   PrintPanelPresenter& PrintPanel() { return print_panel_; }
   void Save() const;
@@ -92,6 +92,12 @@ class FloorPartPresenter {
   void TellModes();
   void OfferModes();
   void StampTime();
+
+  void PrintSheet(std::string_view form, std::int32_t floor_or_part = 0) const;
+  void PrintSheet(const ReportForm& form, std::int32_t floor_or_part = 0) const;
+  void PrintEachFloor();
+  void PrintEachPart();
+  bool GoesOnPrinting();
 
   double& Uplift() const { return Selection.*screen_.uplift; }
   void SetUplift(std::string text);
@@ -125,6 +131,7 @@ class FloorPartPresenter {
   std::int32_t SpecialTaken = 0;  ///< ... were taken into a range of all floors
   bool HoseiZumi = false;         ///< a correction by hand is held
   Change change_ = Change::none;
+  bool filters_locked_ = false;  ///< the list of floors was printed over a correction, which must stay
 
   bool busy_ = false;
   bool left_ = false;

@@ -7,9 +7,9 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kFloorSheets{"階明細印字", "各階印字", "階合計表印字",
-                                                       "階・部位･径"};
-constexpr std::array<std::string_view, 3> kPartSheets{"全部位合計印字", "各部位任意印字", "合計表印字"};
+using enum FloorPartSheet;
+constexpr std::array kFloorSheets{floor_range, each_floor, floor_totals, floor_blocks};
+constexpr std::array kPartSheets{all_parts, each_part, part_totals};
 
 // The caption of `cmdLoad` tells F7, which presses `cmdMent`; F8 presses it. It stays so: the users have it
 // in their fingers.

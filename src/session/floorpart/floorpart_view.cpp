@@ -29,8 +29,6 @@ void FloorPartPresenter::ClosePrint() {
   focus_ = FloorPartFocus::first_row;
 }
 
-void FloorPartPresenter::Print(std::size_t sheet) const { SayNotReady(screen_.sheets[sheet], screen_.title); }
-
 void FloorPartPresenter::Save() const { SayNotReady("保存", screen_.title); }
 
 void FloorPartPresenter::Load() const { SayNotReady("読込", screen_.title); }
@@ -77,7 +75,8 @@ FloorPartView FloorPartPresenter::View() {
 
 FilterView FloorPartPresenter::Filters() const {
   FilterView view = filters_;
-  const bool in_reach = !busy_ && change_ == Change::none;
+  // The figures stay while sheets of them are printed.
+  const bool in_reach = !busy_ && change_ == Change::none && !print_panel_.IsOpen() && !filters_locked_;
   view.tells_hoops = result_shown_ && filters_.tells_hoops;
   view.tells_plates = result_shown_ && filters_.tells_plates;
   view.choose_kinds = {result_shown_, in_reach};

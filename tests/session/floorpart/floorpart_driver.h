@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/fault.h"
 #include "session/floorpart/floorpart_presenter.h"
 #include "session/floorpart/floorpart_site.h"
 
@@ -23,6 +24,14 @@ class FloorPartPresented {
     };
     parts.choose_forms = [this] {
       if (forms) forms();
+    };
+    parts.print = [this](const FloorPartOrder& order) {
+      if (spoils_print) throw Fault(FaultKind::division_by_zero, "print");
+      printed += std::string(order.form.word);
+      if (order.form.document_of != DocumentOf::result) printed += " " + std::to_string(order.floor_or_part);
+      printed += order.tells_printing ? " telling|" : "|";
+      last_date = order.date;
+      last_total = std::visit([](const auto& tables) { return TotalOf(tables); }, order.result.tables);
     };
   }
 
@@ -88,8 +97,18 @@ class FloorPartPresented {
   std::function<void()> forms;
   std::unique_ptr<FloorPartPresenter> presenter;
   std::vector<FloorPartView> meanwhile;
+  std::string printed;  ///< words of the sheets, with their floor or part
+  bool spoils_print = false;
+  DateTexts last_date;
+  Currency last_total;
 
  private:
+  static Currency TotalOf(const TallyTable& tables) { return tables.TotalStockWeight; }
+  template <typename Tables>
+  static Currency TotalOf(const Tables& tables) {
+    return tables.SouGoukei;
+  }
+
   const FloorPartScreen& screen_;
 };
 

@@ -493,17 +493,6 @@ TEST(FloorPartPrint, TakesThePlaceOfTheMainButtonsWithTheDateToType) {
   }
 }
 
-TEST(FloorPartPrint, SaysThatItsSheetsAreNotReady) {
-  FloorPartPresented js(kFloorScreen);
-  js.OpenWithAll().OpenPrint();
-  for (std::size_t sheet = 0; sheet < kFloorScreen.sheets.size(); ++sheet) js.presenter->Print(sheet);
-  EXPECT_EQ(js.Told(),
-            "階別集計: 「階明細印字」は、まだご利用いただけません。|"
-            "階別集計: 「各階印字」は、まだご利用いただけません。|"
-            "階別集計: 「階合計表印字」は、まだご利用いただけません。|"
-            "階別集計: 「階・部位･径」は、まだご利用いただけません。|");
-}
-
 TEST(FloorPartScreens, AreLeftWithTheSelectionAsTheMenuExpectsIt) {
   for (const FloorPartScreen* screen : kBothScreens) {
     FloorPartPresented js(*screen);
