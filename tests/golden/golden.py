@@ -5,9 +5,10 @@
 usage: golden.py check RBTALLY [SITE]     fails at any difference, at a missing trace and at one that no form has
        golden.py accept RBTALLY [SITE]    shows each difference, then asks whether to take it (--yes: takes all)
 
-A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then lines
-`report OPTIONS` or `list OPTIONS`: the options that each comparison and Ulbon form, or each purchase list, is drawn
-with. A trace is SITE.FORM.trace.
+A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then a line
+`report OPTIONS`, `list OPTIONS`, `floors OPTIONS` or `parts OPTIONS`: the options that each form of that family is drawn
+with (comparison and Ulbon, purchase lists, floors, parts). A line `only FORM...` leaves the other forms of the family
+out. A trace is SITE.FORM.trace.
 """
 import difflib
 import pathlib
@@ -21,7 +22,7 @@ sys.path.insert(0, str(HERE.parent / "end_to_end"))
 import scenario  # noqa: E402
 
 # The forms that a site's options are for, by the beginning of their names; the names are the program's own.
-FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",)}
+FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",), "floors": ("kai-",), "parts": ("bui-",)}
 
 
 class Site:
@@ -30,10 +31,12 @@ class Site:
     def __init__(self, program, file, folder):
         self.name = file.stem
         self.world = scenario.World(program, folder)
-        self.family, self.options = "", []
+        self.family, self.options, self.only = "", [], []
         for line in file.read_text(encoding="utf-8").splitlines():
             words = shlex.split(line, comments=True)
-            if words[:1] in (["report"], ["list"]):
+            if words[:1] == ["only"]:
+                self.only = words[1:]
+            elif words and words[0] in FAMILIES:
                 self.family, *self.options = words
             elif words:
                 scenario.DIRECTIVES[words[0]](self.world, words[1:])
@@ -41,8 +44,14 @@ class Site:
     def all_forms(self):
         return re.search(r"NAME TEXT:\{([^}]*)\}", self.run("report", "--help")).group(1).split(",")
 
-    def forms(self):
+    def family_forms(self):
         return [form for form in self.all_forms() if form.startswith(FAMILIES[self.family])]
+
+    def forms(self):
+        forms = self.family_forms()
+        if strange := set(self.only) - set(forms):
+            raise scenario.Mismatch(f"{self.name}: no forms of {self.family}: {' '.join(sorted(strange))}")
+        return [form for form in forms if not self.only or form in self.only]
 
     def run(self, *words):
         self.world.run(shlex.join(["rbtally", *words]))
@@ -75,10 +84,12 @@ def difference(file, trace):
 
 
 def check(program, names):
-    failures, known, undrawn = [], set(), set()
+    failures, known, undrawn, drawn = [], set(), set(), set()
     for site in sites(program, names):
         undrawn |= {form for form in site.all_forms() if not form.startswith(sum(FAMILIES.values(), ()))}
+        undrawn |= set(site.family_forms())
         for form in site.forms():
+            drawn.add(form)
             file = golden_file(site, form)
             known.add(file)
             if not file.exists():
@@ -87,7 +98,7 @@ def check(program, names):
                 failures.append(text)
     if not names:
         failures += [f"{file.name} belongs to no form" for file in HERE.glob("*.trace") if file not in known]
-    failures += [f"no site draws {form}" for form in sorted(undrawn)]
+        failures += [f"no site draws {form}" for form in sorted(undrawn - drawn)]
     if not known:
         failures.append(f"no such site: {' '.join(names)}")
     for failure in failures:

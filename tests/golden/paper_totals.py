@@ -8,6 +8,7 @@ import json
 import re
 import sys
 
+import floorpart_totals
 import golden
 
 ROW_TOLERANCE = 1  # twips; texts of one row stand on one Y
@@ -156,13 +157,19 @@ def tally_of(site, options):
         changes = [word for name, value in zip(site.options[::2], site.options[1::2]) for word in (name, value)
                    if name in ("--percent", "--set")]
         return json.loads(site.run("detail", "bulk", "--format", "json", *changes))
+    if site.family in ("floors", "parts"):
+        given = [word for name, value in options.items() for word in (name, value)
+                 if name in ("--floors", "--special", "--kinds", "--uplift")]
+        return json.loads(site.run("tally", site.family.removesuffix("s"), "--format", "json", *given))
     start_mode = ["--start-mode", options["--start-mode"]] if "--start-mode" in options else []
     return json.loads(site.run("tally", "bulk", "--format", "json", *start_mode))
 
 
 def checks_of(site, form, trace, tally, options):
+    text = site.world.settings.read_text(encoding="utf-8") if site.world.settings.exists() else ""
+    if site.family in ("floors", "parts"):
+        return floorpart_totals.checks_of(form, trace, tally, options, "定尺13有無=1" in text)
     if site.family == "list":
-        text = site.world.settings.read_text(encoding="utf-8")
         settings = {"13m": "定尺13有無=1" in text, "empty": "重量の無い太さの印字=1" in text}
         return check_list(form, trace, tally, options, settings)
     return check_ulbon(trace, tally, options) if form == "ulbon" else check_comparison(form, trace, tally, options)
