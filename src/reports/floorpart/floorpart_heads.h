@@ -128,12 +128,10 @@ inline constexpr HeadLayout kFutoHead = FloorPartHead(4280, kFutoParts);
 
 // All parts on one page.
 inline constexpr std::array<HeadPart, 6> kZenbuiParts{
-    kFloorPartClient,
-    FloorPartProject(),
-    FloorPartWeight(4200),
-    kScopeBesideWeight,
+    kFloorPartClient, FloorPartProject(), FloorPartWeight(4200), kScopeBesideWeight,
     FloorPartDate({8500, 8400, EndsAt(10800)}, {8300, 8200, EndsAt(11000)}),
-    FloorPartCompany(kProportionalFont)};
+    // The table ends before the block, which may reach below its top.
+    OwnCompanyPart{.x = 11200, .y = 1000, .label_font = kProportionalFont}};
 inline constexpr HeadLayout kZenbuiHead = FloorPartHead(5900, kZenbuiParts);
 
 }  // namespace rbt

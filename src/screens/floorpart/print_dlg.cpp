@@ -17,6 +17,7 @@ PrintDlg::~PrintDlg() = default;
 
 void PrintDlg::ShowPage(int page) {
   ui_->lblPage->setText(QString::number(page));
+  adjustSize();
   Center_Form(*this);
   show();
   // Nothing else is drawn before the sheet is printed, and no key may come in between.

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """The own-company block, drawn a second time from the values of STEEL.INI as they were typed."""
 
+from pen import FONT
+
 POSTAL = "〒"
 BUFFERS = {"会社名": 80, "住所": 80, "名称": 20, "TEL": 30, "FAX": 30, "郵便番号": 30, "MAIL": 40}
 
@@ -22,10 +24,10 @@ def address_size(text):
 class Block:
     LINES = ("住所1", "住所2", "住所3", "TEL1", "TEL2", "TEL3", "FAX1", "FAX2", "MAIL1", "MAIL2")
 
-    def __init__(self, company, name_whole, address2_whole):
+    def __init__(self, company, name_whole, address2_whole, label_face=FONT):
         self.value = {key: read(company, key) for key in
                       ("会社名", "名称1", "名称2", "郵便番号1", "郵便番号2", *self.LINES)}
-        self.name_whole, self.address2_whole = name_whole, address2_whole
+        self.name_whole, self.address2_whole, self.label_face = name_whole, address2_whole, label_face
 
     def draw(self, pen, x, y):
         self._visit(pen, x, y)
@@ -76,7 +78,9 @@ class Block:
         if not self.pen:
             return
         self.pen.font(size, False)
+        self.pen.face = self.label_face
         self.pen.text(self.x, self.y, label)
+        self.pen.face = FONT
         if whole:
             self.pen.text(self.x + 960, self.y, text)
         else:

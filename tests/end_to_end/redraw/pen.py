@@ -24,6 +24,7 @@ class Pen:
         self.lines = [f"document\tPDF\t{paper_code}\t{orientation}", "page\t1"]
         self.y = 0.0  # of the line after the last text
         self.size, self.bold, self.rule_width = 10.0, False, 1
+        self.face = FONT
         self.messages = 0
         self._font = None
 
@@ -38,7 +39,7 @@ class Pen:
         return single(byte_length(text) * self.size * 10)
 
     def text(self, x, y, text):
-        font = f"font\t{FONT}\t{shown(self.size)}\t{int(self.bold)}"
+        font = f"font\t{self.face}\t{shown(self.size)}\t{int(self.bold)}"
         if font != self._font:
             self.lines.append(font)
         self._font = font

@@ -24,6 +24,11 @@ class FloorPartDriver {
   explicit FloorPartDriver(const FloorPartScreen& screen) : screen_(screen) {
     parts.choose_kinds = [this] { ++kind_dialogs; };
     parts.choose_forms = [this] { ++form_dialogs; };
+    parts.print = [this](const FloorPartOrder& order) {
+      printed += std::string(order.form.word);
+      if (order.form.document_of != DocumentOf::result) printed += " " + std::to_string(order.floor_or_part);
+      printed += "|";
+    };
   }
 
   void Open() {
@@ -90,6 +95,7 @@ class FloorPartDriver {
   FloorPartParts parts;
   int kind_dialogs = 0;
   int form_dialogs = 0;
+  std::string printed;  ///< words of the sheets, with their floor or part
   std::unique_ptr<FloorPartForm> form;
 
  private:

@@ -229,10 +229,6 @@ TEST(FloorForm, F1SwapsTheMainButtonsForThoseOfTheSheets) {
   EXPECT_FALSE(form.Shows("SSPanel2"));
   EXPECT_FALSE(form.Shows("txtSubKojNa"));
   EXPECT_EQ(form.Focused(), "txtYear");
-  ExpectNotReady(form, {Qt::Key_F1, "階明細印字"});
-  ExpectNotReady(form, {Qt::Key_F3, "各階印字"});
-  ExpectNotReady(form, {Qt::Key_F5, "階合計表印字"});
-  ExpectNotReady(form, {Qt::Key_F7, "階・部位･径"});
   form.Key(Qt::Key_Escape);
   EXPECT_FALSE(form.Shows("SSPanel3"));
   EXPECT_TRUE(form.Shows("SSPanel2"));
@@ -244,9 +240,6 @@ TEST(PartForm, F1SwapsTheMainButtonsForThoseOfItsThreeSheets) {
   form.OpenWithResult();
   form.Key(Qt::Key_F1);
   EXPECT_FALSE(form.Shows("btnPrintKaiBuiFuto"));
-  ExpectNotReady(form, {Qt::Key_F1, "全部位合計印字"});
-  ExpectNotReady(form, {Qt::Key_F3, "各部位任意印字"});
-  ExpectNotReady(form, {Qt::Key_F5, "合計表印字"});
   form.Key(Qt::Key_Escape);
   EXPECT_TRUE(form.Shows("SSPanel2"));
 }
