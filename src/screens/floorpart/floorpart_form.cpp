@@ -165,6 +165,10 @@ void FloorPartForm::Focus(FloorPartFocus target) {
       return FocusText(*ui_->Text1);
     case FloorPartFocus::year:
       return ui_->SSPanel1->Dates().FocusYear();
+    case FloorPartFocus::month:
+      return ui_->SSPanel1->Dates().FocusBox(1);
+    case FloorPartFocus::day:
+      return ui_->SSPanel1->Dates().FocusBox(2);
   }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the print buttons of the floor and part screens do: which sheet each prints, which questions come
 // between the sheets, and where the screen stands then.
+#include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,9 @@ namespace {
 constexpr std::string_view kPrintTitle = "印刷確認";
 constexpr std::string_view kAllPartsForm = "bui-zenbui";
 
+constexpr std::array<FloorPartFocus, DateEntry::kBoxes> kDateBoxes{
+    FloorPartFocus::year, FloorPartFocus::month, FloorPartFocus::day};
+
 bool IsWanted(const std::string& name, const std::string& title) {
   return MsgBox(name + "を印刷しますか？", title, MessageButtons::yes_no) == MessageAnswer::yes;
 }
@@ -25,8 +30,9 @@ bool IsWanted(const std::string& name, const std::string& title) {
 }  // namespace
 
 void FloorPartPresenter::Print(std::size_t sheet) {
-  if (!print_panel_.Date().YearPasses()) {
-    focus_ = FloorPartFocus::year;
+  if (const std::optional<DateRefusal> refusal = print_panel_.Date().Refusal()) {
+    MsgBox(refusal->text, screen_.title);
+    focus_ = kDateBoxes.at(refusal->box);
     return;
   }
   if (!parts_.print) return SayNotReady("印字", screen_.title);

@@ -39,7 +39,9 @@ enum class FloorPartFocus {
   first_row,   ///< of the grid
   first_cell,  ///< the first part of the first row
   uplift,
-  year,
+  year,   ///< of the date to print
+  month,  ///< likewise
+  day,
 };
 
 /// All that a screen of floors or parts shows.

@@ -165,15 +165,19 @@ TEST_F(FloorPartPrinting, SheetsBearTheDateAsItIsTyped) {
   EXPECT_EQ(js_->last_date.day, "5");
 }
 
-TEST_F(FloorPartPrinting, AYearThatNoEraHasKeepsTheFocus) {
-  js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
-  SaveSetting(kDateStyleKey, 2);
-  js_->OpenWithAll().OpenPrint();
-  js_->View();
-  js_->presenter->PrintPanel().Date().Type(0, "32");
-  Print(kBlocks);
-  EXPECT_EQ(js_->printed, "");
-  EXPECT_EQ(js_->View().focus, FloorPartFocus::year);
+TEST_F(FloorPartPrinting, ADateThatIsNoneIsToldAndItsBoxHasTheFocus) {
+  const std::tuple<std::size_t, const char*, FloorPartFocus> wrong[] = {
+      {0, "32", FloorPartFocus::year}, {1, "13", FloorPartFocus::month}, {2, "31", FloorPartFocus::day}};
+  for (const auto& [box, text, focus] : wrong) {
+    js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
+    SaveSetting(kDateStyleKey, 2);
+    js_->OpenWithAll().OpenPrint();
+    js_->View();
+    js_->presenter->PrintPanel().Date().Type(box, text);
+    EXPECT_NE(Print(kBlocks), "") << text;
+    EXPECT_EQ(js_->printed, "");
+    EXPECT_EQ(js_->View().focus, focus) << text;
+  }
 }
 
 TEST_F(FloorPartPrinting, SheetsShowTheResultOfTheScreenWhateverWasTalliedSince) {
