@@ -107,6 +107,7 @@ class FloorBlocks {
  private:
   /// Floors without weight have no block.
   void CollectBlocks() {
+    blocks_.reserve(tables_.KaiGyouKai.size());
     for (std::size_t i = 0; i + 1 < tables_.KaiGyouKai.size(); ++i) {
       const int floor = tables_.KaiGyouKai[i];
       if (tables_.KaiGoukei[FloorIndex(floor)] > Currency()) blocks_.push_back(BlockOfFloor(floor));
@@ -117,6 +118,7 @@ class FloorBlocks {
   Block BlockOfFloor(int floor) const {
     const int f = FloorIndex(floor);
     Block block{BlockFloorName(floor), {}};
+    block.lines.reserve(kLargestBlock);
     for (int p = kFirstPart; p < kPartEntries; ++p) {
       if (tables_.KaiBuiGoukei[f][p] == Currency()) continue;
       BlockLine& line = block.lines.emplace_back(BlockLine{PartName(p), tables_.KaiBuiGoukei[f][p]});
@@ -128,6 +130,7 @@ class FloorBlocks {
 
   Block KaiBuiFuto_Total() const {
     Block block{std::string(kAllFloorsLabel), {}};
+    block.lines.reserve(kLargestBlock);
     for (int p = kFirstPart; p < kPartEntries; ++p) {
       if (tables_.BuiGoukei[p] == Currency()) continue;
       BlockLine& line = block.lines.emplace_back(BlockLine{PartName(p), tables_.BuiGoukei[p]});

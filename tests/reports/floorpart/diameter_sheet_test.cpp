@@ -13,7 +13,6 @@ namespace rbt::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr float kPitch = 250;
 
@@ -39,6 +38,7 @@ class DiameterPaper : public FloorPartPaper {
   }
   std::vector<std::string> Names(std::size_t page) const {
     std::vector<std::string> names;
+    names.reserve(7);
     for (int group = 0; group < 7; ++group) names.push_back(Cells(0, group, page));
     return names;
   }
@@ -66,6 +66,7 @@ TEST_F(DiameterPaper, RowsStandInTheirOrder) {
   bars.tables.Setsudan.Kai[f][kD19] = 1234;
   Draw(SheetOf(bars));
   std::vector<std::string> below;
+  below.reserve(6);
   for (int row = 20; row < 26; ++row) below.push_back(Cells(row, 3));
   EXPECT_THAT(below, ElementsAre("重量|135", "圧接|11", "ｶﾌﾟﾗ|12", "ＤＢ|13", "切断|1,234", "取重|134"));
 }

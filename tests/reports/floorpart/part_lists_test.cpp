@@ -47,6 +47,7 @@ TEST_F(FloorTotalsSheet, CallsTheFloorsAsTheListOfTheScreenDoes) {
   result.tables = bars.tables;
   Draw(result);
   std::vector<std::string> labels;
+  labels.reserve(8);
   for (int line = 0; line < 8; ++line) labels.push_back(Line(line).substr(0, Line(line).find('|')));
   EXPECT_THAT(labels, ElementsAre("基礎階", "2Ｂ階", "1Ｂ階", "1階", "Ｒ　階", "ＰＨ階", "階なし", "合　計"));
 }
