@@ -169,6 +169,7 @@ TEST_F(FloorPartPrinting, ADateThatIsNoneIsToldAndItsBoxHasTheFocus) {
   const std::tuple<std::size_t, const char*, FloorPartFocus> wrong[] = {
       {0, "32", FloorPartFocus::year}, {1, "13", FloorPartFocus::month}, {2, "31", FloorPartFocus::day}};
   for (const auto& [box, text, focus] : wrong) {
+    js_.reset();  // one root at a time
     js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
     SaveSetting(kDateStyleKey, 2);
     js_->OpenWithAll().OpenPrint();
