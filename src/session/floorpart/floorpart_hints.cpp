@@ -41,7 +41,7 @@ constexpr std::array<ControlHint, 27> kHints{{
 constexpr std::array<ControlHint, 5> kFloorHints{{
     {"cmdKaiJS", "入力した階を集計する"},
     {"dbgKai", "↑↓で階を移る、Ctrl+C で表を写す"},
-    {"cmdCutPrint", "階ごとの明細を印字する"},
+    {"cmdCutPrint", "すべての階の明細を一つの表に印字する"},
     {"btnAllBuiPrint", "すべての階の合計表を印字する"},
     {"btnPrintKaiBuiFuto", "階・部位・径ごとの表を印字する"},
 }};
