@@ -14,6 +14,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
 import scenario  # noqa: E402
+from detail_redraw import FORMS as LISTS, List, Wanted  # noqa: E402
 from report_redraw import Sheet, redraw  # noqa: E402
 
 COMPARISONS = [f"taihi-{kind}-{paper}" for kind in "abc" for paper in ("a4t", "a4y", "b5y")]
@@ -56,7 +57,7 @@ class Round:
             bars = rng.choice([1, 7, 120, 3456, 23456])
             self.world.row([f"太さ={diameter}", f"予備2={2 if ulbon else 1}", f"本数={bars}", f"合計={bars}",
                             f"伸総計={bars}", f"伸切寸={rng.randint(300, 8100)}", f"圧接={rng.choice([0, 3, 1234567])}",
-                            f"伸定尺={0 if ulbon else rng.choice([4.0, 6.0, 8.0, 12.0])}",
+                            f"伸定尺={0 if ulbon else rng.choice([3.5, 4.0, 6.0, 8.0, 12.0, 13.0])}",
                             f"切断={rng.randint(0, 99)}"])
         for material, diameter in ((1, 10), (2, 9), (3, 13)):
             if rng.random() < 0.4:
@@ -80,13 +81,48 @@ class Round:
         world.execute("SORANO.MDB", "UPDATE 工事テーブル SET " + ", ".join(f"{name}=?" for name in columns),
                       (1 if sheet.client else 0, sheet.short_name, sheet.long_name or rng.choice(["", None]),
                        None if sheet.name_break == 50 and rng.random() < 0.5 else sheet.name_break, *codes))
-        world.file(["DATA/STEEL.INI", r"[データ]\r\n選択ＤＢ名=GENBA001.MDB\r\n[自社名]\r\n"
-                    + "".join(rf"{key}={text}\r\n" for key, text in sheet.company.items())])
         for section, setting in (("重量集計", f"日付表記={1 if sheet.western else rng.choice([0, 2])}"),
                                  ("自社名登録", f"自社名印刷={int(sheet.name_whole)}"),
                                  ("自社名登録", f"住所２印刷={int(sheet.address2_whole)}")):
             world.setting(["Kakou", section, setting])
         return sheet
+
+    def wanted(self):
+        """What is asked of the purchase lists, by settings and by options, and the options."""
+        rng, world = self.rng, self.world
+        wanted = Wanted(title=rng.choice([1, 2, 3, 3]), own_title=words(rng, rng.choice([1, rng.randint(2, 14)])),
+                        with_13m=rng.random() < 0.5, keeps_empty=rng.random() < 0.4, installed=rng.random() < 0.5,
+                        date_right=rng.random() < 0.5, memos_above=rng.random() < 0.5,
+                        memos=[rng.choice(["", words(rng, rng.randint(1, 60))]) for _ in range(3)])
+        options = [word for number, memo in enumerate(wanted.memos, 1) for word in (f"--memo{number}", memo)]
+        for told, section, key, option, names in (
+                (wanted.installed, "加工帳", "重量集計明細", "--installed", "01"),
+                (wanted.memos_above, "加工帳", "明細書メモ印刷位置", "--memo-position", "01"),
+                (wanted.date_right, "重量集計", "日付印字位置", "--date-position", ("centre", "right"))):
+            by_option = rng.random() < 0.5
+            world.setting(["Kakou", section, f"{key}={int(told != by_option)}"])
+            options += [option, names[told]] if by_option else []
+        for application, section, setting in (
+                ("Jyuryo", "定尺", f"定尺13有無={int(wanted.with_13m)}"),
+                ("Kakou", "重量集計", f"重量の無い太さの印字={int(wanted.keeps_empty)}"),
+                ("Kakou", "重量集計", f"数量表タイトル={wanted.title}")):
+            world.setting([application, section, setting])
+        return wanted, options
+
+    def steel_ini(self, company, own_title):
+        sections = {"データ": {"選択ＤＢ名": "GENBA001.MDB"}, "加工帳": {"数量表印字タイトル": own_title}, "自社名": company}
+        lines = [line for section, texts in sections.items()
+                 for line in (f"[{section}]", *(f"{key}={text}" for key, text in texts.items()))]
+        self.world.file(["DATA/STEEL.INI", "".join(line + r"\r\n" for line in lines)])
+
+    def changes(self):
+        rng = self.rng
+        changes = ["--percent", rng.choice(["10", "0", "12.5"])] if rng.random() < 0.4 else []
+        for _ in range(rng.choice([0, 0, 2])):
+            row = rng.choice(["D10", "D22", "D51"])
+            cell = rng.choice(["3.5", "12.0", "weld", "thread", "plate", "cut"])
+            changes += ["--set", f"{row}/{cell}={rng.choice([0, 3, 1234])}"]
+        return changes
 
     def command(self, *parts):
         self.world.run(shlex.join(["rbtally", *parts]))
@@ -96,21 +132,31 @@ class Round:
     def run(self):
         self.schedule()
         sheet = self.site()
+        wanted, list_options = self.wanted()
+        self.steel_ini(sheet.company, wanted.own_title)
         start_mode = self.rng.choice([-1, -1, 1, 3, 4])
         sheet.hides_cuts = start_mode in (1, 3)
         self.command("tally", "bulk", "--format", "json", "--start-mode", str(start_mode))
         sheet.tally = json.loads(self.world.stdout)
+        common = ["--start-mode", str(start_mode)]
+        dated = [*common, "--date", "/".join(sheet.date)]
         for form in self.forms:
-            file = self.world.folder / "trace"
-            self.command("report", form, "--start-mode", str(start_mode), "--subproject", sheet.sub_project, "--date",
-                         "/".join(sheet.date), "--body", str(sheet.body), "--percent", str(sheet.percent), "--trace",
-                         str(file))
-            page = redraw(form, sheet)
-            told = sum(MESSAGE in line for line in self.world.stderr)
-            if told != page.pen.messages:
-                yield f"{form}: {told} messages of short texts, {page.pen.messages} by the second road"
-            yield from difflib.unified_diff(page.lines(), file.read_text(encoding="utf-8").splitlines(),
-                                            f"{form}, second road", f"{form}, rbtally", n=0, lineterm="")
+            yield from self.differences(form, redraw(form, sheet), "--subproject", sheet.sub_project, "--body",
+                                        str(sheet.body), "--percent", str(sheet.percent), *dated)
+        changes = self.changes()
+        self.command("detail", "bulk", "--format", "json", *changes, *common)
+        wanted.tally = json.loads(self.world.stdout)
+        for form in LISTS:
+            yield from self.differences(form, List(form, sheet, wanted).draw(), *changes, *list_options, *dated)
+
+    def differences(self, form, page, *options):
+        file = self.world.folder / "trace"
+        self.command("report", form, *options, "--trace", str(file))
+        told = sum(MESSAGE in line for line in self.world.stderr)
+        if told != page.pen.messages:
+            yield f"{form}: {told} messages of short texts, {page.pen.messages} by the second road"
+        yield from difflib.unified_diff(page.lines(), file.read_text(encoding="utf-8").splitlines(),
+                                        f"{form}, second road", f"{form}, rbtally", n=0, lineterm="")
 
 
 def main():

@@ -51,6 +51,17 @@ def ulbon_welds(tally):
     return sum(tally["UlbonWeldCount"][12:18])
 
 
+def date_text(sheet):
+    """The typed date, Western or in the years of its era."""
+    year, month, day = sheet.date
+    rest = f" 年 {right(month, 2)} 月 {right(day, 2)} 日"
+    if sheet.western:
+        return right(year, 4) + rest
+    typed = (right(year, 2) + right(month, 2) + right(day, 2)).replace(" ", "0")
+    old = typed[:2] == "30" or typed[:2] == "31" and typed[2:] < "0501"
+    return f"{'平成' if old else '令和'} {right(year, 2)}{rest}"
+
+
 class Page:
     def __init__(self, sheet, paper, is_ulbon=False):
         self.sheet, self.paper, self.is_ulbon = sheet, paper, is_ulbon
@@ -150,17 +161,10 @@ class Page:
         self.pen.ruled((x, self.paper.left, end), self.sheet.y(self.paper.total_row), "総重量  " + total_weight(weighs))
 
     def date(self):
-        year, month, day = self.sheet.date
         self.pen.font(12, False)
         self.pen.rule_width = 2
-        y = self.sheet.y(1) - self.paper.date_rise
-        rest = f" 年 {right(month, 2)} 月 {right(day, 2)} 日"
-        if self.sheet.western:
-            self.pen.ruled(self.paper.western, y, right(year, 4) + rest)
-            return
-        typed = (right(year, 2) + right(month, 2) + right(day, 2)).replace(" ", "0")
-        old = typed[:2] == "30" or typed[:2] == "31" and typed[2:] < "0501"
-        self.pen.ruled(self.paper.era, y, f"{'平成' if old else '令和'} {right(year, 2)}{rest}")
+        place = self.paper.western if self.sheet.western else self.paper.era
+        self.pen.ruled(place, self.sheet.y(1) - self.paper.date_rise, date_text(self.sheet))
 
     def frame(self, rules, first, last):
         self.pen.rule_width = 5
