@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "showroom/detail_forms.h"
 #include "showroom/floorpart_forms.h"
 #include "showroom/menu_forms.h"
 #include "showroom/preview_forms.h"
@@ -14,8 +15,8 @@ namespace rbt {
 
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
-  for (std::vector<FormEntry> forms :
-       {MenuForms(), SettingsForms(), ResultForms(), FloorPartForms(), SelectionForms(), PreviewForms()}) {
+  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ResultForms(), DetailForms(),
+                                       FloorPartForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include "desktop/form_place.h"
@@ -145,14 +146,26 @@ void ShowModally(QWidget& form) {
   const HideWatcher watcher(form, loop);
   const QPointer<QWidget> below = QApplication::activeWindow();
   form.setWindowModality(Qt::ApplicationModal);
-  form.winId();  // makes the window that stays above the one below, wherever the user clicks
+  PlaceForm(form);  // before there is a window: its frame is placed with it
+  form.winId();     // makes the window that stays above the one below, wherever the user clicks
   if (below) form.windowHandle()->setTransientParent(below->windowHandle());
-  PlaceForm(form);
   const WorkAtRest rest;
   form.show();
   form.activateWindow();
   if (form.isVisible()) loop.exec();
   if (below) below->activateWindow();
+}
+
+void ShowInPlace(QWidget& form) {
+  const QPointer<QWidget> before = QApplication::activeWindow();
+  // Once the form is up, so that the focus does not go to another window in between.
+  QTimer::singleShot(0, &form, [before] {
+    if (before) before->hide();
+  });
+  ShowModally(form);
+  if (!before) return;
+  before->show();
+  before->activateWindow();
 }
 
 bool MoveFocusByArrow(QWidget& form, int arrow_key) {

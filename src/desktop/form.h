@@ -17,6 +17,9 @@ void Center_Form(QWidget& form);
 /// window below is active again then.
 void ShowModally(QWidget& form);
 
+/// The same in place of the active window, which is out of sight meanwhile and active again then.
+void ShowInPlace(QWidget& form);
+
 /// Moves the focus from the focused button to the nearest visible, enabled button, check box or option of the
 /// form that lies in the direction of the arrow key; false when there is none.
 bool MoveFocusByArrow(QWidget& form, int arrow_key);

@@ -71,6 +71,10 @@ class GridControl::Model : public QAbstractTableModel {
     endResetModel();
   }
 
+  void SetCharacters(const std::vector<int>& characters) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) columns_[i].characters = characters.at(i);
+  }
+
   void SetRows(std::vector<std::vector<std::string>> rows) {
     const int before = rowCount();
     const int after = static_cast<int>(rows.size());
@@ -155,12 +159,16 @@ void GridControl::SetColumns(std::vector<GridColumn> columns) {
   LayOutColumns();
 }
 
+void GridControl::SetCharacters(const std::vector<int>& characters) {
+  model_->SetCharacters(characters);
+  LayOutColumns();
+}
+
 void GridControl::LayOutColumns() {
   QFont bold = font();
   bold.setBold(true);
   const QFontMetrics metrics(bold);  // totals need the most room
   const int half_width = metrics.horizontalAdvance(QLatin1Char('0'));
-  constexpr int kPadding = 14;
   natural_widths_.assign(static_cast<std::size_t>(model_->columnCount()), 0);
   for (int column = 0; column < model_->columnCount(); ++column) {
     const GridColumn& description = model_->ColumnAt(column);
@@ -168,7 +176,7 @@ void GridControl::LayOutColumns() {
     setColumnHidden(column, !description.visible);
     if (!description.visible) continue;
     natural_widths_[static_cast<std::size_t>(column)] =
-        std::max(description.characters * half_width, caption) + kPadding;
+        std::max(description.characters * half_width, caption) + padding_;
   }
   verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
   FillFrame();

@@ -35,6 +35,8 @@ class GridControl : public QTableView {
   ~GridControl() override;
 
   void SetColumns(std::vector<GridColumn> columns);
+  /// Other widths for the columns, in half-width characters; current cell and open box stay.
+  void SetCharacters(const std::vector<int>& characters);
   /// Replaces all rows; the scroll position and, where it is still there, the current cell stay.
   void SetRows(std::vector<std::vector<std::string>> rows);
 
@@ -62,6 +64,8 @@ class GridControl : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// What a column is wider than its texts, in pixels; before the columns are set.
+  void SetPadding(int padding) { padding_ = padding; }
 
   /// Draws the cells with another painter, which the grid owns; before there are rows.
   void SetPainter(GridCellPainter* painter);
@@ -75,6 +79,7 @@ class GridControl : public QTableView {
   Model* model_;
   GridCellPainter* painter_;
   std::vector<int> natural_widths_;  ///< of the columns that are seen; 0 of the others
+  int padding_ = 14;
 };
 
 }  // namespace rbt

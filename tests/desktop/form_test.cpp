@@ -93,4 +93,29 @@ TEST(Form, ShownModallyReturnsWhenItIsHidden) {
   EXPECT_EQ(modality, Qt::ApplicationModal);
 }
 
+TEST(Form, InPlaceOfTheActiveWindowHidesItMeanwhile) {
+  QWidget below;
+  below.show();
+  below.activateWindow();
+  Settle();
+  QWidget form;
+  bool below_shown = true;
+  QTimer::singleShot(20, &form, [&] {
+    below_shown = below.isVisible();
+    form.close();
+  });
+  ShowInPlace(form);
+  Settle();
+  EXPECT_FALSE(below_shown);
+  EXPECT_TRUE(below.isVisible());
+  EXPECT_EQ(QApplication::activeWindow(), &below);
+}
+
+TEST(Form, InPlaceOfNoWindowIsShownAlone) {
+  QWidget form;
+  QTimer::singleShot(20, &form, [&] { form.close(); });
+  ShowInPlace(form);
+  EXPECT_FALSE(form.isVisible());
+}
+
 }  // namespace rbt::test

@@ -55,6 +55,16 @@ TEST(GridControl, KeepsScrollPositionAndCellWhenItsRowsAreReplaced) {
   EXPECT_EQ(grid.currentIndex().row(), 30);
 }
 
+TEST(GridControl, OtherWidthsKeepCellsAndTheCurrentOne) {
+  Grid grid;
+  grid.setCurrentIndex(grid.model()->index(30, 1));
+  const int narrow = grid.columnWidth(1);
+  grid.SetCharacters({8, 30, 4});
+  EXPECT_GT(grid.columnWidth(1), narrow);
+  EXPECT_EQ(grid.currentIndex(), grid.model()->index(30, 1));
+  EXPECT_EQ(grid.Cell(30, 1), "300");
+}
+
 TEST(GridControl, ColoursEverySecondRow) {
   Grid grid;
   grid.SetAlternateColours(QColor(1, 2, 3), QColor(4, 5, 6));

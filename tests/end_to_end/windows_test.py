@@ -20,6 +20,7 @@ from desk import Desk
 MENU, BULK, PAGES, SHAPES, PAGE_SHAPES, FLOORS, PARTS, SETTINGS = (
     "重量集計メニュー", "重量集計", "頁行別重量集計", "形状重量集計", "頁行別形状重量集計", "階別集計", "部位別集計", "その他設定")
 KINDS, FORMS, PREVIEW, CARD = "材質の選択", "材料の変更", "印刷プレビュー", "キー一覧"
+LIST, ATTENTION = "材料明細表", "注意"
 # Boxes without a title of their own bear the program's.
 NOTICE = "重量集計"
 SCREENS = {"F1": BULK, "F3": PAGES, "F5": SHAPES, "F7": PAGE_SHAPES, "F8": FLOORS, "F9": PARTS}
@@ -100,6 +101,37 @@ class Walk:
         self.desk.click(left + 6, bottom - 8)
         self.desk.expect_active(BULK)
         assert top < bottom
+
+    def the_list_stands_in_place_of_the_screen_that_opened_it(self):
+        """In the bulk screen: its list is raised, corrected, looked at on paper, left; and once more from the screen."""
+        self.desk.press("F5")
+        self.desk.expect_active(LIST)
+        self.expect_place(LIST)
+        assert BULK not in self.desk.titles().values(), self.desk.titles()
+        self.look("list")
+        for key, mode in (("F1", "percent"), ("F2", "correction")):
+            self.desk.press(key)
+            self.desk.expect_active(ATTENTION)
+            self.desk.press("Return")
+            self.desk.expect_active(LIST)
+            self.desk.press("1", "0")
+            self.look(f"list-{mode}")
+            self.desk.press("Return" if key == "F1" else "Escape")
+        self.desk.press("F4")
+        self.look("list-print-panel")
+        self.desk.press("F1")
+        self.desk.expect_active(PREVIEW)
+        self.look("list-preview")
+        self.desk.press("Escape")
+        self.desk.expect_active(LIST)
+        self.desk.press("Escape")
+        self.desk.expect_active(BULK)
+        assert LIST not in self.desk.titles().values(), self.desk.titles()
+        self.look("list-left")
+        self.desk.press("F5")
+        self.desk.expect_active(LIST)
+        self.desk.press("Escape")
+        self.desk.expect_active(BULK)
 
     def dialogs_open_over_the_bulk_screen(self):
         self.desk.press("F1")
@@ -243,6 +275,7 @@ def main():
             walk.menu_opens()
             walk.each_screen_opens_and_comes_back()
             walk.the_menu_beside_the_bulk_screen_takes_nothing()
+            walk.the_list_stands_in_place_of_the_screen_that_opened_it()
             walk.dialogs_open_over_the_bulk_screen()
             walk.enter_goes_through_the_date_to_the_next_control()
             walk.the_choice_of_forms_opens_before_the_work_begins()

@@ -3,10 +3,6 @@
 
 #include <algorithm>
 
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QRegularExpressionValidator>
-
 #include "data/parts.h"
 #include "desktop/colour.h"
 
@@ -19,32 +15,7 @@ constexpr int kTwipsPerCharacter = 120;
 
 int CharactersOfWidth(int twips) { return (twips + kTwipsPerCharacter / 2) / kTwipsPerCharacter; }
 
-bool TypesWeight(const QString& text) {
-  return text == "," || (text.size() == 1 && text[0] >= QChar('0') && text[0] <= QChar('9'));
-}
-
 }  // namespace
-
-/// Edits a cell in a box of digits and commas.
-class FloorPartGrid::WeightEditing : public GridCellPainter {
- public:
-  explicit WeightEditing(FloorPartGrid& grid) : GridCellPainter(&grid), grid_(grid) {}
-
-  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
-                        const QModelIndex& /*index*/) const override {
-    auto* box = new QLineEdit(parent);
-    box->setFrame(false);
-    box->setAlignment(Qt::AlignRight);
-    box->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9,]*"), box));
-    grid_.editor_ = box;
-    return box;
-  }
-
- private:
-  FloorPartGrid& grid_;
-};
-
-FloorPartGrid::FloorPartGrid(QWidget* parent) : GridControl(parent) { SetPainter(new WeightEditing(*this)); }
 
 void FloorPartGrid::Show(const FloorPartGridView& view) {
   SetOpen(view.open);
@@ -65,12 +36,6 @@ void FloorPartGrid::Show(const FloorPartGridView& view) {
                       view.colours ? ColourOfRgb(view.colours->fore) : QColor());
 }
 
-void FloorPartGrid::SetOpen(bool open) {
-  open_ = open;
-  // What is being typed when the correction ends is not taken.
-  if (!open_ && editor_ != nullptr) closeEditor(editor_, QAbstractItemDelegate::RevertModelCache);
-}
-
 void FloorPartGrid::GoToFirstRow(int column) {
   setCurrentIndex(model()->index(0, column));
   scrollToTop();
@@ -78,22 +43,10 @@ void FloorPartGrid::GoToFirstRow(int column) {
 }
 
 QModelIndex FloorPartGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  const QModelIndex to = GridControl::moveCursor(action, modifiers);
-  if (!open_ || !to.isValid()) return to;
+  const QModelIndex to = NumberGrid::moveCursor(action, modifiers);
+  if (!IsOpen() || !to.isValid()) return to;
   const int last_row = std::max(RowCount() - 2, 0);
   return model()->index(std::min(to.row(), last_row), std::min(to.column(), kOtherParts));
-}
-
-bool FloorPartGrid::TypesNoWeight(const QKeyEvent& event) const {
-  const QString text = event.text();
-  if (text.isEmpty() || !text[0].isPrint()) return false;
-  const bool editable = currentIndex().isValid() && (currentIndex().flags() & Qt::ItemIsEditable);
-  return !editable || !TypesWeight(text);
-}
-
-void FloorPartGrid::keyPressEvent(QKeyEvent* event) {
-  if (open_ && TypesNoWeight(*event)) return event->accept();
-  GridControl::keyPressEvent(event);
 }
 
 }  // namespace rbt

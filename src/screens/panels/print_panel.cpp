@@ -20,7 +20,8 @@ void PrintPanel::Bind(PrintPanelPresenter& print_panel) {
 }
 
 void PrintPanel::Show(const PrintPanelView& view) {
-  for (QPushButton* button : {ui_->btnA4Y, ui_->btnB5Y}) button->setVisible(view.papers != Papers::ulbon);
+  ui_->btnA4Y->setVisible(view.papers != Papers::ulbon);
+  ui_->btnB5Y->setVisible(view.papers != Papers::ulbon && view.papers != Papers::a4);
   for (QWidget* control :
        std::initializer_list<QWidget*>{ui_->btnA4Y, ui_->btnA4T, ui_->btnB5Y, ui_->chkPreview}) {
     control->setEnabled(view.papers != Papers::none);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "session/detail/detail_controls.h"
 
-#include <algorithm>
 #include <array>
 
 namespace rbt {
@@ -45,14 +44,6 @@ constexpr FieldHelp kFieldHelps[] = {
 std::span<const DetailButtonRow, kDetailButtonCount> DetailButtons() { return kButtons; }
 
 const DetailButtonRow& RowOf(DetailButton button) { return kButtons[static_cast<std::size_t>(button)]; }
-
-std::optional<DetailButton> ButtonOfKey(int key, bool in_print_panel) {
-  const auto* row = std::find_if(kButtons.begin(), kButtons.end(), [&](const DetailButtonRow& each) {
-    return each.key == key && each.in_print_panel == in_print_panel;
-  });
-  if (row == kButtons.end()) return std::nullopt;
-  return row->button;
-}
 
 std::string_view HelpOf(std::string_view control) {
   for (const DetailButtonRow& row : kButtons) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string_view>
 
@@ -36,15 +36,12 @@ struct DetailButtonRow {
 std::span<const DetailButtonRow, kDetailButtonCount> DetailButtons();
 const DetailButtonRow& RowOf(DetailButton button);
 
-/// The button of a key, among the main ones or those of the print panel.
-std::optional<DetailButton> ButtonOfKey(int key, bool in_print_panel);
-
 /// The help line while a control has the focus: that of the button or field, else that of the screen.
 std::string_view HelpOf(std::string_view control);
 
 inline constexpr std::string_view kDetailTitle = "材料明細表";
 inline constexpr std::string_view kDetailGrid = "dbgZaimei";
 inline constexpr std::string_view kPercentBox = "txtPercent";
-inline constexpr std::string_view kYearBox = "txtYear";
+inline constexpr std::array<std::string_view, 3> kDateBoxes{"txtYear", "txtMonth", "txtDay"};
 
 }  // namespace rbt

@@ -3,14 +3,14 @@
 
 namespace rbt {
 
-void CarryOut(const DetailOrder& order, const Preview& preview) {
+std::string CarryOut(const DetailOrder& order, const Preview& preview) {
   const ReportArguments arguments{.SubProject = "",
                                   .Year = order.date.year,
                                   .Month = order.date.month,
                                   .Day = order.date.day,
                                   .Detail = order.detail};
   const auto print = [&] { PrintForm(ChosenDetail(order.paper), arguments, order.result); };
-  PrintOrShow(order.preview, print, preview);
+  return PrintOrShow(order.preview, print, preview);
 }
 
 }  // namespace rbt

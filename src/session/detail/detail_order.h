@@ -16,7 +16,7 @@ struct DetailOrder {
 };
 
 /// Draws the list of the paper and of the setting 明細画面重量表示, and prints or shows it as `PrintOrShow`
-/// does.
-void CarryOut(const DetailOrder& order, const Preview& preview);
+/// does; returns what that returns.
+std::string CarryOut(const DetailOrder& order, const Preview& preview);
 
 }  // namespace rbt

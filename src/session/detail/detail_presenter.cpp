@@ -9,6 +9,7 @@
 #include "data/reference.h"
 #include "platform/system/message.h"
 #include "session/panels/at_end.h"
+#include "session/panels/not_ready.h"
 #include "session/panels/site_head.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
@@ -38,6 +39,13 @@ std::string_view MaterialOfSite() {
 
 int ColumnsInUse() { return StockColumnsInUse(Settings.Use13mColumn == 1); }
 
+/// What the fields start from is read at each load: other programs of the family share these settings.
+void ReadFieldSettings() {
+  Settings.DetailPrint = ReadSetting(kDetailPrintKey);
+  Settings.MemoPosition = ReadSetting(kMemoPositionKey);
+  Settings.DetailDatePosition = ReadSetting(kDetailDatePositionKey);
+}
+
 /// The number that a field of "0" and "1" was given; nothing for another text.
 std::optional<std::int32_t> ZeroOrOne(std::string_view text) {
   if (text == "0") return 0;
@@ -56,14 +64,12 @@ void NoteFitting(CorrectionMarkers& markers, const DetailCell& cell, std::int32_
 }  // namespace
 
 DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
-    : result_(std::move(result)),
-      parts_(std::move(parts)),
-      head_(ReadHead()),
-      material_(MaterialOfSite()),
-      installed_(DetailArgumentsOf(Settings).Installed),
-      help_(HelpOf("")) {
+    : result_(std::move(result)), parts_(std::move(parts)), head_(ReadHead()), material_(MaterialOfSite()) {
+  ReadFieldSettings();
+  installed_ = DetailArgumentsOf(Settings).Installed;
   Selection.MaterialKindMask = kAllKinds;
   TallyGrid = result_.Grid();
+  print_panel_.OfferPrinters(parts_.choose_printer);
   print_panel_.Date().FillEmpty();
   FocusOn(DetailButton::percent);
 }
@@ -106,11 +112,6 @@ void DetailPresenter::Press(DetailButton button) {
   }
 }
 
-void DetailPresenter::PressFunctionKey(int number) {
-  const auto button = ButtonOfKey(number, mode_ == DetailMode::printing);
-  if (button && number > 0) Press(*button);
-}
-
 void DetailPresenter::Escape() {
   switch (mode_) {
     case DetailMode::percent:
@@ -121,17 +122,6 @@ void DetailPresenter::Escape() {
       return ClosePrint();
     case DetailMode::buttons:
       return Leave();
-  }
-}
-
-void DetailPresenter::MoveFrom(DetailButton button, int step) {
-  const bool in_print_panel = RowOf(button).in_print_panel;
-  const auto buttons = DetailButtons();
-  const auto count = static_cast<int>(buttons.size());
-  for (int at = static_cast<int>(button) + step; at >= 0 && at < count; at += step) {
-    const DetailButtonRow& row = buttons[static_cast<std::size_t>(at)];
-    if (row.in_print_panel != in_print_panel) return;
-    if (IsWithinReach(row.button)) return FocusOn(row.button);
   }
 }
 
@@ -210,7 +200,8 @@ void DetailPresenter::RestoreValues() {
 
 void DetailPresenter::OpenPrint() {
   mode_ = DetailMode::printing;
-  print_panel_.Open(Papers::all);
+  notice_.clear();
+  print_panel_.Open(Papers::a4);
   FocusOn(DetailButton::a4_landscape);
 }
 
@@ -220,14 +211,18 @@ void DetailPresenter::ClosePrint() {
 }
 
 void DetailPresenter::Print(ReportPaper paper) {
-  if (!print_panel_.Date().YearPasses()) return FocusOn(kYearBox);
+  if (const std::optional<DateRefusal> refusal = print_panel_.Date().Refusal()) {
+    MsgBox(refusal->text, kDetailTitle);
+    return FocusOn(kDateBoxes.at(refusal->box));
+  }
   if (!parts_.print) return SayNotReady("印字");
   DetailArguments detail = DetailArgumentsOf(Settings);
   detail.Memos = memos_;
   detail.Installed = installed_;
   const PrintPanelView panel = print_panel_.View();
-  parts_.print(
+  const std::string printer = parts_.print(
       {.result = result_, .paper = paper, .date = panel.date, .detail = detail, .preview = panel.preview});
+  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
   ClosePrint();
 }
 
@@ -277,8 +272,6 @@ void DetailPresenter::Leave() {
   if (ReadHandOver(kMaterialDetailKey) == "1") WriteHandOver(kMaterialDetailKey, "0");
 }
 
-void DetailPresenter::SayNotReady(std::string_view what) {
-  MsgBox(fmt::format("「{}」は、まだご利用いただけません。", what), kDetailTitle);
-}
+void DetailPresenter::SayNotReady(std::string_view what) { rbt::SayNotReady(what, kDetailTitle); }
 
 }  // namespace rbt

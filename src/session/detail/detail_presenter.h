@@ -19,7 +19,9 @@ namespace rbt {
 /// What the detail screen leans on. An empty one is not ready yet: its button says so.
 struct DetailParts {
   std::function<void()> open_settings;  ///< SETJS
-  std::function<void(const DetailOrder& order)> print;
+  /// Gives the printer that took the sheet, empty for none.
+  std::function<std::string(const DetailOrder& order)> print;
+  PrintPanelPresenter::AskPrinter choose_printer;  ///< in place of one that is not there
   std::function<void(const TallyResult& result)> save;
   std::function<std::optional<TallyResult>()> load;  ///< nothing: none was chosen
 };
@@ -50,14 +52,10 @@ class DetailPresenter {
 
   // Buttons and keys.
   void Press(DetailButton button);
-  /// F1 to F7: presses the button of the key.
-  void PressFunctionKey(int number);
   /// Esc: leaves a mode, or the screen.
   void Escape();
-  /// Left (-1) or Right (1) on a button: the focus goes to the next one within reach, and stays at the ends.
-  void MoveFrom(DetailButton button, int step);
-  /// A control has got the focus: its help is shown.
-  void FocusMoved(std::string_view control) { help_ = HelpOf(control); }
+  /// Once, whatever the screen is at: a call of another program for it is answered.
+  void Leave();
 
   // Percentage.
   /// False for a text that the box does not take: another key than those of a decimal number.
@@ -92,7 +90,6 @@ class DetailPresenter {
   void OpenSettings();
   void Save();
   void Load();
-  void Leave();
 
   void Take(TallyResult result);
   void BackToButtons(DetailButton focus);
@@ -110,7 +107,7 @@ class DetailPresenter {
   std::array<std::string, 3> memos_;
   bool installed_ = false;
   PrintPanelPresenter print_panel_;
-  std::string_view help_;
+  std::string notice_;
   std::string_view focus_;
   bool left_ = false;
 };

@@ -25,20 +25,20 @@ DetailView DetailPresenter::View() {
   view.layout = {Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
   view.captions = DetailCaptions(view.layout);
   view.rows = DetailRows(table, view.layout);
+  view.totals = {view.rows.size() - 2, view.rows.size() - 1};
   view.colours = AlternateColours();
   view.mode = mode_;
   for (const DetailButtonRow& row : DetailButtons()) {
     view.enabled[static_cast<std::size_t>(row.button)] = IsWithinReach(row.button);
   }
   view.percent = percent_;
-  view.help = help_;
   view.memos = memos_;
   view.memo_position = OneOrZero(kept.MemoPosition == MemoPlace::above);
   view.installed = OneOrZero(installed_);
   view.date_place = kept.DatePosition;
-  const PrintPanelView panel = print_panel_.View();
-  view.date = panel.date;
-  view.preview = panel.preview;
+  view.notice = notice_;
+  view.print_panel = print_panel_.View();
+  view.print_panel.has_memo = false;  // the memos have their own fields
   view.fields_enabled = mode_ == DetailMode::buttons || mode_ == DetailMode::printing;
   view.focus = std::exchange(focus_, {});
   view.left = left_;

@@ -31,20 +31,20 @@ struct DetailView {
   DetailLayout layout;
   std::vector<std::string_view> captions;
   GridRows rows;
+  std::vector<std::size_t> totals;    ///< rows that are sums of others
   std::optional<RowColours> colours;  ///< nothing: all rows are alike
 
   DetailMode mode = DetailMode::buttons;
   std::array<bool, kDetailButtonCount> enabled{};  ///< by `DetailButton`
   std::string percent;                             ///< shown in percent mode
-  std::string_view help;                           ///< `MSGB`, and `MSGB1` beside the print panel
 
   std::array<std::string, 3> memos;
   std::string memo_position;  ///< "0" below, "1" above
   std::string installed;      ///< "0" no, "1" yes
   DatePlace date_place = DatePlace::centre;
-  DateTexts date;
   bool fields_enabled = true;  ///< memos, positions, date
-  bool preview = false;        ///< sheets are looked at first
+  std::string notice;          ///< what has become of the last sheet
+  PrintPanelView print_panel;  ///< with the date, which is shown all the time
 
   std::string_view focus;  ///< control that takes it; empty: it stays
   bool left = false;       ///< the screen is to be closed

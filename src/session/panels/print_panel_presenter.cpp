@@ -14,6 +14,7 @@ FocusTarget PrintPanelPresenter::Open(Papers papers) {
     case Papers::none:
       return FocusTarget::settings;
     case Papers::all:
+    case Papers::a4:
       break;
   }
   return FocusTarget::a4_landscape;

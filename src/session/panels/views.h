@@ -71,6 +71,7 @@ struct RangeView {
 /// Sheets that can be printed now.
 enum class Papers {
   all,
+  a4,     ///< A4 alone, of both orientations
   ulbon,  ///< the Ulbon view: one paper button
   none    ///< nothing was tallied: settings and return alone
 };

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "platform/system/message.h"
+#include "session/panels/at_end.h"
 #include "session/panels/not_ready.h"
 #include "session/result/result_presenter.h"
 #include "shell/context/run_state.h"
@@ -86,7 +87,17 @@ void ResultPresenter::OpenSettings() {
 
 void ResultPresenter::ShowDetail() {
   if (!parts_.open_detail) return SayNotReady("明細表示");
-  parts_.open_detail();
+  const KindMask kinds_before = result_.selection.MaterialKindMask;
+  {
+    // The purchase list selects all kinds, and is of them once it was tallied anew there. What this screen
+    // names, offers and tallies next goes by the result that it shows.
+    const AtEnd kinds([this] { Selection.MaterialKindMask = result_.selection.MaterialKindMask; });
+    result_ = parts_.open_detail(result_);
+  }
+  Fill();
+  if (result_.selection.MaterialKindMask != kinds_before) TellKinds();
+  DecideAvailability();
+  FocusOn(FocusTarget::grid);
 }
 
 void ResultPresenter::ToggleAccumulation() {

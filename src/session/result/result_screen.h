@@ -60,8 +60,9 @@ struct ResultParts {
   /// Gives the printer that took the sheet, empty for none.
   std::function<std::string(const PrintOrder&)> print;
   PrintPanelPresenter::AskPrinter choose_printer = {};  ///< in place of one that is not there
-  std::function<void()> open_detail;                    ///< ZAIMEI in place of the form
-  std::function<void()> toggle_accumulation;            ///< of several sites
+  /// ZAIMEI in place of the form: gives the result as it is left there.
+  std::function<TallyResult(TallyResult result)> open_detail;
+  std::function<void()> toggle_accumulation;  ///< of several sites
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are

@@ -652,7 +652,10 @@ TEST(ScopedScreens, WithoutATallyTheButtonsOfAResultAreNotServed) {
   for (const ResultScreen* screen : test::ScopedScreens()) {
     Scoped js(*screen);
     int details = 0;
-    js.parts.open_detail = [&] { ++details; };
+    js.parts.open_detail = [&](TallyResult result) {
+      ++details;
+      return result;
+    };
     js.Start();
     js.Key(Qt::Key_F5);
     EXPECT_EQ(details, 0);

@@ -33,13 +33,7 @@ TEST(DetailControls, TheButtonsHaveTheirKeysAndCaptions) {
     EXPECT_EQ(row.key, kRows[i].key);
     EXPECT_EQ(row.in_print_panel, kRows[i].in_print_panel);
     EXPECT_EQ(&RowOf(row.button), &row);
-    EXPECT_EQ(ButtonOfKey(row.key, row.in_print_panel), row.button);
   }
-}
-
-TEST(DetailControls, AKeyThatNoButtonHasIsNone) {
-  EXPECT_FALSE(ButtonOfKey(8, false));
-  EXPECT_FALSE(ButtonOfKey(2, true));
 }
 
 TEST(DetailControls, TheHelpLineFollowsTheFocus) {

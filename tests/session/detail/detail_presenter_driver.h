@@ -29,6 +29,7 @@ class Detailed {
     parts.print = [this](const DetailOrder& order) {
       orders.push_back(order);
       Call("print");
+      return printer;
     };
   }
 
@@ -56,6 +57,7 @@ class Detailed {
   std::function<void()> settings;  ///< what the form does
   std::vector<std::string> calls;
   std::vector<DetailOrder> orders;
+  std::string printer;  ///< that takes the sheets
 
  private:
   static void SetSelection(TallyKind kind) {

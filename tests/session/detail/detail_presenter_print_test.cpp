@@ -23,12 +23,13 @@ TEST(DetailFields, StartAsTheSettingsHaveThemWithTodaysDate) {
   EXPECT_EQ(view.memo_position, "0");
   EXPECT_EQ(view.installed, "0");
   EXPECT_EQ(view.date_place, DatePlace::centre);
-  EXPECT_EQ(view.date.year, "2026");
-  EXPECT_EQ(view.date.month, "11");
-  EXPECT_EQ(view.date.day, "21");
-  Settings.MemoPosition = 1;
-  Settings.DetailPrint = 1;
-  Settings.DetailDatePosition = 1;
+  EXPECT_EQ(view.print_panel.date.year, "2026");
+  EXPECT_EQ(view.print_panel.date.month, "11");
+  EXPECT_EQ(view.print_panel.date.day, "21");
+  // Another program has changed them meanwhile.
+  SaveSetting(kMemoPositionKey, 1);
+  SaveSetting(kDetailPrintKey, 1);
+  SaveSetting(kDetailDatePositionKey, 1);
   detail.Open();
   view = detail.View();
   EXPECT_EQ(view.memo_position, "1");
@@ -120,7 +121,7 @@ TEST(DetailPrintPanel, PrintsTheListThatTheGridShowsWhateverWasTalliedSince) {
   EXPECT_EQ(detail.orders.back().result.Grid().BarCount[3][5], 20);
 }
 
-TEST(DetailPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
+TEST(DetailPrintPanel, ADateThatIsNoneIsToldPrintsNothingAndGetsTheFocus) {
   Detailed detail;
   SaveSetting(kDateStyleKey, 2);
   DetailPresenter& zaimei = detail.Open();
@@ -130,14 +131,34 @@ TEST(DetailPrintPanel, ARefusedYearPrintsNothingAndGetsTheFocus) {
   EXPECT_THAT(detail.orders, IsEmpty());
   EXPECT_EQ(detail.View().focus, "txtYear");
   EXPECT_EQ(detail.View().mode, DetailMode::printing);
+  EXPECT_EQ(detail.Messages().back().title, "材料明細表");
   zaimei.PrintPanel().Date().Type(0, "31");
+  zaimei.PrintPanel().Date().Type(1, "13");
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().focus, "txtMonth");
+  EXPECT_THAT(detail.orders, IsEmpty());
+  zaimei.PrintPanel().Date().Type(1, "12");
   zaimei.Press(DetailButton::a4_landscape);
   EXPECT_EQ(detail.orders.size(), 1U);
 }
 
+TEST(DetailPrintPanel, TellsThePrinterThatTookTheSheetUntilItIsOpenedAgain) {
+  Detailed detail;
+  detail.printer = "甲";
+  DetailPresenter& zaimei = detail.Open();
+  zaimei.Press(DetailButton::print);
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().notice, "「甲」に送りました。");
+  zaimei.Press(DetailButton::print);
+  EXPECT_EQ(detail.View().notice, "");
+  detail.printer = "";
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().notice, "") << "it was looked at";
+}
+
 TEST(DetailPrintPanel, AFaultOfTheReportLeavesItOpen) {
   Detailed detail;
-  detail.parts.print = [](const DetailOrder&) { throw Fault(FaultKind::file, "no paper"); };
+  detail.parts.print = [](const DetailOrder&) -> std::string { throw Fault(FaultKind::file, "no paper"); };
   DetailPresenter& zaimei = detail.Open();
   zaimei.Press(DetailButton::print);
   EXPECT_EQ(FaultOf([&] { zaimei.Press(DetailButton::a4_landscape); }), FaultKind::file);
@@ -150,8 +171,8 @@ TEST(DetailPrintPanel, EmptyDateBoxesAreFilledWhenItOpens) {
   zaimei.PrintPanel().Date().Type(1, "");
   zaimei.PrintPanel().Date().Type(2, "7");
   zaimei.Press(DetailButton::print);
-  EXPECT_EQ(detail.View().date.month, "11");
-  EXPECT_EQ(detail.View().date.day, "7");
+  EXPECT_EQ(detail.View().print_panel.date.month, "11");
+  EXPECT_EQ(detail.View().print_panel.date.day, "7");
 }
 
 TEST(DetailPrintPanel, TheSettingsChosenInItShowInGridAndYear) {
@@ -166,7 +187,7 @@ TEST(DetailPrintPanel, TheSettingsChosenInItShowInGridAndYear) {
   const DetailView view = detail.View();
   EXPECT_EQ(view.mode, DetailMode::printing);
   EXPECT_EQ(view.rows.size(), 26U);
-  EXPECT_EQ(view.date.year, "08");
+  EXPECT_EQ(view.print_panel.date.year, "08");
 }
 
 TEST(DetailPrintPanel, MemosStayWhenItIsOpenedAgain) {

@@ -114,40 +114,6 @@ TEST(DetailPresenter, EveryButtonAndKeyOutOfReachDoesNothing) {
   EXPECT_THAT(detail.calls, IsEmpty());
 }
 
-TEST(DetailPresenter, AFunctionKeyPressesItsButtonOfTheModeThatIs) {
-  struct Key {
-    int number;
-    bool panel_open;
-    DetailMode mode;
-    const char* focus;
-  };
-  constexpr Key kKeys[] = {{1, false, DetailMode::percent, "txtPercent"},
-                           {2, false, DetailMode::editing, "dbgZaimei"},
-                           {3, false, DetailMode::buttons, ""},
-                           {4, false, DetailMode::printing, "btnA4Y"},
-                           {5, false, DetailMode::buttons, ""},
-                           {6, false, DetailMode::buttons, ""},
-                           {7, false, DetailMode::buttons, ""},
-                           {8, false, DetailMode::buttons, ""},
-                           {0, false, DetailMode::buttons, ""},
-                           {1, true, DetailMode::buttons, "cmdMeisaiPrint"},
-                           {2, true, DetailMode::printing, ""},
-                           {3, true, DetailMode::buttons, "cmdMeisaiPrint"},
-                           {5, true, DetailMode::printing, ""}};
-  Detailed detail;
-  for (const Key& key : kKeys) {
-    DetailPresenter& zaimei = detail.Open();
-    if (key.panel_open) zaimei.Press(DetailButton::print);
-    detail.View();
-    zaimei.PressFunctionKey(key.number);
-    const DetailView view = detail.View();
-    EXPECT_EQ(view.mode, key.mode) << key.number;
-    EXPECT_EQ(view.focus, key.focus) << key.number;
-    EXPECT_FALSE(view.left) << key.number;
-  }
-  EXPECT_THAT(detail.calls, ElementsAre("print", "print", "settings"));
-}
-
 TEST(DetailPresenter, EscLeavesAModeAndThenTheScreen) {
   Detailed detail;
   for (const auto& bring : {BeginPercent, BeginEditing}) {
@@ -158,26 +124,6 @@ TEST(DetailPresenter, EscLeavesAModeAndThenTheScreen) {
     zaimei.Escape();
     EXPECT_TRUE(detail.View().left);
   }
-}
-
-TEST(DetailPresenter, TheArrowKeysMoveAmongTheButtonsOfTheirLevelAndStayAtTheEnds) {
-  Detailed detail;
-  DetailPresenter& zaimei = detail.Open();
-  detail.View();
-  const auto moved = [&](DetailButton from, int step) {
-    zaimei.MoveFrom(from, step);
-    return detail.View().focus;
-  };
-  EXPECT_EQ(moved(DetailButton::percent, 1), "cmdHonsuu");
-  EXPECT_EQ(moved(DetailButton::correct, -1), "cmdPercent");
-  EXPECT_EQ(moved(DetailButton::manage, 1), "cmdExit");
-  EXPECT_EQ(moved(DetailButton::leave, 1), "");
-  EXPECT_EQ(moved(DetailButton::percent, -1), "");
-  zaimei.Press(DetailButton::print);
-  detail.View();
-  EXPECT_EQ(moved(DetailButton::a4_landscape, 1), "btnA4T");
-  EXPECT_EQ(moved(DetailButton::a4_landscape, -1), "");
-  EXPECT_EQ(moved(DetailButton::close_print, 1), "");
 }
 
 // Load.
@@ -191,7 +137,6 @@ TEST(DetailPresenter, ShowsTheResultWithItsHeadAndSelectsAllKinds) {
   EXPECT_EQ(view.head.site_number, "001");
   EXPECT_EQ(view.total_weight, "434 ㎏");  // 60 + 135 + 239
   EXPECT_EQ(view.material, "自給材");
-  EXPECT_EQ(view.help, HelpOf(""));
   EXPECT_EQ(view.captions, DetailCaptions({}));
   EXPECT_EQ(view.rows, DetailRows(detail.counted.Grid(), {}));
   EXPECT_EQ(detail.D19(), "10");
@@ -216,15 +161,6 @@ TEST(DetailPresenter, LaysTheGridOutAsTheSettingsHaveIt) {
   EXPECT_EQ(view.rows.size(), 26U);
   Settings.DetailShowsWeight = 2;
   EXPECT_EQ(detail.View().rows.size(), 14U);
-}
-
-TEST(DetailPresenter, TheHelpLineFollowsTheFocus) {
-  Detailed detail;
-  DetailPresenter& zaimei = detail.Open();
-  zaimei.FocusMoved("cmdHonsuu");
-  EXPECT_EQ(detail.View().help, "好きな本数に値を修正します");
-  zaimei.FocusMoved("dbgZaimei");
-  EXPECT_EQ(detail.View().help, HelpOf(""));
 }
 
 // Percentage.
@@ -527,6 +463,22 @@ TEST(DetailPresenter, LeavingAnswersACallOfAnotherProgramForTheDetail) {
     detail.site.SetIni(kNextPrgFile, "データ", "材料明細", other);
     detail.Open().Escape();
     EXPECT_EQ(pending(), other);
+  }
+}
+
+TEST(DetailPresenter, LeavingInTheMiddleOfAModeAnswersTheCallToo) {
+  Detailed detail;
+  const auto pending = [&] { return GetProfileText(MapPath(kNextPrgIni), "データ", "材料明細", "none"); };
+  for (const auto& bring : {BeginPercent, BeginEditing}) {
+    detail.site.SetIni(kNextPrgFile, "データ", "材料明細", "1");
+    DetailPresenter& zaimei = detail.Open();
+    bring(zaimei);
+    zaimei.Leave();
+    EXPECT_TRUE(detail.View().left);
+    EXPECT_EQ(pending(), "0");
+    detail.site.SetIni(kNextPrgFile, "データ", "材料明細", "1");
+    zaimei.Leave();
+    EXPECT_EQ(pending(), "1") << "left once";
   }
 }
 

@@ -10,6 +10,7 @@ namespace rbt::test {
 TEST(PrintPanelPresenter, OpensOnTheFirstButtonThatCanBePressed) {
   const SiteFixture site;
   const std::pair<Papers, FocusTarget> cases[] = {{Papers::all, FocusTarget::a4_landscape},
+                                                  {Papers::a4, FocusTarget::a4_landscape},
                                                   {Papers::ulbon, FocusTarget::a4_portrait},
                                                   {Papers::none, FocusTarget::settings}};
   for (const auto& [papers, focus] : cases) {

@@ -23,7 +23,11 @@ class Presented {
     parts.choose_kinds = [this] { Call("kinds", kinds); };
     parts.choose_forms = [this] { Call("forms", forms); };
     parts.open_settings = [this] { Call("settings", settings); };
-    parts.open_detail = [this] { Call("detail", {}); };
+    parts.open_detail = [this](TallyResult result) {
+      Selection.MaterialKindMask = kAllKinds;  // as the purchase list selects
+      Call("detail", {});
+      return detail ? detail(std::move(result)) : result;
+    };
     parts.toggle_accumulation = [this] { Call("accumulation", {}); };
     parts.print = [this](const PrintOrder& order) {
       orders.push_back(order);
@@ -74,6 +78,7 @@ class Presented {
   std::function<void()> kinds;  ///< what the dialogs do
   std::function<void()> forms;
   std::function<void()> settings;
+  std::function<TallyResult(TallyResult result)> detail;  ///< what comes of a result in the purchase list
   std::vector<std::string> calls;
   std::vector<PrintOrder> orders;
   std::string printer;  ///< that takes the sheets; none: the preview
