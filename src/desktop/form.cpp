@@ -146,9 +146,9 @@ void ShowModally(QWidget& form) {
   const HideWatcher watcher(form, loop);
   const QPointer<QWidget> below = QApplication::activeWindow();
   form.setWindowModality(Qt::ApplicationModal);
-  form.winId();  // makes the window that stays above the one below, wherever the user clicks
+  PlaceForm(form);  // before there is a window: its frame is placed with it
+  form.winId();     // makes the window that stays above the one below, wherever the user clicks
   if (below) form.windowHandle()->setTransientParent(below->windowHandle());
-  PlaceForm(form);
   const WorkAtRest rest;
   form.show();
   form.activateWindow();

@@ -141,6 +141,43 @@ class Round:
             changes += ["--set", f"{row}/{cell}={rng.choice([0, 3, 1234])}"]
         return changes
 
+    def wanted(self):
+        """What is asked of the purchase lists, by settings and by options, and the options."""
+        rng, world = self.rng, self.world
+        wanted = Wanted(title=rng.choice([1, 2, 3, 3]), own_title=words(rng, rng.choice([1, rng.randint(2, 14)])),
+                        with_13m=rng.random() < 0.5, keeps_empty=rng.random() < 0.4, installed=rng.random() < 0.5,
+                        date_right=rng.random() < 0.5, memos_above=rng.random() < 0.5,
+                        memos=[rng.choice(["", words(rng, rng.randint(1, 60))]) for _ in range(3)])
+        options = [word for number, memo in enumerate(wanted.memos, 1) for word in (f"--memo{number}", memo)]
+        for told, section, key, option, names in (
+                (wanted.installed, "加工帳", "重量集計明細", "--installed", "01"),
+                (wanted.memos_above, "加工帳", "明細書メモ印刷位置", "--memo-position", "01"),
+                (wanted.date_right, "重量集計", "日付印字位置", "--date-position", ("centre", "right"))):
+            by_option = rng.random() < 0.5
+            world.setting(["Kakou", section, f"{key}={int(told != by_option)}"])
+            options += [option, names[told]] if by_option else []
+        for application, section, setting in (
+                ("Jyuryo", "定尺", f"定尺13有無={int(wanted.with_13m)}"),
+                ("Kakou", "重量集計", f"重量の無い太さの印字={int(wanted.keeps_empty)}"),
+                ("Kakou", "重量集計", f"数量表タイトル={wanted.title}")):
+            world.setting([application, section, setting])
+        return wanted, options
+
+    def steel_ini(self, company, own_title):
+        sections = {"データ": {"選択ＤＢ名": "GENBA001.MDB"}, "加工帳": {"数量表印字タイトル": own_title}, "自社名": company}
+        lines = [line for section, texts in sections.items()
+                 for line in (f"[{section}]", *(f"{key}={text}" for key, text in texts.items()))]
+        self.world.file(["DATA/STEEL.INI", "".join(line + r"\r\n" for line in lines)])
+
+    def changes(self):
+        rng = self.rng
+        changes = ["--percent", rng.choice(["10", "0", "12.5"])] if rng.random() < 0.4 else []
+        for _ in range(rng.choice([0, 0, 2])):
+            row = rng.choice(["D10", "D22", "D51"])
+            cell = rng.choice(["3.5", "12.0", "weld", "thread", "plate", "cut"])
+            changes += ["--set", f"{row}/{cell}={rng.choice([0, 3, 1234])}"]
+        return changes
+
     def command(self, *parts):
         self.world.run(shlex.join(["rbtally", *parts]))
         if self.world.status != 0:
