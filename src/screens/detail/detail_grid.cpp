@@ -21,7 +21,7 @@ constexpr std::size_t kNameColumns = 2;
 constexpr int kFewestCharacters = 4;
 
 /// Between many columns there is little room.
-constexpr int kPadding = 8;
+constexpr int kPadding = 10;
 
 constexpr double kSmallestPoints = 9;
 constexpr double kPointStep = 0.5;

@@ -141,43 +141,6 @@ class Round:
             changes += ["--set", f"{row}/{cell}={rng.choice([0, 3, 1234])}"]
         return changes
 
-    def wanted(self):
-        """What is asked of the purchase lists, by settings and by options, and the options."""
-        rng, world = self.rng, self.world
-        wanted = Wanted(title=rng.choice([1, 2, 3, 3]), own_title=words(rng, rng.choice([1, rng.randint(2, 14)])),
-                        with_13m=rng.random() < 0.5, keeps_empty=rng.random() < 0.4, installed=rng.random() < 0.5,
-                        date_right=rng.random() < 0.5, memos_above=rng.random() < 0.5,
-                        memos=[rng.choice(["", words(rng, rng.randint(1, 60))]) for _ in range(3)])
-        options = [word for number, memo in enumerate(wanted.memos, 1) for word in (f"--memo{number}", memo)]
-        for told, section, key, option, names in (
-                (wanted.installed, "加工帳", "重量集計明細", "--installed", "01"),
-                (wanted.memos_above, "加工帳", "明細書メモ印刷位置", "--memo-position", "01"),
-                (wanted.date_right, "重量集計", "日付印字位置", "--date-position", ("centre", "right"))):
-            by_option = rng.random() < 0.5
-            world.setting(["Kakou", section, f"{key}={int(told != by_option)}"])
-            options += [option, names[told]] if by_option else []
-        for application, section, setting in (
-                ("Jyuryo", "定尺", f"定尺13有無={int(wanted.with_13m)}"),
-                ("Kakou", "重量集計", f"重量の無い太さの印字={int(wanted.keeps_empty)}"),
-                ("Kakou", "重量集計", f"数量表タイトル={wanted.title}")):
-            world.setting([application, section, setting])
-        return wanted, options
-
-    def steel_ini(self, company, own_title):
-        sections = {"データ": {"選択ＤＢ名": "GENBA001.MDB"}, "加工帳": {"数量表印字タイトル": own_title}, "自社名": company}
-        lines = [line for section, texts in sections.items()
-                 for line in (f"[{section}]", *(f"{key}={text}" for key, text in texts.items()))]
-        self.world.file(["DATA/STEEL.INI", "".join(line + r"\r\n" for line in lines)])
-
-    def changes(self):
-        rng = self.rng
-        changes = ["--percent", rng.choice(["10", "0", "12.5"])] if rng.random() < 0.4 else []
-        for _ in range(rng.choice([0, 0, 2])):
-            row = rng.choice(["D10", "D22", "D51"])
-            cell = rng.choice(["3.5", "12.0", "weld", "thread", "plate", "cut"])
-            changes += ["--set", f"{row}/{cell}={rng.choice([0, 3, 1234])}"]
-        return changes
-
     def command(self, *parts):
         self.world.run(shlex.join(["rbtally", *parts]))
         if self.world.status != 0:
@@ -247,64 +210,6 @@ class FloorRound(Round):
         sheet.date = self.date(sheet.western)
         self.take(sheet, codes)
         self.steel_ini(sheet.company, "")
-        columns = [found[1] for found in world.execute("SORANO.MDB", "PRAGMA table_info(工事テーブル)")]
-        behind = columns[columns.index("SD51") + 1:][:12]
-        world.execute("SORANO.MDB", "UPDATE 工事テーブル SET " + ", ".join(f"{name}=?" for name in behind), makers)
-        for number, name in enumerate(parts, 1):
-            world.execute("SORANO.MDB", "UPDATE 部位名テーブル SET 部位名=? WHERE 番号=?", (name, number))
-        world.setting(["Kakou", "重量集計", f"階別集計定取={rng.randint(0, 1)}"])
-        world.setting(["Jyuryo", "定尺", f"定尺13有無={int(sheet.with_13m)}"])
-        return sheet
-
-    def run(self):
-        sheet = self.site(self.schedule())
-        selection = ["--floors", f"{sheet.start}..{sheet.end}", "--special", str(sheet.special), "--kinds",
-                     "0" if sheet.thin else "15", "--uplift", self.rng.choice(["0", "0", "10"])]
-        for form in self.forms:
-            kind, draw = ("floor", FLOOR_FORMS[form]) if form in FLOOR_FORMS else ("part", PART_FORMS[form])
-            self.command("tally", kind, "--format", "json", *selection)
-            sheet.tally = json.loads(self.world.stdout)
-            file = self.world.folder / "trace"
-            file.unlink(missing_ok=True)
-            self.command("report", form, *selection, "--date", "/".join(sheet.date), "--trace", str(file))
-            drawn = file.read_text(encoding="utf-8").splitlines() if file.exists() else []
-            again = [line for document in draw(sheet) for line in document]
-            yield from difflib.unified_diff(again, drawn, f"{form}, second road", f"{form}, rbtally", n=0, lineterm="")
-
-
-class FloorRound(Round):
-    """A site with floors and parts, and the forms of these."""
-
-    def __init__(self, program, folder, rng, number):
-        super().__init__(program, folder, rng, number)
-        floors, parts = list(FLOOR_FORMS), list(PART_FORMS)
-        self.forms = [floors[number % 5], floors[(number + 2) % 5], parts[number % 3]]
-
-    def schedule(self):
-        rng = self.rng
-        lowest = rng.choice([-2, 0, 1])
-        numbered = list(range(lowest, lowest + rng.choice([1, 3, 8, 24])))
-        floors = [numbered[0], numbered[-1], *(rng.choice([*numbered, 76, 77, 78]) for _ in range(rng.randint(0, 40)))]
-        for floor in floors:
-            thin = rng.random() < 0.3
-            diameter = rng.choice([6, 7, 9, 11, 12, 16] if thin else [10, 13, 16, 19, 22, 25, 29, 32, 35, 38, 41, 51])
-            bars, kind = rng.choice([1, 7, 120, 3456]), 2 if thin else rng.choice([1, 4])
-            self.world.row([f"太さ={diameter}", f"予備2={kind}", f"階={floor}", f"部位={rng.randint(0, 12)}",
-                            f"本数={bars}", f"合計={bars}", f"伸総計={bars}", f"伸切寸={rng.randint(300, 8100)}",
-                            f"伸定尺={0 if thin else rng.choice([3.5, 4.0, 6.0, 8.0, 12.0, 13.0])}",
-                            f"圧接={rng.choice([0, 3, 12345])}", f"ネジ数={rng.choice([0, 2])}",
-                            f"切断={rng.randint(0, 99)}"])
-        return numbered
-
-    def site(self, numbered):
-        rng, world = self.rng, self.world
-        texts, codes = self.head()
-        parts = [words(rng, rng.choice([0, 1, 2, 3, 5, 9])) for _ in range(10)]
-        makers = [rng.choice(["", words(rng, rng.randint(1, 8))]) for _ in DIAMETERS]
-        sheet = FloorSheet(**texts, makers=makers, parts=parts, date=(), start=numbered[0], end=numbered[-1],
-                           special=rng.randint(0, 7), thin=rng.random() < 0.3, with_13m=rng.random() < 0.5)
-        sheet.date = self.date(sheet.western)
-        self.take(sheet, codes)
         columns = [found[1] for found in world.execute("SORANO.MDB", "PRAGMA table_info(工事テーブル)")]
         behind = columns[columns.index("SD51") + 1:][:12]
         world.execute("SORANO.MDB", "UPDATE 工事テーブル SET " + ", ".join(f"{name}=?" for name in behind), makers)
