@@ -11,7 +11,9 @@
 #include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
+#include "session/panels/fault_words.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
 
 namespace rbt {
 
@@ -70,7 +72,10 @@ void LoadPresenter::Load() {
 }
 
 void LoadPresenter::Change(const std::function<void()>& change) {
-  if (const auto fault = PassOverFaults(change)) MsgBox(fault->what(), kLoadTitle);
+  const auto fault = PassOverFaults(change);
+  // Who gave up waiting knows that nothing was changed.
+  const bool is_known = fault && RunState.GaveUpWaiting && IsOfLock(*fault);
+  if (fault && !is_known) MsgBox(FaultWords(*fault), kLoadTitle, MessageButtons::ok_to_warning);
   ReadList();
 }
 

@@ -124,7 +124,7 @@ void SavePresenter::Write(const std::string& name, const std::vector<SavedTally>
   });
   if (fault) {
     LogFailure(fault->what());  // the message does not tell why
-    MsgBox(kWriteFailed, kSaveTitle);
+    MsgBox(kWriteFailed, kSaveTitle, MessageButtons::ok_to_warning);
   } else if (!has_rows) {
     MsgBox(kNoData, kNoDataTitle);
   }

@@ -165,7 +165,8 @@ TEST_F(LoadDialog, ADeleteThatFailsShowsTheStoresMessageAndReadsTheListAgain) {
   Open().Select({0});
   site_.Execute(kScheduleFile, "DELETE * FROM 重量集計名称 WHERE 重量集計名称='三'");
   dialog_->Delete();
-  EXPECT_THAT(site_.Told(1), HasSubstr("データの読込: 三"));
+  EXPECT_THAT(site_.Told(1), HasSubstr("データの読込: "));
+  EXPECT_THAT(site_.Told(1), HasSubstr("三: データがありません"));
   EXPECT_THAT(dialog_->View().entries, ElementsAre("二  ", "一  "));
 }
 
@@ -259,7 +260,7 @@ TEST_F(LoadDialog, ARenameThatFailsShowsTheStoresMessageAndReadsTheListAgain) {
   OpenForNaming().TypeNewName("新しい");
   site_.Execute(kScheduleFile, "DELETE * FROM 重量集計名称 WHERE 重量集計名称='三'");
   dialog_->Rename();
-  EXPECT_THAT(site_.Told(), HasSubstr("データの読込: 三"));
+  EXPECT_THAT(site_.Told(), HasSubstr("三: データがありません"));
   const LoadView view = dialog_->View();
   EXPECT_FALSE(view.naming);
   EXPECT_THAT(view.entries, ElementsAre("二  ", "一  "));
