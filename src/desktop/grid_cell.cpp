@@ -21,6 +21,10 @@ QRegularExpressionMatch NumberIn(const QString& text) {
   return number.match(text);
 }
 
+/// Above totals. A line of one pixel may fall between two pixels of a scaled screen, under the line of the
+/// table.
+constexpr int kRule = 2;
+
 }  // namespace
 
 CellParts PartsOfCell(const QString& text) {
@@ -71,10 +75,13 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const QStyle* style = cell.widget != nullptr ? cell.widget->style() : QApplication::style();
   painter->save();
   style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
-  if (numbers) DrawParts(*painter, cell, index);
-  if (total) {
-    // A line of one pixel may fall between two pixels of a scaled screen, under the line of the table.
-    constexpr int kRule = 2;
+  if (numbers) {
+    // Clear of the rule: bold digits reach higher than the words beside them.
+    if (total) cell.rect.adjust(0, kRule, 0, kRule);
+    DrawParts(*painter, cell, index);
+    cell.rect = option.rect;
+  }
+  if (total && !IsTotal(index.row() - 1)) {
     painter->fillRect(cell.rect.left(), cell.rect.top(), cell.rect.width(), kRule,
                       cell.palette.color(QPalette::Text));
   }
