@@ -16,7 +16,6 @@
 namespace rbt::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr const char* kMain = "cmdPercent cmdHonsuu cmdTeisei cmdMeisaiPrint cmdSave cmdLoad cmdMent cmdExit";

@@ -19,7 +19,7 @@ namespace {
 /// A site whose settings name a printer, and the printers that there are; the first is current, with A4
 /// landscape in it.
 struct PrinterSite : SiteFixture {
-  explicit PrinterSite(std::initializer_list<const char*> names) {
+  PrinterSite(std::initializer_list<const char*> names) {
     Settings.TallyPrinter = "事務所";
     std::list<PrinterSurface> printers;
     for (const char* name : names) {
