@@ -46,6 +46,16 @@ constexpr Telling kTellings[] = {
      "書き込める場所に移してから、もう一度操作して下さい。"},
     {std::nullopt, "readonly database", "書き込む権利がありません。",
      "ファイルとフォルダの読み書きの権利を確かめて下さい。"},
+    {std::nullopt, "File name too long", "ファイルの場所の名前が長すぎます。",
+     "短い名前の場所に移してから、もう一度操作して下さい。"},
+    {std::nullopt, "Too many levels of symbolic links", "リンクが自分自身を指しています。",
+     "リンクを直してから、もう一度操作して下さい。"},
+    {std::nullopt, "is no regular file", "ファイルではありません。", "場所と名前を確かめて下さい。"},
+    {std::nullopt, "password", "パスワードが付いているか、先頭が壊れています。",
+     "元のプログラムで開き、パスワードを外してから、もう一度操作して下さい。"},
+    {std::nullopt, "encrypted", "暗号化されているか、先頭が壊れています。",
+     "元のプログラムで開き、暗号を解いてから、もう一度操作して下さい。"},
+    {std::nullopt, "is cut off", "ファイルが途中で切れています。", "控えから戻して下さい。"},
     {std::nullopt, "No space left", "ディスクに空きがありません。",
      "不要なファイルを消してから、もう一度操作して下さい。"},
     {std::nullopt, "disk is full", "ディスクに空きがありません。",
@@ -68,7 +78,7 @@ constexpr Telling kTellings[] = {
      "下の行に示したデータを入れて下さい。"},
     {FaultKind::division_by_zero, "", "0 で割る計算になりました。", "下の行に示したデータを直して下さい。"},
     {FaultKind::subscript_out_of_range, "", "値が決められた範囲の外にあります。",
-     "下の行に示したデータを直して下さい。"},
+     "下の行に示した設定またはデータを直して下さい。"},
 };
 
 const Telling* Find(const Fault& fault) {

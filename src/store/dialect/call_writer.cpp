@@ -94,6 +94,7 @@ WrittenValue ExpressionWriter::Summand(WrittenValue value) const {
   if (value.field == nullptr) return value;
   const std::string place = QuoteText(fmt::format("{}.{}", table_->name, value.field->name));
   value.sql = fmt::format("jet_summand({}, {})", value.sql, place);
+  if (value.field->type == FieldType::single) value.sql = fmt::format("CAST({} AS REAL)", value.sql);
   value.field = nullptr;
   value.may_fault = true;
   return value;

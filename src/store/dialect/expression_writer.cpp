@@ -202,7 +202,7 @@ WrittenValue ExpressionWriter::Number(const Expression& expression) {
   if (!IsNumber(value.value)) {
     Refuse(statement_, expression.place, "a number is expected", FaultKind::type_mismatch);
   }
-  return scope_ == Scope::inside_aggregate ? Summand(std::move(value)) : value;
+  return Summand(std::move(value));
 }
 
 WrittenValue ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {

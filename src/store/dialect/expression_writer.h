@@ -90,7 +90,8 @@ class ExpressionWriter {
   WrittenValue WriteSum(WrittenValue operand, Place place);
 
   WrittenValue Number(const Expression& expression);
-  /// A value that is added up, checked where it comes straight from a row.
+  /// A value that is reckoned with, checked where it comes straight from a row: a file may hold a text where
+  /// a number belongs, which SQLite would take for 0.
   WrittenValue Summand(WrittenValue value) const;
   /// The tested value of a comparison, made ready to compare with values of its class.
   std::string Comparand(const WrittenValue& value) const;

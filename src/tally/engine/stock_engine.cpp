@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <optional>
 
+#include <fmt/format.h>
+
 #include "platform/fault.h"
 #include "platform/numbers/number_words.h"
 
@@ -14,6 +16,7 @@ constexpr std::int32_t kLongestCut = 12000;
 constexpr double kStep = 500.0;  ///< mm between two stock lengths
 constexpr int kLast = 19;        ///< 12.5 m: never searched, but it takes part in the choice of the best
 constexpr int kLastSearched = 18;
+constexpr int kPlaces = 21;  ///< 3.0 m to 13.0 m, the last at which the search can begin
 constexpr double kUntouchedLoss = 5000.0;
 constexpr double kUntouchedWaste = 2147483647.0;
 
@@ -97,6 +100,7 @@ class Search {
   Choice Run(std::int32_t min, std::int32_t max) {
     double stock = min;
     int k = ToInt32(Round(min / kStep - 6.0), "shortest stock");
+    RequirePlace(k, min);
     while (true) {
       if (const auto hit = Try(k, stock)) return *hit;
       if (stock == max) break;  // a longest stock that the steps of 500 do not hit stops nothing
@@ -107,8 +111,16 @@ class Search {
   }
 
  private:
+  /// A length that has no place in the table faults before anything is divided.
+  void RequirePlace(int k, std::int32_t min) const {
+    if (k >= 0 && k < kPlaces) return;
+    throw Fault(FaultKind::subscript_out_of_range,
+                fmt::format("{}: no stock is as short or as long as {} mm",
+                            PlaceOfShortestStock(group_.diameter_code), min));
+  }
+
   std::optional<Choice> Try(int k, double stock) {
-    double& loss = loss_[k];  // a length that has no place in the table faults before anything is divided
+    double& loss = loss_[k];
     loss = LossOf(stock);
     if (by_waste_ && stock >= group_.cut) waste_[k] = Waste(stock, loss);
     if (loss > group_.plus) return std::nullopt;
@@ -151,8 +163,8 @@ class Search {
 
   const Group& group_;
   bool by_waste_;
-  CheckedArray<double, 21> loss_;   ///< remainder of one bar of (k + 6) x 0.5 m
-  CheckedArray<double, 21> waste_;  ///< waste of the whole group
+  CheckedArray<double, kPlaces> loss_;   ///< remainder of one bar of (k + 6) x 0.5 m
+  CheckedArray<double, kPlaces> waste_;  ///< waste of the whole group
 };
 
 Choice ChooseStock(const Group& group, const EngineSettings& settings) {

@@ -51,6 +51,10 @@ class StockLengthLimits {
 /// where the key is missing.
 StockLengthLimits GetStockLengthLimits();
 
+/// The setting that holds a diameter's shortest stock, for a fault: "STEEL.INI [加工帳] D10最小値", also for
+/// the thin diameters that follow it; for a code that no bar has "diameter 8".
+std::string PlaceOfShortestStock(std::int32_t diameter_code);
+
 /// Fixed stock length in mm for a cut length in mm and a diameter code; not above 0 when there is none.
 using FixedStockLookup = std::function<std::int32_t(std::int32_t cut_mm, std::int32_t diameter_code)>;
 

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <string>
 
+#include <fmt/format.h>
+
 #include "data/diameters.h"
 #include "platform/numbers/number_words.h"
 #include "shell/config/settings.h"
@@ -34,6 +36,17 @@ StockLengthLimits GetStockLengthLimits() {
   limits.ones_rounding = ReadNumber(kOnesRoundingKey);
   for (const int thin : kUlbonOnlyCodes) limits.Set(thin, limits.Min(10), limits.Max(10));
   return limits;
+}
+
+std::string PlaceOfShortestStock(std::int32_t diameter_code) {
+  const auto* const thin = std::find(kUlbonOnlyCodes.begin(), kUlbonOnlyCodes.end(), diameter_code);
+  const std::int32_t code =
+      thin == kUlbonOnlyCodes.end() ? diameter_code : StockLimitKeys.front().diameter_code;
+  const auto* const key =
+      std::find_if(StockLimitKeys.begin(), StockLimitKeys.end(),
+                   [code](const StockLimitKey& each) { return each.diameter_code == code; });
+  if (key == StockLimitKeys.end()) return fmt::format("diameter {}", diameter_code);
+  return fmt::format("STEEL.INI [{}] {}", key->shortest.section, key->shortest.key);
 }
 
 std::int16_t ReadPlus() {

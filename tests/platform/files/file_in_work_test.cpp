@@ -253,6 +253,17 @@ TEST_F(FilesInWork, OfADayAgoGoWhoeverLeftThem) {
   RemoveOldLeftovers(folder_ / "nowhere");
 }
 
+TEST_F(FilesInWork, HaveFoldersMadeWhoseNamesAreOnTheDiskBeforeAnythingIsPutIntoThem) {
+  const auto make = [&] { MakeFolders(folder_ / "a/b"); };
+  // Each folder is made, then the one above it is synced.
+  for (int change = 1; change <= 4; ++change) {
+    EXPECT_TRUE(test::KilledBeforeChange(change, make)) << change;
+    fs::remove_all(folder_ / "a");
+  }
+  EXPECT_FALSE(test::KilledBeforeChange(5, make));
+  EXPECT_TRUE(fs::is_directory(folder_ / "a/b"));
+}
+
 TEST_F(FilesInWork, HaveFoldersMadeThatGoAgainWhileTheyAreEmpty) {
   {
     const MadeFolder made(folder_ / "a/b");

@@ -361,6 +361,25 @@ TEST(ResultPresenter, AChoiceOfFormsSetsTheCalculationFromTheKinds) {
   }
 }
 
+TEST(ResultPresenter, DialogsOpenBeforeTheBusyNotice) {
+  for (const bool forms : {true, false}) {
+    Presented js(kBulkScreen);
+    bool opened = false;
+    const auto look = [&] {
+      opened = true;
+      EXPECT_FALSE(js.View().busy);
+      EXPECT_TRUE(js.meanwhile.empty());
+    };
+    (forms ? js.forms : js.kinds) = look;
+    js.Open();
+    js.meanwhile.clear();
+    forms ? js.presenter->ChooseForms() : js.presenter->ChooseKinds();
+    EXPECT_TRUE(opened);
+    ASSERT_FALSE(js.meanwhile.empty());
+    EXPECT_TRUE(js.meanwhile.front().busy) << "behind the dialog";
+  }
+}
+
 TEST(ResultPresenter, OnlyTheWholePictureIsPrintedAndAddedUp) {
   struct Case {
     std::int32_t kinds;

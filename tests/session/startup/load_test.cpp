@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -225,6 +229,22 @@ TEST_F(Load, LeavesTheFixedStockTableShutForAnyOtherSetting) {
     SetRegistryText("Kakou", "定尺", "テーブル有無", setting);
     Run();
     EXPECT_EQ(SiteContext.FixedStockDatabase, nullptr) << setting;
+  }
+}
+
+TEST_F(Load, ClearsWhatAProgramThatWasKilledADayAgoHasLeft) {
+  for (const bool only_looks : {true, false}) {
+    const std::filesystem::path left[] = {site_.Data(".rbk-write-1-0"), site_.Data("../.rbk-import-1-0")};
+    for (const auto& file : left) {
+      std::ofstream(file) << "half";
+      std::filesystem::last_write_time(
+          file, std::filesystem::file_time_type::clock::now() - std::chrono::hours(25));
+    }
+    std::ofstream(site_.Data(".rbk-write-2-0")) << "in work";
+    options_.prepare = !only_looks;
+    Run();
+    for (const auto& file : left) EXPECT_EQ(std::filesystem::exists(file), only_looks) << file;
+    EXPECT_TRUE(std::filesystem::exists(site_.Data(".rbk-write-2-0")));
   }
 }
 

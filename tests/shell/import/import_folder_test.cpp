@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/import/import_folder.h"
 
+#include <chrono>
 #include <csignal>
 #include <functional>
 
@@ -10,10 +11,13 @@
 #include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
+#include "platform/system/services.h"
 #include "store/database.h"
+#include "store/database_impl.h"
 #include "support/child_process.h"
 #include "support/fault_of.h"
 #include "support/jet_writer.h"
+#include "support/kept_services.h"
 #include "support/sample.h"
 #include "support/temporary_folder.h"
 
@@ -201,6 +205,20 @@ TEST_F(ImportFolder, FilesOfTheStoreAreCopiedAndOthersNotTaken) {
   const FolderReport report = Take();
   EXPECT_THAT(report.copied, Contains("MTTeijyaku.mdb"));
   EXPECT_THAT(report.not_taken, UnorderedElementsAre("readme.txt", "ZAIKO.MDB"));
+}
+
+TEST_F(ImportFolder, FilesOfTheStoreAreNotCopiedFromTheMidstOfAWrite) {
+  const KeptServices services;
+  Services.LockPatience = std::chrono::milliseconds(0);
+  PutWholeFolder();
+  fs::remove(data_ / "MTTeijyaku.mdb");
+  Database::CreateDatabase(data_ / "MTTeijyaku.mdb").CreateTable(FixedStockFileTables()[0]);
+  Database writer = Database::Open(data_ / "MTTeijyaku.mdb");
+  writer.impl().Connected().Run("BEGIN EXCLUSIVE");
+  const FolderReport report = Take();
+  EXPECT_THAT(report.failed,
+              ElementsAre(AllOf(HasSubstr("another program holds"), HasSubstr("MTTeijyaku.mdb"))));
+  EXPECT_FALSE(fs::exists(root_ / "DATA" / "MTTeijyaku.mdb")) << "nothing is better than half of it";
 }
 
 TEST_F(ImportFolder, NamesThatDifferInLetterCaseOnlyAreRefused) {

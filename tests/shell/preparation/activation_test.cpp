@@ -8,6 +8,8 @@
 #include "platform/files/files.h"
 #include "shell/preparation/preparation.h"
 #include "shell/preparation/random_schedule.h"
+#include "store/database_impl.h"
+#include "support/fault_of.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -15,6 +17,8 @@ namespace {
 
 using testing::Each;
 using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
 
 class Activation : public testing::Test {
  protected:
@@ -105,6 +109,26 @@ TEST_F(Activation, PlatesBeyond32BitsOverflowAndNothingIsWritten) {
     EXPECT_EQ(fault.Kind(), FaultKind::overflow);
   }
   EXPECT_THAT(Kinds(), ElementsAre("null"));
+}
+
+TEST_F(Activation, ATextWhereBarsAreCountedIsATypeMismatchInOneShortLine) {
+  site_.AddRow({{"形状No", 1}, {"本数", 3}, {"ヶ所", 4}});
+  site_.AddRow({{"形状No", 138}, {"本数", 3}, {"ヶ所", 4}});
+  const auto put = [this](const char* shape) {
+    Database::Open(site_.Data(kScheduleFile))
+        .impl()
+        .Connected()
+        .Run(std::string("UPDATE 加工テーブル SET 本数 = '三' WHERE 形状No = ") + shape);
+  };
+  put("1");
+  Refresh();
+  EXPECT_THAT(Plates(), ElementsAre("0", "12")) << "nothing is reckoned with the first row's text";
+  put("138");
+  const std::string told = FaultTextOf([&] { Refresh(); });
+  EXPECT_THAT(told, StartsWith("type mismatch: 加工テーブル.本数: \"三\" is no number: "));
+  EXPECT_THAT(told, HasSubstr("GENBA001.MDB: UPDATE 加工テーブル SET "));
+  EXPECT_LT(told.size(), 400U);
+  EXPECT_THAT(Plates(), ElementsAre("0", "12"));
 }
 
 TEST_F(Activation, MarksSlitBarsOfPart3ByTheirNames) {

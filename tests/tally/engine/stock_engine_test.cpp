@@ -5,10 +5,12 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/fault_of.h"
 
 namespace rbt {
 namespace {
@@ -148,6 +150,16 @@ TEST(StockEngine, HasPlacesFrom3MetresTo13MetresToBeginAt) {
   EXPECT_EQ(Stock(2900, 9, WithLimits(3000, 3000)),
             (StockResult{3, 4, 12.5}));  // nor does 3.0 m, which loses 100
   EXPECT_EQ(FaultOf(2400, 9, 10, WithLimits(2500, 2500)), FaultKind::subscript_out_of_range);
+}
+
+TEST(StockEngine, NamesTheSettingOfAShortestStockWhereNoSearchBegins) {
+  const std::pair<std::int32_t, const char*> cases[] = {
+      {10, "STEEL.INI [加工帳] D10最小値"}, {6, "STEEL.INI [加工帳] D10最小値"}, {8, "diameter 8"}};
+  for (const auto& [code, place] : cases) {
+    EXPECT_EQ(
+        test::FaultTextOf([&] { ComputeStock(2400, Currency::FromInteger(9), code, WithLimits(0, 1000)); }),
+        "subscript out of range: " + std::string(place) + ": no stock is as short or as long as 0 mm");
+  }
 }
 
 TEST(StockEngine, TakesAStockWhoseRemainderIsTheTolerance) {
