@@ -24,13 +24,16 @@ bool IsWholeNumber(std::string_view text) {
   return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// False when help was asked for and given.
+/// False when help, or the version, was asked for and given.
 bool Parse(CLI::App& app, int argc, char** argv) {
   try {
     app.parse(argc, argv);
     return true;
   } catch (const CLI::CallForHelp&) {
     WriteResult(app.help());
+    return false;
+  } catch (const CLI::CallForVersion&) {
+    WriteResult(app.version() + "\n");
     return false;
   } catch (const CLI::ExtrasError&) {
     throw UsageError("unexpected argument " + app.remaining(true).front());
@@ -161,6 +164,7 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
   Order order;
   CLI::App app("Tallies the reinforcing bars of a construction site from its bar schedule.", "rbtally");
   app.require_subcommand(1);
+  app.set_version_flag("--version", "rbtally " RBTALLY_VERSION, "print name and version");
   std::vector<std::pair<CLI::App*, Action>> lines;
   for (const Command& command : commands) {
     CLI::App* line = app.add_subcommand(std::string(command.name), std::string(command.description));
