@@ -77,7 +77,10 @@ void FloorPartPresenter::PrintEachFloor() {
     } else if (IsWanted(PrintedFloorName(floors[i]), std::string(kPrintTitle))) {
       PrintSheet("kai-kakukai", floors[i]);
     }
-    if (i + 1 < floors.size() && !GoesOnPrinting()) return;
+    if (i + 1 < floors.size() && !GoesOnPrinting()) {
+      filters_locked_ = false;  // a correction locks them behind the list of floors alone
+      return;
+    }
   }
 }
 

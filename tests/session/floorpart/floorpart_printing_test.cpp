@@ -102,6 +102,19 @@ TEST_F(FloorPartPrinting, GoingOnIsAskedWithNoAsTheDefaultWhichLeavesThePrintBut
   EXPECT_EQ(FilterButtons(js_->View()), "kinds forms hoops plates");
 }
 
+TEST_F(FloorPartPrinting, NotGoingOnBringsTheSelectionBackThatTheListOfFloorsTookAway) {
+  js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
+  js_->OpenForCorrection().EndCorrection();
+  js_->presenter->OpenPrint();
+  Print(kTotals);
+  js_->presenter->OpenPrint();
+  js_->presenter->ClosePrint();
+  EXPECT_EQ(FilterButtons(js_->View()), "") << "closing the print buttons alone does not";
+  js_->presenter->OpenPrint();
+  Print(kEachFloor, {kNo, kNo});
+  EXPECT_EQ(FilterButtons(js_->View()), "kinds forms hoops plates");
+}
+
 TEST_F(FloorPartPrinting, AFloorWithoutWeightIsPassedOverAndGoingOnStillAsked) {
   js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
   js_->site.AddRow(On(5, 1, TenBars(19, 1, 0)));
