@@ -160,6 +160,13 @@ TEST_F(FloorPartPrinting, TheQuestionForAPartBearsItsName) {
   EXPECT_FALSE(PanelIsOpen());
 }
 
+TEST_F(FloorPartPrinting, GoingOnToTheNextPartIsAskedWithYesAsTheDefault) {
+  Open(kPartScreen);
+  Print(kEachPart, {kNo, kNo});
+  EXPECT_EQ(js_->site.Messages().back().text, "印刷をつづけますか？");
+  EXPECT_EQ(js_->site.Messages().back().buttons, MessageButtons::yes_no);
+}
+
 TEST_F(FloorPartPrinting, AllPartsAreToldByTheSmallWindowAndTheTotalsLeaveThePrintButtons) {
   Open(kPartScreen);
   Print(kAllParts);
