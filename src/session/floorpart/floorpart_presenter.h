@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/system/message.h"
 #include "session/floorpart/floor_input.h"
 #include "session/floorpart/floorpart_screen.h"
 #include "session/floorpart/floorpart_view.h"
@@ -100,7 +101,7 @@ class FloorPartPresenter {
   void PrintSheet(const ReportForm& form, std::int32_t floor_or_part = 0) const;
   void PrintEachFloor();
   void PrintEachPart();
-  bool GoesOnPrinting();
+  bool GoesOnPrinting(MessageButtons buttons);
 
   double& Uplift() const { return Selection.*screen_.uplift; }
   void SetUplift(std::string text);

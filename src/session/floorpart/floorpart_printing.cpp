@@ -77,7 +77,10 @@ void FloorPartPresenter::PrintEachFloor() {
     } else if (IsWanted(PrintedFloorName(floors[i]), std::string(kPrintTitle))) {
       PrintSheet("kai-kakukai", floors[i]);
     }
-    if (i + 1 < floors.size() && !GoesOnPrinting()) return;
+    if (i + 1 < floors.size() && !GoesOnPrinting(MessageButtons::yes_no_default_no)) {
+      filters_locked_ = false;  // a correction locks them behind the list of floors alone
+      return;
+    }
   }
 }
 
@@ -86,13 +89,13 @@ void FloorPartPresenter::PrintEachPart() {
   for (std::int32_t part = kFirstPart; part <= kOtherParts; ++part) {
     const std::string name = part == kOtherParts ? std::string(kOtherPartsLabel) : Get_BuiNa(part);
     if (IsWanted(name, name + "の印刷確認")) PrintSheet("bui-kakubui", part);
-    if (part < kOtherParts && !GoesOnPrinting()) return;
+    if (part < kOtherParts && !GoesOnPrinting(MessageButtons::yes_no)) return;
   }
 }
 
-/// No is the cautious answer, and leaves the print buttons.
-bool FloorPartPresenter::GoesOnPrinting() {
-  const MessageAnswer answer = MsgBox("印刷をつづけますか？", kPrintTitle, MessageButtons::yes_no_default_no);
+/// No leaves the print buttons.
+bool FloorPartPresenter::GoesOnPrinting(MessageButtons buttons) {
+  const MessageAnswer answer = MsgBox("印刷をつづけますか？", kPrintTitle, buttons);
   if (answer == MessageAnswer::no) ClosePrint();
   return answer != MessageAnswer::no;
 }

@@ -102,6 +102,19 @@ TEST_F(FloorPartPrinting, GoingOnIsAskedWithNoAsTheDefaultWhichLeavesThePrintBut
   EXPECT_EQ(FilterButtons(js_->View()), "kinds forms hoops plates");
 }
 
+TEST_F(FloorPartPrinting, NotGoingOnBringsTheSelectionBackThatTheListOfFloorsTookAway) {
+  js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
+  js_->OpenForCorrection().EndCorrection();
+  js_->presenter->OpenPrint();
+  Print(kTotals);
+  js_->presenter->OpenPrint();
+  js_->presenter->ClosePrint();
+  EXPECT_EQ(FilterButtons(js_->View()), "") << "closing the print buttons alone does not";
+  js_->presenter->OpenPrint();
+  Print(kEachFloor, {kNo, kNo});
+  EXPECT_EQ(FilterButtons(js_->View()), "kinds forms hoops plates");
+}
+
 TEST_F(FloorPartPrinting, AFloorWithoutWeightIsPassedOverAndGoingOnStillAsked) {
   js_ = std::make_unique<FloorPartPresented>(kFloorScreen);
   js_->site.AddRow(On(5, 1, TenBars(19, 1, 0)));
@@ -145,6 +158,13 @@ TEST_F(FloorPartPrinting, TheQuestionForAPartBearsItsName) {
             name + "の印刷確認: " + name + "を印刷しますか？|印刷確認: 印刷をつづけますか？|");
   EXPECT_EQ(js_->printed, "");
   EXPECT_FALSE(PanelIsOpen());
+}
+
+TEST_F(FloorPartPrinting, GoingOnToTheNextPartIsAskedWithYesAsTheDefault) {
+  Open(kPartScreen);
+  Print(kEachPart, {kNo, kNo});
+  EXPECT_EQ(js_->site.Messages().back().text, "印刷をつづけますか？");
+  EXPECT_EQ(js_->site.Messages().back().buttons, MessageButtons::yes_no);
 }
 
 TEST_F(FloorPartPrinting, AllPartsAreToldByTheSmallWindowAndTheTotalsLeaveThePrintButtons) {

@@ -120,6 +120,21 @@ TEST(FloorPartSaved, ALoadedTallyIsNeitherFilteredNorRaisedNorCorrected) {
   }
 }
 
+TEST(FloorPartSaved, NoPrintBringsTheSelectionBackToALoadedTally) {
+  constexpr std::size_t kEachFloor = 1;
+  constexpr std::size_t kTotals = 2;
+  for (const std::size_t sheet : {kEachFloor, kTotals}) {
+    SavingScreen js(kFloorScreen);
+    js.SaveAllAndTallyOne().Load();
+    js.presenter->OpenPrint();
+    js.site.Answer(MessageAnswer::no);
+    js.site.Answer(MessageAnswer::no);
+    js.presenter->Print(sheet);
+    EXPECT_FALSE(js.View().print_panel.open);
+    EXPECT_EQ(FilterButtons(js.View()), "");
+  }
+}
+
 TEST(FloorPartSaved, ALoadedTallyOfAllFloorsCanBeSavedAgainWhereAllWereTallied) {
   SavingScreen js(kFloorScreen);
   js.OpenWithAll().Save();
