@@ -3,16 +3,13 @@
 
 #include <fmt/format.h>
 
+#include "archive/store/saved_rows.h"
 #include "data/quoted_text.h"
 #include "platform/fault.h"
 
 namespace rbt {
 
 namespace {
-
-/// All tables but that of the names, which goes last.
-constexpr std::array<std::string_view, 5> kRowTables{"重量集計", "階部位重量集計", "階別重量集計",
-                                                     "部位別重量集計", "部位別本重集計"};
 
 void RequireThere(std::int64_t written, const SavedTally& saved) {
   if (written == 0) throw Fault(FaultKind::database, fmt::format("{}: データがありません", saved.name));
@@ -23,6 +20,7 @@ void RequireThere(std::int64_t written, const SavedTally& saved) {
 void DeleteTally(Database& site, const SavedTally& saved) {
   const std::string condition = KeyCondition(saved.key);
   Transaction transaction(site);
+  // The name goes last.
   for (const std::string_view table : kRowTables) {
     // A site from before a table has no rows of it.
     if (site.FindTable(table) != nullptr)

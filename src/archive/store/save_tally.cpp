@@ -5,6 +5,7 @@
 
 #include "archive/store/saved_rows.h"
 #include "data/reference.h"
+#include "platform/fault.h"
 #include "shell/context/reference_names.h"
 #include "shell/context/site_context.h"
 
@@ -40,6 +41,15 @@ void DeleteReplaced(Database& site, const SavedTally& replaced) {
   site.Execute(fmt::format("DELETE * FROM 重量集計名称 WHERE {}", condition));
 }
 
+/// What an overwritten tally of floors or parts left behind would come back among new rows of its moment.
+void RequireFreeMoment(Database& site, const SavedKey& key) {
+  for (const std::string_view table : kRowTables) {
+    if (site.FindTable(table) == nullptr) continue;
+    if (!site.HasRows(fmt::format("SELECT * FROM {} WHERE {}", table, KeyCondition(key)))) continue;
+    throw Fault(FaultKind::database, fmt::format("{}: rows of {} {} are there", table, key.date, key.time));
+  }
+}
+
 }  // namespace
 
 DiameterSupply SupplyOfSite() {
@@ -58,6 +68,7 @@ bool SaveTally(Database& site, const TallyResult& result, const SaveOrder& order
   if (rows.empty()) return false;
   Transaction transaction(site);
   for (const SavedTally& old : replaced) DeleteReplaced(site, old);
+  RequireFreeMoment(site, order.key);
   for (const std::string& statement : rows) site.Execute(statement);
   site.Execute(NameStatement(result, order));
   transaction.Commit();

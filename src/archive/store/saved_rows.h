@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "archive/store/saved_cells.h"
@@ -9,6 +11,10 @@
 #include "tally/tally_result.h"
 
 namespace rbt {
+
+/// All tables of saved tallies but that of the names.
+inline constexpr std::array<std::string_view, 5> kRowTables{"重量集計", "階部位重量集計", "階別重量集計",
+                                                            "部位別重量集計", "部位別本重集計"};
 
 /// What the rows of a tally get beside its figures.
 struct RowOrder {

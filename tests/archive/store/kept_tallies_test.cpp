@@ -157,6 +157,24 @@ TEST_F(KeptTallies, TheSecondOfTwoSavesInOneSecondFailsAndLeavesTheFirstWhole) {
   }
 }
 
+TEST_F(KeptTallies, RowsThatAnOverwriteLeavesBehindNeverMixWithNewOnesOfTheirMoment) {
+  RandomTallies random(4);
+  for (const TallyResult& old : {random.Floors({}), random.Parts({})}) {
+    ASSERT_TRUE(site_.Save(old, ArchiveSite::Order("全階")));
+    const auto before = site_.Dump();
+    TallyResult other = old;  // of another kind of material, so that no key is met twice
+    other.selection.MaterialKindMask = KindMask(old.selection.MaterialKindMask.AsNumber() == 1 ? 2 : 1);
+    Database site = site_.Open();
+    EXPECT_EQ(FaultOf([&] { SaveTally(site, other, ArchiveSite::Order("全階"), site_.List(old.kind)); }),
+              FaultKind::database);
+    EXPECT_EQ(site_.Dump(), before);
+    ASSERT_TRUE(SaveTally(site, other, ArchiveSite::Order("全階", 1), site_.List(old.kind)));
+    EXPECT_EQ(FaultOf([&] { SaveTally(site, other, ArchiveSite::Order("別"), {}); }), FaultKind::database)
+        << "the clock was set back to what was overwritten";
+    for (const char* table : kArchiveTables) site.Execute(std::string("DELETE * FROM ") + table);
+  }
+}
+
 TEST_F(KeptTallies, AnOverwriteThatFailsLeavesTheOldTally) {
   ASSERT_TRUE(site_.Save(SmallTally(), ArchiveSite::Order("一")));
   const auto before = site_.Dump();

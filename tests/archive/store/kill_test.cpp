@@ -71,6 +71,13 @@ TEST_F(KilledChange, AnOverwriteIsWholeOrNot) {
   });
 }
 
+TEST_F(KilledChange, AnOverwriteOfFloorsIsWholeOrNot) {
+  ExpectAllOrNothing([&] {
+    Database site = site_.Open();
+    SaveTally(site, floors_, ArchiveSite::Order("全階", 9), SavedTallies(site, TallyKind::floor, false));
+  });
+}
+
 TEST_F(KilledChange, ADeleteIsWholeOrNot) {
   ExpectAllOrNothing([&] {
     Database site = site_.Open();

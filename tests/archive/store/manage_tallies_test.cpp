@@ -6,6 +6,7 @@
 
 #include "archive/store/archive_site.h"
 #include "archive/store/random_tallies.h"
+#include "support/child_process.h"
 #include "support/fault_of.h"
 
 namespace rbt::test {
@@ -78,6 +79,22 @@ TEST_F(Management, ANameThatTheFieldCannotHoldIsAFaultAndTheOldOneStays) {
   EXPECT_EQ(FaultOf([&] { Rename(site_.List(TallyKind::bulk).front(), std::string(121, 'x')); }),
             FaultKind::database);
   EXPECT_EQ(site_.List(TallyKind::bulk).front().name, "一");
+}
+
+TEST_F(Management, AFullDiskIsAFaultAndLeavesTheArchiveAsItWas) {
+  RandomTallies random(2);
+  const TallyResult floors = random.Floors({});
+  ASSERT_TRUE(site_.Save(floors, ArchiveSite::Order("一")));
+  const auto before = site_.Dump();
+  const SavedTally saved = site_.List(TallyKind::floor).front();
+  EXPECT_TRUE(WithFilesOfAtMost(512, [&] {
+    EXPECT_EQ(FaultOf([&] { Delete(saved); }), FaultKind::storage);
+    EXPECT_EQ(FaultOf([&] { Rename(saved, "二"); }), FaultKind::storage);
+    Database site = site_.Open();
+    EXPECT_EQ(FaultOf([&] { SaveTally(site, floors, ArchiveSite::Order("一", 1), {{saved}}); }),
+              FaultKind::storage);
+  }));
+  EXPECT_EQ(site_.Dump(), before);
 }
 
 TEST_F(Management, TalliesAreDeletedFromASiteThatLacksTheTablesOfOtherKinds) {

@@ -1,39 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The forms of floors and parts with the dialogs of saved tallies over them.
-#include <QApplication>
-#include <QListWidget>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "archive/store/saved_tallies.h"
 #include "screens/floorpart/floorpart_form_driver.h"
 #include "screens/floorpart/floorpart_forms.h"
 #include "shell/context/site_context.h"
+#include "support/desktop/next_dialog.h"
 
 namespace rbt::test {
 
 namespace {
-
-/// Does something with the next dialog that comes up, once it is shown.
-class WithNextDialog {
- public:
-  explicit WithNextDialog(std::function<void(QWidget&)> act) {
-    timer_.setInterval(5);
-    QObject::connect(&timer_, &QTimer::timeout, [this, act = std::move(act)] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      if (dialog == nullptr || !dialog->isVisible()) return;
-      timer_.stop();
-      met = dialog->objectName().toStdString();
-      act(*dialog);
-    });
-    timer_.start();
-  }
-
-  std::string met;
-
- private:
-  QTimer timer_;
-};
 
 class SavingForm {
  public:
@@ -57,13 +34,6 @@ class SavingForm {
   FloorPartSite site;
   std::unique_ptr<QWidget> form;
 };
-
-void SaveAsProposed(QWidget& dialog) { Press(dialog, Qt::Key_F1); }
-
-void LoadTheFirst(QWidget& dialog) {
-  dialog.findChild<QListWidget*>("List1")->item(0)->setSelected(true);
-  Press(dialog, Qt::Key_F1);
-}
 
 }  // namespace
 
