@@ -103,6 +103,26 @@ TEST(ResultPresenterDetail, TellsTheSelectionThatASavedTallyLoadedThereIsOf) {
   }
 }
 
+TEST(ResultPresenterDetail, TellsNoRangeOfASavedTallyUntilItsRowsAreTalliedAgain) {
+  for (const ResultScreen* screen : {&kPageScreen, &kPageShapeScreen}) {
+    Presented js(*screen);
+    js.detail = WithTwentyBars;
+    js.OpenWithResult();
+    const std::string told = js.View().filters.range;
+    EXPECT_NE(told, "");
+    js.presenter->ShowDetail();
+    EXPECT_EQ(js.View().filters.range, told) << "a correction is of the same rows";
+    js.detail = [](TallyResult result) {
+      result.was_saved = true;
+      return WithTwentyBars(std::move(result));
+    };
+    js.presenter->ShowDetail();
+    EXPECT_EQ(js.View().filters.range, "") << screen->name;
+    js.presenter->CycleHoops();
+    EXPECT_EQ(js.View().filters.range, told);
+  }
+}
+
 TEST(ResultPresenterDetail, KeepsTheUpliftOfItsUlbonRows) {
   Presented js(kBulkScreen);
   js.detail = [](const TallyResult& result) { return CountTally(result.kind); };
