@@ -2,8 +2,8 @@
 cmake_minimum_required(VERSION 3.25)
 # Fails at a file that includes from a room which its own room does not use, or Qt below the desktop, or that could set
 # the services, which is main's and the tests', or that knows a library which one place knows, reads the clock, or has a
-# global object of its own; at tests that do not mirror the house; at a map that does not name its rooms. HOUSE has a
-# line per room: its folder, its floor, qt or -, the rooms that it uses.
+# global object of its own; at two headers that define types of one name; at tests that do not mirror the house; at a
+# map that does not name its rooms. HOUSE has a line per room: its folder, its floor, qt or -, the rooms that it uses.
 file(STRINGS ${HOUSE} house)
 set(rooms "")
 foreach(line IN LISTS house)
@@ -41,6 +41,20 @@ function(check_state file)
   set(faults "${faults}" PARENT_SCOPE)
 endfunction()
 
+# One name is one type everywhere: where two headers meet, in a source or at the link, it could not be both.
+function(check_types file)
+  file(STRINGS ${file} lines REGEX "^(struct|class|enum class) [A-Za-z0-9_]+( final)?( *:[^:].*)? *{")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^(struct|class|enum class) ([A-Za-z0-9_]+).*" "\\2" type "${line}")
+    if(type IN_LIST types)
+      list(APPEND faults "${file}: another header defines ${type} too")
+    endif()
+    list(APPEND types ${type})
+  endforeach()
+  set(types "${types}" PARENT_SCOPE)
+  set(faults "${faults}" PARENT_SCOPE)
+endfunction()
+
 function(check_file file room)
   file(STRINGS ${file} lines REGEX "^ *# *include")
   foreach(line IN LISTS lines)
@@ -74,6 +88,7 @@ endfunction()
 
 file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/src/*.h ${ROOT}/src/*.cpp ${ROOT}/demo/*.h ${ROOT}/demo/*.cpp
      ${ROOT}/showroom/*.h ${ROOT}/showroom/*.cpp)
+set(types "")
 foreach(file IN LISTS files)
   get_filename_component(room ${file} DIRECTORY)
   string(REGEX REPLACE "^src/" "" room ${room})
@@ -85,6 +100,9 @@ foreach(file IN LISTS files)
   if(NOT file MATCHES "/main\\.cpp$")
     check_file(${ROOT}/${file} ${room})
     check_state(${ROOT}/${file})
+  endif()
+  if(file MATCHES "\\.h$")
+    check_types(${ROOT}/${file})
   endif()
 endforeach()
 

@@ -9,6 +9,7 @@
 #include "shell/config/settings.h"
 #include "tally/detail/detail_change.h"
 #include "tally/detail/detail_entry.h"
+#include "tally/detail/detail_grid.h"
 
 namespace rbt {
 
@@ -25,8 +26,6 @@ std::optional<CellChange> ParseCellChange(std::string_view text) {
   return CellChange{std::string(text.substr(0, slash)),
                     std::string(text.substr(slash + 1, equals - slash - 1)), std::string(count)};
 }
-
-int ColumnsInUse() { return StockColumnsInUse(ReadSetting(kUse13mColumnKey) == 1); }
 
 std::optional<DetailCell> CellOf(const CellChange& change, int columns) {
   return CellOfWords(change.row, change.column, columns);
@@ -60,7 +59,8 @@ void AddChangeOptions(CommandLine& line, DetailChanges& changes, const std::stri
 }
 
 void RequireCells(const DetailChanges& changes) {
-  const int columns = ColumnsInUse();
+  // No site is open yet, and the settings are not loaded.
+  const int columns = StockColumnsInUse(ReadSetting(kUse13mColumnKey) == 1);
   for (const auto& change : changes) {
     const auto* cell = std::get_if<CellChange>(&change);
     if (cell == nullptr || CellOf(*cell, columns)) continue;
@@ -69,7 +69,7 @@ void RequireCells(const DetailChanges& changes) {
 }
 
 TallyResult Changed(TallyResult result, const DetailChanges& changes) {
-  const int columns = ColumnsInUse();
+  const int columns = StockColumnsOf(DetailLayoutOf(Settings));
   for (const auto& change : changes) {
     result = std::visit([&](const auto& one) { return Apply(std::move(result), one, columns); }, change);
   }

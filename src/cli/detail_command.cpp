@@ -27,7 +27,7 @@ struct DetailOptions {
 /// The result in the asked form: as the tally writes it, or as the grid of the screen.
 std::string TextOf(const TallyResult& result, const std::string& format) {
   if (format == "json") return ResultJson(result);
-  const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  const DetailLayout layout = DetailLayoutOf(Settings);
   const auto captions = DetailCaptions(layout);
   const GridRows rows = DetailRows(result.Grid(), layout);
   return format == "csv" ? GridCsv(captions, rows) : GridTable(captions, rows);

@@ -34,6 +34,7 @@ struct TallyResult {
   bool has_anchor_plate_rows = false;  ///< likewise
   std::int32_t ulbon_percent = 0;      ///< the Ulbon rows are shown and printed so much higher
   bool bars_raised = false;            ///< the bars of the purchase list were raised by a percentage
+  bool was_saved = false;              ///< loaded, whatever was changed in it since
   bool saved_as_corrected = false;     ///< loaded, and corrected by hand before it was saved
   TallyTables tables = {};
 

@@ -84,6 +84,7 @@ LoadedTally LoadTally(Database& site, const SavedTally& saved, bool with_13m) {
   TallyResult& result = loaded.result;
   result.kind = saved.kind;
   result.origin = ResultOrigin::loaded;
+  result.was_saved = true;
   result.saved_as_corrected = saved.corrected;
   result.selection = SelectionFor(saved);
   loaded.has_rows = family.read(site, saved.key, with_13m, result);

@@ -197,7 +197,7 @@ inline constexpr MemoLayout kMemosA4T{
     .x = {530, 530, 530}, .line = 300, .width = 10300, .size = 13, .characters = 30};
 
 /// A purchase list on one paper.
-struct DetailForm {
+struct DetailPaper {
   const DetailHeads& heads;
   GroupBand band;  ///< repeats of the frame
   std::span<const RepeatRule> rules;
@@ -246,13 +246,13 @@ inline constexpr OwnCompanyPart kOwnCompanyA4T{.x = 6550, .y = 1100};
 inline constexpr float kRowGapA4Y = 80;
 inline constexpr float kRowGapA4T = 120;
 
-inline constexpr DetailForm kMeisaiA4Y{kHeadsA4Y, {500, 2190, 7}, kRulesA4Y, kBlocksA4Y,
-                                       kSumsA4Y,  kRowGapA4Y,     kMemosA4Y, kOwnCompanyA4Y};
-inline constexpr DetailForm kMeisaiA4YCount{kHeadsA4Y, {500, 1910, 8}, kRulesA4YCount, kBlocksA4YCount,
-                                            kSumsA4Y,  kRowGapA4Y,     kMemosA4Y,      kOwnCompanyA4Y};
-inline constexpr DetailForm kMeisaiA4T{kHeadsA4T, {500, 3450, 3}, kRulesA4T, kBlocksA4T,
-                                       kSumsA4T,  kRowGapA4T,     kMemosA4T, kOwnCompanyA4T};
-inline constexpr DetailForm kMeisaiA4TCount{kHeadsA4T, {500, 3450, 3}, kRulesA4TCount, kBlocksA4TCount,
-                                            kSumsA4T,  kRowGapA4T,     kMemosA4T,      kOwnCompanyA4T};
+inline constexpr DetailPaper kMeisaiA4Y{kHeadsA4Y, {500, 2190, 7}, kRulesA4Y, kBlocksA4Y,
+                                        kSumsA4Y,  kRowGapA4Y,     kMemosA4Y, kOwnCompanyA4Y};
+inline constexpr DetailPaper kMeisaiA4YCount{kHeadsA4Y, {500, 1910, 8}, kRulesA4YCount, kBlocksA4YCount,
+                                             kSumsA4Y,  kRowGapA4Y,     kMemosA4Y,      kOwnCompanyA4Y};
+inline constexpr DetailPaper kMeisaiA4T{kHeadsA4T, {500, 3450, 3}, kRulesA4T, kBlocksA4T,
+                                        kSumsA4T,  kRowGapA4T,     kMemosA4T, kOwnCompanyA4T};
+inline constexpr DetailPaper kMeisaiA4TCount{kHeadsA4T, {500, 3450, 3}, kRulesA4TCount, kBlocksA4TCount,
+                                             kSumsA4T,  kRowGapA4T,     kMemosA4T,      kOwnCompanyA4T};
 
 }  // namespace rbt

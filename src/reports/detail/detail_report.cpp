@@ -60,7 +60,7 @@ CellValue SumOf(const TallyTable& table, int d, DetailSum sum) {
 bool IsWeight(DetailSum sum) { return sum == DetailSum::stock_weight || sum == DetailSum::installed_weight; }
 
 /// The rows below the lengths: installed weight only where it is asked for.
-std::vector<SumRow> SumRowsOf(const DetailForm& form, bool installed) {
+std::vector<SumRow> SumRowsOf(const DetailPaper& form, bool installed) {
   std::vector<SumRow> rows;
   for (const SumRow& row : form.sums) {
     if (row.shows != DetailSum::installed_weight || installed) rows.push_back(row);
@@ -69,13 +69,13 @@ std::vector<SumRow> SumRowsOf(const DetailForm& form, bool installed) {
 }
 
 /// True where the form has a place for installed weights: on A4 portrait it has none.
-bool ShowsInstalled(const DetailForm& form, const DetailArguments& arguments) {
+bool ShowsInstalled(const DetailPaper& form, const DetailArguments& arguments) {
   return arguments.Installed && std::ranges::any_of(form.sums, [](const SumRow& row) {
            return row.shows == DetailSum::installed_weight;
          });
 }
 
-ReportHead HeadOfSheet(const DetailForm& form, const DetailSheet& sheet) {
+ReportHead HeadOfSheet(const DetailPaper& form, const DetailSheet& sheet) {
   ReportHead head = HeadOf(sheet.title, sheet.site, sheet.arguments);
   head.spreads_title = sheet.own_title;
   head.total_weight = sheet.table.TotalStockWeight.ToDouble();
@@ -97,7 +97,7 @@ std::string FittedMemo(PrinterSurface& Printer, std::string_view memo, float wid
 /// The pages of a purchase list.
 class DetailSheets {
  public:
-  DetailSheets(ReportPen& pen, const DetailForm& form, const DetailSheet& sheet)
+  DetailSheets(ReportPen& pen, const DetailPaper& form, const DetailSheet& sheet)
       : pen_(pen),
         form_(form),
         sheet_(sheet),
@@ -241,7 +241,7 @@ class DetailSheets {
   }
 
   ReportPen& pen_;
-  const DetailForm& form_;
+  const DetailPaper& form_;
   const DetailSheet& sheet_;
   ReportHead head_;
   std::vector<int> diameters_;
@@ -262,7 +262,7 @@ std::vector<int> ListedDiameters(const TallyTable& table, bool empty_diameters) 
   return rows;
 }
 
-CutFigures DrawDetail(PrinterSurface& Printer, const DetailForm& form, const DetailSheet& sheet) {
+CutFigures DrawDetail(PrinterSurface& Printer, const DetailPaper& form, const DetailSheet& sheet) {
   ReportPen pen(Printer);
   DetailSheets(pen, form, sheet).Draw();
   return pen.cut_figures;

@@ -31,6 +31,6 @@ std::vector<int> ListedDiameters(const TallyTable& table, bool empty_diameters);
 /// Draws a purchase list as one document: the diameters side by side, on as many pages as they take, with
 /// head, frame and own company on each. Without a diameter there is one page with an empty frame. Returns the
 /// figures that its fields cut.
-CutFigures DrawDetail(PrinterSurface& Printer, const DetailForm& form, const DetailSheet& sheet);
+CutFigures DrawDetail(PrinterSurface& Printer, const DetailPaper& form, const DetailSheet& sheet);
 
 }  // namespace rbt

@@ -25,7 +25,7 @@ std::string TitleOf(const SettingsData& settings) {
   }
 }
 
-CutFigures DrawSite(PrinterSurface& Printer, const DetailForm& form, const ReportArguments& arguments,
+CutFigures DrawSite(PrinterSurface& Printer, const DetailPaper& form, const ReportArguments& arguments,
                     const TallyResult& result) {
   return DrawDetail(Printer, form,
                     {.site = ReadReportSite(),

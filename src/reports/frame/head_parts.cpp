@@ -47,7 +47,7 @@ struct ProjectLine {
     RuleAt(Printer, rule_y, part.x, RuleEndX(Printer, NamePlace(part, form), name.name));
   }
 
-  void operator()(const LongName& name) const {
+  void operator()(const OneLineName& name) const {
     PrinterSurface& Printer = pen.Printer;
     const NameForm& form = part.long_form;
     Printer.FontSize = form.label_size;
@@ -84,7 +84,7 @@ struct ProjectLine {
 /// Row of the sub-project text under the project's name, none where there is no room.
 std::optional<RowPlace> SubProjectRow(const SubProjectPart& part, const ProjectName& project) {
   if (std::holds_alternative<ShortName>(project)) return part.under_short;
-  return std::holds_alternative<LongName>(project) ? part.under_long : part.under_broken;
+  return std::holds_alternative<OneLineName>(project) ? part.under_long : part.under_broken;
 }
 
 /// In the size that goes by the form of the name, unless the text would run into what stands beside it.
@@ -92,7 +92,7 @@ float SubProjectSize(const SubProjectPart& part, const ReportHead& head, std::st
   constexpr std::size_t kLongText = 22;
   constexpr float kSmallSize = 7;
   const bool is_long =
-      std::holds_alternative<LongName>(head.project) && CharacterCount(head.sub_project) > kLongText;
+      std::holds_alternative<OneLineName>(head.project) && CharacterCount(head.sub_project) > kLongText;
   const float size = is_long ? part.long_text_size : part.size;
   const bool runs_on = part.text_end > 0 && part.x + TextWidthAt(size, text) > part.text_end;
   return runs_on ? kSmallSize : size;

@@ -23,7 +23,7 @@ std::string DocumentTitle(std::string_view title, const ReportSite& site) {
 
 ProjectName ProjectNameOf(const ReportSite& site) {
   if (site.long_name.empty()) return ShortName{site.short_name};
-  if (site.koji_break == kOneLine) return LongName{site.long_name};
+  if (site.koji_break == kOneLine) return OneLineName{site.long_name};
   const CutName cut = CutAtBreak(site.long_name, site.koji_break);
   return BrokenName{std::string(cut.first), std::string(cut.rest)};
 }

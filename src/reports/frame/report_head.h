@@ -14,14 +14,14 @@ namespace rbt {
 struct ShortName {
   std::string name;
 };
-struct LongName {
+struct OneLineName {
   std::string name;
 };
 struct BrokenName {  ///< a long name on two lines
   std::string first;
   std::string rest;
 };
-using ProjectName = std::variant<ShortName, LongName, BrokenName>;
+using ProjectName = std::variant<ShortName, OneLineName, BrokenName>;
 /// A site without a long name has its short one; a long one is broken at 長い工事名's break, if it has one.
 ProjectName ProjectNameOf(const ReportSite& site);
 

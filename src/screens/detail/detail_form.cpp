@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,6 +14,7 @@
 #include "screens/panels/boxes.h"
 #include "screens/panels/digit_box.h"
 #include "screens/panels/form_actions.h"
+#include "screens/panels/hint_line.h"
 #include "session/panels/at_end.h"
 #include "ui_detail_form.h"
 
@@ -66,14 +66,14 @@ DetailForm::DetailForm(TallyResult result, DetailParts parts)
   BindPercent();
   BindGrid();
   ConnectActions();
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowHelp(now); });
+  ui_->SSPanel4->Float(*ui_->formLayout);
+  // Each panel of buttons has a line of its own below the list.
+  for (QLabel* line : {ui_->MSGB, ui_->MSGB1}) new HintLine(*this, *line, DetailHints(), kDetailHelp);
+  presenter_.OnShow([this] { Show(); });
   Show();
 }
 
-DetailForm::~DetailForm() {
-  // The focus moves once more while the controls go.
-  disconnect(qApp, nullptr, this, nullptr);
-}
+DetailForm::~DetailForm() = default;
 
 void DetailForm::TakeCaptions() {
   // The memos of this form stand together; the one in the head that screens share stays out of sight.
@@ -81,7 +81,6 @@ void DetailForm::TakeCaptions() {
   for (const DetailButtonRow& row : DetailButtons()) {
     auto* button = findChild<QPushButton*>(Text(row.control));
     button->setText(Text(row.caption));
-    button->setToolTip(Text(row.help));
   }
   KeepRoomOf(*ui_->picPercent);
 }
@@ -136,7 +135,7 @@ void DetailForm::Show() {
     close();
     return;
   }
-  ShowPanels(view);
+  focus_over_work_.Show(view.busy, [&] { ShowPanels(view); });
   Focus(view.focus);
 }
 
@@ -161,20 +160,8 @@ void DetailForm::ShowPanels(const DetailView& view) {
                                                          {ui_->SSPanel2, !printing},
                                                          {ui_->MSGB1, printing},
                                                          {ui_->SSPanel3, printing}}};
-  // One takes another's place: the form must not grow to hold both.
-  for (const auto& [panel, shown] : panels) {
-    if (!shown) panel->hide();
-  }
-  for (const auto& [panel, shown] : panels) {
-    if (shown) panel->show();
-  }
-}
-
-void DetailForm::ShowHelp(const QWidget* focused) {
-  if (focused == nullptr || focused->window() != this) return;
-  const QString help = Text(HelpOf(focused->objectName().toStdString()));
-  ui_->MSGB->setText(help);
-  ui_->MSGB1->setText(help);
+  SwitchPanels(panels);
+  ui_->SSPanel4->ShowOver(ui_->dbgZaimei->geometry(), view.busy);
 }
 
 void DetailForm::Focus(std::string_view control) {

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include "screens/panels/stage.h"
 #include "session/detail/detail_presenter.h"
 
 namespace Ui {
@@ -47,12 +48,11 @@ class DetailForm : public QWidget {
 
   void Show();
   void ShowPanels(const DetailView& view);
-  /// Of the control that has the focus.
-  void ShowHelp(const QWidget* focused);
   void Focus(std::string_view control);
 
   DetailPresenter presenter_;
   std::unique_ptr<Ui::DetailForm> ui_;
+  FocusOverWork focus_over_work_{*this};
 };
 
 }  // namespace rbt

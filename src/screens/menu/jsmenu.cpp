@@ -81,7 +81,7 @@ void JSMENU::Activate() {
   if (!RunAction(*this, [this] { presenter_.Activate(); })) presenter_.End(EXIT_FAILURE);
 }
 
-void JSMENU::ShowLoad(const LoadView& view) {
+void JSMENU::ShowLoad(const MenuLoadView& view) {
   ui_->cmdPlateSheet->setVisible(view.shows_plate_sheet);
   ui_->LabelCD->setText(Text(view.date));
   ui_->LabelCT->setText(Text(view.time));

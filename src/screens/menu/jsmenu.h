@@ -41,7 +41,7 @@ class JSMENU : public QWidget, private MenuWindow {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  void ShowLoad(const LoadView& view) override;
+  void ShowLoad(const MenuLoadView& view) override;
   void Hide() override;
   void Minimise() override { showMinimized(); }
   void ShowAgain() override;

@@ -8,8 +8,9 @@
 
 namespace rbt {
 
-HintLine::HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hints)
-    : QObject(&form), form_(form), line_(line) {
+HintLine::HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hints,
+                   std::string_view otherwise)
+    : QObject(&form), form_(form), line_(line), otherwise_(Text(otherwise)) {
   for (const ControlHint& row : hints) {
     auto* control = form.findChild<QWidget*>(Text(row.control));
     if (control == nullptr) continue;
@@ -23,7 +24,7 @@ HintLine::HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hin
 
 void HintLine::Tell(const QWidget* focused) {
   const auto hint = hints_.find(focused);
-  line_.setText(hint == hints_.end() ? QString() : hint->second);
+  line_.setText(hint == hints_.end() ? otherwise_ : hint->second);
 }
 
 }  // namespace rbt

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <span>
+#include <string_view>
 
 #include <QObject>
 #include <QString>
@@ -14,18 +15,19 @@ class QWidget;
 
 namespace rbt {
 
-/// Tells in a label of a form what its focused control does; every control has the same words as its tool
-/// tip.
+/// Tells in a label of a form what its focused control does, and `otherwise` of one without a hint; every
+/// control has its own words as its tool tip too.
 class HintLine : public QObject {
  public:
   /// Controls that the form does not have are left out.
-  HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hints);
+  HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hints, std::string_view otherwise = {});
 
  private:
   void Tell(const QWidget* focused);
 
   QWidget& form_;
   QLabel& line_;
+  QString otherwise_;
   std::map<const QWidget*, QString> hints_;
 };
 

@@ -6,6 +6,8 @@
 #include <span>
 #include <string_view>
 
+#include "session/panels/views.h"
+
 namespace rbt {
 
 /// Buttons of the detail screen `ZAIMEI`, the main ones from the left, then those of the print panel.
@@ -31,13 +33,15 @@ struct DetailButtonRow {
   std::string_view caption;
   int key;  ///< 1 to 7: F1 to F7; 0: Esc
   bool in_print_panel;
-  std::string_view help;  ///< while it has the focus; empty: that of the screen
 };
 std::span<const DetailButtonRow, kDetailButtonCount> DetailButtons();
 const DetailButtonRow& RowOf(DetailButton button);
 
-/// The help line while a control has the focus: that of the button or field, else that of the screen.
-std::string_view HelpOf(std::string_view control);
+/// What the main buttons and the fields tell of themselves.
+std::span<const ControlHint> DetailHints();
+/// What the screen tells while another control has the focus.
+inline constexpr std::string_view kDetailHelp =
+    "F1 ～ F6　キーで選択して下さい（マウスクリックでも可）　　　　ESC : 終了";
 
 inline constexpr std::string_view kDetailTitle = "材料明細表";
 inline constexpr std::string_view kDetailGrid = "dbgZaimei";

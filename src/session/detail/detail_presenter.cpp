@@ -4,10 +4,9 @@
 #include <utility>
 #include <variant>
 
-#include <fmt/format.h>
-
 #include "data/reference.h"
 #include "platform/system/message.h"
+#include "platform/system/process.h"
 #include "session/panels/at_end.h"
 #include "session/panels/not_ready.h"
 #include "session/panels/site_head.h"
@@ -36,8 +35,6 @@ std::string_view MaterialOfSite() {
   const SteelSupply supply = ReadSteelSupply(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
   return supply == SteelSupply::supplied ? "支給材" : "自給材";
 }
-
-int ColumnsInUse() { return StockColumnsInUse(Settings.Use13mColumn == 1); }
 
 /// What the fields start from is read at each load: other programs of the family share these settings.
 void ReadFieldSettings() {
@@ -77,6 +74,7 @@ DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
 // Buttons and keys.
 
 bool DetailPresenter::IsWithinReach(DetailButton button) const {
+  if (busy_) return false;
   if (RowOf(button).in_print_panel) return mode_ == DetailMode::printing;
   // In the middle of a percentage its button brings back to the box.
   return mode_ == DetailMode::buttons || (mode_ == DetailMode::percent && button == DetailButton::percent);
@@ -113,6 +111,7 @@ void DetailPresenter::Press(DetailButton button) {
 }
 
 void DetailPresenter::Escape() {
+  if (busy_) return;
   switch (mode_) {
     case DetailMode::percent:
       return BackToButtons(DetailButton::percent);
@@ -154,7 +153,7 @@ bool DetailPresenter::TypePercent(std::string text) {
 
 void DetailPresenter::TakePercent() {
   if (mode_ != DetailMode::percent) return;
-  Take(RaiseBars(result_, PercentOfText(percent_), ColumnsInUse()));
+  Take(RaiseBars(result_, PercentOfText(percent_), StockColumnsOf(DetailLayoutOf(Settings))));
   BackToButtons(DetailButton::percent);
 }
 
@@ -167,16 +166,15 @@ void DetailPresenter::BeginEditing() {
 }
 
 bool DetailPresenter::MayEdit(int line, int column) const {
-  const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
-  return mode_ == DetailMode::editing && CellAt(layout, line, column).has_value();
+  return mode_ == DetailMode::editing && CellAt(DetailLayoutOf(Settings), line, column).has_value();
 }
 
 bool DetailPresenter::EditCell(int line, int column, std::string_view text) {
   if (!MayEdit(line, column) || !IsCountText(text)) return false;
-  const DetailLayout layout{Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  const DetailLayout layout = DetailLayoutOf(Settings);
   const DetailCell cell = CellAt(layout, line, column).value();
   const std::int32_t count = CountOfText(text);
-  Take(CorrectCell(result_, cell, count, ColumnsInUse()));
+  Take(CorrectCell(result_, cell, count, StockColumnsOf(layout)));
   NoteFitting(markers_, cell, count);
   return true;
 }
@@ -191,6 +189,11 @@ void DetailPresenter::RestoreValues() {
   if (MsgBox(kRestoreQuestion, kDetailTitle, MessageButtons::yes_no) != MessageAnswer::yes) return;
   // A tally that faults leaves nothing in the place of the current result, and the list stays.
   const AtEnd place([this] { TallyGrid = result_.Grid(); });
+  const AtEnd idle([this] { busy_ = false; });
+  busy_ = true;
+  notice_.clear();
+  if (show_) show_();
+  RunPendingEvents();
   const ClassifiedSchedule held(Selection.StartMode);
   result_ = WithUlbonRaised(CountTally(result_.kind), result_.ulbon_percent);
   markers_ = {};
@@ -215,19 +218,19 @@ void DetailPresenter::Print(ReportPaper paper) {
     MsgBox(refusal->text, kDetailTitle);
     return FocusOn(kDateBoxes.at(refusal->box));
   }
-  if (!parts_.print) return SayNotReady("印字");
+  if (!parts_.print) return SayNotReady("印字", kDetailTitle);
   DetailArguments detail = DetailArgumentsOf(Settings);
   detail.Memos = memos_;
   detail.Installed = installed_;
   const PrintPanelView panel = print_panel_.View();
   const std::string printer = parts_.print(
       {.result = result_, .paper = paper, .date = panel.date, .detail = detail, .preview = panel.preview});
-  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
+  notice_ = SentNotice(printer);
   ClosePrint();
 }
 
 void DetailPresenter::OpenSettings() {
-  if (!parts_.open_settings) return SayNotReady("設定");
+  if (!parts_.open_settings) return SayNotReady("設定", kDetailTitle);
   parts_.open_settings();
   print_panel_.Date().FollowStyle();
 }
@@ -257,15 +260,17 @@ void DetailPresenter::ChooseDatePlace(DatePlace place) {
 // Saved tallies, and the way out.
 
 void DetailPresenter::Save() {
-  if (!parts_.save) return SayNotReady("保存");
+  if (!parts_.save) return SayNotReady("保存", kDetailTitle);
   parts_.save(result_, memos_);
 }
 
 void DetailPresenter::Load() {
-  if (!parts_.load) return SayNotReady("読込");
+  if (!parts_.load) return SayNotReady("読込", kDetailTitle);
+  // So does a saved tally that cannot be read; the dialog tells of the fault and ends without one.
+  const AtEnd place([this] { TallyGrid = result_.Grid(); });
   std::optional<LoadedTally> loaded = parts_.load(result_.kind);
   if (!loaded) return;
-  Take(std::move(loaded->result));
+  result_ = std::move(loaded->result);
   memos_ = std::move(loaded->memos);
   markers_ = {};
 }
@@ -275,7 +280,5 @@ void DetailPresenter::Leave() {
   // A call for the material detail that another program has left open is answered now.
   if (ReadHandOver(kMaterialDetailKey) == "1") WriteHandOver(kMaterialDetailKey, "0");
 }
-
-void DetailPresenter::SayNotReady(std::string_view what) { rbt::SayNotReady(what, kDetailTitle); }
 
 }  // namespace rbt

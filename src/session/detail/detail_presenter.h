@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "archive/store/load_tally.h"
 #include "session/detail/detail_controls.h"
@@ -49,6 +50,8 @@ class DetailPresenter {
 
   /// What the screen shows now. The focus is asked for once: the next view leaves it where it is.
   DetailView View();
+  /// Called in the midst of an intent that takes its time, with a view to show meanwhile.
+  void OnShow(std::function<void()> show) { show_ = std::move(show); }
   const TallyResult& Result() const { return result_; }
   const CorrectionMarkers& Markers() const { return markers_; }
 
@@ -97,14 +100,15 @@ class DetailPresenter {
   void BackToButtons(DetailButton focus);
   void FocusOn(std::string_view control) { focus_ = control; }
   void FocusOn(DetailButton button) { focus_ = RowOf(button).control; }
-  static void SayNotReady(std::string_view what);
 
   TallyResult result_;
   DetailParts parts_;
   HeadView head_;
   std::string_view material_;
   CorrectionMarkers markers_;
+  std::function<void()> show_;
   DetailMode mode_ = DetailMode::buttons;
+  bool busy_ = false;
   std::string percent_;
   SavedMemos memos_;
   bool installed_ = false;

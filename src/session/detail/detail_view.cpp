@@ -22,12 +22,13 @@ DetailView DetailPresenter::View() {
   view.head = head_;
   view.material = material_;
   view.total_weight = FormatNumber(table.TotalStockWeight, "#,##0") + " ㎏";
-  view.layout = {Settings.DetailShowsWeight == 1, Settings.Use13mColumn == 1};
+  view.layout = DetailLayoutOf(Settings);
   view.captions = DetailCaptions(view.layout);
   view.rows = DetailRows(table, view.layout);
   view.totals = {view.rows.size() - 2, view.rows.size() - 1};
   view.colours = AlternateColours();
   view.mode = mode_;
+  view.busy = busy_;
   for (const DetailButtonRow& row : DetailButtons()) {
     view.enabled[static_cast<std::size_t>(row.button)] = IsWithinReach(row.button);
   }
@@ -39,7 +40,7 @@ DetailView DetailPresenter::View() {
   view.notice = notice_;
   view.print_panel = print_panel_.View();
   view.print_panel.has_memo = false;  // the memos have their own fields
-  view.fields_enabled = mode_ == DetailMode::buttons || mode_ == DetailMode::printing;
+  view.fields_enabled = !busy_ && (mode_ == DetailMode::buttons || mode_ == DetailMode::printing);
   view.focus = std::exchange(focus_, {});
   view.left = left_;
   return view;

@@ -35,6 +35,7 @@ struct DetailView {
   std::optional<RowColours> colours;  ///< nothing: all rows are alike
 
   DetailMode mode = DetailMode::buttons;
+  bool busy = false;                               ///< a tally runs: the wait notice shows
   std::array<bool, kDetailButtonCount> enabled{};  ///< by `DetailButton`
   std::string percent;                             ///< shown in percent mode
 

@@ -23,7 +23,7 @@ struct MenuParts {
 MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int status)> end_program);
 
 /// What the load leaves to be shown.
-struct LoadView {
+struct MenuLoadView {
   bool shows_plate_sheet = false;
   std::string date;  ///< "yyyymmdd"
   std::string time;  ///< "hhnnss"
@@ -34,7 +34,7 @@ class MenuWindow {
  public:
   virtual ~MenuWindow() = default;
 
-  virtual void ShowLoad(const LoadView& view) = 0;
+  virtual void ShowLoad(const MenuLoadView& view) = 0;
   virtual void ShowState(const MenuState& state) = 0;
   virtual void Hide() = 0;
   virtual void Minimise() = 0;

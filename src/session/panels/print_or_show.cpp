@@ -28,4 +28,8 @@ std::string PrintOrShow(bool look_first, const std::function<void()>& print, con
   return "";
 }
 
+std::string SentNotice(const std::string& printer) {
+  return printer.empty() ? "" : "「" + printer + "」に送りました。";
+}
+
 }  // namespace rbt

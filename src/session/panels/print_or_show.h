@@ -17,4 +17,7 @@ using Preview = std::function<void(std::vector<PrintedDocument>)>;
 /// for the preview. Throws what `print` throws; nothing is printed or shown then.
 std::string PrintOrShow(bool look_first, const std::function<void()>& print, const Preview& preview);
 
+/// What a screen says of the printer that took its sheet; empty where none did.
+std::string SentNotice(const std::string& printer);
+
 }  // namespace rbt

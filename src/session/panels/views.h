@@ -56,7 +56,7 @@ struct FilterView {
   ButtonView cycle_plates;
   UpliftView uplift;
   bool accumulating = false;  ///< tells that sites are being added up
-  std::string range = {};     ///< of the rows that the result is of; empty: all, or told elsewhere
+  std::string range = {};     ///< of the rows that the result is of; empty: all, unknown, or told elsewhere
   std::string warning;        ///< empty: there is none
 };
 

@@ -71,7 +71,9 @@ void ResultPresenter::Fill() {
   rows_ = ResultRows(result_, look);
   totals_ = ResultTotals(result_, look);
   colours_ = AlternateColours();
-  filters_.range = range_ != nullptr && range_->GivesWay() ? range_->Told() : "";
+  // A saved tally does not tell of which rows it was.
+  const bool tells_range = range_ != nullptr && range_->GivesWay() && !result_.was_saved;
+  filters_.range = tells_range ? range_->Told() : "";
   filters_.warning = screen_.offers.stock_warning ? result_.Grid().StockWarningText : "";
 }
 

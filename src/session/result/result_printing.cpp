@@ -3,11 +3,10 @@
 #include <optional>
 #include <utility>
 
-#include <fmt/format.h>
-
 #include "platform/system/message.h"
 #include "session/panels/at_end.h"
 #include "session/panels/not_ready.h"
+#include "session/panels/print_or_show.h"
 #include "session/result/result_presenter.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
@@ -74,7 +73,7 @@ bool ResultPresenter::PrintSheet(const PrintOrder& order) {
     return false;
   }
   const std::string printer = parts_.print(order);
-  notice_ = printer.empty() ? "" : fmt::format("「{}」に送りました。", printer);
+  notice_ = SentNotice(printer);
   return true;
 }
 
@@ -95,7 +94,10 @@ void ResultPresenter::ShowDetail() {
     result_ = parts_.open_detail(result_);
   }
   Fill();
+  // A saved tally that was loaded there has brought its own selection.
   if (result_.selection.MaterialKindMask != kinds_before) TellKinds();
+  TellForms();
+  TellModes();
   DecideAvailability();
   FocusOn(FocusTarget::grid);
 }

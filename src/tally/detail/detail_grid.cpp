@@ -50,7 +50,7 @@ void CloseEmpty(std::vector<std::string>& line, std::string weight) {
 }
 
 void AppendDiameter(GridRows& rows, const TallyTable& table, int d, const DetailLayout& layout) {
-  const int columns = StockColumnsInUse(layout.with_13m);
+  const int columns = StockColumnsOf(layout);
   auto counts =
       Line(DiameterLabel(d), kCounts, columns, kBlankZeroMask, [&](int l) { return table.BarCount[d][l]; });
   Close(counts, Text(table.StockWeightByDia[d], kBlankZeroMask), kBlankZeroMask,
@@ -85,10 +85,16 @@ void AppendTotals(GridRows& rows, const TallyTable& table, int columns) {
 
 }  // namespace
 
+DetailLayout DetailLayoutOf(const SettingsData& settings) {
+  return {settings.DetailShowsWeight == 1, settings.Use13mColumn == 1};
+}
+
+int StockColumnsOf(const DetailLayout& layout) { return StockColumnsInUse(layout.with_13m); }
+
 std::vector<std::string_view> DetailCaptions(const DetailLayout& layout) {
   std::vector<std::string_view> captions{"", ""};
   if (!layout.with_weights) captions = {kDiameterCaption, kUnitCaption};
-  const int columns = StockColumnsInUse(layout.with_13m);
+  const int columns = StockColumnsOf(layout);
   captions.insert(captions.end(), kStockLengthTexts.begin(), kStockLengthTexts.begin() + columns);
   captions.push_back(kWeightCaption);
   for (const FittingWord& each : kFittingWords) captions.push_back(each.caption);
@@ -98,7 +104,7 @@ std::vector<std::string_view> DetailCaptions(const DetailLayout& layout) {
 GridRows DetailRows(const TallyTable& table, const DetailLayout& layout) {
   GridRows rows;
   for (int d = 0; d < kDeformedRows; ++d) AppendDiameter(rows, table, d, layout);
-  AppendTotals(rows, table, StockColumnsInUse(layout.with_13m));
+  AppendTotals(rows, table, StockColumnsOf(layout));
   return rows;
 }
 
@@ -107,7 +113,7 @@ std::optional<DetailCell> CellAt(const DetailLayout& layout, int line, int colum
   const bool holds_counts = line >= 0 && line % lines_of_diameter == 0;
   const int d = line / lines_of_diameter;
   if (!holds_counts || d >= kDeformedRows) return std::nullopt;
-  const int columns = StockColumnsInUse(layout.with_13m);
+  const int columns = StockColumnsOf(layout);
   const int l = column - kNameColumns;
   if (l >= 0 && l < columns) return BarCell{d, l};
   const int fitting = l - columns - 1;  // behind the weight

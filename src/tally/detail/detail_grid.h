@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/config/settings.h"
 #include "tally/detail/detail_cell.h"
 #include "tally/views/result_grid.h"
 
@@ -18,6 +19,11 @@ struct DetailLayout {
 
   friend bool operator==(const DetailLayout&, const DetailLayout&) = default;
 };
+
+/// As the settings have it.
+DetailLayout DetailLayoutOf(const SettingsData& settings);
+/// The stock columns of the grid.
+int StockColumnsOf(const DetailLayout& layout);
 
 /// Captions of the columns: diameter and what a line holds, which are not named where there are two lines,
 /// the stock lengths, weight, welds, threads, plates, cuts.

@@ -59,6 +59,7 @@ TEST_F(RoundTrip, OfEveryGridKindGivesTheSameTally) {
     EXPECT_EQ(TallyGrid, saved.Grid());
     EXPECT_EQ(loaded.result.kind, kind);
     EXPECT_EQ(loaded.result.origin, ResultOrigin::loaded);
+    EXPECT_TRUE(loaded.result.was_saved);
     ExpectFilters(loaded.result.selection, saved.selection);
   }
 }

@@ -31,7 +31,7 @@ class DetailReport : public ::testing::Test {
     root_.SetIni(test::kSteelFile, "自社名", "会社名", "みほん鉄筋");
   }
 
-  void Draw(const DetailForm& form) { cut_ = DrawDetail(page_.Printer, form, sheet_); }
+  void Draw(const DetailPaper& form) { cut_ = DrawDetail(page_.Printer, form, sheet_); }
 
   template <typename Operation>
   std::vector<Operation> OnPage(std::size_t page) const {
@@ -182,7 +182,7 @@ TEST_F(DetailReport, OnA4LandscapeLabelsStandAt530AndNumbersEndInTheirColumns) {
 }
 
 TEST_F(DetailReport, TheCountsAloneHaveNoWeightsByLength) {
-  for (const DetailForm* form : {&kMeisaiA4YCount, &kMeisaiA4TCount}) {
+  for (const DetailPaper* form : {&kMeisaiA4YCount, &kMeisaiA4TCount}) {
     Draw(*form);
     EXPECT_TRUE(page_.Has("    100"));
     EXPECT_FALSE(page_.Has("重 量"));
@@ -404,7 +404,7 @@ TEST_F(DetailReport, AnOwnTitleOfOneLetterOrNoneIsToldAndTheSheetIsPrinted) {
 
 TEST_F(DetailReport, OnA4LandscapeMemosStandSideBySideBelowTheTableOrAboveIt) {
   sheet_.arguments.Detail.Memos = {"一", "二", "三"};
-  for (const DetailForm* form : {&kMeisaiA4Y, &kMeisaiA4YCount}) {
+  for (const DetailPaper* form : {&kMeisaiA4Y, &kMeisaiA4YCount}) {
     sheet_.arguments.Detail.MemoPosition = MemoPlace::below;
     Draw(*form);
     const float below = test::TableY(true, 25) + 60;  // 18 lengths, 5 sums
@@ -425,7 +425,7 @@ TEST_F(DetailReport, OnA4PortraitMemosStandBelowEachOtherUnderTheTableWhateverTh
   sheet_.arguments.Detail.Memos = {"一", "", "三"};
   for (const MemoPlace place : {MemoPlace::below, MemoPlace::above}) {
     sheet_.arguments.Detail.MemoPosition = place;
-    for (const DetailForm* form : {&kMeisaiA4T, &kMeisaiA4TCount}) {
+    for (const DetailPaper* form : {&kMeisaiA4T, &kMeisaiA4TCount}) {
       Draw(*form);
       const float below = test::TableY(false, 23) + 60;  // 18 lengths, 3 sums
       EXPECT_EQ(page_.TextAt(530, below), "一");

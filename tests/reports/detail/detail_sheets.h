@@ -48,7 +48,7 @@ inline DetailSheet SheetOf(const TallyTable& table) {
 /// The four forms, and how many diameters their pages hold.
 struct FormOnPaper {
   std::string name;
-  const DetailForm* form;
+  const DetailPaper* form;
   int diameters;
   bool landscape;
 };

@@ -131,11 +131,11 @@ TEST_F(HeadOfFixedRows, TheRuleUnderAShortNameEndsBeforeTheBlock) {
 }
 
 TEST_F(HeadOfFixedRows, TheRuleUnderALongNameClearsTheNameAndItsLabel) {
-  head_.project = LongName{"見本町"};
+  head_.project = OneLineName{"見本町"};
   Draw();
   EXPECT_EQ(page_.TextOf("見本町").font_size, 13);
   EXPECT_FLOAT_EQ(page_.RuleAt(Row(3.5) + 260, 500).x2, 500 + 960 + 3 * 13 * 20.1F + 100);
-  head_.project = LongName{Repeated("見", 30)};
+  head_.project = OneLineName{Repeated("見", 30)};
   Draw();
   EXPECT_LT(page_.TextThatStarts("見見").font_size, 12);
   EXPECT_NO_THROW(page_.RuleAt(Row(3.5) + 240, 500));
@@ -219,7 +219,7 @@ TEST_F(HeadOfFixedRows, TheSubProjectTextStandsUnderTheFormsThatHaveRoomForIt) {
   Draw();
   EXPECT_EQ(page_.TextOf("二期工事").x, 6700);
   EXPECT_EQ(page_.TextOf("二期工事").font_size, 13);
-  head_.project = LongName{"見本町"};
+  head_.project = OneLineName{"見本町"};
   Draw();
   EXPECT_FALSE(page_.Has("二期工事"));
 }

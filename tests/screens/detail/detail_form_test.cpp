@@ -5,6 +5,7 @@
 
 #include "platform/profile/ini_file.h"
 #include "platform/system/paths.h"
+#include "platform/system/services.h"
 #include "screens/detail/detail_form_driver.h"
 #include "shell/config/settings.h"
 
@@ -14,6 +15,14 @@ namespace {
 
 using testing::IsEmpty;
 using testing::SizeIs;
+
+/// What the help line tells while a control has the focus.
+std::string_view HelpOf(std::string_view control) {
+  for (const ControlHint& row : DetailHints()) {
+    if (row.control == control) return row.hint;
+  }
+  return kDetailHelp;
+}
 
 std::string PendingCall() { return GetProfileText(MapPath(kNextPrgIni), "データ", "材料明細", "none"); }
 
@@ -77,6 +86,8 @@ TEST(DetailForm, TheHelpLineFollowsTheFocus) {
         "txtSubKojNa2", "txtSubKojNa3", "txtMemoI", "ToriJyuP", "dbgZaimei", "txtYear", "Option1"}) {
     zaimei.FocusOn(control);
     EXPECT_EQ(zaimei.Label("MSGB"), HelpOf(control)) << control;
+    const std::string tip = zaimei.form->findChild<QWidget*>(control)->toolTip().toStdString();
+    EXPECT_EQ(tip, HelpOf(control) == kDetailHelp ? "" : HelpOf(control)) << control;
     EXPECT_TRUE(zaimei.Shows("MSGB"));
     EXPECT_FALSE(zaimei.Shows("MSGB1"));
   }
@@ -100,6 +111,32 @@ TEST(DetailForm, LeftAndRightGoFromButtonToButtonAndStayAtTheEnds) {
   }
   zaimei.Key(Qt::Key_Left);
   EXPECT_EQ(zaimei.Focused(), "cmdMent");
+}
+
+TEST(DetailForm, AsksToWaitWhileTheListIsTalliedAnewAndKeepsTheFocus) {
+  ZaimeiDriver zaimei;
+  zaimei.OpenForm();
+  EXPECT_FALSE(zaimei.Shows("SSPanel4"));
+  zaimei.FocusOn("txtSubKojNa2");
+  const QRect grid = zaimei.Grid()->geometry();
+  int looks = 0;
+  const auto events = Services.PendingEvents;
+  Services.PendingEvents = [&] {
+    events();
+    ++looks;
+    EXPECT_TRUE(zaimei.Shows("SSPanel4"));
+    EXPECT_EQ(zaimei.Pressable(), "");
+    EXPECT_FALSE(zaimei.Box("txtSubKojNa2")->isEnabled());
+    EXPECT_EQ(zaimei.Grid()->geometry(), grid);
+    zaimei.Key(Qt::Key_Escape);
+    EXPECT_TRUE(zaimei.form->isVisible()) << "out of reach";
+  };
+  zaimei.Key(Qt::Key_F3);
+  Services.PendingEvents = events;
+  EXPECT_GE(looks, 1);
+  EXPECT_FALSE(zaimei.Shows("SSPanel4"));
+  EXPECT_EQ(zaimei.Focused(), "txtSubKojNa2");
+  EXPECT_EQ(zaimei.Pressable(), kMainButtons);
 }
 
 // Percentage.

@@ -36,31 +36,30 @@ TEST(DetailControls, TheButtonsHaveTheirKeysAndCaptions) {
   }
 }
 
-TEST(DetailControls, TheHelpLineFollowsTheFocus) {
+TEST(DetailControls, TheMainButtonsAndTheFieldsTellWhatTheyDo) {
   constexpr std::string_view kMemo =
       "メモを入力（省略可）Ａ４タテは３０文字以内　F1～F5 を押すかボタンをクリックして下さい";
-  constexpr std::string_view kScreen =
-      "F1 ～ F6　キーで選択して下さい（マウスクリックでも可）　　　　ESC : 終了";
-  constexpr std::pair<std::string_view, std::string_view> kHelps[] = {
+  constexpr std::pair<std::string_view, std::string_view> kHints[] = {
       {"cmdPercent", "重量を％上乗せします"},
       {"cmdHonsuu", "好きな本数に値を修正します"},
       {"cmdTeisei", "上乗せする前の値に戻します"},
       {"cmdMeisaiPrint", "集計表を印刷します"},
+      {"cmdSave", "値を保存します"},
       {"cmdLoad", "保存した値を読み込みます"},
       {"cmdMent", "保存したデータを削除したり名前を変えたりします"},
-      {"cmdSave", "値を保存します"},
       {"cmdExit", "終了します"},
       {"txtSubKojNa", kMemo},
       {"txtSubKojNa2", "メモを入力（省略可）　F1～F5 を押すかボタンをクリックして下さい"},
       {"txtSubKojNa3", kMemo},
       {"txtMemoI", "メモ印刷位置の指定（Ａ４ヨコのみ）　0:下　1:上（３０文字以内）　を入力して下さい"},
       {"ToriJyuP", "取り付け重量を一覧表に印刷（Ａ４ヨコのみ）　0 : しない　1 : する　を入力して下さい"},
-      {"dbgZaimei", kScreen},
-      {"btnA4Y", kScreen},
-      {"txtYear", kScreen},
-      {"", kScreen},
   };
-  for (const auto& [control, help] : kHelps) EXPECT_EQ(HelpOf(control), help) << control;
+  ASSERT_EQ(DetailHints().size(), std::size(kHints));
+  for (std::size_t i = 0; i < std::size(kHints); ++i) {
+    EXPECT_EQ(DetailHints()[i].control, kHints[i].first);
+    EXPECT_EQ(DetailHints()[i].hint, kHints[i].second) << kHints[i].first;
+  }
+  EXPECT_EQ(kDetailHelp, "F1 ～ F6　キーで選択して下さい（マウスクリックでも可）　　　　ESC : 終了");
 }
 
 }  // namespace

@@ -404,9 +404,45 @@ TEST(DetailPresenter, AFaultOfTheTallyLeavesTheListAsItWas) {
   zaimei.Escape();
   const TallyResult before = zaimei.Result();
   SiteContext.WorkDatabase->Execute("DROP TABLE 加工テーブル");
+  zaimei.OnShow([] { TallyGrid = {}; });  // as a tally that has begun leaves it
   EXPECT_TRUE(FaultOf([&] { zaimei.Press(DetailButton::restore); }));
   EXPECT_EQ(zaimei.Result(), before);
   EXPECT_EQ(TallyGrid, before.Grid());
+}
+
+TEST(DetailPresenter, ATallyAnewIsShownAsBusyAndForgetsTheLastSheet) {
+  Detailed detail;
+  detail.printer = "甲";
+  DetailPresenter& zaimei = detail.Open();
+  zaimei.Press(DetailButton::print);
+  zaimei.Press(DetailButton::a4_landscape);
+  EXPECT_EQ(detail.View().notice, "「甲」に送りました。");
+  std::vector<DetailView> meanwhile;
+  zaimei.OnShow([&] {
+    meanwhile.push_back(zaimei.View());
+    zaimei.Escape();
+    zaimei.Press(DetailButton::percent);
+  });
+  zaimei.Press(DetailButton::restore);
+  ASSERT_EQ(meanwhile.size(), 1U);
+  EXPECT_TRUE(meanwhile[0].busy);
+  EXPECT_EQ(ButtonsWithinReach(meanwhile[0]), "");
+  EXPECT_FALSE(meanwhile[0].fields_enabled);
+  const DetailView after = detail.View();
+  EXPECT_FALSE(after.busy);
+  EXPECT_FALSE(after.left);
+  EXPECT_EQ(after.mode, DetailMode::buttons);
+  EXPECT_EQ(after.notice, "");
+  EXPECT_EQ(ButtonsWithinReach(after), kMain);
+}
+
+TEST(DetailPresenter, AFaultOfTheTallyIsNoLongerBusy) {
+  Detailed detail;
+  DetailPresenter& zaimei = detail.Open();
+  SiteContext.WorkDatabase->Execute("DROP TABLE 加工テーブル");
+  EXPECT_TRUE(FaultOf([&] { zaimei.Press(DetailButton::restore); }));
+  EXPECT_FALSE(detail.View().busy);
+  EXPECT_EQ(ButtonsWithinReach(detail.View()), kMain);
 }
 
 // Saved tallies, and the way out.
@@ -469,6 +505,52 @@ TEST(DetailPresenter, ShowsTheTallyThatIsLoadedWithItsMemos) {
   EXPECT_EQ(zaimei.Markers(), CorrectionMarkers());
   EXPECT_EQ(detail.View().memos, (SavedMemos{"一", "", "三"}));
   EXPECT_EQ(TallyGrid, stored->result.Grid());
+}
+
+// The dialog clears the place of the current result before it reads.
+TEST(DetailPresenter, ASavedTallyThatIsNotReadLeavesTheListAndItsPlace) {
+  Detailed detail;
+  detail.parts.load = [](TallyKind) {
+    TallyGrid = {};
+    return std::optional<LoadedTally>();
+  };
+  DetailPresenter& zaimei = detail.Open();
+  zaimei.TypeMemo(0, "控え");
+  zaimei.Press(DetailButton::load);
+  EXPECT_EQ(zaimei.Result(), detail.counted);
+  EXPECT_EQ(TallyGrid, detail.counted.Grid());
+  EXPECT_EQ(detail.View().memos[0], "控え");
+}
+
+TEST(DetailPresenter, ASavedTallyWithoutRowsLeavesAnEmptyList) {
+  Detailed detail;
+  detail.parts.load = [](TallyKind kind) {
+    LoadedTally empty;
+    empty.result.kind = kind;
+    empty.result.origin = ResultOrigin::loaded;
+    return std::optional(empty);
+  };
+  detail.Open().Press(DetailButton::load);
+  EXPECT_EQ(detail.D19(), "");
+  EXPECT_EQ(detail.View().total_weight, "0 ㎏");
+  EXPECT_EQ(TallyGrid, TallyTable());
+}
+
+// What was loaded is no longer there: the site's schedule is tallied under the selection that came with it.
+TEST(DetailPresenter, RestoringALoadedTallyTalliesTheSchedule) {
+  Detailed detail;
+  detail.parts.load = [&](TallyKind) {
+    LoadedTally saved{.result = detail.counted, .memos = {}, .has_rows = true};
+    saved.result.origin = ResultOrigin::loaded;
+    saved.result.saved_as_corrected = true;
+    saved.result.Grid().BarCount[3][5] = 77;
+    return std::optional(saved);
+  };
+  DetailPresenter& zaimei = detail.Open();
+  zaimei.Press(DetailButton::load);
+  EXPECT_EQ(detail.D19(), "77");
+  zaimei.Press(DetailButton::restore);
+  EXPECT_EQ(zaimei.Result(), detail.counted);
 }
 
 TEST(DetailPresenter, LeavingAnswersACallOfAnotherProgramForTheDetail) {

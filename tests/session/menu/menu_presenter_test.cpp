@@ -86,7 +86,7 @@ class Menu : private MenuWindow {
     if (faulty) throw Fault(FaultKind::overflow, step);
   }
 
-  void ShowLoad(const LoadView& view) override {
+  void ShowLoad(const MenuLoadView& view) override {
     steps.push_back("load " + view.date + view.time + (view.shows_plate_sheet ? " plates" : ""));
   }
   void ShowState(const MenuState&) override { steps.emplace_back("state"); }

@@ -18,6 +18,7 @@ using testing::ElementsAre;
 using testing::StartsWith;
 
 constexpr KindMask kOneKind(1);
+constexpr FormMask kOneForm(1);
 
 /// Twenty bars of D19 by 6.0 m, 13.5 kg each, in place of ten.
 TallyResult WithTwentyBars(TallyResult result) {
@@ -76,6 +77,49 @@ TEST(ResultPresenterDetail, TellsAllKindsOnceTheyWereTalliedAnewInTheList) {
     const std::string all(KindCaption(kAllKinds));
     EXPECT_EQ(js.View().filters.kinds, screen->IsScoped() ? all : StripSlitWord(all));
     EXPECT_TRUE(js.View().print.shown);
+  }
+}
+
+TEST(ResultPresenterDetail, TellsTheSelectionThatASavedTallyLoadedThereIsOf) {
+  for (const ResultScreen* screen : ResultScreens()) {
+    Presented js(*screen);
+    js.detail = [](TallyResult result) {
+      // As loading leaves it: in the selection as in the result.
+      Selection.MaterialFormMask = kOneForm;
+      Selection.HoopMode = ShapeFilter::left_out;
+      Selection.MaterialKindMask = kOneKind;
+      result.selection = Selection;
+      result.origin = ResultOrigin::loaded;
+      return result;
+    };
+    js.OpenWithResult();
+    js.presenter->ShowDetail();
+    const FilterView filters = js.View().filters;
+    EXPECT_EQ(filters.kinds, KindCaption(kOneKind)) << screen->name;
+    EXPECT_EQ(filters.forms, screen->form_caption(kOneForm)) << screen->name;
+    EXPECT_EQ(filters.cycle_hoops.caption, ShapeFilterCaption(ShapeFilter::left_out)) << screen->name;
+    EXPECT_EQ(filters.hoops_note, HoopsNote(ShapeFilter::left_out)) << screen->name;
+    EXPECT_FALSE(js.View().print.shown) << "a part of the picture";
+  }
+}
+
+TEST(ResultPresenterDetail, TellsNoRangeOfASavedTallyUntilItsRowsAreTalliedAgain) {
+  for (const ResultScreen* screen : {&kPageScreen, &kPageShapeScreen}) {
+    Presented js(*screen);
+    js.detail = WithTwentyBars;
+    js.OpenWithResult();
+    const std::string told = js.View().filters.range;
+    EXPECT_NE(told, "");
+    js.presenter->ShowDetail();
+    EXPECT_EQ(js.View().filters.range, told) << "a correction is of the same rows";
+    js.detail = [](TallyResult result) {
+      result.was_saved = true;
+      return WithTwentyBars(std::move(result));
+    };
+    js.presenter->ShowDetail();
+    EXPECT_EQ(js.View().filters.range, "") << screen->name;
+    js.presenter->CycleHoops();
+    EXPECT_EQ(js.View().filters.range, told);
   }
 }
 

@@ -74,6 +74,22 @@ TEST(DetailGrid, HasALineOfCountsForEachDiameterAndTwoOfTotals) {
             "9.5=0 10.0=0 10.5=0 11.0=0 11.5=0 12.0=0 重 量=55,840 ㎏\n");
 }
 
+// Other numbers than 1 are as good as none.
+TEST(DetailGrid, IsLaidOutAsTheSettingsHaveIt) {
+  SettingsData settings;
+  EXPECT_EQ(DetailLayoutOf(settings), kCounts);
+  settings.Use13mColumn = 1;
+  EXPECT_EQ(DetailLayoutOf(settings), kCounts13m);
+  settings.DetailShowsWeight = 1;
+  EXPECT_EQ(DetailLayoutOf(settings), kWeights13m);
+  settings.Use13mColumn = 2;
+  EXPECT_EQ(DetailLayoutOf(settings), kWeights);
+  settings.DetailShowsWeight = 2;
+  EXPECT_EQ(DetailLayoutOf(settings), kCounts);
+  EXPECT_EQ(StockColumnsOf(kCounts), 18);
+  EXPECT_EQ(StockColumnsOf(kWeights13m), 19);
+}
+
 TEST(DetailGrid, The13MetreColumnStandsBehind12Metres) {
   EXPECT_EQ(Shown(Sample(true), kCounts13m),
             "鋼材|m|3.5|4.0|4.5|5.0|5.5|6.0|6.5|7.0|7.5|8.0|8.5|9.0|9.5|10.0|10.5|11.0|11.5|12.0|13.0|重 "
