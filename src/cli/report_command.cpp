@@ -178,13 +178,6 @@ std::string TallyWordFor(const ReportForm& form, const ReportOptions& options) {
   return options.tally;
 }
 
-/// The purchase lists have their memos, the forms of floors and parts nothing.
-void RequirePlaceForSubProject(const ReportForm& form, const ReportOptions& options) {
-  if (!options.sub_project) return;
-  if (form.family == ReportFamily::comparison || form.family == ReportFamily::ulbon) return;
-  throw UsageError("--subproject: " + std::string(form.word) + " has no place for it");
-}
-
 /// What the forms of floors and parts take, and what they do not.
 void RequireFloorPartOptions(const ReportForm& form, const ReportOptions& options) {
   if (options.floor && form.document_of != DocumentOf::floor) {
@@ -197,6 +190,8 @@ void RequireFloorPartOptions(const ReportForm& form, const ReportOptions& option
     throw UsageError("--part: " + std::to_string(*options.part) + " is no part of 1 to 11");
   }
   if (TallyOf(form.family).empty()) return;
+  if (options.sub_project)
+    throw UsageError("--subproject: " + std::string(form.word) + " has no place for it");
   if (!options.changes.empty()) throw UsageError("--percent: --uplift raises the floor and part tallies");
 }
 
@@ -230,7 +225,6 @@ DetailArguments DetailArgumentsOf(const ReportOptions& options) {
 TallyResult ResultFor(const ReportForm& form, const ReportOptions& options) {
   const bool is_detail = form.family == ReportFamily::detail;
   RequireFloorPartOptions(form, options);
-  RequirePlaceForSubProject(form, options);
   if (is_detail) {
     RequireCells(options.changes);
   } else {
