@@ -155,10 +155,11 @@ TEST(StockEngine, HasPlacesFrom3MetresTo13MetresToBeginAt) {
 TEST(StockEngine, NamesTheSettingOfAShortestStockWhereNoSearchBegins) {
   const std::pair<std::int32_t, const char*> cases[] = {
       {10, "STEEL.INI [加工帳] D10最小値"}, {6, "STEEL.INI [加工帳] D10最小値"}, {8, "diameter 8"}};
-  for (const auto& [code, place] : cases) {
+  for (const auto& each : cases) {
+    const std::int32_t code = each.first;
     EXPECT_EQ(
         test::FaultTextOf([&] { ComputeStock(2400, Currency::FromInteger(9), code, WithLimits(0, 1000)); }),
-        "subscript out of range: " + std::string(place) + ": no stock is as short or as long as 0 mm");
+        "subscript out of range: " + std::string(each.second) + ": no stock is as short or as long as 0 mm");
   }
 }
 
