@@ -104,7 +104,7 @@ void RunSave(const SaveOptions& options) {
   SaveOrder order{.key = SavedKeyOf(now),
                   .name = NameToSave(options, list, result, now),
                   .memos = options.memos,
-                  .supply = SupplyOfSite(),
+                  .supply = ReadBarOrigins(),
                   .with_13m = Has13m()};
   std::vector<SavedTally> replaced;
   std::copy_if(list.begin(), list.end(), std::back_inserter(replaced),

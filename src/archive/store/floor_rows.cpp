@@ -46,7 +46,7 @@ std::int32_t FittingOf(const FloorFitting& fitting, int p, int f, int r) {
   return std::as_const(fitting.KaiBui[p])[f][r];
 }
 
-SavedCells CellsOf(const FloorTables& tables, int f, int p, int r, ColumnRun columns) {
+DiameterFigures CellsOf(const FloorTables& tables, int f, int p, int r, ColumnRun columns) {
   const FloorTables::Weights& shown = tables.KaiBuiJyuuryo[f][p];
   return {.bars = tables.KaiBuiHonsu[p][f][r],
           .weights = shown[r],
@@ -65,7 +65,8 @@ class PartRowWriter {
       : tables_(result.Floors()), masks_(MasksOf(result.selection)), order_(order) {}
 
   void Add(int floor_code, int p, int r, std::vector<std::string>& statements) {
-    const SavedCells cells = CellsOf(tables_, FloorIndex(floor_code), p, r, ColumnsInUse(order_.with_13m));
+    const DiameterFigures cells =
+        CellsOf(tables_, FloorIndex(floor_code), p, r, ColumnsInUse(order_.with_13m));
     if (!HasFigures(cells, order_.with_13m)) return;
     ArchiveRow row("階部位重量集計");
     row.Put("行No", ++rows_).Put("階", std::string_view(FloorTextOf(floor_code))).Put("部位", p);
@@ -118,7 +119,7 @@ void AddFitting(FloorFitting& fitting, int f, int p, int r, std::int32_t count, 
   AddCount(fitting.KaiSou, f, count, field);
 }
 
-void TakeCells(FloorTables& tables, int f, int p, int r, const SavedCells& cells) {
+void TakeCells(FloorTables& tables, int f, int p, int r, const DiameterFigures& cells) {
   tables.KaiBuiHonsu[p][f][r] = cells.bars;
   tables.KaiBuiJyuuryo[f][p][r] = cells.weights;
   AddFitting(tables.Assetu, f, p, r, cells.welds, "圧接");

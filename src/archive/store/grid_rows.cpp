@@ -10,7 +10,7 @@ namespace rbt {
 
 namespace {
 
-SavedCells CellsOf(const TallyTable& table, int d) {
+DiameterFigures CellsOf(const TallyTable& table, int d) {
   return {.bars = table.BarCount[d],
           .weights = table.StockWeight[d],
           .stock = table.StockWeightByDia[d],
@@ -21,7 +21,7 @@ SavedCells CellsOf(const TallyTable& table, int d) {
           .cuts = table.CutCount[d]};
 }
 
-void AddTotals(TallyTable& table, const SavedCells& cells) {
+void AddTotals(TallyTable& table, const DiameterFigures& cells) {
   table.TotalStockWeight += cells.stock;
   table.TotalInstalledWeight += cells.installed;
   table.TotalWeldCount = AddInt32(table.TotalWeldCount, cells.welds, "圧接");
@@ -30,7 +30,7 @@ void AddTotals(TallyTable& table, const SavedCells& cells) {
   table.TotalCutCount = AddInt32(table.TotalCutCount, cells.cuts, "切断");
 }
 
-void TakeCells(TallyTable& table, int d, const SavedCells& cells) {
+void TakeCells(TallyTable& table, int d, const DiameterFigures& cells) {
   table.BarCount[d] = cells.bars;
   table.StockWeight[d] = cells.weights;
   table.StockWeightByDia[d] = cells.stock;
@@ -64,7 +64,7 @@ std::vector<std::string> GridStatements(const TallyResult& result, const RowOrde
   const RowMasks masks = MasksOf(result.selection);
   std::vector<std::string> statements;
   for (int d = 0; d < kDeformedRows; ++d) {
-    const SavedCells cells = CellsOf(result.Grid(), d);
+    const DiameterFigures cells = CellsOf(result.Grid(), d);
     if (!HasFigures(cells, order.with_13m)) continue;
     const auto named = static_cast<std::size_t>(d);
     ArchiveRow row("重量集計");

@@ -10,15 +10,15 @@ namespace rbt {
 
 namespace {
 
-SavedCells CellsOf(const PartTables& tables, int p, int r, ColumnRun columns) {
-  SavedCells cells{.bars = tables.BuiHonsu[p][r],
-                   .weights = tables.BuiJyuuryo[p][r],
-                   .stock = {},
-                   .installed = {},
-                   .welds = tables.Assetu.Bui[p][r],
-                   .threads = tables.Neji.Bui[p][r],
-                   .plates = tables.Teichaku.Bui[p][r],
-                   .cuts = tables.Setsudan.Bui[p][r]};
+DiameterFigures CellsOf(const PartTables& tables, int p, int r, ColumnRun columns) {
+  DiameterFigures cells{.bars = tables.BuiHonsu[p][r],
+                        .weights = tables.BuiJyuuryo[p][r],
+                        .stock = {},
+                        .installed = {},
+                        .welds = tables.Assetu.Bui[p][r],
+                        .threads = tables.Neji.Bui[p][r],
+                        .plates = tables.Teichaku.Bui[p][r],
+                        .cuts = tables.Setsudan.Bui[p][r]};
   for (int c = columns.first; c <= columns.last; ++c) cells.stock += cells.weights[c];
   return cells;
 }
@@ -28,7 +28,7 @@ void AddPartRows(const TallyResult& result, const RowOrder& order, std::vector<s
   std::int32_t number = 0;
   for (int p = kFirstPart; p < kPartEntries; ++p) {
     for (int r = 0; r < kDiameterRows; ++r) {
-      const SavedCells cells = CellsOf(result.Parts(), p, r, ColumnsInUse(order.with_13m));
+      const DiameterFigures cells = CellsOf(result.Parts(), p, r, ColumnsInUse(order.with_13m));
       if (!HasFigures(cells, order.with_13m)) continue;
       ArchiveRow row("部位別本重集計");
       row.Put("行No", ++number).Put("部位", p);
@@ -58,7 +58,7 @@ void AddFitting(PartFitting& fitting, int p, int r, std::int32_t count, std::str
   AddCount(fitting.Taisa, r, count, field);
 }
 
-void TakeCells(PartTables& tables, int p, int r, const SavedCells& cells) {
+void TakeCells(PartTables& tables, int p, int r, const DiameterFigures& cells) {
   tables.BuiHonsu[p][r] = cells.bars;
   tables.BuiJyuuryo[p][r] = cells.weights;
   AddFitting(tables.Assetu, p, r, cells.welds, "圧接");

@@ -52,11 +52,6 @@ void RequireFreeMoment(Database& site, const SavedKey& key) {
 
 }  // namespace
 
-DiameterSupply SupplyOfSite() {
-  return {DiameterGradeNames(),
-          ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName).makers};
-}
-
 bool WasCorrected(const TallyResult& result) {
   const bool of_grid = result.kind != TallyKind::floor && result.kind != TallyKind::part;
   return of_grid && (result.origin == ResultOrigin::corrected || result.saved_as_corrected);

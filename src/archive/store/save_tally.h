@@ -15,12 +15,9 @@ struct SaveOrder {
   SavedKey key;
   std::string name;       ///< trimmed, not empty
   SavedMemos memos = {};  ///< an empty one is kept as null
-  DiameterSupply supply;
+  BarOrigins supply;
   bool with_13m = false;  ///< the 13.0 m column is in use
 };
-
-/// The grades and makers of the bound site's bars, from the open master database.
-DiameterSupply SupplyOfSite();
 
 /// True when the totals of a result were corrected by hand, as a saved tally of floors or parts never is.
 bool WasCorrected(const TallyResult& result);

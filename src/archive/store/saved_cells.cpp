@@ -20,16 +20,16 @@ std::string WeightField(int stock_column) { return CountField(stock_column) + "�
 
 }  // namespace
 
-bool HasFigures(const SavedCells& cells, bool with_13m) {
-  SavedCells kept = cells;
+bool HasFigures(const DiameterFigures& cells, bool with_13m) {
+  DiameterFigures kept = cells;
   if (!with_13m) {
     kept.bars[kColumn13m] = 0;
     kept.weights[kColumn13m] = Currency();
   }
-  return kept != SavedCells();
+  return kept != DiameterFigures();
 }
 
-void PutCells(ArchiveRow& row, const SavedCells& cells, bool with_13m) {
+void PutCells(ArchiveRow& row, const DiameterFigures& cells, bool with_13m) {
   const int columns = StockColumnsInUse(with_13m);
   for (int c = 0; c < columns; ++c) row.Put(CountField(c), cells.bars[c]);
   for (int c = 0; c < columns; ++c) row.Put(WeightField(c), cells.weights[c]);
@@ -54,8 +54,8 @@ CellReader::CellReader(const Recordset& rows, bool with_13m)
   }
 }
 
-SavedCells CellReader::Read() const {
-  SavedCells cells;
+DiameterFigures CellReader::Read() const {
+  DiameterFigures cells;
   for (std::size_t c = 0; c < bars_.size(); ++c) {
     cells.bars[static_cast<int>(c)] = bars_[c].Count();
     cells.weights[static_cast<int>(c)] = weights_[c].Weight();
@@ -69,7 +69,7 @@ SavedCells CellReader::Read() const {
   return cells;
 }
 
-void PutDiameter(ArchiveRow& row, int diameter_row, const DiameterSupply& supply, const RowMasks& masks) {
+void PutDiameter(ArchiveRow& row, int diameter_row, const BarOrigins& supply, const RowMasks& masks) {
   const bool thin = IsThinRow(diameter_row);
   const auto named = static_cast<std::size_t>(diameter_row);
   row.Put("太さ", DiameterCode(diameter_row));

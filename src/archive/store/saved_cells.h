@@ -1,48 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "archive/store/archive_row.h"
-#include "data/bar_tables.h"
-#include "platform/numbers/checked_array.h"
+#include "shell/context/reference_names.h"
+#include "tally/diameter_figures.h"
 
 namespace rbt {
 
-/// Grade and maker names of the deformed diameters, D10 to D51.
-struct DiameterSupply {
-  std::array<std::string, 12> grades;
-  std::array<std::string, 12> makers;
-};
-
-/// What a row of a saved tally holds of one diameter: by stock column its bars and their kilograms, then the
-/// sums, then the fittings.
-struct SavedCells {
-  CheckedArray<std::int32_t, kStockColumns> bars;
-  CheckedArray<Currency, kStockColumns> weights;
-  Currency stock;
-  Currency installed;
-  std::int32_t welds = 0;
-  std::int32_t threads = 0;
-  std::int32_t plates = 0;
-  std::int32_t cuts = 0;
-
-  friend bool operator==(const SavedCells&, const SavedCells&) = default;
-};
-
 /// True when a field that is kept is not 0; the 13.0 m column is kept where it is in use.
-bool HasFigures(const SavedCells& cells, bool with_13m);
+bool HasFigures(const DiameterFigures& cells, bool with_13m);
 
 /// The fields from 3500mm to 切断.
-void PutCells(ArchiveRow& row, const SavedCells& cells, bool with_13m);
+void PutCells(ArchiveRow& row, const DiameterFigures& cells, bool with_13m);
 /// Reads them.
 class CellReader {
  public:
   CellReader(const Recordset& rows, bool with_13m);
-  SavedCells Read() const;
+  DiameterFigures Read() const;
 
  private:
   std::vector<ArchiveField> bars_;
@@ -58,7 +36,7 @@ struct RowMasks {
 
 /// The fields 太さ, SD, メーカー, 材質, 材質タイプ, 材料 of a diameter row (0 to 17). Thin bars have neither
 /// grade nor maker.
-void PutDiameter(ArchiveRow& row, int diameter_row, const DiameterSupply& supply, const RowMasks& masks);
+void PutDiameter(ArchiveRow& row, int diameter_row, const BarOrigins& supply, const RowMasks& masks);
 
 /// Reads of which bars a row is.
 class MaterialReader {

@@ -19,7 +19,7 @@ inline constexpr std::array<std::string_view, 5> kRowTables{"重量集計", "階
 /// What the rows of a tally get beside its figures.
 struct RowOrder {
   SavedKey key;
-  DiameterSupply supply;
+  BarOrigins supply;
   bool with_13m = false;  ///< the 13.0 m column is in use, and kept
 };
 

@@ -236,8 +236,6 @@ class DiameterPages {
 
 }  // namespace
 
-BarOrigins ReadBarOrigins() { return {DiameterGradeNames(), DiameterMakerNames()}; }
-
 bool HasThickBars(const FiguresByDiameter& figures) {
   const auto weighs = [](const DiameterFigures& of) {
     return of.stock > Currency() || of.installed > Currency();

@@ -6,39 +6,20 @@
 #include <string>
 #include <vector>
 
-#include "data/bar_tables.h"
 #include "data/diameters.h"
 #include "platform/numbers/checked_array.h"
-#include "platform/numbers/currency.h"
 #include "reports/frame/head_layout.h"
 #include "reports/frame/report_head.h"
 #include "reports/frame/report_pen.h"
+#include "shell/context/reference_names.h"
+#include "tally/diameter_figures.h"
 
 namespace rbt {
 
 /// Sheets of diameters side by side, seven on a page, each with its stock bars by length and the sums below:
 /// of one floor, of the whole range, of one part.
 
-/// What such a sheet tells of one diameter; weights are kilograms.
-struct DiameterFigures {
-  CheckedArray<std::int32_t, kStockColumns> bars;
-  CheckedArray<Currency, kStockColumns> weights;
-  Currency stock;
-  Currency installed;
-  std::int32_t welds = 0;
-  std::int32_t threads = 0;
-  std::int32_t plates = 0;
-  std::int32_t cuts = 0;
-};
 using FiguresByDiameter = CheckedArray<DiameterFigures, kDiameterRows>;
-
-/// What stands beside the names of D10 to D51.
-struct BarOrigins {
-  std::array<std::string, kDeformedRows> grades = {};
-  std::array<std::string, kDeformedRows> makers = {};
-};
-/// Those of the bound site.
-BarOrigins ReadBarOrigins();
 
 struct DiameterSheet {
   const HeadLayout& layout;

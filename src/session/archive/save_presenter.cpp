@@ -118,7 +118,7 @@ void SavePresenter::Write(const std::string& name, const std::vector<SavedTally>
     const SaveOrder order{.key = SavedKeyOf(Now()),
                           .name = name,
                           .memos = keeps_memos_ ? memos_ : SavedMemos(),
-                          .supply = SupplyOfSite(),
+                          .supply = ReadBarOrigins(),
                           .with_13m = with_13m_};
     has_rows = SaveTally(*SiteFile(), result_, order, replaced);
   });

@@ -2,6 +2,7 @@
 #include "shell/context/reference_names.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "data/reference.h"
 #include "platform/fault.h"
@@ -16,15 +17,13 @@ std::string Get_SDName(std::int32_t code) {
   return names[static_cast<std::size_t>(code)];
 }
 
-std::array<std::string, 12> DiameterGradeNames() {
-  const SiteGrades grades = ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
-  std::array<std::string, 12> names;
-  std::transform(grades.codes.begin(), grades.codes.end(), names.begin(), Get_SDName);
-  return names;
-}
+std::array<std::string, 12> DiameterGradeNames() { return ReadBarOrigins().grades; }
 
-std::array<std::string, 12> DiameterMakerNames() {
-  return ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName).makers;
+BarOrigins ReadBarOrigins() {
+  SiteGrades read = ReadSiteGrades(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
+  BarOrigins origins{.grades = {}, .makers = std::move(read.makers)};
+  std::transform(read.codes.begin(), read.codes.end(), origins.grades.begin(), Get_SDName);
+  return origins;
 }
 
 std::string Get_BuiNa(std::int32_t part) {

@@ -13,8 +13,13 @@ namespace rbt {
 std::string Get_SDName(std::int32_t code);
 /// The grade names of D10 to D51 at the bound site, from its row in the open master database.
 std::array<std::string, 12> DiameterGradeNames();
-/// The makers of D10 to D51 at the bound site, likewise; empty where none is told.
-std::array<std::string, 12> DiameterMakerNames();
+/// Where the bars of D10 to D51 come from.
+struct BarOrigins {
+  std::array<std::string, 12> grades = {};
+  std::array<std::string, 12> makers = {};  ///< empty where none is told
+};
+/// At the bound site, likewise.
+BarOrigins ReadBarOrigins();
 /// 部位名 of a part from the open master database, in the naming that the setting `出荷日` selects (2: the
 /// second); empty when it is null or the part has no row.
 std::string Get_BuiNa(std::int32_t part);

@@ -17,8 +17,8 @@ inline constexpr const char* kArchiveTables[] = {"重量集計名称", "重量�
                                                  "階別重量集計", "部位別重量集計", "部位別本重集計"};
 
 /// A grade and a maker of its own for every diameter.
-inline DiameterSupply SampleSupply() {
-  DiameterSupply supply;
+inline BarOrigins SampleSupply() {
+  BarOrigins supply;
   for (std::size_t d = 0; d < supply.grades.size(); ++d) {
     supply.grades.at(d) = "SD" + std::to_string(d);
     supply.makers.at(d) = "O'Neill " + std::to_string(d);

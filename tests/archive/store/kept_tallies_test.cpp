@@ -243,7 +243,7 @@ TEST_F(KeptTallies, TheSuppliesOfASiteAreItsGradesAndMakers) {
   SelectSite(kScheduleFile);
   OpenMasterDatabase();
   SiteContext.GradeNames[2] = "SD345";
-  const DiameterSupply supply = SupplyOfSite();
+  const BarOrigins supply = ReadBarOrigins();
   EXPECT_EQ(supply.grades[3], "SD345");
   EXPECT_EQ(supply.makers[3], "東");
 }
