@@ -6,10 +6,14 @@
 #include <utility>
 
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QPushButton>
 #include <QScreen>
 
 #include "desktop/action.h"
 #include "desktop/form.h"
+#include "desktop/key_card.h"
 #include "desktop/key_table.h"
 #include "desktop/preview_save.h"
 #include "desktop/printer_choice.h"
@@ -47,7 +51,43 @@ constexpr std::array<KeyBinding<PreviewForm>, 8> kActionKeys{{
     {Qt::Key_Escape, &PreviewForm::Leave},
 }};
 
+struct CardKey {
+  int key;
+  const char* button;
+};
+
+/// The keys in the order of their buttons.
+constexpr std::array<CardKey, 12> kCardKeys{{
+    {Qt::Key_PageUp, "cmdPrev"},
+    {Qt::Key_PageDown, "cmdNext"},
+    {Qt::Key_Home, "cmdFirst"},
+    {Qt::Key_End, "cmdLast"},
+    {Qt::Key_Plus, "cmdZoomIn"},
+    {Qt::Key_Minus, "cmdZoomOut"},
+    {Qt::Key_F3, "cmdWhole"},
+    {Qt::Key_F4, "cmdWidth"},
+    {Qt::Key_F2, "cmdActual"},
+    {Qt::Key_F5, "cmdPrint"},
+    {Qt::Key_F7, "cmdSave"},
+    {Qt::Key_Escape, "cmdEnd"},
+}};
+
+void ShowCard(const PreviewForm& form) {
+  std::vector<KeyCardRow> rows;
+  rows.reserve(kCardKeys.size());
+  for (const CardKey& row : kCardKeys) {
+    const auto* button = form.findChild<QPushButton*>(QString::fromLatin1(row.button));
+    if (!button->isEnabled()) continue;
+    rows.push_back({QKeySequence(row.key).toString(), button->text().simplified(), button->toolTip()});
+  }
+  ShowKeyCard(form.windowTitle(), rows);
+}
+
 bool AnswerPress(PreviewForm& form, const QKeyEvent& press) {
+  if (press.modifiers().testFlag(Qt::ShiftModifier) && IsPress(press, Qt::Key_F1)) {
+    if (!IsRepeat(press)) ShowCard(form);
+    return true;
+  }
   for (const auto& binding : kMoveKeys) {
     if (!IsPress(press, binding.key)) continue;
     (form.*binding.handler)();

@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -225,6 +226,22 @@ TEST_F(Preview, WithoutAPrinterTheButtonIsOffAndTheReasonIsTold) {
   EXPECT_EQ(Button("cmdPrint").toolTip(), "プリンタがないため、印刷できません。");
   EXPECT_TRUE(Press(*form, Qt::Key_F5));
   EXPECT_THAT(messages, ElementsAre("プリンタがないため、印刷できません。"));
+}
+
+TEST_F(Preview, ShiftF1ShowsTheKeysThatActNowOnACard) {
+  printers.clear();
+  OpenPages(1);
+  QStringList told;
+  QTimer::singleShot(50, [&told] {
+    QWidget* card = QApplication::activeModalWidget();
+    ASSERT_NE(card, nullptr);
+    for (const QLabel* label : card->findChildren<QLabel*>()) told.push_back(label->text());
+    card->close();
+  });
+  EXPECT_TRUE(Press(*form, Qt::Key_F1, Qt::ShiftModifier));
+  EXPECT_TRUE(told.contains("ＰＤＦ保存 （F7）"));
+  EXPECT_TRUE(told.contains("全ての帳票を一つのＰＤＦファイルに保存する"));
+  EXPECT_TRUE(told.filter("F5").isEmpty()) << "there is no printer";
 }
 
 TEST_F(Preview, EscClosesIt) {

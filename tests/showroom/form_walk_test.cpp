@@ -179,6 +179,17 @@ TEST(AllForms, ShowTheirCaptionsWhole) {
   }
 }
 
+TEST(AllForms, SayWhatEachButtonDoes) {
+  const WalkedSite site;
+  for (const FormEntry& entry : AllForms()) {
+    const std::unique_ptr<QWidget> form = Shown(entry, entry.states.front());
+    for (const QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
+      if (button->objectName().startsWith("qt_")) continue;  // of a view, not of the form
+      EXPECT_FALSE(button->toolTip().isEmpty()) << entry.name << ": " << button->objectName().toStdString();
+    }
+  }
+}
+
 /// What a screen of 1366 x 768 leaves beside its task bar and a title bar, and one of 1920 x 1080 at one and
 /// a half times the size.
 TEST(AllForms, FitASmallScreen) {
