@@ -40,7 +40,7 @@ struct ResultScreen {
   std::span<const ControlText> names = {};           ///< object names, likewise
 
   /// The tally runs over a range that is asked for first.
-  bool IsScoped() const { return Range() != TallyRange::whole_site; }
+  bool IsScoped() const { return Range() != TallyRange::whole_site && Range() != TallyRange::names; }
   TallyRange Range() const { return RowOf(kind).range; }
 };
 
