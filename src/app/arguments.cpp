@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/arguments.h"
 
+#include <filesystem>
 #include <string_view>
+
+#include "platform/text/characters.h"
 
 namespace rbt {
 
@@ -31,6 +34,10 @@ Arguments ParseArguments(std::span<const char* const> words) {
     }
   }
   return arguments;
+}
+
+bool WorksWithNames(std::string_view program) {
+  return EqualIgnoringCase(std::filesystem::path(program).stem().string(), "rbtally2");
 }
 
 }  // namespace rbt

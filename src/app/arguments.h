@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace rbt {
 
@@ -19,5 +20,9 @@ struct Arguments {
 /// Takes the options out of the program's words (its own name not among them). A word of one dash is no
 /// option: start modes may be negative.
 Arguments ParseArguments(std::span<const char* const> words);
+
+/// True for the name under which the program works with registered names: "rbtally2", in whatever folder,
+/// with or without ".exe", letter case ignored.
+bool WorksWithNames(std::string_view program);
 
 }  // namespace rbt

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <span>
 
@@ -12,6 +13,7 @@
 #include "data/start_mode.h"
 #include "desktop/action.h"
 #include "desktop/colour.h"
+#include "desktop/form_place.h"
 #include "desktop/lock_question.h"
 #include "desktop/look.h"
 #include "desktop/message_box.h"
@@ -22,7 +24,10 @@
 #include "platform/system/paths.h"
 #include "platform/system/services.h"
 #include "screens/menu/jsmenu.h"
+#include "screens/names/names_forms.h"
+#include "screens/names/touroku.h"
 #include "session/menu/captions.h"
+#include "session/names/name_work.h"
 
 namespace rbt {
 
@@ -98,6 +103,21 @@ int RunMenu(const Arguments& arguments) {
   return QApplication::exec();
 }
 
+/// What the menu starts for the work with registered names: their screen is the first form.
+int RunNames(const Arguments& arguments) {
+  std::unique_ptr<Touroku> form;
+  RunAction(kNamesTitle, [&] {
+    if (!UseRoot(arguments)) return;
+    LoadSiteForNames(TraitsOfStartMode(ParseStartMode(arguments.command_line)));
+    form = MakeTouroku();
+  });
+  if (!form) return EXIT_FAILURE;
+  form->OnLeft([] { QApplication::exit(EXIT_SUCCESS); });
+  PlaceForm(*form);
+  form->show();
+  return QApplication::exec();
+}
+
 }  // namespace
 
 }  // namespace rbt
@@ -110,5 +130,6 @@ int main(int argc, char** argv) {
   const QApplication application(own_name_only, argv);
   rbt::PrepareDesktop();
   rbt::SetUpServices();
-  return rbt::RunMenu(arguments);
+  return rbt::WorksWithNames(words.empty() ? "" : words[0]) ? rbt::RunNames(arguments)
+                                                            : rbt::RunMenu(arguments);
 }

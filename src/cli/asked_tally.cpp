@@ -8,10 +8,12 @@
 #include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
+#include "session/names/name_work.h"
 #include "shell/context/site_context.h"
 #include "shell/preparation/classified_schedule.h"
 #include "tally/floorpart/floor_range.h"
 #include "tally/kinds/tally_kinds.h"
+#include "tally/names/name_list.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
@@ -57,6 +59,11 @@ void TakeAskedFloors(const SelectionOptions& options) {
   TakeFloors(Selection, range, SpecialMask(options.special), extent);
 }
 
+void TakeAskedNames(const SelectionOptions& options) {
+  OpenNameWork();
+  HoldMarks(*SiteContext.NameDatabase, options.names);
+}
+
 void TakeRange(TallyRange range, const SelectionOptions& options) {
   switch (range) {
     case TallyRange::shapes:
@@ -65,6 +72,8 @@ void TakeRange(TallyRange range, const SelectionOptions& options) {
       return TakePositions(Selection, PositionsOf(options));
     case TallyRange::floors:
       return TakeAskedFloors(options);
+    case TallyRange::names:
+      return TakeAskedNames(options);
     case TallyRange::whole_site:
       return;
   }
@@ -100,6 +109,7 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   ApplySelection(options, Selection);
   TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
+  if (row->range == TallyRange::names) CloseNameWork();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;

@@ -33,6 +33,7 @@ std::span<const Command> Commands();
 Action DefineDemo(CommandLine& line);
 Action DefinePrepare(CommandLine& line);
 Action DefineTally(CommandLine& line);
+Action DefineNames(CommandLine& line);
 Action DefineStock(CommandLine& line);
 Action DefineDetail(CommandLine& line);
 Action DefineSave(CommandLine& line);

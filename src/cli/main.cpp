@@ -52,6 +52,7 @@ std::span<const Command> Commands() {
       {"prepare", "Run the load and activation steps on a site", DefinePrepare},
       {"tally", "Tally a site", DefineTally},
       {"stock", "Choose the stock length for one group of equal pieces", DefineStock},
+      {"names", "List the registered names of a site with their weights", DefineNames},
       {"detail", "Tally a site and change its purchase list", DefineDetail},
       {"save", "Tally a site and keep the tally in it under a name", DefineSave},
       {"load", "Show a saved tally", DefineLoad},

@@ -41,4 +41,13 @@ TEST(Arguments, HelpAndVersionAreAskedFor) {
   EXPECT_FALSE(Parse({"1"}).help);
 }
 
+TEST(Arguments, TheProgramWorksWithNamesUnderTheNameOfTheirCompanion) {
+  for (const char* name : {"rbtally2", "/srv/rbk/rbtally2.exe", "RBTALLY2.EXE", "./Rbtally2"}) {
+    EXPECT_TRUE(WorksWithNames(name)) << name;
+  }
+  for (const char* name : {"rbtally1", "/srv/rbtally2/rbtally1.exe", "rbtally21", ""}) {
+    EXPECT_FALSE(WorksWithNames(name)) << name;
+  }
+}
+
 }  // namespace rbt::test

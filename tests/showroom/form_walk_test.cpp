@@ -84,9 +84,12 @@ void ExpectNoClippedCaption(const QWidget& form, const std::string& where) {
   }
 }
 
-/// A site whose schedule is not empty: a straight bar and a welded hoop.
+/// A site whose schedule is not empty: a straight bar and a welded hoop; with two registered names.
 struct WalkedSite : SiteFixture {
   WalkedSite() {
+    for (const std::int64_t name : {1, 2}) {
+      Add(kCompanionFile, "登録名", {{"登録AN", name}, {"登録名", std::string("柱・梁配筋")}});
+    }
     for (const std::int64_t shape : {1, 87}) {
       AddRow({{"太さ", std::int64_t{13}},
               {"形状No", shape},

@@ -40,17 +40,18 @@ struct ResultScreen {
   std::span<const ControlText> names = {};           ///< object names, likewise
 
   /// The tally runs over a range that is asked for first.
-  bool IsScoped() const { return Range() != TallyRange::whole_site; }
+  bool IsScoped() const { return Range() != TallyRange::whole_site && Range() != TallyRange::names; }
   TallyRange Range() const { return RowOf(kind).range; }
 };
 
-/// All of them.
+/// Those that the menu opens, each under a name of its own.
 std::span<const ResultScreen* const> ResultScreens();
 
 extern const ResultScreen kBulkScreen;       ///< JS
 extern const ResultScreen kPageScreen;       ///< PGJS
 extern const ResultScreen kShapeScreen;      ///< KEIJOJS
 extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
+extern const ResultScreen kNameScreen;       ///< JS over the marked registered names; no sites are added up
 
 /// What a result screen leans on beside the tally. An empty one is not ready yet: its button says so.
 struct ResultParts {

@@ -24,7 +24,9 @@ struct SiteContextData {
   /// The site is only read: what has to be worked out in its files is worked out on private copies.
   bool OnlyRead = false;
 
-  std::unique_ptr<Database> WorkDatabase;    ///< GENBAnnn.MDB, or a private copy of it
+  std::unique_ptr<Database> WorkDatabase;  ///< GENBAnnn.MDB, or a private copy of it
+  /// HIROInnn.mdb while registered names are worked with, or a private copy of it; null otherwise.
+  std::unique_ptr<Database> NameDatabase;
   std::unique_ptr<Database> MasterDatabase;  ///< SORANO.MDB, open for the run
   std::unique_ptr<Database> FixedStockDatabase;  ///< MTTeijyaku.mdb, open for the run when テーブル有無 is 1
   /// Its table as the current tally reads it, a private copy; null where the file has none that can be read.

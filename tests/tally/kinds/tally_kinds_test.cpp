@@ -23,6 +23,7 @@ TEST(TallyKinds, KeepTheNumbersOfSavedTallies) {
   EXPECT_EQ(static_cast<int>(TallyKind::page_shape), 3);
   EXPECT_EQ(static_cast<int>(TallyKind::floor), 4);
   EXPECT_EQ(static_cast<int>(TallyKind::part), 5);
+  EXPECT_EQ(static_cast<int>(TallyKind::names), 6);
 }
 
 TEST(TallyKinds, EachHasItsOwnWord) {
@@ -44,8 +45,9 @@ void SelectAll(ScheduleSite& site) {
   Selection.EndPage = 1;
   Selection.EndLine = 2;
   Selection.KaiStart = Selection.KaiEnd = Selection.BuiStart = 1;
-  site.AddRow({{"階", Number(1)}});
-  site.AddRow({{"階", Number(1)}});
+  site.AddName(Number(1), "一工区", Number(1));
+  site.AddRow({{"階", Number(1)}, {"登録名", Number(1)}});
+  site.AddRow({{"階", Number(1)}, {"登録名", Number(1)}});
 }
 
 std::int32_t BarsOf6mD19(const TallyTable& tables) { return tables.BarCount[3][5]; }

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cli/command_line.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/session.h"
+#include "session/names/name_work.h"
+#include "shell/context/site_context.h"
+#include "tally/names/name_list.h"
+#include "tally/views/grid_text.h"
+#include "tally/views/name_views.h"
+
+namespace rbt {
+
+namespace {
+
+struct NamesOptions {
+  CommonOptions common;
+  std::string format = "table";
+};
+
+std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
+  OpenSite(common);
+  OpenNameWork();
+  std::vector<RegisteredName> names = ReadNames(*SiteContext.NameDatabase, NameOrder::by_number);
+  CloseNameWork();
+  SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
+  return names;
+}
+
+void RunNames(const NamesOptions& options) {
+  const std::vector<RegisteredName> names = WeighedNames(options.common);
+  if (options.format == "json") return WriteResult(NameListJson(names));
+  WriteResult(options.format == "csv" ? NameCsv(names) : GridTable(kNameCaptions, NameRows(names)));
+}
+
+}  // namespace
+
+Action DefineNames(CommandLine& line) {
+  auto options = std::make_shared<NamesOptions>();
+  AddCommonOptions(line, options->common);
+  AddFormatOption(line, options->format);
+  return [options] { RunNames(*options); };
+}
+
+}  // namespace rbt
