@@ -5,8 +5,10 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "archive/csv/csv_subject.h"
 #include "archive/store/save_tally.h"
 #include "archive/store/site_file.h"
+#include "screens/archive/frm_back_up.h"
 #include "screens/archive/load_files.h"
 #include "screens/archive/save_files.h"
 #include "session/panels/site_head.h"
@@ -58,6 +60,13 @@ std::unique_ptr<QWidget> MakeLoad(TallyKind kind) {
   return std::make_unique<LoadFiles>(kind);
 }
 
+std::unique_ptr<QWidget> MakeBackUp() {
+  BindChosenSite();
+  BackUpParts parts;
+  parts.volumes = {{"/", "/"}, {"/media/usb  [ＵＳＢ]", "/media/usb"}};
+  return std::make_unique<FrmBackUp>(CsvOfTally{.result = SampleTally(TallyKind::page)}, std::move(parts));
+}
+
 void SelectFirst(QWidget& dialog) { dialog.findChild<QListWidget*>("List1")->item(0)->setSelected(true); }
 
 FormEntry SaveEntry(TallyKind kind, std::string state) {
@@ -88,7 +97,12 @@ std::vector<FormEntry> ArchiveForms() {
            .make = [] { return MakeLoad(TallyKind::part); },
            .first_focus = "List1",
            .keys = LoadFiles::Keys(),
-           .states = {{"empty", [](QWidget&) {}}}}};
+           .states = {{"empty", [](QWidget&) {}}}},
+          {.name = "FrmBackUp",
+           .make = MakeBackUp,
+           .first_focus = "btnSave",
+           .keys = FrmBackUp::Keys(),
+           .states = {{"folder", [](QWidget&) {}}}}};
 }
 
 }  // namespace rbt

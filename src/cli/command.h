@@ -41,6 +41,7 @@ Action DefineLoad(CommandLine& line);
 Action DefineList(CommandLine& line);
 Action DefineRename(CommandLine& line);
 Action DefineDelete(CommandLine& line);
+Action DefineExport(CommandLine& line);
 Action DefineReport(CommandLine& line);
 Action DefineImport(CommandLine& line);
 Action DefineCheck(CommandLine& line);

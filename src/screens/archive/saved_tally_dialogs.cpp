@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "screens/archive/saved_tally_dialogs.h"
 
+#include <utility>
+
 #include "desktop/form.h"
+#include "screens/archive/frm_back_up.h"
 #include "screens/archive/load_files.h"
+#include "screens/archive/mounted_volumes.h"
 #include "screens/archive/save_files.h"
 
 namespace rbt {
 
 void SaveWithDialog(const TallyResult& result, const SavedMemos& memos) {
-  SaveFiles dialog(result, memos, {});
+  SaveFiles dialog(result, memos, {.export_csv = ExportWithDialog});
   ShowModally(dialog);
 }
 
@@ -16,6 +20,11 @@ std::optional<LoadedTally> LoadWithDialog(TallyKind kind) {
   LoadFiles dialog(kind);
   ShowModally(dialog);
   return dialog.TakeLoaded();
+}
+
+void ExportWithDialog(CsvSubject subject) {
+  FrmBackUp dialog(std::move(subject), {.volumes = MountedVolumes(), .choose_folder = AskBackUpFolder});
+  ShowModally(dialog);
 }
 
 }  // namespace rbt

@@ -41,6 +41,15 @@ TEST(Cp932, RefusesOrReplacesHalfACharacter) {
             "b");
 }
 
+TEST(Cp932, MarksWhatItLacksWhereATextIsWrittenAllTheSame) {
+  const Cp932Text text = ToCp932Lenient("柱😀a한😀～");
+  EXPECT_EQ(FromCp932(text.bytes), "柱?a??～");
+  EXPECT_EQ(text.lacking, "😀한");
+  EXPECT_EQ(FromCp932(ToCp932Lenient("a\xE6柱").bytes), "a?柱");
+  EXPECT_EQ(ToCp932Lenient("柱").lacking, "");
+  EXPECT_EQ(ToCp932Lenient("").bytes, "");
+}
+
 TEST(Cp932, CountsBytesAndNeverCutsACharacterInHalf) {
   EXPECT_EQ(Cp932Length("柱ｱa"), 4U);
   EXPECT_EQ(Cp932Prefix("柱梁", 3), "柱");
