@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "showroom/accumulation_forms.h"
 #include "showroom/archive_forms.h"
 #include "showroom/detail_forms.h"
 #include "showroom/floorpart_forms.h"
@@ -16,8 +17,9 @@ namespace rbt {
 
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
-  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ResultForms(), DetailForms(),
-                                       FloorPartForms(), ArchiveForms(), SelectionForms(), PreviewForms()}) {
+  for (std::vector<FormEntry> forms :
+       {MenuForms(), SettingsForms(), ResultForms(), DetailForms(), FloorPartForms(), ArchiveForms(),
+        AccumulationForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;
