@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "showroom/accumulation_forms.h"
 #include "showroom/archive_forms.h"
 #include "showroom/detail_forms.h"
 #include "showroom/floorpart_forms.h"
@@ -19,7 +20,7 @@ std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
   for (std::vector<FormEntry> forms :
        {MenuForms(), SettingsForms(), ResultForms(), DetailForms(), FloorPartForms(), ArchiveForms(),
-        NamesForms(), SelectionForms(), PreviewForms()}) {
+        NamesForms(), AccumulationForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

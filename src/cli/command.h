@@ -42,6 +42,7 @@ Action DefineList(CommandLine& line);
 Action DefineRename(CommandLine& line);
 Action DefineDelete(CommandLine& line);
 Action DefineExport(CommandLine& line);
+Action DefineAccumulate(CommandLine& line);
 Action DefineReport(CommandLine& line);
 Action DefineImport(CommandLine& line);
 Action DefineCheck(CommandLine& line);

@@ -60,6 +60,7 @@ std::span<const Command> Commands() {
       {"rename", "Give a saved tally another name", DefineRename},
       {"delete", "Delete saved tallies", DefineDelete},
       {"export", "Write the CSV file of a tally", DefineExport},
+      {"accumulate", "Add up the bulk tallies of several sites", DefineAccumulate},
       {"report", "Print a report form of a tally to a PDF file", DefineReport},
       {"import", "Take real Jet files into the store", DefineImport},
       {"check", "Look whether a real Jet file is sound", DefineCheck},

@@ -26,6 +26,11 @@ void RequireSite(const Recordset& rows, std::string_view file_name) {
   }
 }
 
+SiteHead HeadOf(const Recordset& site) {
+  return {IntegerOrZero(site, site.Field("番号")), TextOrEmpty(site, site.Field("工事名")),
+          TextOrEmpty(site, site.Field("データパス")), IntegerOrZero(site, site.Field("取引先コード"))};
+}
+
 }  // namespace
 
 std::string SiteHeadStatement(std::string_view file_name) {
@@ -36,8 +41,22 @@ std::string SiteHeadStatement(std::string_view file_name) {
 SiteHead ReadSiteHead(Database& master, std::string_view file_name) {
   Recordset rows = master.OpenSnapshot(SiteHeadStatement(file_name));
   RequireSite(rows, file_name);
-  return {IntegerOrZero(rows, rows.Field("番号")), TextOrEmpty(rows, rows.Field("工事名")),
-          TextOrEmpty(rows, rows.Field("データパス")), IntegerOrZero(rows, rows.Field("取引先コード"))};
+  return HeadOf(rows);
+}
+
+std::vector<SiteHead> AllSiteHeads(Database& master) {
+  Recordset rows = master.OpenSnapshot(
+      "SELECT [番号], [工事名], [データパス], [取引先コード] FROM 工事テーブル ORDER BY 番号");
+  std::vector<SiteHead> sites;
+  sites.reserve(static_cast<std::size_t>(rows.RecordCount()));
+  for (; !rows.Eof(); rows.MoveNext()) sites.push_back(HeadOf(rows));
+  return sites;
+}
+
+std::optional<SiteHead> FindSiteHead(Database& master, std::int32_t number) {
+  Recordset rows = master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE 番号 = " + std::to_string(number));
+  if (rows.Eof()) return std::nullopt;
+  return HeadOf(rows);
 }
 
 std::string ClientName(Database& master, std::int32_t code) {

@@ -63,6 +63,18 @@ TEST_F(MasterDatabase, GivesTheHeadOfASite) {
   EXPECT_EQ(ClientName(Master(), head.client_code), "山田建設");
 }
 
+TEST_F(MasterDatabase, ListsSitesByNumberAndFindsOneByIts) {
+  Run("INSERT INTO 工事テーブル (番号, 工事名, データパス) VALUES (12, '駅前ビル', 'GENBA012.MDB')");
+  Run("INSERT INTO 工事テーブル (番号, 工事名, データパス) VALUES (3, '倉庫', 'GENBA003.MDB')");
+  const std::vector<SiteHead> sites = AllSiteHeads(Master());
+  ASSERT_EQ(sites.size(), 2U);
+  EXPECT_EQ(sites[0].name, "倉庫");
+  EXPECT_EQ(sites[1].data_path, "GENBA012.MDB");
+  ASSERT_TRUE(FindSiteHead(Master(), 12));
+  EXPECT_EQ(FindSiteHead(Master(), 12)->name, "駅前ビル");
+  EXPECT_FALSE(FindSiteHead(Master(), 4));
+}
+
 TEST_F(MasterDatabase, ReadsNullsOfASiteAsNothing) {
   Run("INSERT INTO 工事テーブル (データパス) VALUES ('GENBA001.MDB')");
   const SiteHead head = ReadSiteHead(Master(), "GENBA001.MDB");

@@ -51,9 +51,6 @@ struct ServicesData {
   PrinterSource FindPrinters;
   /// `WritePdf()`; empty: nothing can paint.
   PdfWriter PaintPdf;
-  /// `LoadAccumulation()`: brings the sums of the sites that were tallied before into the current result, all
-  /// of them or, with a fault, none; empty: there are none.
-  std::function<void()> Accumulation;
 };
 
 extern ServicesData Services;

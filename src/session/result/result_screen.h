@@ -3,11 +3,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "data/form_mask.h"
+#include "session/accumulation/site_choice.h"
 #include "session/panels/print_panel_presenter.h"
 #include "session/panels/views.h"
 #include "session/result/print_order.h"
@@ -63,7 +65,7 @@ struct ResultParts {
   PrintPanelPresenter::AskPrinter choose_printer = {};  ///< in place of one that is not there
   /// ZAIMEI in place of the form: gives the result as it is left there.
   std::function<TallyResult(TallyResult result)> open_detail;
-  std::function<void()> toggle_accumulation;  ///< of several sites
+  std::function<std::optional<AddedSite>()> choose_site;  ///< BACKUP2 in place of the form
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are

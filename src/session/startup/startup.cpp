@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "archive/accumulation/hozon.h"
 #include "archive/check_jsyukei.h"
 #include "data/reference.h"
 #include "data/shapes.h"
@@ -35,8 +36,6 @@
 namespace rbt {
 
 namespace {
-
-constexpr std::string_view kAccumulationFile = "\\RBK\\DATA\\hozon.MDB";
 
 /// The program that reads newer sites is looked for under one name and started under another.
 constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
@@ -141,12 +140,7 @@ void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
   if (options.command_line) return;
   if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
-  if (!FamilyFileExists(kAccumulationFile)) return;
-  const std::filesystem::path file = MapPath(kAccumulationFile);
-  if (!TakesFiles(FolderOf(file))) return;
-  std::error_code error;
-  std::filesystem::remove(file, error);
-  if (error) throw FileFault(file, "cannot be deleted", error.value());
+  if (TakesFiles(FolderOf(MapPath(kHozonFile)))) Delete_Hozon();
 }
 
 void ProbeShapes() {

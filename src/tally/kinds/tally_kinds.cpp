@@ -60,10 +60,8 @@ Presence PresenceOf(const TallyTable& /*tables*/) {
 Presence PresenceOf(const FloorTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
 Presence PresenceOf(const PartTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
 
-/// Sites are added up, and Ulbon rows raised later, in the tables by diameter and length alone.
-ResultOrigin OriginOf(const TallyTable& /*tables*/) {
-  return RunState.AccumulateFlag != 0 ? ResultOrigin::accumulated : ResultOrigin::counted;
-}
+/// Ulbon rows are raised, and sites added up, once a table by diameter and length is counted.
+ResultOrigin OriginOf(const TallyTable& /*tables*/) { return ResultOrigin::counted; }
 ResultOrigin OriginOf(const FloorTables& /*tables*/) {
   return Selection.UwanoseRitu != 0.0 ? ResultOrigin::raised : ResultOrigin::counted;
 }

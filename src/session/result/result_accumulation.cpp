@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// The result screen's sites that are added up.
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/system/process.h"
+#include "session/accumulation/accumulation.h"
+#include "session/panels/at_end.h"
+#include "session/result/result_presenter.h"
+#include "shell/context/run_state.h"
+#include "tally/selection.h"
+
+namespace rbt {
+
+void ResultPresenter::ToggleAccumulation() {
+  if (!parts_.choose_site) return SayNotReady("集計加算");
+  const AddingStep step;
+  if (RunState.AccumulateFlag == 0) {
+    BeginAccumulation(result_);
+  } else {
+    EndAccumulation();
+  }
+  const std::optional<AddedSite> site = parts_.choose_site();
+  if (site && RunState.AccumulateFlag != 0) return Add(*site);
+  if (RunState.AccumulateFlag != 0) EndAccumulation();
+  ReopenSite();
+}
+
+/// As the screen opens; where it cannot open again, it is left. What was typed into the print panel stays.
+void ResultPresenter::ReopenSite() {
+  bool opened = false;
+  const AtEnd left_if_not([&] {
+    if (!opened) Leave();
+  });
+  ulbon_view_ = false;
+  filters_ = {};
+  taken_uplift_.clear();
+  notice_.clear();
+  Load();
+  DecideAvailability();
+  FocusWork();
+  opened = true;
+}
+
+void ResultPresenter::Add(const AddedSite& site) {
+  bool added = false;
+  const AtEnd idle([&, before = Selection] {
+    busy_ = false;
+    filters_.accumulating = false;
+    if (!added) Selection = before;
+  });
+  busy_ = true;
+  filters_.accumulating = true;
+  if (show_) show_();
+  RunPendingEvents();
+  SetSelectionDefaults();
+  TallyResult sum = AddSite(site.KasanDataPath);
+  added = true;
+  ShowSum(std::move(sum), site);
+  EndAccumulation();
+}
+
+/// The buttons of hoops and plates stay those of the bound site, which its filters tally.
+void ResultPresenter::ShowSum(TallyResult sum, const AddedSite& site) {
+  result_ = std::move(sum);
+  ulbon_view_ = false;
+  filters_.uplift = {};
+  taken_uplift_.clear();
+  BeginWithDefaults();
+  TellModes();
+  Fill();
+  DecideAvailability();
+  added_sites_ += fmt::format("{}{:03}　{}", added_sites_.empty() ? "" : "、", site.number, site.name);
+  notice_ = "加算した現場：" + added_sites_;
+  FocusWork();
+}
+
+}  // namespace rbt
