@@ -14,6 +14,7 @@
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
 #include "cli/detail_changes.h"
+#include "cli/listed_names.h"
 #include "cli/options.h"
 #include "cli/output_options.h"
 #include "cli/saved_lists.h"
@@ -52,6 +53,9 @@ void RequireOptionsOfKind(const ExportOptions& options) {
     throw UsageError("--layout: only the floor tally takes it");
   }
   RequireChangesOfKind(options.kind, options.changes);
+  if (!IsOfNames(options)) return;
+  if (options.saved) throw UsageError("--saved: tallies of registered names are not saved");
+  if (!options.changes.empty()) throw UsageError("--percent, --set: not for the list of registered names");
 }
 
 bool IsFolder(const fs::path& output) {
@@ -65,7 +69,13 @@ void RequireFile(const fs::path& file, bool force) {
   RequireOutputs({{"-o", {file, OutputKind::csv}}}, force);
 }
 
+bool IsOfNames(const ExportOptions& options) {
+  const TallyKindRow* row = FindTallyKind(options.kind);
+  return row != nullptr && row->range == TallyRange::names;
+}
+
 CsvSubject SubjectOf(const ExportOptions& options) {
+  if (IsOfNames(options)) return CsvOfNames{WeighedNames(options.common)};
   CsvOfTally subject;
   if (options.saved) {
     OpenSite(options.common);

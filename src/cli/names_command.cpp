@@ -4,12 +4,12 @@
 #include <vector>
 
 #include "cli/command_line.h"
+#include "cli/listed_names.h"
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/session.h"
 #include "session/names/name_work.h"
 #include "shell/context/site_context.h"
-#include "tally/names/name_list.h"
 #include "tally/views/grid_text.h"
 #include "tally/views/name_views.h"
 
@@ -22,6 +22,14 @@ struct NamesOptions {
   std::string format = "table";
 };
 
+void RunNames(const NamesOptions& options) {
+  const std::vector<RegisteredName> names = WeighedNames(options.common);
+  if (options.format == "json") return WriteResult(NameListJson(names));
+  WriteResult(options.format == "csv" ? NameCsv(names) : GridTable(kNameCaptions, NameRows(names)));
+}
+
+}  // namespace
+
 std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
   OpenSite(common);
   OpenNameWork();
@@ -30,14 +38,6 @@ std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   return names;
 }
-
-void RunNames(const NamesOptions& options) {
-  const std::vector<RegisteredName> names = WeighedNames(options.common);
-  if (options.format == "json") return WriteResult(NameListJson(names));
-  WriteResult(options.format == "csv" ? NameCsv(names) : GridTable(kNameCaptions, NameRows(names)));
-}
-
-}  // namespace
 
 Action DefineNames(CommandLine& line) {
   auto options = std::make_shared<NamesOptions>();

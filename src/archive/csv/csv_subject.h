@@ -3,14 +3,13 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
 #include "data/diameters.h"
 #include "data/parts.h"
-#include "platform/numbers/currency.h"
+#include "tally/names/name_list.h"
 #include "tally/tally_result.h"
 
 namespace rbt {
@@ -22,16 +21,9 @@ struct CsvOfTally {
   std::string data_name = {};  ///< what the tally is saved under, or would be
 };
 
-/// A registered name with its kilograms.
-struct CsvName {
-  std::optional<std::int32_t> number = std::nullopt;  ///< 登録AN
-  std::string name = {};
-  Currency stock = {};
-  Currency installed = {};
-};
 /// The list of registered names that is written to a CSV file, in the order in which it stands there.
 struct CsvOfNames {
-  std::vector<CsvName> names = {};
+  std::vector<RegisteredName> names = {};
 };
 
 using CsvSubject = std::variant<CsvOfTally, CsvOfNames>;

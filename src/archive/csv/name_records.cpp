@@ -6,7 +6,7 @@ namespace rbt {
 
 namespace {
 
-std::string NameRecord(const CsvName& name) {
+std::string NameRecord(const RegisteredName& name) {
   PlainRecord record;
   if (name.number) {
     record.Put(*name.number);
@@ -20,10 +20,10 @@ std::string NameRecord(const CsvName& name) {
 
 std::string NameRecords(const CsvOfNames& names, const CsvSite& site) {
   Currency total;
-  for (const CsvName& name : names.names) total += name.stock;
+  for (const RegisteredName& name : names.names) total += name.stock;
   std::string text = HeadRecord(site, total);
   text += PlainRecord().Put("No").Put("登録名").Put("定尺重量").Put("取付重量").Line();
-  for (const CsvName& name : names.names) text += NameRecord(name);
+  for (const RegisteredName& name : names.names) text += NameRecord(name);
   return text;
 }
 

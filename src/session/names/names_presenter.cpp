@@ -182,7 +182,7 @@ void NamesPresenter::SendToTally(TallyOfNames tally) {
 
 void NamesPresenter::SaveCsv() {
   if (!parts_.save_csv) return SayNotReady("CSV保存", kNamesTitle);
-  parts_.save_csv();
+  parts_.save_csv(ReadNames(*SiteContext.NameDatabase, NameOrder::by_number));
 }
 
 void NamesPresenter::Leave() {

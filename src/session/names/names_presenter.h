@@ -16,7 +16,8 @@ namespace rbt {
 struct NamesParts {
   std::function<void()> open_tally;   ///< JS over the marked names, until it is closed
   std::function<void()> open_shapes;  ///< KEIJOJS, likewise
-  std::function<void()> save_csv;     ///< the dialog of CSV files, on the list
+  /// The dialog of CSV files, on all names by their numbers.
+  std::function<void(std::vector<RegisteredName> names)> save_csv;
 };
 
 /// The screen `touroku` without its window: the registered names of the site with their weights, which the

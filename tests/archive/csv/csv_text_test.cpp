@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-std::string TextOfNames(const std::vector<CsvName>& names) {
+std::string TextOfNames(const std::vector<RegisteredName>& names) {
   return CsvText(CsvOfNames{names}, SampleCsvSite(), FloorCsvLayout::total);
 }
 
@@ -22,9 +22,9 @@ std::string TextOfNames(const std::vector<CsvName>& names) {
 
 TEST(CsvText, ListsTheRegisteredNamesInTheirOrder) {
   const std::string text =
-      TextOfNames({{std::nullopt, "無番", Currency::FromInteger(1), Currency()},
-                   {2, "基礎\"Ａ\"", Currency::FromInteger(100), Currency::FromInteger(99)},
-                   {1, "", Currency::FromDouble(12.5), Currency::FromDouble(12.4)}});
+      TextOfNames({{std::nullopt, "無番", false, Currency::FromInteger(1), Currency()},
+                   {2, "基礎\"Ａ\"", true, Currency::FromInteger(100), Currency::FromInteger(99)},
+                   {1, "", false, Currency::FromDouble(12.5), Currency::FromDouble(12.4)}});
   EXPECT_EQ(text,
             "\"工事No\",7,\"工事名\",\"見本\"\"町\"\"住宅\",\"取引先\",\"見本建設\",\"総重量\",114\r\n"
             "\"No\",\"登録名\",\"定尺重量\",\"取付重量\"\r\n"

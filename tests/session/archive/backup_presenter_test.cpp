@@ -199,7 +199,8 @@ TEST_F(BackUpDialog, ATallyWithoutANameIsAskedForItsLayoutByItsFile) {
 }
 
 TEST_F(BackUpDialog, WritesTheListOfRegisteredNames) {
-  Open(CsvOfNames{{{1, "基礎", Currency::FromInteger(10), Currency::FromInteger(9)}}}).SaveInDocuments();
+  Open(CsvOfNames{{{1, "基礎", true, Currency::FromInteger(10), Currency::FromInteger(9)}}})
+      .SaveInDocuments();
   EXPECT_EQ(TextOf("Documents/試験工事登録名集計20261121090000.csv"),
             "\"工事No\",1,\"工事名\",\"試験工事\",\"取引先\",\"試験商店\",\"総重量\",10\r\n"
             "\"No\",\"登録名\",\"定尺重量\",\"取付重量\"\r\n"

@@ -29,7 +29,10 @@ class NamesScreen : public testing::Test {
     NamesParts parts;
     parts.open_tally = [this] { Opened("JS"); };
     parts.open_shapes = [this] { Opened("KEIJOJS"); };
-    parts.save_csv = [this] { Opened("CSV"); };
+    parts.save_csv = [this](const std::vector<RegisteredName>& names) {
+      Opened("CSV");
+      for (const RegisteredName& name : names) listed_ += name.name + (name.marked ? "1 " : "0 ");
+    };
     screen_ = std::make_unique<NamesPresenter>(std::move(parts));
     return *screen_;
   }
@@ -59,6 +62,7 @@ class NamesScreen : public testing::Test {
 
   NameSite site_;
   std::unique_ptr<NamesPresenter> screen_;
+  std::string listed_;
   std::string opened_;
   TallyKind kind_ = TallyKind::bulk;
   std::int32_t bars_ = 0;
@@ -242,6 +246,14 @@ TEST_F(NamesScreen, APurchaseListOfNamesIsNeitherKeptNorBroughtBack) {
   EXPECT_FALSE(detail.View().IsEnabled(DetailButton::save));
   EXPECT_FALSE(detail.View().IsEnabled(DetailButton::load));
   EXPECT_TRUE(detail.View().IsEnabled(DetailButton::restore));
+}
+
+TEST_F(NamesScreen, WritesAllNamesByTheirNumbersToACsvFileHoweverTheyAreListedAndMarked) {
+  NamesPresenter& screen = Open();
+  screen.Flip(1);
+  screen.Sort();
+  screen.SaveCsv();
+  EXPECT_EQ(listed_, "い0 あ1 う0 ");
 }
 
 TEST_F(NamesScreen, WhatIsNotReadySaysSo) {
