@@ -83,7 +83,7 @@ void SetUpServices() {
   // A window that stands still tells why after a moment.
   Services.LockPatience = kLockPatience;
   Services.WaitOn = AskToWaitOn;
-  Services.OnWait = NoteWait;
+  Services.OnWait = NoteWaits();
   Services.Colours = AskColour;
   Services.PendingEvents = ProcessEventsWithoutInput;
   Services.Printers = PdfDeviceAlone(preview);
