@@ -10,7 +10,7 @@
 #include "archive/store/site_file.h"
 #include "screens/archive/frm_back_up.h"
 #include "screens/archive/load_files.h"
-#include "screens/archive/save_files.h"
+#include "screens/archive/saved_tally_dialogs.h"
 #include "session/panels/site_head.h"
 #include "shell/config/settings.h"
 
@@ -51,7 +51,7 @@ void ProvideSavedTallies() {
 std::unique_ptr<QWidget> MakeSave(TallyKind kind) {
   BindChosenSite();
   ProvideSavedTallies();
-  return std::make_unique<SaveFiles>(SampleTally(kind), SavedMemos{"北棟", "", ""}, SaveParts());
+  return MakeSaveFiles(SampleTally(kind), SavedMemos{"北棟", "", ""});
 }
 
 std::unique_ptr<QWidget> MakeLoad(TallyKind kind) {

@@ -46,6 +46,11 @@ FloorCsvLayout LayoutOf(const ExportOptions& options) {
   return options.layout == "parts" ? FloorCsvLayout::parts : FloorCsvLayout::total;
 }
 
+bool IsOfNames(const ExportOptions& options) {
+  const TallyKindRow* row = FindTallyKind(options.kind);
+  return row != nullptr && row->range == TallyRange::names;
+}
+
 void RequireOptionsOfKind(const ExportOptions& options) {
   if (options.output.empty()) throw UsageError("-o is required");
   const TallyKindRow* row = FindTallyKind(options.kind);
@@ -67,11 +72,6 @@ bool IsFolder(const fs::path& output) {
 
 void RequireFile(const fs::path& file, bool force) {
   RequireOutputs({{"-o", {file, OutputKind::csv}}}, force);
-}
-
-bool IsOfNames(const ExportOptions& options) {
-  const TallyKindRow* row = FindTallyKind(options.kind);
-  return row != nullptr && row->range == TallyRange::names;
 }
 
 CsvSubject SubjectOf(const ExportOptions& options) {

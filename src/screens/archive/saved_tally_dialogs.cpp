@@ -7,13 +7,15 @@
 #include "screens/archive/frm_back_up.h"
 #include "screens/archive/load_files.h"
 #include "screens/archive/mounted_volumes.h"
-#include "screens/archive/save_files.h"
 
 namespace rbt {
 
+std::unique_ptr<SaveFiles> MakeSaveFiles(const TallyResult& result, const SavedMemos& memos) {
+  return std::make_unique<SaveFiles>(result, memos, SaveParts{.export_csv = ExportWithDialog});
+}
+
 void SaveWithDialog(const TallyResult& result, const SavedMemos& memos) {
-  SaveFiles dialog(result, memos, {.export_csv = ExportWithDialog});
-  ShowModally(dialog);
+  ShowModally(*MakeSaveFiles(result, memos));
 }
 
 std::optional<LoadedTally> LoadWithDialog(TallyKind kind) {
