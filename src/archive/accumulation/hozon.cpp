@@ -124,11 +124,6 @@ class Records {
   FieldHandle bars_ = rows_.Field("定尺本数");
 };
 
-bool HoldsSomething(const TallyTable& kept, int d, int l) {
-  return kept.StockWeight[d][l] != Currency() || kept.InstalledWeight[d][l] != Currency() ||
-         kept.BarCount[d][l] != 0;
-}
-
 /// The places that get a record, in the order of writing: all rows, then the cells that hold something.
 std::vector<Place> PlacesOf(const TallyTable& kept) {
   std::vector<Place> places;
