@@ -63,8 +63,8 @@ void BeginAccumulation(const TallyResult& sum) {
 
 void EndAccumulation() {
   RunState.AccumulateFlag = 0;
-  Delete_Hozon();
   SaveSetting(kAccumulateFlagKey, 0);
+  Delete_Hozon();
 }
 
 AddingStep::~AddingStep() {
