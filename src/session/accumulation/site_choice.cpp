@@ -54,7 +54,7 @@ SiteChoicePresenter::SiteChoicePresenter() {
 void SiteChoicePresenter::SendForSites() {
   MsgBox(kNoSites, kSiteChoiceTitle);
   if (RequireSibling(kDatabaseTool)) RunAndWait(kDatabaseTool, WindowStyle::normal);
-  ends_program_ = true;
+  choice_ = ProgramEnds();
   left_ = true;
 }
 
@@ -76,7 +76,6 @@ SiteChoiceView SiteChoicePresenter::View() {
   view.number = number_;
   view.focus = std::exchange(focus_, SiteChoiceFocus::stays);
   view.left = left_;
-  view.ends_program = ends_program_;
   return view;
 }
 
@@ -108,7 +107,7 @@ void SiteChoicePresenter::Execute() {
     MsgBox("この工事にはデータがありません。", kSiteChoiceTitle);
     return;
   }
-  chosen_ = AddedSite{site->number, site->name, std::move(data_path)};
+  choice_ = AddedSite{site->number, site->name, std::move(data_path)};
   left_ = true;
 }
 

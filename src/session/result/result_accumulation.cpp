@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The result screen's sites that are added up.
 #include <utility>
+#include <variant>
 
 #include <fmt/format.h>
 
+#include "platform/pass_over_faults.h"
 #include "platform/system/process.h"
 #include "session/accumulation/accumulation.h"
 #include "session/panels/at_end.h"
@@ -21,10 +23,19 @@ void ResultPresenter::ToggleAccumulation() {
   } else {
     EndAccumulation();
   }
-  const std::optional<AddedSite> site = parts_.choose_site();
-  if (site && RunState.AccumulateFlag != 0) return Add(*site);
-  if (RunState.AccumulateFlag != 0) EndAccumulation();
-  ReopenSite();
+  const SiteChoice choice = parts_.choose_site();
+  const auto* const site = std::get_if<AddedSite>(&choice);
+  if (site != nullptr && RunState.AccumulateFlag != 0) return Add(*site);
+  // A stored sum that cannot be deleted is told once the screen is as it is to be without it.
+  const auto fault = PassOverFaults([] {
+    if (RunState.AccumulateFlag != 0) EndAccumulation();
+  });
+  if (std::holds_alternative<ProgramEnds>(choice)) {
+    Leave();
+  } else {
+    ReopenSite();
+  }
+  if (fault) throw Fault(*fault);
 }
 
 /// As the screen opens; where it cannot open again, it is left. What was typed into the print panel stays.
