@@ -15,8 +15,15 @@
 
 namespace rbt {
 
+/// A sum is of whole sites. A tally without Ulbon is none, and of a saved one the installed weights by cell
+/// and the metres of thin bars, which the sum is made of, are not known.
+bool ResultPresenter::MayBeAddedTo() const {
+  return offers_print_ && !ulbon_view_ && result_.selection.IncludeUlbon && !result_.was_saved;
+}
+
 void ResultPresenter::ToggleAccumulation() {
   if (!parts_.choose_site) return SayNotReady("集計加算");
+  if (!MayBeAddedTo()) return;
   const AddingStep step;
   if (RunState.AccumulateFlag == 0) {
     BeginAccumulation(result_);

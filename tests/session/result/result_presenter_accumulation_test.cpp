@@ -22,6 +22,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 /// The bulk screen of site 1, with the like sites 2 and 3 to add.
@@ -201,6 +202,38 @@ TEST_F(AddedSites, AStoreThatCannotBeWrittenLeavesTheScreenAsItIsAndAsksForNoSit
   EXPECT_THAT(js_.calls, ElementsAre());
   EXPECT_THAT(js_.Row("D19"), StartsWith("135 |"));
   EXPECT_EQ(RunState.AccumulateFlag, 0);
+}
+
+TEST_F(AddedSites, ASavedTallyIsNotAddedTo) {
+  js_.detail = [](TallyResult result) {
+    result.origin = ResultOrigin::loaded;
+    result.was_saved = true;
+    return result;
+  };
+  js_.presenter->ShowDetail();
+  EXPECT_THAT(MainButtons(js_.View()), Not(HasSubstr("add")));
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("print"));
+  js_.calls.clear();
+  Add(2);
+  EXPECT_THAT(js_.calls, ElementsAre());
+  EXPECT_EQ(js_.View().notice, "");
+  ExpectOver();
+  js_.presenter->Recalculate();
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("add"));
+}
+
+TEST_F(AddedSites, ATallyWithoutUlbonIsNotAddedTo) {
+  js_.kinds = [] { Selection.IncludeUlbon = false; };
+  js_.presenter->ChooseKinds();
+  EXPECT_THAT(MainButtons(js_.View()), Not(HasSubstr("add")));
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("print")) << "all other kinds are whole";
+  js_.calls.clear();
+  Add(2);
+  EXPECT_THAT(js_.calls, ElementsAre());
+  ExpectOver();
+  js_.kinds = [] { Selection.IncludeUlbon = true; };
+  js_.presenter->ChooseKinds();
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("add"));
 }
 
 TEST_F(AddedSites, BarsThatWereRaisedInTheListAreAddedAsTheyAreShown) {
