@@ -13,6 +13,7 @@
 #include "platform/text/characters.h"
 #include "session/menu/siblings.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 
 namespace rbt {
@@ -55,6 +56,7 @@ void SiteChoicePresenter::SendForSites() {
   MsgBox(kNoSites, kSiteChoiceTitle);
   if (RequireSibling(kDatabaseTool)) RunAndWait(kDatabaseTool, WindowStyle::normal);
   choice_ = ProgramEnds();
+  RunState.IsEnding = true;
   left_ = true;
 }
 

@@ -42,7 +42,7 @@ struct SiteChoiceView {
 class SiteChoicePresenter {
  public:
   /// Reads the sites of the open master database. Without any site database the tool that makes them is run,
-  /// and the program is to end.
+  /// and the program is ending then.
   SiteChoicePresenter();
 
   SiteChoiceView View();

@@ -7,6 +7,7 @@
 #include "session/accumulation/more_sites.h"
 #include "session/result/result_site.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
 
 namespace rbt::test {
 
@@ -124,6 +125,7 @@ TEST_F(SiteChoice, WithoutAnySiteDatabaseTheToolThatMakesThemIsRunAndTheProgramE
   EXPECT_EQ(site_.Launches().front().command_line, "\\RBK\\DBTOOL\\rbdbtool.exe");
   EXPECT_TRUE(std::holds_alternative<ProgramEnds>(dialog.Choice()));
   EXPECT_TRUE(dialog.View().left);
+  EXPECT_TRUE(RunState.IsEnding);
 }
 
 }  // namespace rbt::test

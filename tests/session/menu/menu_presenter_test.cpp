@@ -294,6 +294,14 @@ TEST(MenuPresenter, TheExitWritesTheTallyThatStandsIntoHozon) {
   EXPECT_EQ(Load_Hozon().BarCount[3][5], 10);
 }
 
+TEST(MenuPresenter, ComesBackNoMoreOnceAScreenHasEndedTheProgram) {
+  Menu menu;
+  RunState.IsEnding = true;
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, IsEmpty());
+  EXPECT_TRUE(menu.presenter.HasEnded());
+}
+
 TEST(MenuPresenter, AnExitThatCannotWriteBringsTheMenuBack) {
   Menu menu;
   menu.faulty = true;
