@@ -38,10 +38,10 @@ class Accumulation : public testing::Test {
   }
   /// The classes of all rows of a schedule, in their order; a row without one has "null".
   std::vector<std::string> ClassesOf(const std::string& file) const {
+    const auto rows = site_.Rows(file, "SELECT 予備2 FROM 加工テーブル ORDER BY 行No");
     std::vector<std::string> classes;
-    for (const auto& row : site_.Rows(file, "SELECT 予備2 FROM 加工テーブル ORDER BY 行No")) {
-      classes.push_back(Shown(row.front()));
-    }
+    classes.reserve(rows.size());
+    for (const auto& row : rows) classes.push_back(Shown(row.front()));
     return classes;
   }
   bool FileStands() const { return std::filesystem::exists(site_.Data("hozon.MDB")); }
