@@ -22,7 +22,8 @@ struct SiteHead {
 
 /// The statement that finds a site's row by the name of its schedule file.
 std::string SiteHeadStatement(std::string_view file_name);
-/// The row of a site; one that the master database lacks throws `database`.
+/// The row of a site, here and below by the name of its schedule file, around which blanks may stand in
+/// データパス. One that the master database lacks throws `database`.
 SiteHead ReadSiteHead(Database& master, std::string_view file_name);
 /// The rows of all sites, by their numbers.
 std::vector<SiteHead> AllSiteHeads(Database& master);

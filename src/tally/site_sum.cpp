@@ -9,12 +9,8 @@ namespace rbt {
 
 namespace {
 
-Currency ToFourDecimals(double value) { return Currency::FromDouble(value); }
-
 void KeepCell(TallyTable& kept, const TallyTable& table, int d, int l) {
-  const bool holds_something = table.StockWeight[d][l] > Currency() ||
-                               table.InstalledWeight[d][l] > Currency() || table.BarCount[d][l] > 0;
-  if (!holds_something) return;
+  if (!HoldsSomething(table, d, l)) return;
   kept.StockWeight[d][l] = table.StockWeight[d][l];
   kept.InstalledWeight[d][l] = table.InstalledWeight[d][l];
   kept.BarCount[d][l] = table.BarCount[d][l];
@@ -44,6 +40,11 @@ void AddUlbon(TallyTable& table, const TallyTable& before, int d) {
 
 }  // namespace
 
+bool HoldsSomething(const TallyTable& table, int d, int l) {
+  return table.StockWeight[d][l] > Currency() || table.InstalledWeight[d][l] > Currency() ||
+         table.BarCount[d][l] > 0;
+}
+
 TallyTable KeptForSum(const TallyTable& table) {
   TallyTable kept;
   for (int d = 0; d < kDeformedRows; ++d) {
@@ -54,8 +55,8 @@ TallyTable KeptForSum(const TallyTable& table) {
     for (int l = 0; l < kStockColumns; ++l) KeepCell(kept, table, d, l);
   }
   for (int d = kDeformedRows; d < kDiameterRows; ++d) {
-    kept.UlbonLengthM[d] = ToFourDecimals(table.UlbonLengthM[d]).ToDouble();
-    kept.UlbonWeight[d] = ToFourDecimals(table.UlbonWeight[d]).ToDouble();
+    kept.UlbonLengthM[d] = Currency::FromDouble(table.UlbonLengthM[d]).ToDouble();
+    kept.UlbonWeight[d] = Currency::FromDouble(table.UlbonWeight[d]).ToDouble();
     kept.UlbonWeldCount[d] = table.UlbonWeldCount[d];
   }
   return kept;

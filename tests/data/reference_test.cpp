@@ -114,6 +114,20 @@ TEST_F(MasterDatabase, FindsASiteWhoseFileNameHoldsQuotes) {
   EXPECT_THROW(ReadSiteHead(Master(), "x' OR ''='"), Fault);
 }
 
+TEST_F(MasterDatabase, FindsASiteWhoseDataPathHasBlanksAroundTheFileName) {
+  Run("INSERT INTO 工事テーブル (番号, データパス, 長い工事名, メーカーNo, 支給形態, SD10) "
+      "VALUES (5, ' GENBA005.MDB  ', '長い名前', 6, 1, 3)");
+  EXPECT_EQ(ReadSiteHead(Master(), "genba005.mdb").number, 5);
+  EXPECT_EQ(ReadSiteHead(Master(), "GENBA005.MDB").data_path, " GENBA005.MDB  ");
+  EXPECT_EQ(ReadLongName(Master(), "GENBA005.MDB").name, "長い名前");
+  EXPECT_EQ(Get("SELECT 工事名区切り文字数 FROM 工事テーブル"), Value{std::int64_t{50}}) << "written there";
+  EXPECT_EQ(ReadMakerNumber(Master(), "GENBA005.MDB"), 6);
+  EXPECT_EQ(ReadSteelSupply(Master(), "GENBA005.MDB"), SteelSupply::supplied);
+  EXPECT_EQ(ReadSiteGrades(Master(), "GENBA005.MDB").codes[0], 3);
+  Run("INSERT INTO 工事テーブル (番号, データパス) VALUES (7, 'GENBA005.MDB')");
+  EXPECT_EQ(ReadSiteHead(Master(), "GENBA005.MDB").number, 7) << "the one without blanks comes first";
+}
+
 TEST_F(MasterDatabase, ComposesTheHeadStatementWordForWord) {
   EXPECT_EQ(SiteHeadStatement("GENBA001.MDB"),
             "SELECT [番号], [工事名], [データパス], [取引先コード] FROM 工事テーブル WHERE データパス = "

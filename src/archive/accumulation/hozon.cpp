@@ -124,11 +124,6 @@ class Records {
   FieldHandle bars_ = rows_.Field("定尺本数");
 };
 
-bool HoldsSomething(const TallyTable& kept, int d, int l) {
-  return kept.StockWeight[d][l] != Currency() || kept.InstalledWeight[d][l] != Currency() ||
-         kept.BarCount[d][l] != 0;
-}
-
 /// The places that get a record, in the order of writing: all rows, then the cells that hold something.
 std::vector<Place> PlacesOf(const TallyTable& kept) {
   std::vector<Place> places;
@@ -162,6 +157,16 @@ void WriteRecords(Database& hozon, const TallyTable& kept) {
   }
 }
 
+void Remove(const std::filesystem::path& file) {
+  std::error_code error;
+  std::filesystem::remove(file, error);
+  if (error) throw FileFault(file, "cannot be deleted", error.value());
+}
+
+/// A save that was killed over a stored sum leaves the journal of its changes. Beside another file of that
+/// name it would put old pages into it.
+void RemoveJournal(const std::filesystem::path& file) { Remove(file.string() + "-journal"); }
+
 void WriteWhole(Database& hozon, const TallyTable& kept) {
   Transaction whole(hozon);
   if (hozon.FindTable("T_hozon") == nullptr) Make_Hozon(hozon);
@@ -185,6 +190,7 @@ void Save_Hozon(const TallyTable& sum) {
     Database hozon = Database::CreateDatabase(work.Path());
     WriteWhole(hozon, kept);
   }
+  RemoveJournal(file);
   work.PutInPlace();
 }
 
@@ -198,11 +204,10 @@ TallyTable Load_Hozon() {
 }
 
 void Delete_Hozon() {
-  if (!FamilyFileExists(kHozonFile)) return;
   const std::filesystem::path file = MapPath(kHozonFile);
-  std::error_code error;
-  std::filesystem::remove(file, error);
-  if (error) throw FileFault(file, "cannot be deleted", error.value());
+  // The file first: without its journal it would be a sum that is half another one.
+  Remove(file);
+  RemoveJournal(file);
 }
 
 }  // namespace rbt

@@ -22,7 +22,8 @@ void Save_Hozon(const TallyTable& sum);
 /// `subscript out of range` for a record of no row or column.
 TallyTable Load_Hozon();
 
-/// Deletes the file, if there is one. Throws `file` where that fails.
+/// Deletes the file, if there is one, and what a killed save has left beside it. Throws `file` where that
+/// fails.
 void Delete_Hozon();
 
 }  // namespace rbt

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include <QWidget>
@@ -27,8 +26,7 @@ class BACKUP2 : public QWidget {
   /// Every key of its table, of the Qt::Key enumeration.
   static std::vector<int> Keys();
 
-  const std::optional<AddedSite>& Chosen() const { return presenter_.Chosen(); }
-  bool EndsProgram() const { return presenter_.EndsProgram(); }
+  const SiteChoice& Choice() const { return presenter_.Choice(); }
 
  private:
   struct Action;

@@ -2,6 +2,7 @@
 #include "screens/accumulation/site_choice_dialog.h"
 
 #include <cstdlib>
+#include <variant>
 
 #include <QApplication>
 
@@ -10,14 +11,14 @@
 
 namespace rbt {
 
-std::optional<AddedSite> ChooseSite() {
+SiteChoice ChooseSite() {
   BACKUP2 dialog;
-  if (dialog.EndsProgram()) {
+  if (std::holds_alternative<ProgramEnds>(dialog.Choice())) {
     QApplication::exit(EXIT_SUCCESS);
-    return std::nullopt;
+  } else {
+    ShowInPlace(dialog);
   }
-  ShowInPlace(dialog);
-  return dialog.Chosen();
+  return dialog.Choice();
 }
 
 }  // namespace rbt

@@ -12,6 +12,8 @@ SiteGrid::SiteGrid(QWidget* parent) : GridControl(parent) {
               {"工事名", kNameCharacters, Qt::AlignLeft, true, true}});
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::SingleSelection);
+  // Another number may stand in its box: a click takes the row that is current already, too.
+  connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& cell) { GoneTo(cell); });
 }
 
 void SiteGrid::Show(const SiteChoiceView& view) {
@@ -25,9 +27,11 @@ void SiteGrid::Show(const SiteChoiceView& view) {
 
 void SiteGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   GridControl::currentChanged(current, previous);
-  if (!silent_ && gone_to_ && current.isValid() && current.row() != previous.row()) {
-    gone_to_(static_cast<std::size_t>(current.row()));
-  }
+  if (!silent_ && current.row() != previous.row()) GoneTo(current);
+}
+
+void SiteGrid::GoneTo(const QModelIndex& cell) const {
+  if (gone_to_ && cell.isValid()) gone_to_(static_cast<std::size_t>(cell.row()));
 }
 
 }  // namespace rbt

@@ -23,6 +23,8 @@ class SiteGrid : public GridControl {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
+  void GoneTo(const QModelIndex& cell) const;
+
   std::function<void(std::size_t row)> gone_to_;
   bool silent_ = false;
 };

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "session/accumulation/accumulation.h"
 
-#include <string>
 #include <utility>
 
 #include "archive/accumulation/hozon.h"
 #include "platform/failure_log.h"
-#include "platform/files/system_error.h"
 #include "platform/pass_over_faults.h"
-#include "platform/system/paths.h"
 #include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -46,8 +43,7 @@ void BindOther(std::string_view file_name) {
   StartOptions options;
   options.start_mode = Selection.StartMode;
   options.site = file_name;
-  if (FollowSelectedSite(options)) return;
-  throw FileFaultText(MapPath("\\RBK\\DATA\\" + std::string(file_name)), "needs the newer program");
+  FollowReadableSite(options);
 }
 
 TallyResult CountOther(std::string_view file_name) {
@@ -67,8 +63,8 @@ void BeginAccumulation(const TallyResult& sum) {
 
 void EndAccumulation() {
   RunState.AccumulateFlag = 0;
-  Delete_Hozon();
   SaveSetting(kAccumulateFlagKey, 0);
+  Delete_Hozon();
 }
 
 AddingStep::~AddingStep() {

@@ -10,7 +10,8 @@ namespace rbt {
 /// Turns the accumulation on, here and in the registry, and stores the tally of a screen as the sum that the
 /// next site is added to. What a fault leaves on ends with the `AddingStep` around it.
 void BeginAccumulation(const TallyResult& sum);
-/// Turns it off, here and in the registry, and drops the stored sum.
+/// Turns it off, here and in the registry, then drops the stored sum. Where that fails it is off all the
+/// same.
 void EndAccumulation();
 
 /// The bulk tally of a site on top of the stored sum. The site is prepared as its own start would do it, by

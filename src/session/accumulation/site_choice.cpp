@@ -13,6 +13,7 @@
 #include "platform/text/characters.h"
 #include "session/menu/siblings.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 
 namespace rbt {
@@ -54,7 +55,8 @@ SiteChoicePresenter::SiteChoicePresenter() {
 void SiteChoicePresenter::SendForSites() {
   MsgBox(kNoSites, kSiteChoiceTitle);
   if (RequireSibling(kDatabaseTool)) RunAndWait(kDatabaseTool, WindowStyle::normal);
-  ends_program_ = true;
+  choice_ = ProgramEnds();
+  RunState.IsEnding = true;
   left_ = true;
 }
 
@@ -76,7 +78,6 @@ SiteChoiceView SiteChoicePresenter::View() {
   view.number = number_;
   view.focus = std::exchange(focus_, SiteChoiceFocus::stays);
   view.left = left_;
-  view.ends_program = ends_program_;
   return view;
 }
 
@@ -108,7 +109,7 @@ void SiteChoicePresenter::Execute() {
     MsgBox("この工事にはデータがありません。", kSiteChoiceTitle);
     return;
   }
-  chosen_ = AddedSite{site->number, site->name, std::move(data_path)};
+  choice_ = AddedSite{site->number, site->name, std::move(data_path)};
   left_ = true;
 }
 

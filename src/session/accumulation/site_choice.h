@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "data/reference.h"
@@ -19,6 +20,12 @@ struct AddedSite {
   std::string KasanDataPath;  ///< データパス, trimmed, not empty
 };
 
+/// There are no sites: they are to be made, and the program ends.
+struct ProgramEnds {};
+
+/// What comes of the dialog: nothing, as long as it is open and where it is left without a site.
+using SiteChoice = std::variant<std::monostate, AddedSite, ProgramEnds>;
+
 /// Where the focus of `BACKUP2` goes.
 enum class SiteChoiceFocus { stays, sites, number };
 
@@ -29,14 +36,13 @@ struct SiteChoiceView {
   std::string number;                              ///< as it is typed, or of that site
   SiteChoiceFocus focus = SiteChoiceFocus::stays;  ///< asked for once
   bool left = false;                               ///< the dialog is to be closed
-  bool ends_program = false;                       ///< ... and the program with it
 };
 
 /// The dialog `BACKUP2` without its window: which site is added next.
 class SiteChoicePresenter {
  public:
   /// Reads the sites of the open master database. Without any site database the tool that makes them is run,
-  /// and the program is to end.
+  /// and the program is ending then.
   SiteChoicePresenter();
 
   SiteChoiceView View();
@@ -49,9 +55,7 @@ class SiteChoicePresenter {
   void Execute();
   void Leave() { left_ = true; }
 
-  /// Nothing when the dialog was left without a site.
-  const std::optional<AddedSite>& Chosen() const { return chosen_; }
-  bool EndsProgram() const { return ends_program_; }
+  const SiteChoice& Choice() const { return choice_; }
 
  private:
   void SendForSites();
@@ -61,9 +65,8 @@ class SiteChoicePresenter {
   std::optional<std::size_t> current_;
   std::string number_;
   SiteChoiceFocus focus_ = SiteChoiceFocus::sites;
-  std::optional<AddedSite> chosen_;
+  SiteChoice choice_;
   bool left_ = false;
-  bool ends_program_ = false;
 };
 
 inline constexpr std::string_view kSiteChoiceTitle = "集計を加算する現場";

@@ -95,7 +95,7 @@ void MenuPresenter::HandOver(const std::string& program) {
 }
 
 void MenuPresenter::Activate() {
-  if (ended_ || window_.HasOpenForm()) return;
+  if (HasEnded() || window_.HasOpenForm()) return;
   if (Selection.StartMode.PassesOn()) window_.Minimise();
   const MenuState state = Vitally(parts_.activate);
   if (state.hand_over_to) return HandOver(*state.hand_over_to);
@@ -167,6 +167,8 @@ bool MenuPresenter::RequireForm(std::string_view form, std::string_view caption)
   MsgBox(fmt::format("「{}」の画面は、まだご利用いただけません。", caption), kMenuTitle);
   return false;
 }
+
+bool MenuPresenter::HasEnded() const { return ended_ || RunState.IsEnding; }
 
 void MenuPresenter::End(int status) {
   ended_ = true;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The result screen's sites that are added up.
 #include <utility>
+#include <variant>
 
 #include <fmt/format.h>
 
+#include "platform/pass_over_faults.h"
 #include "platform/system/process.h"
 #include "session/accumulation/accumulation.h"
 #include "session/panels/at_end.h"
@@ -13,18 +15,34 @@
 
 namespace rbt {
 
+/// A sum is of whole sites. A tally without Ulbon is none, and of a saved one the installed weights by cell
+/// and the metres of thin bars, which the sum is made of, are not known.
+bool ResultPresenter::MayBeAddedTo() const {
+  return offers_print_ && !ulbon_view_ && result_.selection.IncludeUlbon && !result_.was_saved;
+}
+
 void ResultPresenter::ToggleAccumulation() {
   if (!parts_.choose_site) return SayNotReady("集計加算");
+  if (!MayBeAddedTo()) return;
   const AddingStep step;
   if (RunState.AccumulateFlag == 0) {
     BeginAccumulation(result_);
   } else {
     EndAccumulation();
   }
-  const std::optional<AddedSite> site = parts_.choose_site();
-  if (site && RunState.AccumulateFlag != 0) return Add(*site);
-  if (RunState.AccumulateFlag != 0) EndAccumulation();
-  ReopenSite();
+  const SiteChoice choice = parts_.choose_site();
+  const auto* const site = std::get_if<AddedSite>(&choice);
+  if (site != nullptr && RunState.AccumulateFlag != 0) return Add(*site);
+  // A stored sum that cannot be deleted is told once the screen is as it is to be without it.
+  const auto fault = PassOverFaults([] {
+    if (RunState.AccumulateFlag != 0) EndAccumulation();
+  });
+  if (std::holds_alternative<ProgramEnds>(choice)) {
+    Leave();
+  } else {
+    ReopenSite();
+  }
+  if (fault) throw Fault(*fault);
 }
 
 /// As the screen opens; where it cannot open again, it is left. What was typed into the print panel stays.

@@ -73,7 +73,8 @@ class ResultPresenter {
 
   void ShowDetail();
   /// Keeps the tally that is shown and asks for the site to be added; the sum is shown then, or the bound
-  /// site alone where none is chosen. A fault of the other site leaves what was shown.
+  /// site alone where none is chosen. A fault of the other site leaves what was shown. Nothing while what is
+  /// shown cannot be added to.
   void ToggleAccumulation();
   /// One step back: from the box of the uplift, else from the Ulbon rows to the whole tally, else off the
   /// screen.
@@ -88,6 +89,7 @@ class ResultPresenter {
   void ReopenSite();
   void Add(const AddedSite& site);
   void ShowSum(TallyResult sum, const AddedSite& site);
+  bool MayBeAddedTo() const;
   /// What is shown is the sum of several sites.
   bool IsSum() const { return result_.origin == ResultOrigin::accumulated; }
   void ShowNormalView();

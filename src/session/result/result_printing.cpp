@@ -160,7 +160,7 @@ void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   view.restore_values = {offers.uplift};
   view.show_detail = {of_this_site, idle_result};
   view.change_range = {offers.range_change, idle_result};
-  view.toggle_accumulation = {offers.accumulation && offers_print_ && !ulbon_view_, idle};
+  view.toggle_accumulation = {offers.accumulation && MayBeAddedTo(), idle};
   view.leave = {true, idle};
 }
 

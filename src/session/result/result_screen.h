@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -65,7 +64,7 @@ struct ResultParts {
   PrintPanelPresenter::AskPrinter choose_printer = {};  ///< in place of one that is not there
   /// ZAIMEI in place of the form: gives the result as it is left there.
   std::function<TallyResult(TallyResult result)> open_detail;
-  std::function<std::optional<AddedSite>()> choose_site;  ///< BACKUP2 in place of the form
+  std::function<SiteChoice()> choose_site;  ///< BACKUP2 in place of the form
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are

@@ -64,9 +64,14 @@ void RequireSteelIni() {
   if (!FamilyFileExists(kSteelIni)) throw FileFaultText(MapPath(kSteelIni), "the file does not exist");
 }
 
+/// Schedule file name of the site that is to be bound.
+std::string ChosenSite(const StartOptions& options) {
+  return options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+}
+
 void BindSite(const StartOptions& options) {
   RequireSteelIni();
-  const std::string name = options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+  const std::string name = ChosenSite(options);
   if (name.empty()) {
     throw FileFaultText(MapPath(kSteelIni), fmt::format("no site: [{}] {} is empty",
                                                         kSelectedDbNameKey.section, kSelectedDbNameKey.key));
@@ -286,6 +291,11 @@ bool FollowSelectedSite(const StartOptions& options) {
   Step(ProbeShapes);
   site.NoteReady();
   return true;
+}
+
+void FollowReadableSite(const StartOptions& options) {
+  if (FollowSelectedSite(options)) return;
+  throw FileFaultText(MapPath("\\RBK\\DATA\\" + ChosenSite(options)), "needs the newer program");
 }
 
 MenuState ActivateMenu(const StartOptions& options) {

@@ -40,6 +40,9 @@ LoadResult LoadSite(const StartOptions& options);
 /// one that a newer program reads.
 bool FollowSelectedSite(const StartOptions& options);
 
+/// The same, where nothing can be handed over: a site that a newer program reads is a `file` fault.
+void FollowReadableSite(const StartOptions& options);
+
 /// Every time the menu gets the focus: re-reads what may have changed, follows the selected site, refreshes
 /// the schedule, resets the selection and leaves the site database open; on the command line also held,
 /// classified for the start mode, so that all reads see one state of it (see `HoldClassifiedSchedule`).

@@ -20,7 +20,6 @@ class KilledSum : public testing::Test {
     int done = 0;
     TryMoments([&](int n) {
       SCOPED_TRACE(n);
-      std::filesystem::remove(root_.Data("hozon.MDB-journal"));
       Delete_Hozon();
       if (before != nullptr) Save_Hozon(*before);
       const bool killed = KilledBeforeChange(n, [] { Save_Hozon(SampleSum(9)); });
@@ -33,6 +32,8 @@ class KilledSum : public testing::Test {
     EXPECT_GT(done, 0);
   }
 
+  std::filesystem::path Journal() const { return root_.Data("hozon.MDB-journal"); }
+
   RootFolder root_;
 };
 
@@ -43,6 +44,35 @@ TEST_F(KilledSum, AFirstSaveIsWholeOrNot) { ExpectAllOrNothing(nullptr); }
 TEST_F(KilledSum, ASaveOverASumIsWholeOrNot) {
   const TallyTable before = SampleSum(3);
   ExpectAllOrNothing(&before);
+}
+
+TEST_F(KilledSum, DeletingTakesTheJournalOfAKilledSaveAlong) {
+  int journals = 0;
+  TryMoments([&](int n) {
+    SCOPED_TRACE(n);
+    Save_Hozon(SampleSum(3));
+    const bool killed = KilledBeforeChange(n, [] { Save_Hozon(SampleSum(9)); });
+    if (std::filesystem::exists(Journal())) ++journals;
+    Delete_Hozon();
+    EXPECT_FALSE(std::filesystem::exists(Journal()));
+    return killed;
+  });
+  EXPECT_GT(journals, 0);
+}
+
+/// Killed between the two: the file is gone, its journal stands.
+TEST_F(KilledSum, AJournalWithoutItsFileReachesNoLaterSum) {
+  TryMoments([&](int n) {
+    SCOPED_TRACE(n);
+    Save_Hozon(SampleSum(3));
+    const bool killed = KilledBeforeChange(n, [] { Save_Hozon(SampleSum(9)); });
+    std::filesystem::remove(root_.Data("hozon.MDB"));
+    Save_Hozon(SampleSum(5));
+    EXPECT_FALSE(std::filesystem::exists(Journal()));
+    EXPECT_EQ(Load_Hozon(), KeptForSum(SampleSum(5)));
+    Delete_Hozon();
+    return killed;
+  });
 }
 
 TEST_F(KilledSum, ASaveWhoseSystemCallFailsIsWholeOrAFaultThatLeavesTheSumBefore) {

@@ -109,6 +109,12 @@ TEST_F(Hozon, ARecordOfNoRowOrColumnIsAFault) {
   EXPECT_EQ(FaultOf(Load_Hozon), FaultKind::subscript_out_of_range);
 }
 
+TEST_F(Hozon, AJournalThatStandsAloneIsDeletedToo) {
+  root_.Put("DATA/hozon.MDB-journal", "left");
+  Delete_Hozon();
+  EXPECT_FALSE(std::filesystem::exists(root_.Data("hozon.MDB-journal")));
+}
+
 TEST_F(Hozon, IsGoneOnceDeleted) {
   Save_Hozon(SampleSum(1));
   Delete_Hozon();

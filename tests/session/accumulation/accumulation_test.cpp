@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "session/accumulation/accumulation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "archive/accumulation/hozon.h"
@@ -19,6 +20,12 @@ namespace rbt::test {
 
 namespace {
 
+using testing::AllOf;
+using testing::Contains;
+using testing::Each;
+using testing::Not;
+using testing::SizeIs;
+
 /// Site 1 is bound; site 2 is like it, with ten D32 beside.
 class Accumulation : public testing::Test {
  protected:
@@ -28,6 +35,14 @@ class Accumulation : public testing::Test {
     d32.emplace_back("行No", std::int64_t{99});
     site_.Add(other_, "加工テーブル", d32);
     ResultSite::Load();
+  }
+  /// The classes of all rows of a schedule, in their order; a row without one has "null".
+  std::vector<std::string> ClassesOf(const std::string& file) const {
+    const auto rows = site_.Rows(file, "SELECT 予備2 FROM 加工テーブル ORDER BY 行No");
+    std::vector<std::string> classes;
+    classes.reserve(rows.size());
+    for (const auto& row : rows) classes.push_back(Shown(row.front()));
+    return classes;
   }
   bool FileStands() const { return std::filesystem::exists(site_.Data("hozon.MDB")); }
 
@@ -62,11 +77,13 @@ TEST_F(Accumulation, AddsTheOtherSiteToWhatIsStored) {
 
 TEST_F(Accumulation, PreparesTheOtherSiteAsItsOwnStartWould) {
   BeginAccumulation(CountTally(TallyKind::bulk));
-  EXPECT_EQ(Shown(site_.Rows(other_, "SELECT 予備2 FROM 加工テーブル WHERE 太さ=32").front().front()),
-            "null");
+  EXPECT_THAT(ClassesOf(other_), AllOf(SizeIs(5), Each("null")));
   AddSite(other_);
-  EXPECT_EQ(Shown(site_.Rows(other_, "SELECT 予備2 FROM 加工テーブル WHERE 太さ=32").front().front()),
-            Shown(site_.Rows(kScheduleFile, "SELECT 予備2 FROM 加工テーブル WHERE 太さ=19").front().front()));
+  std::vector<std::string> expected = ClassesOf(kScheduleFile);  // four rows, the thin bar among them
+  EXPECT_THAT(expected, AllOf(SizeIs(4), Not(Contains("null"))));
+  EXPECT_NE(expected.front(), expected.back());
+  expected.push_back(expected.front());  // D32 is classed like D19
+  EXPECT_EQ(ClassesOf(other_), expected);
 }
 
 TEST_F(Accumulation, LeavesTheBoundSiteBoundAndOpenAsItWas) {
@@ -94,7 +111,8 @@ TEST_F(Accumulation, OfASiteThatCannotBeTalliedIsAFaultAndTheBoundSiteStaysBound
 TEST_F(Accumulation, OfASiteOfANewerFormatIsAFault) {
   site_.PutProgram("DATA/rbtallyS.exe");
   site_.Add(other_, "データーベースバージョン", {{"バージョン", std::string("7.0")}});
-  EXPECT_EQ(FaultOf([&] { AddSite(other_); }), FaultKind::file);
+  EXPECT_NE(FaultTextOf([&] { AddSite(other_); }).find("GENBA002.MDB: needs the newer program"),
+            std::string::npos);
   EXPECT_EQ(SiteContext.SelectedDbName, kScheduleFile);
 }
 
@@ -102,6 +120,20 @@ TEST_F(Accumulation, OnTopOfAFileThatWasDeletedByHandIsTheSiteAlone) {
   BeginAccumulation(CountTally(TallyKind::bulk));
   std::filesystem::remove(site_.Data("hozon.MDB"));
   EXPECT_EQ(AddSite(other_).Grid().BarCount[3][5], 10);
+}
+
+TEST_F(Accumulation, FindsASiteWhoseDataPathHasBlanksAroundTheFileName) {
+  site_.Execute(kMasterFile, "UPDATE 工事テーブル SET データパス=' GENBA002.MDB  ' WHERE 番号=2");
+  BeginAccumulation(CountTally(TallyKind::bulk));
+  EXPECT_EQ(AddSite(other_).Grid().BarCount[3][5], 20);
+}
+
+TEST_F(Accumulation, IsOffEvenWhereItsFileCannotBeDeleted) {
+  BeginAccumulation(CountTally(TallyKind::bulk));
+  PutFolderInPlaceOfTheFile(site_);
+  EXPECT_EQ(FaultOf(EndAccumulation), FaultKind::file);
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(ReadSetting(kAccumulateFlagKey), 0);
 }
 
 TEST_F(Accumulation, OfASiteToItselfIsTwice) {

@@ -3,7 +3,9 @@
 
 #include <filesystem>
 #include <string>
+#include <variant>
 
+#include "session/accumulation/site_choice.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -19,6 +21,18 @@ inline std::string AddSiteLikeTheFirst(SiteFixture& site, int number) {
             {"工事名", "工事" + std::to_string(number)},
             {"データパス", schedule}});
   return schedule;
+}
+
+/// What stands in the place of the stored sum can be neither read nor deleted.
+inline void PutFolderInPlaceOfTheFile(const SiteFixture& site) {
+  std::filesystem::remove(site.Data("hozon.MDB"));
+  site.PutProgram("DATA/hozon.MDB/kept");
+}
+
+/// The site that was chosen in a dialog; null when there is none.
+template <typename Dialog>
+const AddedSite* Chosen(const Dialog& dialog) {
+  return std::get_if<AddedSite>(&dialog.Choice());
 }
 
 }  // namespace rbt::test

@@ -7,6 +7,7 @@
 #include "session/accumulation/more_sites.h"
 #include "session/result/result_site.h"
 #include "shell/config/settings.h"
+#include "shell/context/run_state.h"
 
 namespace rbt::test {
 
@@ -55,10 +56,10 @@ TEST_F(SiteChoice, ExecuteTakesTheSiteOfTheNumber) {
   dialog.TypeNumber("5");
   dialog.Execute();
   EXPECT_TRUE(dialog.View().left);
-  ASSERT_TRUE(dialog.Chosen());
-  EXPECT_EQ(dialog.Chosen()->number, 5);
-  EXPECT_EQ(dialog.Chosen()->name, "工事5");
-  EXPECT_EQ(dialog.Chosen()->KasanDataPath, "GENBA005.MDB");
+  ASSERT_TRUE(Chosen(dialog));
+  EXPECT_EQ(Chosen(dialog)->number, 5);
+  EXPECT_EQ(Chosen(dialog)->name, "工事5");
+  EXPECT_EQ(Chosen(dialog)->KasanDataPath, "GENBA005.MDB");
 }
 
 TEST_F(SiteChoice, ANumberOfNoSiteIsToldAndTheDialogStays) {
@@ -67,7 +68,7 @@ TEST_F(SiteChoice, ANumberOfNoSiteIsToldAndTheDialogStays) {
     dialog.TypeNumber(number);
     dialog.Execute();
     EXPECT_FALSE(dialog.View().left) << number;
-    EXPECT_FALSE(dialog.Chosen());
+    EXPECT_FALSE(Chosen(dialog));
   }
   EXPECT_EQ(site_.Messages().size(), 3U);
   EXPECT_EQ(site_.Messages().back().title, "集計を加算する現場");
@@ -78,8 +79,17 @@ TEST_F(SiteChoice, ASiteWithoutDataIsTold) {
   SiteChoicePresenter dialog;
   dialog.TypeNumber("5");
   dialog.Execute();
-  EXPECT_FALSE(dialog.Chosen());
+  EXPECT_FALSE(Chosen(dialog));
   EXPECT_EQ(site_.Messages().back().text, "この工事にはデータがありません。");
+}
+
+TEST_F(SiteChoice, BlanksAroundADataPathAreNoPartOfTheFileName) {
+  site_.Execute(kMasterFile, "UPDATE 工事テーブル SET データパス=' GENBA005.MDB  ' WHERE 番号=5");
+  SiteChoicePresenter dialog;
+  dialog.TypeNumber("5");
+  dialog.Execute();
+  ASSERT_TRUE(Chosen(dialog));
+  EXPECT_EQ(Chosen(dialog)->KasanDataPath, "GENBA005.MDB");
 }
 
 TEST_F(SiteChoice, LeavingChoosesNothing) {
@@ -87,7 +97,7 @@ TEST_F(SiteChoice, LeavingChoosesNothing) {
   dialog.TypeNumber("5");
   dialog.Leave();
   EXPECT_TRUE(dialog.View().left);
-  EXPECT_FALSE(dialog.Chosen());
+  EXPECT_FALSE(Chosen(dialog));
 }
 
 TEST_F(SiteChoice, PutsTheHandOverThatIsMissingInItsPlaceAndLeavesTheOther) {
@@ -113,9 +123,9 @@ TEST_F(SiteChoice, WithoutAnySiteDatabaseTheToolThatMakesThemIsRunAndTheProgramE
   EXPECT_EQ(site_.Messages().front().text, "データーベースファイルが存在しません。\n作成して下さい。");
   ASSERT_EQ(site_.Launches().size(), 1U);
   EXPECT_EQ(site_.Launches().front().command_line, "\\RBK\\DBTOOL\\rbdbtool.exe");
-  EXPECT_TRUE(dialog.EndsProgram());
-  EXPECT_TRUE(dialog.View().ends_program);
-  EXPECT_FALSE(dialog.Chosen());
+  EXPECT_TRUE(std::holds_alternative<ProgramEnds>(dialog.Choice()));
+  EXPECT_TRUE(dialog.View().left);
+  EXPECT_TRUE(RunState.IsEnding);
 }
 
 }  // namespace rbt::test

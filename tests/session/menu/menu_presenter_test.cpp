@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "archive/accumulation/hozon.h"
 #include "platform/fault.h"
 #include "platform/profile/ini_file.h"
 #include "platform/system/paths.h"
@@ -19,6 +20,8 @@
 #include "support/site_fixture.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/selection.h"
+#include "tally/site_sum.h"
+#include "tally/tally_grid.h"
 
 namespace rbt::test {
 
@@ -279,6 +282,23 @@ TEST(MenuPresenter, TheExitWritesAnAccumulationThatIsOn) {
   RunState.AccumulateFlag = 1;
   menu.presenter.Leave();
   EXPECT_THAT(menu.steps, ElementsAre("hide", "write", "hide", "end 0"));
+  EXPECT_TRUE(menu.presenter.HasEnded());
+}
+
+TEST(MenuPresenter, TheExitWritesTheTallyThatStandsIntoHozon) {
+  const SiteFixture site;
+  TallyGrid.BarCount[3][5] = 10;
+  TallyGrid.StockWeight[3][5] = Currency::FromDouble(135);
+  MenuPartsFor({}, [](int) {}).write_accumulated();
+  EXPECT_EQ(Load_Hozon(), KeptForSum(TallyGrid));
+  EXPECT_EQ(Load_Hozon().BarCount[3][5], 10);
+}
+
+TEST(MenuPresenter, ComesBackNoMoreOnceAScreenHasEndedTheProgram) {
+  Menu menu;
+  RunState.IsEnding = true;
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, IsEmpty());
   EXPECT_TRUE(menu.presenter.HasEnded());
 }
 

@@ -11,6 +11,9 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "support/fault_of.h"
+#include "tally/detail/detail_change.h"
+#include "tally/kinds/tally_kinds.h"
+#include "tally/rows/bulk_tally.h"
 #include "tally/site_sum.h"
 
 namespace rbt::test {
@@ -19,6 +22,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 /// The bulk screen of site 1, with the like sites 2 and 3 to add.
@@ -30,6 +34,7 @@ class AddedSites : public testing::Test {
       js_.calls.emplace_back("choose");
       flag_at_choice_ = RunState.AccumulateFlag;
       stored_at_choice_ = Load_Hozon();
+      if (at_choice_) at_choice_();
       return choice_;
     };
     js_.Open();
@@ -45,10 +50,26 @@ class AddedSites : public testing::Test {
   }
 
   Presented js_;
-  std::optional<AddedSite> choice_;
+  SiteChoice choice_;
+  std::function<void()> at_choice_;  ///< what happens while the dialog is open
   std::int32_t flag_at_choice_ = -1;
   TallyTable stored_at_choice_;
 };
+
+/// A row behind those that the fixture has numbered.
+Cells Numbered(Cells bar) {
+  bar.emplace_back("行No", std::int64_t{99});
+  return bar;
+}
+
+/// What a site's own start tallies.
+TallyResult OwnTally(const std::string& site) {
+  StartOptions options;
+  options.site = site;
+  LoadSite(options);
+  ActivateMenu(options);
+  return CountTally(TallyKind::bulk);
+}
 
 }  // namespace
 
@@ -90,7 +111,7 @@ TEST_F(AddedSites, TellsThatSitesAreBeingAddedWhileTheOtherIsTalliedOnly) {
 
 TEST_F(AddedSites, WithoutAChoiceTheSumIsDroppedAndTheSiteShownAlone) {
   Add(2);
-  choice_.reset();
+  choice_ = {};
   js_.presenter->ToggleAccumulation();
   EXPECT_THAT(js_.Row("D19"), StartsWith("135 |"));
   EXPECT_EQ(js_.View().notice, "");
@@ -145,10 +166,17 @@ TEST_F(AddedSites, ASiteThatCannotBeTalliedLeavesWhatWasShown) {
 }
 
 TEST_F(AddedSites, EverySiteIsTalliedByTheDefaultsOfTheSelection) {
-  Selection.IncludeUlbon = false;
-  js_.presenter->Recalculate();
-  Selection.MaterialCalcChoice = CalcChoice::high_strength_alone;
+  const std::string alone = js_.Row("U 9");
   Add(2);
+  const std::string of_both = js_.Row("U 9");
+  EXPECT_NE(of_both, alone);
+  js_.Open();
+  at_choice_ = [] {
+    Selection.IncludeUlbon = false;
+    Selection.MaterialCalcChoice = CalcChoice::high_strength_alone;
+  };
+  Add(2);
+  EXPECT_EQ(js_.Row("U 9"), of_both) << "the thin bars of the other site are among them";
   EXPECT_TRUE(Selection.IncludeUlbon);
   EXPECT_EQ(Selection.MaterialCalcChoice, CalcChoice::high_strength_alone) << "kept while sites are added";
 }
@@ -174,6 +202,101 @@ TEST_F(AddedSites, AStoreThatCannotBeWrittenLeavesTheScreenAsItIsAndAsksForNoSit
   EXPECT_THAT(js_.calls, ElementsAre());
   EXPECT_THAT(js_.Row("D19"), StartsWith("135 |"));
   EXPECT_EQ(RunState.AccumulateFlag, 0);
+}
+
+TEST_F(AddedSites, ASavedTallyIsNotAddedTo) {
+  js_.detail = [](TallyResult result) {
+    result.origin = ResultOrigin::loaded;
+    result.was_saved = true;
+    return result;
+  };
+  js_.presenter->ShowDetail();
+  EXPECT_THAT(MainButtons(js_.View()), Not(HasSubstr("add")));
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("print"));
+  js_.calls.clear();
+  Add(2);
+  EXPECT_THAT(js_.calls, ElementsAre());
+  EXPECT_EQ(js_.View().notice, "");
+  ExpectOver();
+  js_.presenter->Recalculate();
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("add"));
+}
+
+TEST_F(AddedSites, ATallyWithoutUlbonIsNotAddedTo) {
+  js_.kinds = [] { Selection.IncludeUlbon = false; };
+  js_.presenter->ChooseKinds();
+  EXPECT_THAT(MainButtons(js_.View()), Not(HasSubstr("add")));
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("print")) << "all other kinds are whole";
+  js_.calls.clear();
+  Add(2);
+  EXPECT_THAT(js_.calls, ElementsAre());
+  ExpectOver();
+  js_.kinds = [] { Selection.IncludeUlbon = true; };
+  js_.presenter->ChooseKinds();
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("add"));
+}
+
+TEST_F(AddedSites, BarsThatWereRaisedInTheListAreAddedAsTheyAreShown) {
+  js_.detail = [](TallyResult result) { return RaiseBars(std::move(result), 100.0, kStockColumns); };
+  js_.presenter->ShowDetail();
+  ASSERT_THAT(js_.Row("D19"), StartsWith("270 |"));
+  Add(2);
+  EXPECT_EQ(stored_at_choice_.BarCount[3][5], 20);
+  EXPECT_THAT(js_.Row("D19"), StartsWith("405 |270 |")) << "installed weights are not raised";
+  ExpectOver();
+}
+
+TEST_F(AddedSites, AStoredSumThatWasDeletedByHandAddsNothing) {
+  at_choice_ = [this] { std::filesystem::remove(js_.site.Data("hozon.MDB")); };
+  Add(2);
+  EXPECT_THAT(js_.Row("D19"), StartsWith("135 |"));
+  ExpectOver();
+}
+
+TEST_F(AddedSites, ADialogThatFaultsLeavesNothingStoredAndTheScreenAsItIs) {
+  Add(2);
+  at_choice_ = [] { throw Fault(FaultKind::database, "SORANO.MDB"); };
+  EXPECT_EQ(FaultOf([this] { Add(3); }), FaultKind::database);
+  EXPECT_THAT(js_.Row("D19"), StartsWith("270 |"));
+  EXPECT_EQ(js_.View().notice, "加算した現場：002　工事2");
+  EXPECT_FALSE(js_.View().left);
+  EXPECT_FALSE(js_.View().busy);
+  ExpectOver();
+}
+
+TEST_F(AddedSites, WhereAStoredSumCannotBeDeletedTheSiteIsShownAloneAllTheSame) {
+  Add(2);
+  choice_ = {};
+  at_choice_ = [this] { PutFolderInPlaceOfTheFile(js_.site); };
+  EXPECT_EQ(FaultOf([this] { js_.presenter->ToggleAccumulation(); }), FaultKind::file);
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(ReadSetting(kAccumulateFlagKey), 0);
+  EXPECT_THAT(js_.Row("D19"), StartsWith("135 |"));
+  EXPECT_FALSE(js_.View().filters.accumulating);
+  EXPECT_THAT(MainButtons(js_.View()), HasSubstr("print"));
+}
+
+TEST_F(AddedSites, WhereTheProgramEndsNothingStaysStoredAndTheScreenIsLeft) {
+  choice_ = ProgramEnds();
+  at_choice_ = [this] { std::filesystem::remove(js_.site.Data(kScheduleFile)); };
+  EXPECT_NO_THROW(js_.presenter->ToggleAccumulation()) << "the site is not opened again";
+  EXPECT_TRUE(js_.View().left);
+  ExpectOver();
+}
+
+TEST_F(AddedSites, AChainOnTheScreenIsTheSumThatTheCommandLineMakes) {
+  js_.site.Add("GENBA002.MDB", "加工テーブル", Numbered(At(TenBars(9, 2, 5), 9, 1)));
+  js_.site.Add("GENBA003.MDB", "加工テーブル", Numbered(At(TenBars(29, 1, 7), 9, 1)));
+  for (const int number : {2, 3, 2}) Add(number);
+  const TallyTable shown = TallyGrid;
+  EXPECT_EQ(shown.BarCount[6][5], 10);
+
+  TallyResult sum = OwnTally(kScheduleFile);
+  for (const char* site : {"GENBA002.MDB", "GENBA003.MDB", "GENBA002.MDB"}) {
+    sum = SumOfSites(KeptForSum(sum.Grid()), OwnTally(site), BulkClosingRules());
+  }
+  EXPECT_EQ(shown, sum.Grid());
+  EXPECT_GT(shown.UlbonWeldCount[14], 0);
 }
 
 }  // namespace rbt::test

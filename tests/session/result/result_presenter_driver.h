@@ -30,7 +30,7 @@ class Presented {
     };
     parts.choose_site = [this] {
       Call("site", {});
-      return std::optional<AddedSite>();
+      return SiteChoice();
     };
     parts.print = [this](const PrintOrder& order) {
       orders.push_back(order);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "archive/accumulation/hozon.h"
 #include "platform/fault.h"
 #include "shell/context/run_state.h"
 #include "support/schedule_site.h"
@@ -125,13 +126,22 @@ TEST(CountTally, IsNotReachedByWhatIsTalliedLater) {
   EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
 }
 
-TEST(CountTally, IsOfItsSiteAloneWhileSitesAreBeingAddedUp) {
-  ScheduleSite site;
-  site.AddRow();
-  const TallyResult alone = CountTally(TallyKind::bulk);
-  RunState.AccumulateFlag = 1;
-  EXPECT_EQ(CountTally(TallyKind::bulk), alone);
-  RunState.AccumulateFlag = 0;
+TEST(CountTally, OfAnyKindIsOfItsSiteAloneWhileSitesAreBeingAddedUp) {
+  for (const TallyKindRow& row : TallyKinds()) {
+    if (row.count == nullptr) continue;
+    ScheduleSite site;
+    SelectAll(site);
+    const TallyResult alone = CountTally(row.kind);
+    TallyTable sum;
+    sum.BarCount[3][5] = 100;
+    sum.StockWeight[3][5] = Currency::FromDouble(1000);
+    sum.WeldCount[3] = 7;
+    Save_Hozon(sum);
+    RunState.AccumulateFlag = 1;
+    EXPECT_EQ(CountTally(row.kind), alone) << row.word;
+    EXPECT_EQ(Load_Hozon(), sum) << row.word;
+    RunState.AccumulateFlag = 0;
+  }
 }
 
 TEST(CountTally, APageBeyondSixteenBitsIsAnOverflowOfThePageTallyAlone) {
