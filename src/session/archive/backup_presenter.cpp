@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "session/archive/backup_presenter.h"
 
-#include <algorithm>
 #include <iterator>
 #include <system_error>
 #include <utility>
@@ -35,10 +34,6 @@ bool CanBeRead(const fs::path& folder) {
   std::error_code error;
   const fs::directory_iterator opened(folder, error);
   return !error;
-}
-
-bool LiesIn(const fs::path& root, const fs::path& folder) {
-  return std::mismatch(root.begin(), root.end(), folder.begin(), folder.end()).first == root.end();
 }
 
 /// The drive of a folder: of those that it lies in the innermost.

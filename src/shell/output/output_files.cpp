@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/output_files.h"
 
-#include <algorithm>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -28,10 +27,6 @@ fs::path Resolved(const fs::path& file) {
   fs::path resolved = fs::weakly_canonical(fs::absolute(file), error);
   if (error) throw FileFault(file, "cannot be written", error.value());
   return resolved;
-}
-
-bool LiesIn(const fs::path& folder, const fs::path& file) {
-  return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
 }
 
 std::string FirstBytes(const fs::path& file) {
