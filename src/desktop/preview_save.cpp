@@ -93,9 +93,10 @@ fs::path OfferedPdfFile(std::string_view title) {
   const DateTime today = Now();
   const std::string stem =
       fmt::format("{}-{:04}{:02}{:02}", FileNameOf(title), today.year, today.month, today.day);
-  fs::path file = DocumentsFolder() / (stem + kExtension);
+  const fs::path folder = OfferedFolder();
+  fs::path file = folder / (stem + kExtension);
   for (int copy = 2; IsThere(file); ++copy) {
-    file = DocumentsFolder() / fmt::format("{}-{}{}", stem, copy, kExtension);
+    file = folder / fmt::format("{}-{}{}", stem, copy, kExtension);
   }
   return file;
 }

@@ -61,7 +61,7 @@ BackUpPresenter::BackUpPresenter(CsvSubject subject, BackUpParts parts)
     : subject_(std::move(subject)),
       parts_(std::move(parts)),
       site_(ReadCsvSite(subject_)),
-      folder_(DocumentsFolder()) {}
+      folder_(OfferedFolder()) {}
 
 BackUpView BackUpPresenter::View() const {
   BackUpView view;
@@ -89,9 +89,13 @@ void BackUpPresenter::ChooseFolder() {
 
 void BackUpPresenter::Save() { SaveIn(folder_, fmt::format("[ {} ] に書き出しました", folder_.string())); }
 
-void BackUpPresenter::SaveOnDesktop() { SaveIn(DesktopFolder(), "デスクトップに書き出しました。"); }
+void BackUpPresenter::SaveOnDesktop() {
+  SaveIn(DesktopFolder().value_or(folder_), "デスクトップに書き出しました。");
+}
 
-void BackUpPresenter::SaveInDocuments() { SaveIn(DocumentsFolder(), "マイドキュメントに書き出しました。"); }
+void BackUpPresenter::SaveInDocuments() {
+  SaveIn(DocumentsFolder().value_or(folder_), "マイドキュメントに書き出しました。");
+}
 
 void BackUpPresenter::SaveIn(const fs::path& folder, const std::string& told) {
   const fs::path file = folder / CsvFileName(subject_, site_.name, Now());

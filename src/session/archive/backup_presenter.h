@@ -41,7 +41,7 @@ struct BackUpView {
 /// The dialog `FrmBackUp` without its window: writes a tally or the list of registered names to a CSV file.
 class BackUpPresenter {
  public:
-  /// Reads what the file tells of the bound site. Begins at the documents folder.
+  /// Reads what the file tells of the bound site. Begins at `OfferedFolder`.
   BackUpPresenter(CsvSubject subject, BackUpParts parts);
 
   BackUpView View() const;
@@ -53,6 +53,7 @@ class BackUpPresenter {
   /// Each asks before it writes, and before it replaces a file; the dialog ends with what was written, and
   /// with a file that cannot be written. A folder where no result is written is told and leaves it open.
   void Save();
+  /// Where the user has no such folder, the file goes into that of the dialog; the message stays.
   void SaveOnDesktop();
   void SaveInDocuments();
   void Leave() { left_ = true; }

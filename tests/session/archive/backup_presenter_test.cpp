@@ -138,6 +138,21 @@ TEST_F(BackUpDialog, SavesOnTheDesktopAndInTheDocumentsFolder) {
   EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
 }
 
+TEST_F(BackUpDialog, WithoutADesktopAndADocumentsFolderItSavesIntoTheFolderThatIsShown) {
+  for (const char* folder : {"Desktop", "Documents"}) fs::remove(home_ / folder);
+  EXPECT_EQ(Open().View().folder, home_.Path().string());
+  dialog_->SelectDrive(1);
+  dialog_->SaveOnDesktop();
+  EXPECT_THAT(site_.Messages().back().text, testing::EndsWith(" ]  を　デスクトップに書き出しました。"));
+  EXPECT_THAT(FilesIn("usb"), testing::UnorderedElementsAre("csv", kName));
+  chosen_ = home_ / "usb/csv";
+  Open().ChooseFolder();
+  dialog_->SaveInDocuments();
+  EXPECT_THAT(site_.Messages().back().text, testing::EndsWith(" ]  を　マイドキュメントに書き出しました。"));
+  EXPECT_THAT(FilesIn("usb/csv"), ElementsAre(kName));
+  EXPECT_FALSE(fs::exists(home_ / kName));
+}
+
 TEST_F(BackUpDialog, TellsTheSiteOfTheTally) {
   Open().SaveInDocuments();
   const std::string text = TextOf(std::string("Documents/") + kName);
