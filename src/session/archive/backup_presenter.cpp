@@ -16,6 +16,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "session/panels/file_messages.h"
 #include "shell/output/output_files.h"
 
 namespace rbt {
@@ -48,11 +49,6 @@ std::optional<std::size_t> DriveOf(const fs::path& folder, const std::vector<Vol
     depth = steps;
   }
   return found;
-}
-
-void TellNotSaved(const fs::path& file, const Fault& fault) {
-  MsgBox("「" + file.string() + "」に保存できません。\n" + fault.what(), kBackUpTitle,
-         MessageButtons::ok_to_warning);
 }
 
 }  // namespace
@@ -100,7 +96,7 @@ void BackUpPresenter::SaveInDocuments() {
 void BackUpPresenter::SaveIn(const fs::path& folder, const std::string& told) {
   const fs::path file = folder / CsvFileName(subject_, site_.name, Now());
   if (const auto refused = PassOverFaults(FaultKind::file, [&] { RequireOutputPlace(file); })) {
-    TellNotSaved(file, *refused);
+    TellNotSaved(file, *refused, kBackUpTitle);
     return;
   }
   if (!MayWrite(file)) return;
@@ -111,10 +107,8 @@ void BackUpPresenter::SaveIn(const fs::path& folder, const std::string& told) {
 bool BackUpPresenter::MayWrite(const fs::path& file) const {
   const std::string question =
       fmt::format("CSVファイルを保存しますか？\n\nファイル名：{}", file.filename().string());
-  if (MsgBox(question, kAskTitle, MessageButtons::ok_cancel) != MessageAnswer::ok) return false;
-  if (!IsTaken(file)) return true;
-  return MsgBox("「" + file.string() + "」は既にあります。\n置き換えますか？", kAskTitle,
-                MessageButtons::yes_no) == MessageAnswer::yes;
+  return MsgBox(question, kAskTitle, MessageButtons::ok_cancel) == MessageAnswer::ok &&
+         MayReplaceFile(file, kAskTitle);
 }
 
 FloorCsvLayout BackUpPresenter::AskLayout(const std::string& file_name) const {
@@ -131,7 +125,7 @@ void BackUpPresenter::Write(const fs::path& file, const std::string& told) const
   const std::string csv = CsvText(subject_, site_, AskLayout(name));
   std::string lacking;
   if (const auto fault = PassOverFaults(FaultKind::file, [&] { lacking = Do_BackUP(file, csv); })) {
-    TellNotSaved(file, *fault);
+    TellNotSaved(file, *fault, kBackUpTitle);
     return;
   }
   std::string message = fmt::format("ファイル名 [ {} ]  を　{}", name, told);
