@@ -70,6 +70,7 @@ BackUpView BackUpPresenter::View() const {
 }
 
 void BackUpPresenter::SelectDrive(std::size_t drive) {
+  if (DriveOf(folder_, parts_.volumes) == drive) return;
   const fs::path& root = parts_.volumes.at(drive).root;
   if (!CanBeRead(root)) {
     MsgBox(kDriveNotReady, kDriveTitle);

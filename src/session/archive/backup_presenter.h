@@ -46,7 +46,8 @@ class BackUpPresenter {
 
   BackUpView View() const;
 
-  /// The folder becomes the drive's own; a drive that cannot be read is told and not taken.
+  /// The folder becomes the drive's own, unless it lies on it already; a drive that cannot be read is told
+  /// and not taken.
   void SelectDrive(std::size_t drive);
   void ChooseFolder();
 

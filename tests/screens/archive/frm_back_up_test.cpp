@@ -75,6 +75,14 @@ TEST_F(FrmBackUpForm, AKeyInTheDrivesTakesTheNextAndAnUnreadableOneGoesBack) {
   EXPECT_EQ(form.Text("Dir1"), (home_ / "usb").string());
 }
 
+TEST_F(FrmBackUpForm, ALookIntoTheDrivesThatChangesNothingKeepsTheFolder) {
+  auto form = Open();
+  form.Button("btnDir")->click();
+  ASSERT_EQ(Drives(form).currentText(), "usb");
+  emit Drives(form).activated(Drives(form).currentIndex());
+  EXPECT_EQ(form.Text("Dir1"), (home_ / "usb/csv").string());
+}
+
 TEST_F(FrmBackUpForm, EnterSavesIntoTheChosenFolderAndCloses) {
   auto form = Open();
   form.Button("btnDir")->click();

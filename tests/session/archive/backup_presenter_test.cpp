@@ -111,6 +111,13 @@ TEST_F(BackUpDialog, AFolderIsChosenFromTheOneThatIsShown) {
   EXPECT_EQ(dialog_->View().folder, (home_ / "usb/csv").string()) << "turned back";
 }
 
+TEST_F(BackUpDialog, TheDriveOfTheFolderChosenAgainKeepsTheFolder) {
+  chosen_ = home_ / "usb/csv";
+  Open().ChooseFolder();
+  dialog_->SelectDrive(1);
+  EXPECT_EQ(dialog_->View().folder, (home_ / "usb/csv").string());
+}
+
 TEST_F(BackUpDialog, AFolderOnNoListedDriveSelectsNone) {
   parts_.volumes = {{"usb", home_ / "usb"}};
   EXPECT_EQ(Open().View().drive, std::nullopt);
