@@ -101,7 +101,9 @@ void BackUpPresenter::SaveIn(const fs::path& folder, const std::string& told) {
     return;
   }
   if (!MayWrite(file)) return;
-  Write(file, told);
+  const std::optional<FloorCsvLayout> layout = AskLayout(file.filename().string());
+  if (!layout) return;
+  Write(file, *layout, told);
   left_ = true;
 }
 
@@ -112,18 +114,19 @@ bool BackUpPresenter::MayWrite(const fs::path& file) const {
          MayReplaceFile(file, kAskTitle);
 }
 
-FloorCsvLayout BackUpPresenter::AskLayout(const std::string& file_name) const {
+std::optional<FloorCsvLayout> BackUpPresenter::AskLayout(const std::string& file_name) const {
   if (!HasFloorLayouts(subject_)) return FloorCsvLayout::total;
   const std::string& name = std::get<CsvOfTally>(subject_).data_name;
   const std::string question =
       fmt::format("データ名：{}\nYes=階合計表   No=階部位径", name.empty() ? file_name : name);
-  const MessageAnswer answer = MsgBox(question, kLayoutTitle, MessageButtons::yes_no);
+  const MessageAnswer answer = MsgBox(question, kLayoutTitle, MessageButtons::yes_no_cancel);
+  if (answer == MessageAnswer::cancel) return std::nullopt;
   return answer == MessageAnswer::yes ? FloorCsvLayout::total : FloorCsvLayout::parts;
 }
 
-void BackUpPresenter::Write(const fs::path& file, const std::string& told) const {
+void BackUpPresenter::Write(const fs::path& file, FloorCsvLayout layout, const std::string& told) const {
   const std::string name = file.filename().string();
-  const std::string csv = CsvText(subject_, site_, AskLayout(name));
+  const std::string csv = CsvText(subject_, site_, layout);
   std::string lacking;
   if (const auto fault = PassOverFaults(FaultKind::file, [&] { lacking = Do_BackUP(file, csv); })) {
     TellNotSaved(file, *fault, kBackUpTitle);

@@ -63,8 +63,9 @@ class BackUpPresenter {
   /// `told`: how the closing message names the folder.
   void SaveIn(const std::filesystem::path& folder, const std::string& told);
   bool MayWrite(const std::filesystem::path& file) const;
-  FloorCsvLayout AskLayout(const std::string& file_name) const;
-  void Write(const std::filesystem::path& file, const std::string& told) const;
+  /// Nothing when the user turns back, as Esc does: the other layout is not what he asked for.
+  std::optional<FloorCsvLayout> AskLayout(const std::string& file_name) const;
+  void Write(const std::filesystem::path& file, FloorCsvLayout layout, const std::string& told) const;
 
   CsvSubject subject_;
   BackUpParts parts_;

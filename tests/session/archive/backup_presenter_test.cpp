@@ -203,7 +203,7 @@ TEST_F(BackUpDialog, AFileThatIsThereIsAskedAbout) {
 TEST_F(BackUpDialog, AFloorTallyIsAskedForItsLayout) {
   Open(FloorTally123()).SaveInDocuments();
   EXPECT_THAT(site_.Told(1), StartsWith("集計方法の確認: データ名：全階\nYes=階合計表   No=階部位径|"));
-  EXPECT_EQ(site_.Messages()[1].buttons, MessageButtons::yes_no);
+  EXPECT_EQ(site_.Messages()[1].buttons, MessageButtons::yes_no_cancel);
   const std::string file = "Documents/試験工事階別集計20261121090000.csv";
   EXPECT_THAT(TextOf(file), HasSubstr("\"階\",\"部位1\","));
   site_.Answer(MessageAnswer::ok);
@@ -211,6 +211,15 @@ TEST_F(BackUpDialog, AFloorTallyIsAskedForItsLayout) {
   site_.Answer(MessageAnswer::no);
   Open(FloorTally123()).SaveInDocuments();
   EXPECT_THAT(TextOf(file), StartsWith("\"1階\",\"部位\",\"D10\","));
+}
+
+TEST_F(BackUpDialog, TurningBackAtTheLayoutWritesNothingAndStays) {
+  site_.Answer(MessageAnswer::ok);
+  site_.Answer(MessageAnswer::cancel);
+  Open(FloorTally123()).SaveInDocuments();
+  EXPECT_EQ(site_.Messages().size(), 2U);
+  EXPECT_FALSE(dialog_->View().left);
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre());
 }
 
 TEST_F(BackUpDialog, ATallyWithoutANameIsAskedForItsLayoutByItsFile) {
