@@ -9,8 +9,7 @@
 #include "platform/files/files.h"
 #include "platform/text/cp932.h"
 #include "session/archive/saved_site.h"
-#include "support/environment_variable.h"
-#include "support/temporary_folder.h"
+#include "support/user_home.h"
 
 namespace rbt::test {
 
@@ -40,7 +39,7 @@ CsvOfTally FloorTally123() {
 class BackUpDialog : public testing::Test {
  protected:
   BackUpDialog() {
-    for (const char* folder : {"Desktop", "Documents", "usb/csv"}) fs::create_directories(home_ / folder);
+    fs::create_directories(home_ / "usb/csv");
     parts_.volumes = {{"/", "/"}, {"usb", home_ / "usb"}, {"none", home_ / "none"}};
     parts_.choose_folder = [this](const fs::path& from) {
       asked_from_ = from;
@@ -63,9 +62,7 @@ class BackUpDialog : public testing::Test {
   }
   std::string TextOf(const std::string& file) const { return FromCp932(ReadFileBytes(home_ / file)); }
 
-  TemporaryFolder home_;
-  EnvironmentVariable home_variable_{"HOME", home_.Path().string()};
-  EnvironmentVariable configuration_{"XDG_CONFIG_HOME", (home_ / "none").string()};
+  UserHome home_;
   SavedSite site_;
   BackUpParts parts_;
   std::optional<fs::path> chosen_;
