@@ -9,6 +9,7 @@
 #include "platform/files/files.h"
 #include "platform/text/cp932.h"
 #include "session/archive/saved_site.h"
+#include "support/child_process.h"
 #include "support/user_home.h"
 
 namespace rbt::test {
@@ -260,6 +261,28 @@ TEST_F(BackUpDialog, AFailedWriteIsToldAndEndsTheDialogWithNothingWritten) {
   EXPECT_EQ(site_.Messages().size(), 2U);
   EXPECT_TRUE(dialog_->View().left);
   EXPECT_FALSE(fs::exists(home_ / "gone"));
+}
+
+TEST_F(BackUpDialog, AFullDiskIsToldAndLeavesTheFileThatWasThere) {
+  std::ofstream(home_ / "Documents" / kName) << "old";
+  Open();
+  EXPECT_TRUE(WithFilesOfAtMost(64, [&] {
+    dialog_->SaveInDocuments();
+    EXPECT_THAT(site_.Messages().back().text, HasSubstr("」に保存できません。\n"));
+    EXPECT_EQ(site_.Messages().back().buttons, MessageButtons::ok_to_warning);
+    EXPECT_TRUE(dialog_->View().left);
+  }));
+  EXPECT_EQ(TextOf(std::string("Documents/") + kName), "old");
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
+}
+
+TEST_F(BackUpDialog, ASecondFileOfTheSameSecondIsAskedAbout) {
+  Open().SaveInDocuments();
+  const std::size_t before = site_.Messages().size();
+  Open().SaveInDocuments();
+  EXPECT_THAT(site_.Told(before + 1),
+              StartsWith("実行の確認: 「" + (home_ / "Documents" / kName).string() + "」は既にあります。"));
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
 }
 
 TEST_F(BackUpDialog, LeavingWritesNothing) {
