@@ -64,6 +64,7 @@ std::unique_ptr<QWidget> MakeBackUp() {
   BindChosenSite();
   BackUpParts parts;
   parts.volumes = {{"/", "/"}, {"/media/usb  [ＵＳＢ]", "/media/usb"}};
+  parts.choose_folder = [](const std::filesystem::path&) { return std::filesystem::path("/media/usb/csv"); };
   return std::make_unique<FrmBackUp>(CsvOfTally{.result = SampleTally(TallyKind::page)}, std::move(parts));
 }
 

@@ -109,7 +109,9 @@ void RunExport(const ExportOptions& options) {
 
 Action DefineExport(CommandLine& line) {
   auto options = std::make_shared<ExportOptions>();
-  line.WordArgument("KIND", options->kind, TallyWords(), "the kind of tally");
+  line.WordArgument(
+      "KIND", options->kind, TallyWords(),
+      "the kind of tally; names: the list of all, whatever the selection; takes the marks away");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
   AddFloorOptions(line, options->selection);
@@ -120,9 +122,11 @@ Action DefineExport(CommandLine& line) {
         options->saved = text;
         return true;
       },
-      "a saved tally of the kind, with its memos, in place of a new one");
+      "a saved tally of the kind, with its memos, in place of a new one; selection and memo options do not "
+      "apply");
   for (std::size_t i = 0; i < options->memos.size(); ++i) {
-    line.TextOption("--memo" + std::to_string(i + 1), "TEXT", options->memos.at(i), "a memo of the file");
+    line.TextOption("--memo" + std::to_string(i + 1), "TEXT", options->memos.at(i),
+                    "a memo below a tally by diameter and length");
   }
   line.WordOption("--layout", "", options->layout, {"total", "parts"},
                   "a floor tally as one table (default) or for each floor one of parts by diameter");

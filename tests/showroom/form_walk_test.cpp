@@ -14,6 +14,7 @@
 #include "showroom/all_forms.h"
 #include "support/desktop/key_press.h"
 #include "support/site_fixture.h"
+#include "support/user_home.h"
 
 namespace rbt::test {
 
@@ -86,7 +87,8 @@ void ExpectNoClippedCaption(const QWidget& form, const std::string& where) {
   }
 }
 
-/// A site whose schedule is not empty: a straight bar and a welded hoop; with two registered names.
+/// A site whose schedule is not empty: a straight bar and a welded hoop; with two registered names. What its
+/// forms save goes into a home folder of its own.
 struct WalkedSite : SiteFixture {
   WalkedSite() {
     for (const std::int64_t name : {1, 2}) {
@@ -102,6 +104,8 @@ struct WalkedSite : SiteFixture {
               {"伸総計", std::int64_t{10}}});
     }
   }
+
+  const UserHome home;
 };
 
 /// Puts away every form that an action shows modally, so that the action comes to its end.
@@ -253,6 +257,7 @@ TEST(AllForms, HaveNoButtonThatIsNotReadyYet) {
     }
   }
   EXPECT_GT(pressed, 100U);
+  EXPECT_FALSE(std::filesystem::is_empty(site.home / "Desktop")) << "the CSV file of saveDeskTop";
   for (const ShownMessage& message : site.Messages()) {
     EXPECT_EQ(message.text.find("まだご利用いただけません"), std::string::npos) << message.text;
   }

@@ -12,10 +12,9 @@ namespace rbt {
 
 namespace {
 
-/// By the number of the kind.
-constexpr std::array<std::string_view, 6> kFileWords{"一括集計",     "形状別",   "頁行別",
-                                                     "形状別頁行別", "階別集計", "部位別集計"};
-constexpr std::string_view kNamesWord = "登録名集計";
+/// By the number of the kind; the registered names, which are no tally, come last.
+constexpr std::array<std::string_view, 7> kFileWords{"一括集計", "形状別",     "頁行別",    "形状別頁行別",
+                                                     "階別集計", "部位別集計", "登録名集計"};
 
 constexpr std::u32string_view kDropped = U"\\/：*?\"<>|";
 constexpr char32_t kFirstPrintable = U' ';
@@ -28,7 +27,7 @@ bool IsDropped(char32_t character) {
 
 std::string_view FileWord(const CsvSubject& subject) {
   const auto* tally = std::get_if<CsvOfTally>(&subject);
-  return tally == nullptr ? kNamesWord : kFileWords.at(static_cast<std::size_t>(tally->result.kind));
+  return tally == nullptr ? kFileWords.back() : kFileWords.at(static_cast<std::size_t>(tally->result.kind));
 }
 
 }  // namespace

@@ -29,10 +29,12 @@ void ChangeFamilyDirectory(std::string_view family_path);
 /// That directory on this machine; nothing before the first change.
 const std::optional<std::filesystem::path>& FamilyDirectory();
 
-/// Folders of the user, for dialogs: the configured one, else ~/Desktop and ~/Documents, else the home
-/// folder.
-std::filesystem::path DesktopFolder();
-std::filesystem::path DocumentsFolder();
+/// Folders of the user, for dialogs: the configured one, else ~/Desktop and ~/Documents; nothing where there
+/// is no such folder.
+std::optional<std::filesystem::path> DesktopFolder();
+std::optional<std::filesystem::path> DocumentsFolder();
+/// The folder that a dialog offers at first: that of the documents, else the home folder.
+std::filesystem::path OfferedFolder();
 /// Where the user's settings stand: `$RBK_SETTINGS`, or else `rbtally/settings.ini` in `$XDG_CONFIG_HOME`
 /// (`~/.config` when that is not set).
 std::filesystem::path SettingsFile();

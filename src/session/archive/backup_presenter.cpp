@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "session/archive/backup_presenter.h"
 
-#include <algorithm>
 #include <iterator>
 #include <system_error>
 #include <utility>
@@ -17,6 +16,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "session/panels/file_messages.h"
 #include "shell/output/output_files.h"
 
 namespace rbt {
@@ -37,10 +37,6 @@ bool CanBeRead(const fs::path& folder) {
   return !error;
 }
 
-bool LiesIn(const fs::path& root, const fs::path& folder) {
-  return std::mismatch(root.begin(), root.end(), folder.begin(), folder.end()).first == root.end();
-}
-
 /// The drive of a folder: of those that it lies in the innermost.
 std::optional<std::size_t> DriveOf(const fs::path& folder, const std::vector<Volume>& volumes) {
   std::optional<std::size_t> found;
@@ -55,18 +51,13 @@ std::optional<std::size_t> DriveOf(const fs::path& folder, const std::vector<Vol
   return found;
 }
 
-void TellNotSaved(const fs::path& file, const Fault& fault) {
-  MsgBox("「" + file.string() + "」に保存できません。\n" + fault.what(), kBackUpTitle,
-         MessageButtons::ok_to_warning);
-}
-
 }  // namespace
 
 BackUpPresenter::BackUpPresenter(CsvSubject subject, BackUpParts parts)
     : subject_(std::move(subject)),
       parts_(std::move(parts)),
       site_(ReadCsvSite(subject_)),
-      folder_(DocumentsFolder()) {}
+      folder_(OfferedFolder()) {}
 
 BackUpView BackUpPresenter::View() const {
   BackUpView view;
@@ -79,6 +70,7 @@ BackUpView BackUpPresenter::View() const {
 }
 
 void BackUpPresenter::SelectDrive(std::size_t drive) {
+  if (DriveOf(folder_, parts_.volumes) == drive) return;
   const fs::path& root = parts_.volumes.at(drive).root;
   if (!CanBeRead(root)) {
     MsgBox(kDriveNotReady, kDriveTitle);
@@ -94,45 +86,50 @@ void BackUpPresenter::ChooseFolder() {
 
 void BackUpPresenter::Save() { SaveIn(folder_, fmt::format("[ {} ] に書き出しました", folder_.string())); }
 
-void BackUpPresenter::SaveOnDesktop() { SaveIn(DesktopFolder(), "デスクトップに書き出しました。"); }
+void BackUpPresenter::SaveOnDesktop() {
+  SaveIn(DesktopFolder().value_or(folder_), "デスクトップに書き出しました。");
+}
 
-void BackUpPresenter::SaveInDocuments() { SaveIn(DocumentsFolder(), "マイドキュメントに書き出しました。"); }
+void BackUpPresenter::SaveInDocuments() {
+  SaveIn(DocumentsFolder().value_or(folder_), "マイドキュメントに書き出しました。");
+}
 
 void BackUpPresenter::SaveIn(const fs::path& folder, const std::string& told) {
   const fs::path file = folder / CsvFileName(subject_, site_.name, Now());
   if (const auto refused = PassOverFaults(FaultKind::file, [&] { RequireOutputPlace(file); })) {
-    TellNotSaved(file, *refused);
+    TellNotSaved(file, *refused, kBackUpTitle);
     return;
   }
   if (!MayWrite(file)) return;
-  Write(file, told);
+  const std::optional<FloorCsvLayout> layout = AskLayout(file.filename().string());
+  if (!layout) return;
+  Write(file, *layout, told);
   left_ = true;
 }
 
 bool BackUpPresenter::MayWrite(const fs::path& file) const {
   const std::string question =
       fmt::format("CSVファイルを保存しますか？\n\nファイル名：{}", file.filename().string());
-  if (MsgBox(question, kAskTitle, MessageButtons::ok_cancel) != MessageAnswer::ok) return false;
-  if (!IsTaken(file)) return true;
-  return MsgBox("「" + file.string() + "」は既にあります。\n置き換えますか？", kAskTitle,
-                MessageButtons::yes_no) == MessageAnswer::yes;
+  return MsgBox(question, kAskTitle, MessageButtons::ok_cancel) == MessageAnswer::ok &&
+         MayReplaceFile(file, kAskTitle);
 }
 
-FloorCsvLayout BackUpPresenter::AskLayout(const std::string& file_name) const {
+std::optional<FloorCsvLayout> BackUpPresenter::AskLayout(const std::string& file_name) const {
   if (!HasFloorLayouts(subject_)) return FloorCsvLayout::total;
   const std::string& name = std::get<CsvOfTally>(subject_).data_name;
   const std::string question =
       fmt::format("データ名：{}\nYes=階合計表   No=階部位径", name.empty() ? file_name : name);
-  const MessageAnswer answer = MsgBox(question, kLayoutTitle, MessageButtons::yes_no);
+  const MessageAnswer answer = MsgBox(question, kLayoutTitle, MessageButtons::yes_no_cancel);
+  if (answer == MessageAnswer::cancel) return std::nullopt;
   return answer == MessageAnswer::yes ? FloorCsvLayout::total : FloorCsvLayout::parts;
 }
 
-void BackUpPresenter::Write(const fs::path& file, const std::string& told) const {
+void BackUpPresenter::Write(const fs::path& file, FloorCsvLayout layout, const std::string& told) const {
   const std::string name = file.filename().string();
-  const std::string csv = CsvText(subject_, site_, AskLayout(name));
+  const std::string csv = CsvText(subject_, site_, layout);
   std::string lacking;
   if (const auto fault = PassOverFaults(FaultKind::file, [&] { lacking = Do_BackUP(file, csv); })) {
-    TellNotSaved(file, *fault);
+    TellNotSaved(file, *fault, kBackUpTitle);
     return;
   }
   std::string message = fmt::format("ファイル名 [ {} ]  を　{}", name, told);

@@ -41,18 +41,20 @@ struct BackUpView {
 /// The dialog `FrmBackUp` without its window: writes a tally or the list of registered names to a CSV file.
 class BackUpPresenter {
  public:
-  /// Reads what the file tells of the bound site. Begins at the documents folder.
+  /// Reads what the file tells of the bound site. Begins at `OfferedFolder`.
   BackUpPresenter(CsvSubject subject, BackUpParts parts);
 
   BackUpView View() const;
 
-  /// The folder becomes the drive's own; a drive that cannot be read is told and not taken.
+  /// The folder becomes the drive's own, unless it lies on it already; a drive that cannot be read is told
+  /// and not taken.
   void SelectDrive(std::size_t drive);
   void ChooseFolder();
 
   /// Each asks before it writes, and before it replaces a file; the dialog ends with what was written, and
   /// with a file that cannot be written. A folder where no result is written is told and leaves it open.
   void Save();
+  /// Where the user has no such folder, the file goes into that of the dialog; the message stays.
   void SaveOnDesktop();
   void SaveInDocuments();
   void Leave() { left_ = true; }
@@ -61,8 +63,9 @@ class BackUpPresenter {
   /// `told`: how the closing message names the folder.
   void SaveIn(const std::filesystem::path& folder, const std::string& told);
   bool MayWrite(const std::filesystem::path& file) const;
-  FloorCsvLayout AskLayout(const std::string& file_name) const;
-  void Write(const std::filesystem::path& file, const std::string& told) const;
+  /// Nothing when the user turns back, as Esc does: the other layout is not what he asked for.
+  std::optional<FloorCsvLayout> AskLayout(const std::string& file_name) const;
+  void Write(const std::filesystem::path& file, FloorCsvLayout layout, const std::string& told) const;
 
   CsvSubject subject_;
   BackUpParts parts_;

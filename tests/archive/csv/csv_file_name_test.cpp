@@ -38,7 +38,7 @@ TEST(CsvFileName, NamesProjectKindAndMoment) {
   EXPECT_EQ(CsvFileName(CsvOfNames(), "町", kMoment), "町登録名集計20260102030405.csv");
 }
 
-TEST(CsvFileName, IsCleaned) {
+TEST(CsvFileName, LacksWhatTheProjectNameHasAndAFileNameCannotHold) {
   EXPECT_EQ(CsvFileName(OfKind(TallyKind::bulk), "甲/乙：丙", {2026, 11, 21, 9, 0, 0}),
             "甲乙丙一括集計20261121090000.csv");
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The files byte by byte. What stands here was written down from the figures of the samples.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "archive/csv/csv_samples.h"
@@ -7,6 +8,7 @@
 #include "platform/files/files.h"
 #include "platform/text/characters.h"
 #include "platform/text/cp932.h"
+#include "shell/output/output_files.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::test {
@@ -178,6 +180,13 @@ constexpr std::string_view kParts = R"csv("工事No",7,"工事名","見本""町"
 "D51",0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0
 "合計",135,60,0,0,0,0,0,0,0,0,239,434,4,3,2,5
 )csv";
+
+constexpr std::string_view kNames = R"csv("工事No",7,"工事名","見本""町""住宅","取引先","見本建設","総重量",114
+"No","登録名","定尺重量","取付重量"
+,"無番",1,0
+2,"基礎""Ａ""",100,99
+1,"",13,12
+)csv";
 // clang-format on
 
 /// The bytes that are written.
@@ -206,5 +215,28 @@ TEST(CsvGolden, OfFloorsByPartAndDiameter) {
 }
 
 TEST(CsvGolden, OfParts) { EXPECT_EQ(FileOf(SampleParts(), SampleCsvSite()), Bytes932(kParts)); }
+
+TEST(CsvGolden, OfRegisteredNames) { EXPECT_EQ(FileOf(SampleNames(), SampleCsvSite()), Bytes932(kNames)); }
+
+/// The texts above and the files go through one converter; these bytes went through none.
+TEST(CsvGolden, HasHalfAndFullWidthWordsInTheBytesOfCodePage932) {
+  const std::string bytes = FileOf(SampleGrid(TallyKind::bulk), SampleCsvSite());
+  EXPECT_THAT(bytes, testing::HasSubstr("\r\n\"\xB6\xCC\xDF\xD7\",3,0,0,0,0,0,0,0,0,0,0,0\r\n"
+                                        "\"\x82\x63\x82\x61\",0,0,0,0,0,0,0,0,0,0,0,2\r\n"));
+  EXPECT_THAT(bytes, testing::StartsWith("\"\x8D\x48\x8E\x96No\",7,"));
+}
+
+TEST(CsvGolden, OfEveryKindIsKnownAsOurOwnUnderAnyName) {
+  const TemporaryFolder folder;
+  const auto is_ours = [&](const CsvSubject& subject, FloorCsvLayout layout) {
+    Do_BackUP(folder / "tally.txt", CsvText(subject, SampleCsvSite(), layout));
+    return !ReplacesAnotherKind({folder / "tally.txt", OutputKind::csv});
+  };
+  EXPECT_TRUE(is_ours(SampleGrid(TallyKind::bulk), FloorCsvLayout::total));
+  EXPECT_TRUE(is_ours(SampleFloors(), FloorCsvLayout::total));
+  EXPECT_TRUE(is_ours(SampleFloors(), FloorCsvLayout::parts));
+  EXPECT_TRUE(is_ours(SampleParts(), FloorCsvLayout::total));
+  EXPECT_TRUE(is_ours(SampleNames(), FloorCsvLayout::total));
+}
 
 }  // namespace rbt::test

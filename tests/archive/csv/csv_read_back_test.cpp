@@ -96,7 +96,10 @@ TEST(CsvReadBack, FloorsAreThoseOfTheScreenAndAddUp) {
   RandomTallies random(12);
   for (int n = 0; n < kTallies; ++n) {
     SCOPED_TRACE(n);
-    const RandomTally how{.thin = n % 3 == 1, .with_13m = n % 2 == 1, .installed = n % 4 == 2};
+    const RandomTally how{.thin = n % 3 == 1,
+                          .with_13m = n % 2 == 1,
+                          .installed = n % 4 == 2,
+                          .uplift = n % 5 == 0 ? 0.1 : 0.0};
     const TallyResult result = random.Floors(how);
     const Records records = ReadBack(result, SampleCsvSite(how.with_13m));
     const GridRows rows = ShowFloors(result.Floors());
@@ -111,7 +114,7 @@ TEST(CsvReadBack, PartsAreThoseOfTheScreenAndAddUp) {
   RandomTallies random(13);
   for (int n = 0; n < kTallies; ++n) {
     SCOPED_TRACE(n);
-    const RandomTally how{.thin = n % 3 == 1, .with_13m = n % 2 == 1};
+    const RandomTally how{.thin = n % 3 == 1, .with_13m = n % 2 == 1, .uplift = n % 5 == 0 ? 0.1 : 0.0};
     const TallyResult result = random.Parts(how);
     const Records records = ReadBack(result, SampleCsvSite(how.with_13m));
     GridRows rows = ShowParts(result.Parts());
@@ -127,7 +130,7 @@ TEST(CsvReadBack, BlocksOfFloorsAddUpToTheTableOfFloors) {
   RandomTallies random(14);
   for (int n = 0; n < kTallies; ++n) {
     SCOPED_TRACE(n);
-    const RandomTally how{.with_13m = n % 2 == 1, .installed = n % 4 == 2};
+    const RandomTally how{.with_13m = n % 2 == 1, .installed = n % 4 == 2, .uplift = n % 5 == 0 ? 0.1 : 0.0};
     const TallyResult result = random.Floors(how);
     const Records table = ReadBack(result, SampleCsvSite(how.with_13m));
     const std::vector<Records> blocks =

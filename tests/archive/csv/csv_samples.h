@@ -105,6 +105,13 @@ inline CsvOfTally SampleParts() {
   return tally;
 }
 
+/// Three names, one without a number, one without a text; 113.5 kg in stock.
+inline CsvOfNames SampleNames() {
+  return {{{std::nullopt, "無番", false, Currency::FromInteger(1), Currency()},
+           {2, "基礎\"Ａ\"", true, Currency::FromInteger(100), Currency::FromInteger(99)},
+           {1, "", false, Currency::FromDouble(12.5), Currency::FromDouble(12.4)}}};
+}
+
 /// The fields of a file, record by record; an empty line is a record of none.
 inline std::vector<std::vector<std::string>> ReadCsv(std::string_view text) {
   std::vector<std::vector<std::string>> records(1);

@@ -21,10 +21,7 @@ std::string TextOfNames(const std::vector<RegisteredName>& names) {
 }  // namespace
 
 TEST(CsvText, ListsTheRegisteredNamesInTheirOrder) {
-  const std::string text =
-      TextOfNames({{std::nullopt, "無番", false, Currency::FromInteger(1), Currency()},
-                   {2, "基礎\"Ａ\"", true, Currency::FromInteger(100), Currency::FromInteger(99)},
-                   {1, "", false, Currency::FromDouble(12.5), Currency::FromDouble(12.4)}});
+  const std::string text = TextOfNames(SampleNames().names);
   EXPECT_EQ(text,
             "\"工事No\",7,\"工事名\",\"見本\"\"町\"\"住宅\",\"取引先\",\"見本建設\",\"総重量\",114\r\n"
             "\"No\",\"登録名\",\"定尺重量\",\"取付重量\"\r\n"
@@ -44,6 +41,42 @@ TEST(CsvText, AWeightOfTwelveAndAHalfIsThirteen) {
   ASSERT_EQ(records.size(), 32U);
   EXPECT_THAT(records[22][0], "13.0 m");
   EXPECT_EQ(records[22][7] + " " + records[22][8], "3 13");
+}
+
+TEST(CsvText, AWeightBelowZeroLosesItsFractionAfterTheHalfIsAdded) {
+  const auto written = [](double kilograms) {
+    return ReadCsv(TextOfNames({{1, "戻り", false, Currency::FromDouble(kilograms), Currency()}}))[2][2];
+  };
+  EXPECT_EQ(written(-12.5), "-12");
+  EXPECT_EQ(written(-12.6), "-12");
+  EXPECT_EQ(written(-13.5), "-13");
+  EXPECT_EQ(written(-0.4), "0");
+}
+
+TEST(CsvText, AMemoKeepsItsLineBreakInsideItsQuotes) {
+  CsvOfTally tally = SampleGrid(TallyKind::bulk);
+  tally.memos = {"一行\r\n二行", "a\nb", ""};
+  const std::string text = CsvText(tally, SampleCsvSite(), {});
+  EXPECT_THAT(
+      text, testing::EndsWith("\r\n\"メモ1\",\"一行\r\n二行\"\r\n\"メモ2\",\"a\nb\"\r\n\"メモ3\",\"\"\r\n"));
+  EXPECT_THAT(ReadCsv(text).at(28), ElementsAre("メモ1", "一行\r\n二行"));
+}
+
+TEST(CsvText, PartsWithThinBarsBeginWithTheirDiametersAndHaveNoGap) {
+  CsvOfTally tally = SampleParts();
+  PartTables& tables = std::get<PartTables>(tally.result.tables);
+  RowShare thin = TenBarsOf(13, 1);
+  thin.installed_kilograms = 7.6;
+  AddShare(tables, thin, CellWeight::stock);
+  ClosePartTally(tables, {});
+  ListParts(tables, true);
+  const auto records = ReadCsv(CsvText(tally, SampleCsvSite(), {}));
+  std::string labels;
+  for (const auto& record : records) labels += record.at(0) + "|";
+  EXPECT_EQ(labels,
+            "工事No|太さ|U 6|U 7|U 9|U11|U12|U16|D10|D13|D16|D19|D22|D25|D29|D32|D35|D38|D41|D51|合計|");
+  EXPECT_THAT(records.at(3), ElementsAre("U 7", "8", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "8",
+                                         "0", "0", "0", "0"));
 }
 
 TEST(CsvText, AskedForItsLayoutIsAFloorTallyAlone) {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "archive/csv/do_backup.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "archive/csv/csv_samples.h"
 #include "platform/files/files.h"
 #include "platform/text/cp932.h"
+#include "support/child_process.h"
 #include "support/fault_of.h"
 #include "support/looking_only.h"
 #include "support/temporary_folder.h"
@@ -40,6 +43,36 @@ TEST(DoBackUp, ReplacesTheFileThatIsThere) {
   Do_BackUP(folder / "a.csv", "a longer one\r\n");
   Do_BackUP(folder / "a.csv", "1\r\n");
   EXPECT_EQ(ReadFileBytes(folder / "a.csv"), "1\r\n");
+  EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+TEST(DoBackUp, MarksWhatTheCodePageLacksInNamesOfSiteClientPartsAndRegisteredNames) {
+  const TemporaryFolder folder;
+  CsvSite site = SampleCsvSite();
+  site.name = "😀住宅";
+  site.client = "한建設";
+  site.parts[0] = "𠮟柱";
+  CsvOfNames names = SampleNames();
+  names.names[0].name = "か\u3099";
+  EXPECT_EQ(Do_BackUP(folder / "a.csv", CsvText(SampleParts(), site, {})), "😀한𠮟");
+  const std::string parts = FromCp932(ReadFileBytes(folder / "a.csv"));
+  EXPECT_THAT(parts, testing::StartsWith("\"工事No\",7,\"工事名\",\"?住宅\",\"取引先\",\"?建設\","));
+  EXPECT_THAT(parts, testing::HasSubstr("\"太さ\",\"?柱\",\"部位2\","));
+  EXPECT_EQ(Do_BackUP(folder / "b.csv", CsvText(names, site, {})), "😀한\u3099");
+  EXPECT_THAT(FromCp932(ReadFileBytes(folder / "b.csv")), testing::HasSubstr("\r\n,\"か?\",1,0\r\n"));
+}
+
+TEST(DoBackUp, LeavesAFileThatIsThereWholeWhereItCannotWrite) {
+  const TemporaryFolder folder;
+  const std::filesystem::path file = folder / "a.csv";
+  Do_BackUP(file, "old\r\n");
+  const auto fails = [&] { return FaultOf([&] { Do_BackUP(file, std::string(10000, '1')); }); };
+  EXPECT_TRUE(WithFilesOfAtMost(4096, [&] { EXPECT_EQ(fails(), FaultKind::file) << "a full disk"; }));
+  {
+    const LookingOnly looking{folder.Path()};
+    EXPECT_EQ(fails(), FaultKind::file);
+  }
+  EXPECT_EQ(ReadFileBytes(file), "old\r\n");
   EXPECT_EQ(FilesIn(folder.Path()), 1U);
 }
 

@@ -9,8 +9,7 @@
 #include "screens/archive/dialog_driver.h"
 #include "screens/archive/mounted_volumes.h"
 #include "screens/archive/saved_tally_dialogs.h"
-#include "support/environment_variable.h"
-#include "support/temporary_folder.h"
+#include "support/user_home.h"
 
 namespace rbt::test {
 
@@ -21,7 +20,7 @@ namespace fs = std::filesystem;
 class FrmBackUpForm : public testing::Test {
  protected:
   FrmBackUpForm() {
-    for (const char* folder : {"Desktop", "Documents", "usb/csv"}) fs::create_directories(home_ / folder);
+    fs::create_directories(home_ / "usb/csv");
     parts_.volumes = {{"/", "/"}, {"usb", home_ / "usb"}, {"none", home_ / "none"}};
     parts_.choose_folder = [this](const fs::path&) { return home_ / "usb/csv"; };
   }
@@ -36,9 +35,7 @@ class FrmBackUpForm : public testing::Test {
     return fs::exists(home_ / folder / "試験工事一括集計20261121090000.csv");
   }
 
-  TemporaryFolder home_;
-  EnvironmentVariable home_variable_{"HOME", home_.Path().string()};
-  EnvironmentVariable configuration_{"XDG_CONFIG_HOME", (home_ / "none").string()};
+  UserHome home_;
   SavedSite site_;
   BackUpParts parts_;
 };
@@ -73,6 +70,14 @@ TEST_F(FrmBackUpForm, AKeyInTheDrivesTakesTheNextAndAnUnreadableOneGoesBack) {
   EXPECT_EQ(site_.Told(), "ドライブエラー: ドライブの準備が出来ていません。|");
   EXPECT_EQ(Drives(form).currentText(), "usb");
   EXPECT_EQ(form.Text("Dir1"), (home_ / "usb").string());
+}
+
+TEST_F(FrmBackUpForm, ALookIntoTheDrivesThatChangesNothingKeepsTheFolder) {
+  auto form = Open();
+  form.Button("btnDir")->click();
+  ASSERT_EQ(Drives(form).currentText(), "usb");
+  emit Drives(form).activated(Drives(form).currentIndex());
+  EXPECT_EQ(form.Text("Dir1"), (home_ / "usb/csv").string());
 }
 
 TEST_F(FrmBackUpForm, EnterSavesIntoTheChosenFolderAndCloses) {
@@ -119,6 +124,7 @@ TEST_F(FrmBackUpForm, OpensFromTheSaveDialogOnItsTally) {
 
 TEST(MountedVolumes, AreFoldersEachOnce) {
   const std::vector<Volume> volumes = MountedVolumes();
+  ASSERT_FALSE(volumes.empty()) << "the root folder lies on one";
   for (std::size_t i = 0; i < volumes.size(); ++i) {
     EXPECT_TRUE(fs::is_directory(volumes[i].root)) << volumes[i].caption;
     EXPECT_THAT(volumes[i].caption, testing::StartsWith(volumes[i].root.string()));

@@ -9,8 +9,8 @@
 #include "platform/files/files.h"
 #include "platform/text/cp932.h"
 #include "session/archive/saved_site.h"
-#include "support/environment_variable.h"
-#include "support/temporary_folder.h"
+#include "support/child_process.h"
+#include "support/user_home.h"
 
 namespace rbt::test {
 
@@ -40,7 +40,7 @@ CsvOfTally FloorTally123() {
 class BackUpDialog : public testing::Test {
  protected:
   BackUpDialog() {
-    for (const char* folder : {"Desktop", "Documents", "usb/csv"}) fs::create_directories(home_ / folder);
+    fs::create_directories(home_ / "usb/csv");
     parts_.volumes = {{"/", "/"}, {"usb", home_ / "usb"}, {"none", home_ / "none"}};
     parts_.choose_folder = [this](const fs::path& from) {
       asked_from_ = from;
@@ -63,9 +63,7 @@ class BackUpDialog : public testing::Test {
   }
   std::string TextOf(const std::string& file) const { return FromCp932(ReadFileBytes(home_ / file)); }
 
-  TemporaryFolder home_;
-  EnvironmentVariable home_variable_{"HOME", home_.Path().string()};
-  EnvironmentVariable configuration_{"XDG_CONFIG_HOME", (home_ / "none").string()};
+  UserHome home_;
   SavedSite site_;
   BackUpParts parts_;
   std::optional<fs::path> chosen_;
@@ -111,6 +109,13 @@ TEST_F(BackUpDialog, AFolderIsChosenFromTheOneThatIsShown) {
   EXPECT_EQ(dialog_->View().folder, (home_ / "usb/csv").string()) << "turned back";
 }
 
+TEST_F(BackUpDialog, TheDriveOfTheFolderChosenAgainKeepsTheFolder) {
+  chosen_ = home_ / "usb/csv";
+  Open().ChooseFolder();
+  dialog_->SelectDrive(1);
+  EXPECT_EQ(dialog_->View().folder, (home_ / "usb/csv").string());
+}
+
 TEST_F(BackUpDialog, AFolderOnNoListedDriveSelectsNone) {
   parts_.volumes = {{"usb", home_ / "usb"}};
   EXPECT_EQ(Open().View().drive, std::nullopt);
@@ -136,6 +141,21 @@ TEST_F(BackUpDialog, SavesOnTheDesktopAndInTheDocumentsFolder) {
                                " ]  を　マイドキュメントに書き出しました。|");
   EXPECT_THAT(FilesIn("Desktop"), ElementsAre(kName));
   EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
+}
+
+TEST_F(BackUpDialog, WithoutADesktopAndADocumentsFolderItSavesIntoTheFolderThatIsShown) {
+  for (const char* folder : {"Desktop", "Documents"}) fs::remove(home_ / folder);
+  EXPECT_EQ(Open().View().folder, home_.Path().string());
+  dialog_->SelectDrive(1);
+  dialog_->SaveOnDesktop();
+  EXPECT_THAT(site_.Messages().back().text, testing::EndsWith(" ]  を　デスクトップに書き出しました。"));
+  EXPECT_THAT(FilesIn("usb"), testing::UnorderedElementsAre("csv", kName));
+  chosen_ = home_ / "usb/csv";
+  Open().ChooseFolder();
+  dialog_->SaveInDocuments();
+  EXPECT_THAT(site_.Messages().back().text, testing::EndsWith(" ]  を　マイドキュメントに書き出しました。"));
+  EXPECT_THAT(FilesIn("usb/csv"), ElementsAre(kName));
+  EXPECT_FALSE(fs::exists(home_ / kName));
 }
 
 TEST_F(BackUpDialog, TellsTheSiteOfTheTally) {
@@ -181,7 +201,7 @@ TEST_F(BackUpDialog, AFileThatIsThereIsAskedAbout) {
 TEST_F(BackUpDialog, AFloorTallyIsAskedForItsLayout) {
   Open(FloorTally123()).SaveInDocuments();
   EXPECT_THAT(site_.Told(1), StartsWith("集計方法の確認: データ名：全階\nYes=階合計表   No=階部位径|"));
-  EXPECT_EQ(site_.Messages()[1].buttons, MessageButtons::yes_no);
+  EXPECT_EQ(site_.Messages()[1].buttons, MessageButtons::yes_no_cancel);
   const std::string file = "Documents/試験工事階別集計20261121090000.csv";
   EXPECT_THAT(TextOf(file), HasSubstr("\"階\",\"部位1\","));
   site_.Answer(MessageAnswer::ok);
@@ -189,6 +209,15 @@ TEST_F(BackUpDialog, AFloorTallyIsAskedForItsLayout) {
   site_.Answer(MessageAnswer::no);
   Open(FloorTally123()).SaveInDocuments();
   EXPECT_THAT(TextOf(file), StartsWith("\"1階\",\"部位\",\"D10\","));
+}
+
+TEST_F(BackUpDialog, TurningBackAtTheLayoutWritesNothingAndStays) {
+  site_.Answer(MessageAnswer::ok);
+  site_.Answer(MessageAnswer::cancel);
+  Open(FloorTally123()).SaveInDocuments();
+  EXPECT_EQ(site_.Messages().size(), 2U);
+  EXPECT_FALSE(dialog_->View().left);
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre());
 }
 
 TEST_F(BackUpDialog, ATallyWithoutANameIsAskedForItsLayoutByItsFile) {
@@ -232,6 +261,28 @@ TEST_F(BackUpDialog, AFailedWriteIsToldAndEndsTheDialogWithNothingWritten) {
   EXPECT_EQ(site_.Messages().size(), 2U);
   EXPECT_TRUE(dialog_->View().left);
   EXPECT_FALSE(fs::exists(home_ / "gone"));
+}
+
+TEST_F(BackUpDialog, AFullDiskIsToldAndLeavesTheFileThatWasThere) {
+  std::ofstream(home_ / "Documents" / kName) << "old";
+  Open();
+  EXPECT_TRUE(WithFilesOfAtMost(64, [&] {
+    dialog_->SaveInDocuments();
+    EXPECT_THAT(site_.Messages().back().text, HasSubstr("」に保存できません。\n"));
+    EXPECT_EQ(site_.Messages().back().buttons, MessageButtons::ok_to_warning);
+    EXPECT_TRUE(dialog_->View().left);
+  }));
+  EXPECT_EQ(TextOf(std::string("Documents/") + kName), "old");
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
+}
+
+TEST_F(BackUpDialog, ASecondFileOfTheSameSecondIsAskedAbout) {
+  Open().SaveInDocuments();
+  const std::size_t before = site_.Messages().size();
+  Open().SaveInDocuments();
+  EXPECT_THAT(site_.Told(before + 1),
+              StartsWith("実行の確認: 「" + (home_ / "Documents" / kName).string() + "」は既にあります。"));
+  EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
 }
 
 TEST_F(BackUpDialog, LeavingWritesNothing) {
