@@ -32,9 +32,9 @@ void RunNames(const NamesOptions& options) {
 
 std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
   OpenSite(common);
-  OpenNameWork();
+  NameWork work;
   std::vector<RegisteredName> names = ReadNames(*SiteContext.NameDatabase, NameOrder::by_number);
-  CloseNameWork();
+  work.Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   return names;
 }
