@@ -30,9 +30,10 @@ void RunNames(const NamesOptions& options) {
 
 }  // namespace
 
-std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
+std::vector<RegisteredName> WeighedNames(const CommonOptions& common, std::span<const std::int32_t> marked) {
   OpenSite(common);
   NameWork work;
+  MarkNames(*SiteContext.NameDatabase, marked, true);
   std::vector<RegisteredName> names = ReadNames(*SiteContext.NameDatabase, NameOrder::by_number);
   work.Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
