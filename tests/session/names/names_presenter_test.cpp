@@ -124,6 +124,17 @@ TEST_F(NamesScreen, SortsByNameAndBackAndKeepsTheMarks) {
   EXPECT_EQ(Marks(), "1い1 2あ1 4う0 ");
 }
 
+TEST_F(NamesScreen, SortsAListThatIsMarkedAllThroughAndKeepsEveryMark) {
+  Open();
+  EnterRange("1", "4");
+  EXPECT_EQ(Marks(), "1い1 2あ1 4う1 ");
+  screen_->Sort();
+  EXPECT_EQ(Marks(), "2あ1 1い1 4う1 ");
+  EXPECT_THAT(screen_->View().selected, ElementsAre("1-い", "2-あ", "4-う"));
+  screen_->Sort();
+  EXPECT_EQ(Marks(), "1い1 2あ1 4う1 ");
+}
+
 TEST_F(NamesScreen, MarksARangeOfNumbers) {
   Open();
   screen_->TypeRangeStart("2");
@@ -365,6 +376,21 @@ TEST_F(NamesScreen, APurchaseListOfNamesIsNeitherKeptNorBroughtBack) {
   EXPECT_FALSE(detail.View().IsEnabled(DetailButton::save));
   EXPECT_FALSE(detail.View().IsEnabled(DetailButton::load));
   EXPECT_TRUE(detail.View().IsEnabled(DetailButton::restore));
+}
+
+TEST_F(NamesScreen, APurchaseListOfNamesIsRestoredToTheTallyOfItsMarks) {
+  constexpr int kCutColumn = 24;
+  Open().Flip(0);
+  SiteContext.WorkDatabase->LetGo();
+  const TallyResult tallied = CountTally(TallyKind::names);
+  DetailPresenter detail(tallied, {});
+  detail.Press(DetailButton::correct);
+  detail.EditCell(3, kCutColumn, "9");
+  detail.Escape();
+  EXPECT_EQ(detail.Result().Grid().CutCount[3], 9);
+  detail.Press(DetailButton::restore);
+  EXPECT_EQ(detail.Result().Grid(), tallied.Grid());
+  EXPECT_EQ(detail.Result().Grid().BarCount[3][5], 20);
 }
 
 TEST_F(NamesScreen, WritesAllNamesByTheirNumbersToACsvFileHoweverTheyAreListedAndMarked) {
