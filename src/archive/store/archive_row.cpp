@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "archive/store/archive_row.h"
 
-#include <variant>
-
 #include <fmt/format.h>
 
 #include "data/quoted_text.h"

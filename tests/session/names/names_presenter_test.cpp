@@ -2,15 +2,13 @@
 #include "session/names/names_presenter.h"
 
 #include <functional>
-#include <memory>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
 #include "session/detail/detail_presenter.h"
-#include "session/names/name_site.h"
-#include "session/panels/site_head.h"
+#include "session/names/names_screen.h"
 #include "session/result/result_presenter.h"
 #include "shell/config/setting_keys.h"
 #include "shell/config/settings.h"
@@ -23,60 +21,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class NamesScreen : public testing::Test {
- protected:
-  NamesPresenter& Open() {
-    NameSite::Load();
-    NamesParts parts;
-    parts.open_tally = [this] { Opened("JS"); };
-    parts.open_shapes = [this] { Opened("KEIJOJS"); };
-    parts.save_csv = [this](const std::vector<RegisteredName>& names) {
-      Opened("CSV");
-      for (const RegisteredName& name : names) listed_ += name.name + (name.marked ? "1 " : "0 ");
-    };
-    screen_ = std::make_unique<NamesPresenter>(std::move(parts));
-    return *screen_;
-  }
-  /// A tally screen closes the site's database when it goes.
-  void Opened(const std::string& form) {
-    opened_ += form + " ";
-    kind_ = Selection.TallyKind;
-    if (form == "JS") bars_ = CountTally(TallyKind::names).Grid().BarCount[3][5];
-    if (form != "CSV") SiteContext.WorkDatabase.reset();
-    if (meanwhile_) meanwhile_();
-  }
-  /// As a tally screen does that loads after another program has chosen.
-  void BindElsewhere(const char* schedule) {
-    site_.Choose(schedule);
-    BindChosenSite();
-    ASSERT_EQ(SiteContext.NameDatabase, nullptr);
-  }
-  std::string Marks() {
-    std::string marks;
-    for (const auto& row : screen_->View().rows) marks += row[0] + row[1] + row[2] + " ";
-    return marks;
-  }
-  void EnterRange(const std::string& start, const std::string& end) {
-    screen_->TypeRangeStart(start);
-    screen_->EnterRangeStart();
-    screen_->TypeRangeEnd(end);
-    screen_->EnterRangeEnd();
-  }
-  std::string Told() const {
-    std::string told;
-    for (const ShownMessage& message : site_.Messages()) told += message.title + ": " + message.text + "|";
-    return told;
-  }
-
-  NameSite site_;
-  std::unique_ptr<NamesPresenter> screen_;
-  std::string listed_;
-  std::string opened_;
-  std::function<void()> meanwhile_;  ///< what comes about while a tally screen is open
-  TallyKind kind_ = TallyKind::bulk;
-  std::int32_t bars_ = 0;
-};
 
 TEST_F(NamesScreen, BeginsWithTheNamesInTheOrderOfTheirNumbersAndNoneMarked) {
   const NamesView view = Open().View();
@@ -242,88 +186,6 @@ TEST_F(NamesScreen, SendsItsMarksToTheTallyAndGoesOnWithThem) {
   EXPECT_EQ(Marks(), "1い1 2あ0 4う0 ");
   screen_->Flip(2);
   EXPECT_EQ(Marks(), "1い1 2あ0 4う1 ");
-}
-
-TEST_F(NamesScreen, AnotherSiteThatWasChosenIsListedWithoutAMarkAndNotTallied) {
-  site_.AddSecondSite();
-  Open().Flip(0);
-  site_.Choose(kSecondSchedule);
-  screen_->Tally();
-  EXPECT_EQ(opened_, "");
-  EXPECT_EQ(Told(), "登録名未選択: 登録名を選択して下さい\r　　|");
-  const NamesView view = screen_->View();
-  EXPECT_EQ(view.head.site_number, "002");
-  EXPECT_THAT(view.selected, IsEmpty());
-  EXPECT_TRUE(view.to_first_row);
-  EXPECT_FALSE(site_.HasTable(kScheduleFile, "WorkTable"));
-  screen_->Flip(0);
-  screen_->Tally();
-  EXPECT_EQ(opened_, "JS ");
-  EXPECT_EQ(bars_, 20);
-}
-
-TEST_F(NamesScreen, AnotherSiteThatIsChosenWhileATallyIsOpenIsListedAfterIt) {
-  site_.AddSecondSite();
-  Open().Flip(0);
-  meanwhile_ = [this] { site_.Choose(kSecondSchedule); };
-  screen_->Tally();
-  EXPECT_EQ(bars_, 20);
-  EXPECT_EQ(screen_->View().head.site_number, "002");
-  EXPECT_EQ(Marks(), "1い0 2あ0 4う0 ");
-}
-
-TEST_F(NamesScreen, WhateverIsAskedOfAListWhoseSiteIsBoundNoMoreBeginsItAnew) {
-  site_.AddSecondSite();
-  Open();
-  screen_->TypeRangeStart("1");
-  screen_->TypeRangeEnd("4");
-  const std::vector<std::function<void()>> intents{
-      [this] { screen_->Flip(0); },           [this] { screen_->Sort(); },
-      [this] { screen_->EnterRangeStart(); }, [this] { screen_->EnterRangeEnd(); },
-      [this] { screen_->SaveCsv(); },         [this] { screen_->Tally(); },
-      [this] { screen_->TallyShapes(); }};
-  bool second = false;
-  for (const auto& intent : intents) {
-    second = !second;
-    BindElsewhere(second ? kSecondSchedule : kScheduleFile);
-    intent();
-    ASSERT_NE(SiteContext.NameDatabase, nullptr);
-    const NamesView view = screen_->View();
-    EXPECT_EQ(view.head.site_number, second ? "002" : "001");
-    EXPECT_THAT(view.selected, IsEmpty());
-  }
-  EXPECT_EQ(opened_, "CSV ");
-  EXPECT_EQ(listed_, "い0 あ0 う0 ");
-}
-
-TEST_F(NamesScreen, WithoutASiteWhateverNeedsItsNamesIsAFaultUntilThereIsOne) {
-  Open();
-  screen_->TypeRangeStart("1");
-  screen_->TypeRangeEnd("4");
-  site_.Choose("GENBA009.MDB");
-  EXPECT_THROW(screen_->Tally(), Fault);
-  EXPECT_EQ(SiteContext.NameDatabase, nullptr);
-  EXPECT_THROW(screen_->Flip(0), Fault);
-  EXPECT_THROW(screen_->Sort(), Fault);
-  EXPECT_THROW(screen_->EnterRangeStart(), Fault);
-  EXPECT_THROW(screen_->EnterRangeEnd(), Fault);
-  EXPECT_THROW(screen_->SaveCsv(), Fault);
-  site_.Choose(kScheduleFile);
-  screen_->Flip(0);  // the list begins anew
-  screen_->Flip(0);
-  EXPECT_EQ(screen_->View().selected.size(), 1U);
-}
-
-TEST_F(NamesScreen, GoesOnAfterATallyThatFaults) {
-  Open().Flip(0);
-  meanwhile_ = [] { throw Fault(FaultKind::overflow, "a tally"); };
-  EXPECT_THROW(screen_->Tally(), Fault);
-  EXPECT_FALSE(screen_->View().busy);
-  EXPECT_NE(SiteContext.WorkDatabase, nullptr);
-  EXPECT_EQ(Marks(), "1い1 2あ0 4う0 ");
-  meanwhile_ = {};
-  screen_->Tally();
-  EXPECT_EQ(opened_, "JS JS ");
 }
 
 TEST_F(NamesScreen, ShowsTheComparisonItemThatWasChosenBelowATally) {
