@@ -70,6 +70,9 @@ NamesPresenter::NamesPresenter(NamesParts parts)
 }
 
 void NamesPresenter::BeginWork() {
+  // Should it fail, no names of a former site stand below the head of this one.
+  names_.clear();
+  selected_.clear();
   const ClassifiedSchedule held(Selection.StartMode);
   // A summary that fails is not told: no weight is shown then, rather than one of former rows.
   PassOverFaultsOfContent([] { OpenNameWork(); });

@@ -82,6 +82,18 @@ TEST_F(NamesScreen, WithoutASiteWhateverNeedsItsNamesIsAFaultUntilThereIsOne) {
   EXPECT_EQ(screen_->View().selected.size(), 1U);
 }
 
+TEST_F(NamesScreen, OfASiteWhoseNamesCannotBeReadListsNoneOfTheFormer) {
+  site_.AddSecondSite();
+  Open();
+  site_.Execute("HIROI002.mdb", "DROP TABLE 登録名");
+  site_.Execute("HIROI002.mdb", "CREATE TABLE 登録名 (登録AN LONG, 表示番号 LONG)");
+  site_.Choose(kSecondSchedule);
+  EXPECT_THROW(screen_->Tally(), Fault);
+  EXPECT_EQ(screen_->View().head.site_number, "002");
+  EXPECT_THAT(screen_->View().rows, IsEmpty());
+  EXPECT_EQ(opened_, "");
+}
+
 TEST_F(NamesScreen, GoesOnAfterATallyThatFaults) {
   Open().Flip(0);
   meanwhile_ = [] { throw Fault(FaultKind::overflow, "a tally"); };
