@@ -2,6 +2,7 @@
 #include "cli/asked_tally.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "cli/command.h"
 #include "cli/session.h"
@@ -59,11 +60,6 @@ void TakeAskedFloors(const SelectionOptions& options) {
   TakeFloors(Selection, range, SpecialMask(options.special), extent);
 }
 
-void TakeAskedNames(const SelectionOptions& options) {
-  OpenNameWork();
-  HoldMarks(*SiteContext.NameDatabase, options.names);
-}
-
 void TakeRange(TallyRange range, const SelectionOptions& options) {
   switch (range) {
     case TallyRange::shapes:
@@ -73,7 +69,7 @@ void TakeRange(TallyRange range, const SelectionOptions& options) {
     case TallyRange::floors:
       return TakeAskedFloors(options);
     case TallyRange::names:
-      return TakeAskedNames(options);
+      return HoldMarks(*SiteContext.NameDatabase, options.names);
     case TallyRange::whole_site:
       return;
   }
@@ -107,9 +103,11 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   OpenSite(common);
   Selection.TallyKind = row->kind;
   ApplySelection(options, Selection);
+  std::optional<NameWork> work;
+  if (row->range == TallyRange::names) work.emplace();
   TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
-  if (row->range == TallyRange::names) CloseNameWork();
+  if (work) work->Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;

@@ -75,7 +75,7 @@ void RequireFile(const fs::path& file, bool force) {
 }
 
 CsvSubject SubjectOf(const ExportOptions& options) {
-  if (IsOfNames(options)) return CsvOfNames{WeighedNames(options.common)};
+  if (IsOfNames(options)) return CsvOfNames{WeighedNames(options.common, options.selection.names)};
   CsvOfTally subject;
   if (options.saved) {
     OpenSite(options.common);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <vector>
 
 #include "cli/options.h"
@@ -9,7 +11,9 @@
 namespace rbt {
 
 /// Opens the site and weighs its registered names, as their screen does when it opens: the list by number.
-/// All marks are taken away. Throws what opening and weighing throw.
-std::vector<RegisteredName> WeighedNames(const CommonOptions& common);
+/// All marks are taken away, then the names of these numbers are marked. Throws what opening and weighing
+/// throw.
+std::vector<RegisteredName> WeighedNames(const CommonOptions& common,
+                                         std::span<const std::int32_t> marked = {});
 
 }  // namespace rbt

@@ -30,11 +30,12 @@ void RunNames(const NamesOptions& options) {
 
 }  // namespace
 
-std::vector<RegisteredName> WeighedNames(const CommonOptions& common) {
+std::vector<RegisteredName> WeighedNames(const CommonOptions& common, std::span<const std::int32_t> marked) {
   OpenSite(common);
-  OpenNameWork();
+  NameWork work;
+  MarkNames(*SiteContext.NameDatabase, marked, true);
   std::vector<RegisteredName> names = ReadNames(*SiteContext.NameDatabase, NameOrder::by_number);
-  CloseNameWork();
+  work.Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   return names;
 }

@@ -71,11 +71,7 @@ class Records {
 
  private:
   std::int32_t Count(FieldHandle field) const { return rows_.Int32(field).value_or(0); }
-  Currency Amount(FieldHandle field) const {
-    const Value amount = rows_.Get(field);
-    if (const auto* exact = std::get_if<Currency>(&amount)) return *exact;
-    return IsNull(amount) ? Currency() : Currency::FromDouble(NumberOf(amount, "T_hozon"));
-  }
+  Currency Amount(FieldHandle field) const { return AmountOf(rows_.Get(field), "T_hozon"); }
 
   void ReadRow(TallyTable& sum, int d) const {
     sum.UlbonWeldCount[d] = Count(ulbon_welds_);

@@ -22,6 +22,9 @@ std::filesystem::path MapPath(std::string_view family_path);
 /// leads to itself, a name too long, a folder that may not be looked into.
 bool FamilyFileExists(std::string_view family_path);
 
+/// A program that is installed beside this one, by its name without a folder; nothing where there is none.
+std::optional<std::filesystem::path> OwnProgram(std::string_view name);
+
 /// The working directory of the family's programs, `\rbk` or `\rbk\kakou`, which siblings start in; that of
 /// this process stays, so that paths given to it keep their meaning. A folder that does not exist throws
 /// `file`.

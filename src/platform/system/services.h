@@ -39,6 +39,8 @@ struct ServicesData {
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.
   ColourChooser Colours = ChooseNoColour;
+  /// `OwnProgram()`: the folder of this program and of those that are installed with it; empty: none are.
+  std::filesystem::path ProgramFolder;
   /// `RunAndWait()`, `RunAndWaitPoll()`.
   Launcher Launch = LaunchProgram;
   /// `RunPendingEvents()`: without windows there are none.

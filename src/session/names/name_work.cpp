@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "session/names/name_work.h"
 
+#include <exception>
 #include <memory>
 #include <utility>
 
+#include "platform/failure_log.h"
+#include "platform/pass_over_faults.h"
+#include "platform/system/process.h"
 #include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/classified_schedule.h"
 #include "shell/preparation/preparation.h"
 #include "store/database.h"
 #include "tally/names/name_summary.h"
@@ -21,24 +26,37 @@ Database OpenNames() {
   return companion.MayBeWritten() ? std::move(companion) : Database::CopyOf(companion);
 }
 
+void DropWhatTheSummaryLeaves(Database& schedule) {
+  Transaction transaction(schedule);
+  DropNameWorkTables(schedule);
+  transaction.Commit();
+}
+
 /// Both files as the work needs them.
 void Summarize(Database& schedule, Database& names) {
-  Transaction transaction(schedule);
-  AddNameWorkColumns(schedule, names);
-  // The lock let go of what was held: another start mode may have come in between.
-  schedule.ExecuteTogether(PreparationStatements(schedule, Selection.StartMode));
-  SumNamesInWorkTables(schedule, {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1});
-  transaction.CommitAndHold();
-  WriteNameWeights(schedule, names);
+  WriteAndHoldClassified(schedule, Selection.StartMode, [&] {
+    AddNameWorkColumns(schedule, names);
+    SumNamesInWorkTables(schedule, {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1});
+  });
+  try {
+    WriteNameWeights(schedule, names);
+  } catch (const Fault&) {
+    // Should they not go either, it is the first fault that is told.
+    PassOverFaults([&] { DropWhatTheSummaryLeaves(schedule); });
+    throw;
+  }
 }
 
 }  // namespace
 
-void LoadSiteForNames(const StartModeTraits& start_mode) {
+bool LoadSiteForNames(const StartModeTraits& start_mode) {
   StartOptions options;
   options.start_mode = start_mode;
-  options.command_line = true;
-  LoadSite(options);
+  options.keep_accumulation = true;
+  const LoadResult loaded = LoadSite(options);
+  if (!loaded.hand_over_to) return true;
+  RunAndWait(*loaded.hand_over_to, WindowStyle::normal);
+  return false;
 }
 
 void OpenNameWork() {
@@ -63,10 +81,16 @@ void OpenNameWorkWithoutWeights() {
 void CloseNameWork() {
   if (!SiteContext.NameDatabase) return;
   SiteContext.NameDatabase.reset();
-  if (!SiteContext.WorkDatabase || !SiteContext.WorkDatabase->MayBeWritten()) return;
-  Transaction transaction(*SiteContext.WorkDatabase);
-  DropNameWorkTables(*SiteContext.WorkDatabase);
-  transaction.Commit();
+  if (!SiteContext.WorkDatabase) OpenWorkDatabase();
+  if (SiteContext.WorkDatabase->MayBeWritten()) DropWhatTheSummaryLeaves(*SiteContext.WorkDatabase);
+}
+
+NameWork::~NameWork() {
+  try {
+    CloseNameWork();
+  } catch (const std::exception& failure) {
+    LogFailure(failure.what());
+  }
 }
 
 }  // namespace rbt

@@ -35,6 +35,19 @@ constexpr std::string_view kAsksForItem = "対比表印刷項目を 1～3 で選
 constexpr std::int32_t kFirstItem = 1;
 constexpr std::int32_t kLastItem = 3;
 
+/// What `MSGB` says once the focus has come to a control ...
+std::string_view WordsOf(std::string_view control) {
+  if (control == kRangeStartBox) return kAsksForStart;
+  return control == kItemBox ? kAsksForItem : kUsual;
+}
+
+/// ... unless it says already what the way there has led to.
+std::string_view WordsKeptAt(std::string_view control) {
+  if (control == kRangeStartBox) return kAsksAgain;
+  if (control == kRangeEndBox) return kAsksForEnd;
+  return control == kNameTallyButton ? kRangeTaken : "";
+}
+
 std::int32_t NumberIn(const std::string& text) { return ToInt32(LeadingNumber(text), "登録AN"); }
 
 /// The lines of `List1`.
@@ -57,24 +70,48 @@ NamesPresenter::NamesPresenter(NamesParts parts)
 }
 
 void NamesPresenter::BeginWork() {
+  // Should it fail, no names of a former site stand below the head of this one.
+  names_.clear();
+  selected_.clear();
   const ClassifiedSchedule held(Selection.StartMode);
   // A summary that fails is not told: no weight is shown then, rather than one of former rows.
   PassOverFaultsOfContent([] { OpenNameWork(); });
   if (!SiteContext.NameDatabase) OpenNameWorkWithoutWeights();
   ReadList();
+  to_first_row_ = true;
 }
 
-/// The tally screen has closed the site's database, and another site may have been chosen meanwhile.
-void NamesPresenter::ResumeWork() {
-  if (!SiteContext.WorkDatabase) BindChosenSite();
+/// Goes on with the names of the chosen site, or begins with those of another one, none marked.
+void NamesPresenter::FollowChosenSite() {
+  if (ReadSteelIni(kSelectedDbNameKey) != SiteContext.SelectedDbName) CloseNameWork();
+  BindChosenSite();
   head_ = ReadHead();
   if (!SiteContext.NameDatabase) return BeginWork();
   ReadList();
 }
 
+/// True where the work had ended under the screen and has begun anew: no line is the one that was meant.
+bool NamesPresenter::BeginsAnew() {
+  if (SiteContext.NameDatabase) return false;
+  FollowChosenSite();
+  return true;
+}
+
+Database& NamesPresenter::Names() {
+  BeginsAnew();
+  return *SiteContext.NameDatabase;
+}
+
+/// The tally screen has closed the site's database; settings may have been changed from there.
+void NamesPresenter::ResumeWork() {
+  item_ = std::to_string(Settings.ComparisonKind);
+  message_ = kUsual;
+  FollowChosenSite();
+}
+
 void NamesPresenter::ReadList() {
-  names_ = ReadNames(*SiteContext.NameDatabase, order_);
-  selected_ = SelectedLines(*SiteContext.NameDatabase);
+  names_ = ReadNames(Names(), order_);
+  selected_ = SelectedLines(Names());
 }
 
 NamesView NamesPresenter::View() {
@@ -94,12 +131,15 @@ NamesView NamesPresenter::View() {
 }
 
 void NamesPresenter::Flip(std::size_t row) {
-  if (row >= names_.size() || !names_[row].number) return;
-  MarkNames(*SiteContext.NameDatabase, std::array{*names_[row].number}, !names_[row].marked);
+  message_ = kUsual;
+  if (BeginsAnew() || row >= names_.size() || !names_[row].number) return;
+  MarkNames(Names(), std::array{*names_[row].number}, !names_[row].marked);
   ReadList();
 }
 
 void NamesPresenter::Sort() {
+  message_ = kUsual;
+  BeginsAnew();
   order_ = order_ == NameOrder::by_number ? NameOrder::by_name : NameOrder::by_number;
   ReadList();
   to_first_row_ = true;
@@ -111,7 +151,7 @@ void NamesPresenter::EnterRangeStart() {
     focus_ = kItemBox;
     return;
   }
-  if (!HasName(*SiteContext.NameDatabase, start)) {
+  if (!HasName(Names(), start)) {
     MsgBox("該当する登録名がありません", "登録名なし");
     focus_ = kRangeStartBox;
     return;
@@ -127,7 +167,8 @@ void NamesPresenter::EnterRangeEnd() {
     focus_ = start <= 0 ? kRangeStartBox : kRangeEndBox;
     return;
   }
-  MarkNamesBetween(*SiteContext.NameDatabase, start, end);
+  if (BeginsAnew()) return;
+  MarkNamesBetween(Names(), start, end);
   ReadList();
   focus_ = kNameTallyButton;
   message_ = kRangeTaken;
@@ -152,18 +193,14 @@ void NamesPresenter::EnterItem() {
 }
 
 void NamesPresenter::Reach(std::string_view control) {
-  if (control == kRangeStartBox) {
-    // The way back from the end has words of its own.
-    if (message_ != kAsksAgain) message_ = kAsksForStart;
-  } else if (control == kItemBox) {
-    message_ = kAsksForItem;
-  } else if (control != kRangeEndBox && message_ != kRangeTaken) {
-    message_ = kUsual;
-  }
+  if (message_ != WordsKeptAt(control)) message_ = WordsOf(control);
 }
 
 void NamesPresenter::SendToTally(TallyOfNames tally) {
-  if (MarkedNumbers(*SiteContext.NameDatabase).empty()) {
+  // Should another site have been chosen, its tally would be of all its names: no mark of it has been taken
+  // away yet.
+  FollowChosenSite();
+  if (MarkedNumbers(Names()).empty()) {
     MsgBox("登録名を選択して下さい\r　　", "登録名未選択");
     return;
   }
@@ -171,18 +208,26 @@ void NamesPresenter::SendToTally(TallyOfNames tally) {
   const std::function<void()>& open = by_shape ? parts_.open_shapes : parts_.open_tally;
   if (!open) return SayNotReady(by_shape ? "形状別" : "集計", kNamesTitle);
   Selection.TallyKind = by_shape ? TallyKind::shape : TallyKind::names;
-  {
-    const AtEnd done([this] { busy_ = false; });
-    busy_ = true;
-    if (show_) show_();
-    open();
+  try {
+    OpenTally(open);
+  } catch (const Fault&) {
+    // The list goes on as far as it can; the first fault is the one that is told.
+    PassOverFaults([this] { ResumeWork(); });
+    throw;
   }
   ResumeWork();
 }
 
+void NamesPresenter::OpenTally(const std::function<void()>& open) {
+  const AtEnd done([this] { busy_ = false; });
+  busy_ = true;
+  if (show_) show_();
+  open();
+}
+
 void NamesPresenter::SaveCsv() {
   if (!parts_.save_csv) return SayNotReady("CSV保存", kNamesTitle);
-  parts_.save_csv(ReadNames(*SiteContext.NameDatabase, NameOrder::by_number));
+  parts_.save_csv(ReadNames(Names(), NameOrder::by_number));
 }
 
 void NamesPresenter::Leave() {

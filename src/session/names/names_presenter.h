@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "session/names/names_view.h"
+#include "store/database.h"
 #include "tally/names/name_list.h"
 
 namespace rbt {
@@ -24,6 +25,9 @@ struct NamesParts {
 /// user marks and sends to a tally. Marks are kept in the site's companion file. A name without a number
 /// cannot be marked. Every intent may throw what the store, a tally or a setting throws; the view is whole
 /// all the same.
+///
+/// Another site may be chosen while the screen is open, and a tally screen binds it. The work begins anew
+/// there then, and what was meant for a line or a range of the former list is not done.
 class NamesPresenter {
  public:
   /// Loads: binds the chosen site, prepares its schedule, weighs the names and takes all marks away. Throws
@@ -70,7 +74,11 @@ class NamesPresenter {
  private:
   enum class TallyOfNames { as_marked, by_shape };
   void SendToTally(TallyOfNames tally);
+  void OpenTally(const std::function<void()>& open);
   void BeginWork();
+  void FollowChosenSite();
+  bool BeginsAnew();
+  Database& Names();
   void ResumeWork();
   void ReadList();
 

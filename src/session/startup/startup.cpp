@@ -143,7 +143,7 @@ void ReadGrades() { SiteContext.GradeNames = ReadGradeNames(*SiteContext.MasterD
 /// Where nothing may be written no accumulation can have begun, and none can begin.
 void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
-  if (options.command_line) return;
+  if (options.command_line || options.keep_accumulation) return;
   if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
   if (TakesFiles(FolderOf(MapPath(kHozonFile)))) Delete_Hozon();
 }

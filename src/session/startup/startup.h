@@ -19,6 +19,8 @@ struct StartOptions {
   std::string site;  ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
   bool command_line = false;
+  /// A menu waits for this start: hozon.MDB and the stored flag of its accumulation stay.
+  bool keep_accumulation = false;
 };
 
 /// What the load leaves to the form.

@@ -107,12 +107,18 @@ void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
     return;
   }
   if (!MayBeWritten(schedule)) return PutCopyInPlace(fills);
+  WriteAndHoldClassified(schedule, start_mode, [&] { FillFloorsAndParts(schedule); });
+}
+
+void WriteAndHoldClassified(Database& schedule, const StartModeTraits& start_mode,
+                            const std::function<void()>& write) {
   Transaction transaction(schedule);
   // The write let go of what was held: another start mode may have come in between.
   schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
-  FillFloorsAndParts(schedule);
+  write();
   transaction.CommitAndHold();
-  NoteAsClassified(schedule);
+  // What is known of a private copy is nothing of the site's file.
+  if (!schedule.IsPrivateCopy()) NoteAsClassified(schedule);
 }
 
 ClassifiedSchedule::ClassifiedSchedule(const StartModeTraits& start_mode, FloorsAndParts lines) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "data/start_mode.h"
+#include "store/database.h"
 
 namespace rbt {
 
@@ -21,6 +24,12 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode);
 
 /// The same with a floor and a part for every line, see `FillFloorsAndParts`: for the floor and part tallies.
 void HoldScheduleWithFloors(const StartModeTraits& start_mode);
+
+/// Runs what writes a schedule as one, on rows that are classified for a start mode, and holds the schedule
+/// so afterwards. What was held before is let go by the lock for writing: should another program have brought
+/// its classes in meanwhile, these are put back first.
+void WriteAndHoldClassified(Database& schedule, const StartModeTraits& start_mode,
+                            const std::function<void()>& write);
 
 /// What a hold sees to beside the classes.
 enum class FloorsAndParts { as_they_are, filled };

@@ -18,10 +18,7 @@ constexpr std::string_view StatementOf(NameOrder order) {
 
 /// A weight of the list, 0 where the column is not there or null.
 Currency WeightOf(const Recordset& rows, const std::optional<FieldHandle>& field) {
-  if (!field || rows.IsNull(*field)) return {};
-  const Value value = rows.Get(*field);
-  const auto* exact = std::get_if<Currency>(&value);
-  return exact != nullptr ? *exact : Currency::FromDouble(NumberOf(value, "登録名"));
+  return field ? AmountOf(rows.Get(*field), "登録名") : Currency();
 }
 
 void WriteMarks(Database& companion, std::span<const std::int32_t> numbers, bool marked) {

@@ -26,18 +26,6 @@ std::string_view FormsOf(FormMask forms) {
 
 std::string_view KindsOf(KindMask kinds) { return kinds == kAllKinds ? kEveryKind : KindClause(kinds); }
 
-std::string_view HoopClause(ShapeFilter hoops) {
-  switch (hoops) {
-    case ShapeFilter::left_out:
-      return " AND 形状No<>87 ";
-    case ShapeFilter::alone:
-      return " AND 形状No=87 ";
-    case ShapeFilter::with_others:
-      break;
-  }
-  return "";
-}
-
 }  // namespace
 
 std::vector<std::span<const std::int32_t>> BlocksOf(std::span<const std::int32_t> numbers) {

@@ -267,6 +267,38 @@ TEST(MenuPresenter, ASiblingIsToldWhatItIsCalledForBeforeItStarts) {
   EXPECT_EQ(fitter.handed_over, "- \\rbk\\rbtally1.exe");
 }
 
+TEST(MenuPresenter, WhereTheRootHasNoCompanionForNamesTheOneBesideThisProgramStandsIn) {
+  const std::pair<std::int32_t, const char*> cases[] = {
+      {-1, "run rbtally2"}, {1, "run rbtally2 0"}, {4, "run rbtally2 4"}};
+  for (const auto& [mode, run] : cases) {
+    Menu menu(mode);
+    std::filesystem::remove(menu.site.Root().Path() / "rbtally2.exe");
+    Services.ProgramFolder = menu.site.Root().Put("bin/rbtally2", "").parent_path();
+    menu.presenter.Start("cmdTouroS");
+    EXPECT_THAT(menu.steps, ElementsAre("hide", run, "turn", "show"));
+    EXPECT_EQ(menu.handed_over, "1 -");
+    EXPECT_EQ(menu.Message(), "");
+  }
+}
+
+TEST(MenuPresenter, NothingStandsInForAnotherSibling) {
+  Menu menu;
+  std::filesystem::remove(menu.site.Root().Path() / "rballsites.exe");
+  Services.ProgramFolder = menu.site.Root().Put("bin/rballsites", "").parent_path();
+  menu.presenter.Start("cmdAllSites");
+  EXPECT_THAT(menu.steps, IsEmpty());
+  EXPECT_EQ(menu.Message(), "プログラム「\\rbk\\rballsites.exe」が見つかりません。");
+}
+
+TEST(MenuPresenter, AStartModeThatPassesOnRunsWhatStandsInForItsCompanion) {
+  Menu menu(2);
+  menu.state.pass_on_to = "\\rbk\\rbtally2.exe 2";
+  std::filesystem::remove(menu.site.Root().Path() / "rbtally2.exe");
+  Services.ProgramFolder = menu.site.Root().Put("bin/rbtally2", "").parent_path();
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, ElementsAre("minimise", "activate", "state", "run rbtally2 2", "hide", "end 0"));
+}
+
 TEST(MenuPresenter, TheCompanionForNamesIsToldTheStartMode) {
   const std::pair<std::int32_t, const char*> cases[] = {
       {-1, "run \\rbk\\rbtally2.exe"}, {1, "run \\rbk\\rbtally2.exe 0"}, {4, "run \\rbk\\rbtally2.exe 4"}};

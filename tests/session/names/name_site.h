@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "session/result/result_site.h"
 
@@ -14,6 +16,8 @@ inline Cells TenBarsOf(std::int64_t name) {
   bar.emplace_back("登録名", name);
   return bar;
 }
+
+inline constexpr const char* kSecondSchedule = "GENBA002.MDB";
 
 /// A site with the registered names 1 い, 2 あ and 4 う, of whose rows 1 has two, 4 one, and 2 none.
 class NameSite : public SiteFixture {
@@ -39,6 +43,21 @@ class NameSite : public SiteFixture {
     return text;
   }
   static void Load() { ResultSite::Load(); }
+
+  /// A second site with the same rows and names, number 2: before the first is loaded.
+  void AddSecondSite() {
+    std::filesystem::copy_file(Data(kScheduleFile), Data(kSecondSchedule));
+    std::filesystem::copy_file(Data(kCompanionFile), Data("HIROI002.mdb"));
+    Add(kMasterFile, "工事テーブル",
+        {{"番号", std::int64_t{2}},
+         {"工事名", std::string("次の現場")},
+         {"データパス", std::string(kSecondSchedule)}});
+  }
+  /// As another program of the family chooses a site.
+  void Choose(const std::string& schedule) const { SetIni(kSteelFile, "データ", "選択ＤＢ名", schedule); }
+  bool HasTable(const std::string& file, std::string_view table) const {
+    return Database::OpenReadOnly(Data(file)).FindTable(table) != nullptr;
+  }
 };
 
 }  // namespace rbt::test

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "session/names/names_presenter.h"
 
-#include <memory>
+#include <functional>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
 #include "session/detail/detail_presenter.h"
-#include "session/names/name_site.h"
+#include "session/names/names_screen.h"
 #include "session/result/result_presenter.h"
 #include "shell/config/setting_keys.h"
 #include "shell/config/settings.h"
@@ -21,52 +21,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class NamesScreen : public testing::Test {
- protected:
-  NamesPresenter& Open() {
-    NameSite::Load();
-    NamesParts parts;
-    parts.open_tally = [this] { Opened("JS"); };
-    parts.open_shapes = [this] { Opened("KEIJOJS"); };
-    parts.save_csv = [this](const std::vector<RegisteredName>& names) {
-      Opened("CSV");
-      for (const RegisteredName& name : names) listed_ += name.name + (name.marked ? "1 " : "0 ");
-    };
-    screen_ = std::make_unique<NamesPresenter>(std::move(parts));
-    return *screen_;
-  }
-  /// A tally screen closes the site's database when it goes.
-  void Opened(const std::string& form) {
-    opened_ += form + " ";
-    kind_ = Selection.TallyKind;
-    if (form == "JS") bars_ = CountTally(TallyKind::names).Grid().BarCount[3][5];
-    if (form != "CSV") SiteContext.WorkDatabase.reset();
-  }
-  std::string Marks() {
-    std::string marks;
-    for (const auto& row : screen_->View().rows) marks += row[0] + row[1] + row[2] + " ";
-    return marks;
-  }
-  void EnterRange(const std::string& start, const std::string& end) {
-    screen_->TypeRangeStart(start);
-    screen_->EnterRangeStart();
-    screen_->TypeRangeEnd(end);
-    screen_->EnterRangeEnd();
-  }
-  std::string Told() const {
-    std::string told;
-    for (const ShownMessage& message : site_.Messages()) told += message.title + ": " + message.text + "|";
-    return told;
-  }
-
-  NameSite site_;
-  std::unique_ptr<NamesPresenter> screen_;
-  std::string listed_;
-  std::string opened_;
-  TallyKind kind_ = TallyKind::bulk;
-  std::int32_t bars_ = 0;
-};
 
 TEST_F(NamesScreen, BeginsWithTheNamesInTheOrderOfTheirNumbersAndNoneMarked) {
   const NamesView view = Open().View();
@@ -112,6 +66,17 @@ TEST_F(NamesScreen, SortsByNameAndBackAndKeepsTheMarks) {
   EXPECT_THAT(screen_->View().selected, ElementsAre("1-い", "2-あ"));
   screen_->Sort();
   EXPECT_EQ(Marks(), "1い1 2あ1 4う0 ");
+}
+
+TEST_F(NamesScreen, SortsAListThatIsMarkedAllThroughAndKeepsEveryMark) {
+  Open();
+  EnterRange("1", "4");
+  EXPECT_EQ(Marks(), "1い1 2あ1 4う1 ");
+  screen_->Sort();
+  EXPECT_EQ(Marks(), "2あ1 1い1 4う1 ");
+  EXPECT_THAT(screen_->View().selected, ElementsAre("1-い", "2-あ", "4-う"));
+  screen_->Sort();
+  EXPECT_EQ(Marks(), "1い1 2あ1 4う1 ");
 }
 
 TEST_F(NamesScreen, MarksARangeOfNumbers) {
@@ -223,6 +188,33 @@ TEST_F(NamesScreen, SendsItsMarksToTheTallyAndGoesOnWithThem) {
   EXPECT_EQ(Marks(), "1い1 2あ0 4う1 ");
 }
 
+TEST_F(NamesScreen, ShowsTheComparisonItemThatWasChosenBelowATally) {
+  Open().Flip(0);
+  meanwhile_ = [] { Settings.ComparisonKind = 3; };
+  screen_->Tally();
+  EXPECT_EQ(screen_->View().item, "3");
+}
+
+TEST_F(NamesScreen, SaysThatARangeIsTakenOnlyAsLongAsTheTallyIsAtHand) {
+  constexpr std::string_view kTaken = "選択された登録名でよければ、集計(F1)を選択";
+  const std::string usual(Open().Message());
+  for (const char* elsewhere : {"tourokumei", "DelENo", "btnReturn"}) {
+    EnterRange("1", "4");
+    screen_->Reach("btnA4Y");
+    EXPECT_EQ(screen_->Message(), kTaken);
+    screen_->Reach(elsewhere);
+    EXPECT_EQ(screen_->Message(), usual) << elsewhere;
+  }
+  const std::vector<std::function<void()>> intents{[this] { screen_->Flip(0); }, [this] { screen_->Sort(); },
+                                                   [this] { screen_->Tally(); }};
+  for (const auto& intent : intents) {
+    EnterRange("1", "4");
+    EXPECT_EQ(screen_->Message(), kTaken);
+    intent();
+    EXPECT_EQ(screen_->Message(), usual);
+  }
+}
+
 TEST_F(NamesScreen, SendsToTheShapeTallyToo) {
   Open().Flip(0);
   screen_->TallyShapes();
@@ -248,6 +240,21 @@ TEST_F(NamesScreen, APurchaseListOfNamesIsNeitherKeptNorBroughtBack) {
   EXPECT_TRUE(detail.View().IsEnabled(DetailButton::restore));
 }
 
+TEST_F(NamesScreen, APurchaseListOfNamesIsRestoredToTheTallyOfItsMarks) {
+  constexpr int kCutColumn = 24;
+  Open().Flip(0);
+  SiteContext.WorkDatabase->LetGo();
+  const TallyResult tallied = CountTally(TallyKind::names);
+  DetailPresenter detail(tallied, {});
+  detail.Press(DetailButton::correct);
+  detail.EditCell(3, kCutColumn, "9");
+  detail.Escape();
+  EXPECT_EQ(detail.Result().Grid().CutCount[3], 9);
+  detail.Press(DetailButton::restore);
+  EXPECT_EQ(detail.Result().Grid(), tallied.Grid());
+  EXPECT_EQ(detail.Result().Grid().BarCount[3][5], 20);
+}
+
 TEST_F(NamesScreen, WritesAllNamesByTheirNumbersToACsvFileHoweverTheyAreListedAndMarked) {
   NamesPresenter& screen = Open();
   screen.Flip(1);
@@ -271,6 +278,15 @@ TEST_F(NamesScreen, ShowsNoWeightsWhereTheyCannotBeWorkedOutAndTellsNothing) {
   const NamesView view = Open().View();
   EXPECT_THAT(view.rows.at(0), ElementsAre("1", "い", "0", "0", "0"));
   EXPECT_EQ(Told(), "");
+}
+
+TEST_F(NamesScreen, LeavesNoWorkTableBehindASiteThatHasBeenClosed) {
+  Open();
+  EXPECT_TRUE(site_.HasTable(kScheduleFile, "WorkTable"));
+  SiteContext.WorkDatabase.reset();
+  screen_->Leave();
+  EXPECT_FALSE(site_.HasTable(kScheduleFile, "WorkTable"));
+  EXPECT_EQ(SiteContext.WorkDatabase, nullptr);
 }
 
 TEST_F(NamesScreen, KeepsItsMarksWhenItIsLeftAndClosesTheSite) {

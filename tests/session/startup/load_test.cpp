@@ -272,6 +272,18 @@ TEST_F(Load, DropsTheSumOfAnAddingStepThatWasKilledWithItsJournal) {
   EXPECT_EQ(Load_Hozon(), TallyTable());
 }
 
+TEST_F(Load, ForWhichAMenuWaitsLeavesItsAccumulationAloneAndIsElseThatOfAMenu) {
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  site_.PutProgram("DATA/hozon.MDB");
+  options_.keep_accumulation = true;
+  Run();
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "1");
+  EXPECT_TRUE(std::filesystem::exists(site_.Data("hozon.MDB")));
+  SetVersion("6.1");
+  EXPECT_EQ(Run().hand_over_to, "\\rbk\\rbtally1S.exe");
+}
+
 TEST_F(Load, OfTheCommandLineLeavesAnAccumulationAlone) {
   SetRegistryText("Kakou", "集計保存", "フラグ", "1");
   site_.PutProgram("DATA/hozon.MDB");

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tally/names/name_list.h"
 
+#include <chrono>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/fault.h"
+#include "platform/system/services.h"
+#include "support/fault_of.h"
 #include "support/schedule_site.h"
 
 namespace rbt {
@@ -72,10 +77,14 @@ TEST_F(NameList, IsMarkedAndUnmarkedByNumbersAndPassesOverThoseItLacks) {
 TEST_F(NameList, HoldsTheMarksOfSomeNumbersAndOfNoOther) {
   Database companion = Companion();
   HoldMarks(companion, std::vector<std::int32_t>{3, 1});
+  Services.LockPatience = std::chrono::milliseconds(0);
+  Database elsewhere = Companion();
+  const auto mark_elsewhere = [&] { MarkNames(elsewhere, std::vector<std::int32_t>{2}, true); };
+  EXPECT_EQ(test::FaultOf(mark_elsewhere), FaultKind::locked);
   EXPECT_THAT(MarkedNumbers(companion), ElementsAre(1, 3));
   companion.LetGo();
-  Database elsewhere = Companion();
   EXPECT_THAT(MarkedNumbers(elsewhere), ElementsAre(1, 3));
+  EXPECT_EQ(test::FaultOf(mark_elsewhere), std::nullopt);
 }
 
 TEST_F(NameList, IsMarkedFromANumberToAnotherAndKeepsItsOtherMarks) {

@@ -78,6 +78,14 @@ TEST(NameStatement, FiltersHoopsAndPlatesWhateverTheProbesFound) {
   EXPECT_EQ(NameStatement(selection, kTwo), so_far);
   selection.HoopMode = ShapeFilter::left_out;
   EXPECT_EQ(NameStatement(selection, kTwo), so_far + " AND 形状No<>87 ");
+  selection.HoopMode = ShapeFilter::with_others;
+  selection.AnchorPlateMode = ShapeFilter::left_out;
+  EXPECT_EQ(
+      NameStatement(selection, kTwo),
+      so_far +
+          " AND (IsNull(形状No) OR 形状No=0 or 形状No<138 OR 形状No=139 OR (形状No between 141 And 142) OR "
+          "(形状No Between 148 And 160) OR (形状No Between 162 And 163) OR (形状No Between 170 And 174) OR "
+          "形状No >=177)");
   selection.HoopMode = ShapeFilter::alone;
   selection.AnchorPlateMode = ShapeFilter::alone;
   EXPECT_EQ(

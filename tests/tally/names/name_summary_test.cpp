@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tally/names/name_summary.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <random>
 #include <tuple>
 
@@ -138,10 +140,12 @@ TEST_F(NameSummary, WeighsDeformedAndUlbonRowsOfEachNameAndTakesAllMarksAway) {
 }
 
 TEST_F(NameSummary, LeavesRowsOfNoNameAndOfNoKindOut) {
+  site_.AddName(Number(0), "零", Number(1));
+  site_.AddName(kNull, "なし", Number(1));
   AddRow(Number(0));
   AddRow(kNull);
   AddRow(Number(1), {{"予備2", kNull}});
-  EXPECT_THAT(Summary(), ElementsAre("1 0 0 0", "2 0 0 0", "3 0 0 0"));
+  EXPECT_THAT(Summary(), ElementsAre("null 0 0 0", "0 0 0 0", "1 0 0 0", "2 0 0 0", "3 0 0 0"));
 }
 
 // 12 m of D41 at 15.9 kg; D51: 2 bars of 95.4 kg, installed nothing.
@@ -156,7 +160,8 @@ TEST_F(NameSummary, CapsTheInstalledWeightOfADiameterWhereTold) {
   AddRow(Number(1));
   AddRow(Number(1), {{"太さ", Number(9)}, {"予備2", Number(2)}});
   AddRow(Number(2), {{"太さ", Number(51)}});
-  EXPECT_THAT(Summary(kCapped), ElementsAre("1 0 153 159", "2 0 191 0", "3 0 0 0"));
+  AddRow(Number(3), {{"太さ", Number(41)}});  // 191 installed, above its stock
+  EXPECT_THAT(Summary(kCapped), ElementsAre("1 0 153 159", "2 0 191 0", "3 0 126 126"));
 }
 
 TEST_F(NameSummary, HasStockOf13MetresOnlyWhereTold) {
@@ -221,69 +226,148 @@ TEST_F(NameSummary, BeginsAnewEachTime) {
   EXPECT_EQ(Table("SELECT 登録AN FROM WorkTable"), "1 | ");
 }
 
-/// The weights of random rows, worked out in whole numbers: millimetres by grams a metre.
+/// The work tables and weights of random rows, worked out in whole numbers: millimetres by grams a metre.
 class PlainSummary {
  public:
+  explicit PlainSummary(const NameSummaryRules& rules) : rules_(rules) {}
+
   void Add(int name, int code, bool ulbon, double stock_m, std::int64_t bars, std::int64_t millimetres) {
-    Sum& sum = sums_[{name, code, ulbon}];
-    sum.millimetres += millimetres;
-    sum.bars[stock_m] += bars;
+    Part& part = groups_[{name, code, ulbon ? 2 : 1}][stock_m];
+    part.bars += bars;
+    part.millimetres += millimetres;
+  }
+
+  /// What the schedule's rows are grouped to: name, diameter, kind, length, millimetres, bars.
+  std::string WorkTable() const {
+    std::string text;
+    for (const auto& [key, parts] : groups_) {
+      for (const auto& [metres, part] : parts) {
+        text += KeyText(key) + test::Shown(Value{metres}) + " " + std::to_string(part.millimetres) + " " +
+                std::to_string(part.bars) + " | ";
+      }
+    }
+    return text;
+  }
+  /// Name, diameter, kind, stock weight, installed weight.
+  std::string WorkSumTable() const {
+    std::string text;
+    for (const auto& [key, parts] : groups_) {
+      const std::optional<std::int64_t> installed = Installed(key, parts);
+      text += KeyText(key) + std::to_string(Stock(key, parts)) + " " +
+              (installed ? std::to_string(*installed) : "null") + " | ";
+    }
+    return text;
   }
   std::string Of(int name) const {
     std::int64_t stock = 0;
     std::int64_t installed = 0;
-    for (const auto& [key, sum] : sums_) {
-      const auto& [of, code, ulbon] = key;
-      if (of != name) continue;
-      installed += (sum.millimetres * GramsPerMetre(code, ulbon) + 500'000) / 1'000'000;
-      if (ulbon || DiameterIndex(code) < 0) continue;
-      for (const auto& [metres, bars] : sum.bars) {
-        const int l = StockIndex(metres);
-        if (l < 0 || l == kColumn13m) continue;
-        const auto centigrams = std::llround(BarWeight(DiameterIndex(code), l) * 100);
-        stock += (centigrams * bars + 50) / 100;
-      }
+    for (const auto& [key, parts] : groups_) {
+      if (std::get<0>(key) != name) continue;
+      stock += Stock(key, parts);
+      installed += Installed(key, parts).value_or(0);
     }
     return std::to_string(name) + " 0 " + std::to_string(stock) + " " + std::to_string(installed);
   }
 
  private:
-  struct Sum {
+  struct Part {
+    std::int64_t bars = 0;
     std::int64_t millimetres = 0;
-    std::map<double, std::int64_t> bars;
   };
-  static std::int64_t GramsPerMetre(int code, bool ulbon) {
-    const int d = ulbon ? UlbonIndex(code) : DiameterIndex(code);
-    if (d < 0 || (!ulbon && code == 51)) return 0;
-    return std::llround(UnitWeight(!ulbon && code == 41 ? DiameterIndex(51) : d) * 1000);
+  using Key = std::tuple<int, int, int>;  ///< name, diameter, 1 or, of Ulbon, 2
+  using Parts = std::map<double, Part>;
+
+  static std::string KeyText(const Key& key) {
+    const auto& [name, code, kind] = key;
+    return std::to_string(name) + " " + std::to_string(code) + " " + std::to_string(kind) + " ";
   }
-  std::map<std::tuple<int, int, bool>, Sum> sums_;
+  static std::optional<std::int64_t> GramsPerMetre(const Key& key) {
+    const auto& [name, code, kind] = key;
+    const int d = kind == 2 ? UlbonIndex(code) : DiameterIndex(code);
+    if (d < 0 || (kind == 1 && code == 51)) return std::nullopt;
+    return std::llround(UnitWeight(kind == 1 && code == 41 ? DiameterIndex(51) : d) * 1000);
+  }
+  std::int64_t Stock(const Key& key, const Parts& parts) const {
+    const int d = DiameterIndex(std::get<1>(key));
+    if (std::get<2>(key) == 2 || d < 0) return 0;
+    std::int64_t stock = 0;
+    for (const auto& [metres, part] : parts) {
+      const int l = StockIndex(metres);
+      if (l < 0 || (l == kColumn13m && !rules_.weigh_13m_stock)) continue;
+      stock += (std::llround(BarWeight(d, l) * 100) * part.bars + 50) / 100;
+    }
+    return stock;
+  }
+  /// Nothing where no unit weight is known, unless rows are capped, which have no weight then.
+  std::optional<std::int64_t> Installed(const Key& key, const Parts& parts) const {
+    const std::optional<std::int64_t> grams = GramsPerMetre(key);
+    if (!grams) return rules_.cap_installed_weight ? std::optional<std::int64_t>(0) : std::nullopt;
+    std::int64_t milligrams = 0;
+    for (const auto& [metres, part] : parts) {
+      const std::int64_t exact = part.millimetres * *grams;
+      // A row keeps its weight in tenths of a gram.
+      milligrams += rules_.cap_installed_weight ? (exact + 50) / 100 * 100 : exact;
+    }
+    const std::int64_t installed = (milligrams + 500'000) / 1'000'000;
+    if (!rules_.cap_installed_weight || std::get<2>(key) == 2) return installed;
+    return std::min(installed, Stock(key, parts));
+  }
+
+  NameSummaryRules rules_;
+  std::map<Key, Parts> groups_;
 };
 
-TEST_F(NameSummary, OfRandomRowsIsThatOfAPlainCount) {
-  std::mt19937 random(17);
-  const auto pick = [&](int low, int high) {
-    return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
-  };
-  PlainSummary plain;
-  for (int row = 0; row < 400; ++row) {
-    const int name = pick(0, 3);
-    const int code = kDiameters.at(static_cast<std::size_t>(pick(0, kDiameterRows - 1))).code;
-    const int kind = pick(0, 5);
-    const double stock_m = 3.5 + 0.5 * pick(0, 19);  // 12.5 and 13.0 among them
-    const int pieces = pick(1, 40);
-    const int cut_mm = pick(201, 9'999);
-    const int bars = pick(1, 30);
-    AddRow(Number(name), {{"太さ", Number(code)},
-                          {"予備2", kind == 0 ? kNull : Number(kind)},
-                          {"伸定尺", Value{stock_m}},
-                          {"合計", Number(pieces)},
-                          {"伸切寸", Number(cut_mm)},
-                          {"伸総計", Number(bars)}});
-    if (kind != 0) plain.Add(name, code, kind == 2, stock_m, bars, std::int64_t{cut_mm} * pieces);
+class NameSummaryOfRandomRows : public NameSummary, public testing::WithParamInterface<NameSummaryRules> {
+ protected:
+  /// Rows of the names 1 to 3, of no name and of name 0, of all diameters and kinds, of lengths without a
+  /// column too.
+  void Fill(PlainSummary& plain, unsigned seed) {
+    std::mt19937 random(seed);
+    const auto pick = [&](int low, int high) {
+      return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
+    };
+    for (int row = 0; row < 300; ++row) {
+      const int name = pick(-1, 3);
+      const int code = kDiameters.at(static_cast<std::size_t>(pick(0, kDiameterRows - 1))).code;
+      const int kind = pick(0, 5);
+      const double stock_m = 3.5 + 0.5 * pick(0, 19);  // 12.5 and 13.0 among them
+      const int pieces = pick(1, 40);
+      const int cut_mm = pick(201, 9'999);
+      const int bars = pick(1, 30);
+      AddRow(name < 0 ? kNull : Number(name), {{"太さ", Number(code)},
+                                               {"予備2", kind == 0 ? kNull : Number(kind)},
+                                               {"伸定尺", Value{stock_m}},
+                                               {"合計", Number(pieces)},
+                                               {"伸切寸", Number(cut_mm)},
+                                               {"伸総計", Number(bars)}});
+      if (kind != 0 && name > 0) {
+        plain.Add(name, code, kind == 2, stock_m, bars, std::int64_t{cut_mm} * pieces);
+      }
+    }
   }
-  EXPECT_THAT(Summary(), ElementsAre(plain.Of(1), plain.Of(2), plain.Of(3)));
+};
+
+TEST_P(NameSummaryOfRandomRows, IsInEachOfItsTablesThatOfAPlainCount) {
+  for (const unsigned seed : {17U, 18U, 19U, 20U}) {
+    site_.Work().Execute("DELETE FROM 加工テーブル");
+    PlainSummary plain(GetParam());
+    Fill(plain, seed);
+    EXPECT_THAT(Summary(GetParam()), ElementsAre(plain.Of(1), plain.Of(2), plain.Of(3))) << seed;
+    EXPECT_EQ(Table("SELECT 登録AN,太さ,材質,伸定尺,S伸切寸,S伸定_本 FROM WorkTable "
+                    "ORDER BY 登録AN,太さ,材質,伸定尺"),
+              plain.WorkTable())
+        << seed;
+    EXPECT_EQ(Table("SELECT 登録AN,太さ,材質,定尺重量合計,取付重量合計 FROM WorkSumTable "
+                    "ORDER BY 登録AN,太さ,材質"),
+              plain.WorkSumTable())
+        << seed;
+  }
 }
+
+INSTANTIATE_TEST_SUITE_P(Rules, NameSummaryOfRandomRows,
+                         testing::Values(kPlain, kCapped, NameSummaryRules{.weigh_13m_stock = true},
+                                         NameSummaryRules{.weigh_13m_stock = true,
+                                                          .cap_installed_weight = true}));
 
 }  // namespace
 }  // namespace rbt
