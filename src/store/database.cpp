@@ -184,9 +184,7 @@ bool Database::WouldChangeTogether(std::span<const std::string> updates) {
 
 std::vector<TableDef> Database::TableDefs() {
   impl_->Schema().Refresh();
-  std::vector<TableDef> tables;
-  for (const StoredTable& stored : impl_->Schema().Tables()) tables.push_back(stored.def);
-  return tables;
+  return impl_->Schema().TableDefs();
 }
 
 std::unique_ptr<TableDef> Database::FindTable(std::string_view name) {
