@@ -197,11 +197,14 @@ bool HasKnownType(std::string_view declared) {
   return SqliteTypeOf(declared).has_value() || FieldOfDeclaredType(declared).has_value();
 }
 
-void SchemaCache::Refresh() {
+Statement& SchemaCache::AskVersion() {
   if (!ask_version_) ask_version_ = connection_.Prepare("PRAGMA schema_version");
   ask_version_.Step();
+  return ask_version_;
+}
+
+void SchemaCache::Renew() {
   const std::int64_t version = ask_version_.Integer(0);
-  ask_version_.Reset();
   if (version == version_) return;
   version_ = kUnknown;
   tables_.clear();

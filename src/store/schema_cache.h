@@ -31,8 +31,22 @@ class SchemaCache : public SchemaSource {
  public:
   explicit SchemaCache(const Connection& connection) : connection_(connection) {}
 
-  /// Forgets the tables unless those read before still stand. Pointers handed out before end here.
-  void Refresh();
+  /// While it lives, what is asked for stands in one state of the file: forgets the tables unless those read
+  /// before still stand. Pointers handed out before end here. Nothing is written meanwhile.
+  class Reading {
+   public:
+    explicit Reading(SchemaCache& schema) : open_{schema.AskVersion()} { schema.Renew(); }
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+   private:
+    struct Question {
+      Statement& statement;
+      ~Question() { statement.Reset(); }
+    };
+    Question open_;
+  };
+  void Refresh() { const Reading reading(*this); }
   /// For a change whose version number may come again: one that was rolled back.
   void Forget() { version_ = kUnknown; }
 
@@ -50,6 +64,9 @@ class SchemaCache : public SchemaSource {
     std::unique_ptr<const StoredTable> table;  ///< null until it is asked for
   };
 
+  /// The question for the version at its answer: it keeps a read transaction open.
+  Statement& AskVersion();
+  void Renew();
   const StoredTable& Read(Listed& listed) const;
 
   const Connection& connection_;
