@@ -187,6 +187,11 @@ std::vector<TableDef> Database::TableDefs() {
   return impl_->Schema().TableDefs();
 }
 
+std::map<std::string, std::string> Database::TableTexts() {
+  const SchemaCache::Reading reading(impl_->Schema());
+  return impl_->Schema().TableTexts();
+}
+
 std::unique_ptr<TableDef> Database::FindTable(std::string_view name) {
   const SchemaCache::Reading reading(impl_->Schema());
   const TableDef* const table = impl_->Schema().Find(name);

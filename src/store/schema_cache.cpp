@@ -71,7 +71,7 @@ bool IsInternal(std::string_view name) {
 class TableReader {
  public:
   /// `listed` are the indexes of the whole file, in the order of their creation.
-  TableReader(const Connection& connection, const std::vector<StoredTable::Index>& listed)
+  TableReader(const Connection& connection, const std::vector<ListedIndex>& listed)
       : connection_(connection), listed_(listed) {}
 
   StoredTable Read(const std::string& name, const std::string& sql) const {
@@ -130,7 +130,7 @@ class TableReader {
     Statement indexes = Ask("index_list", table);
     while (indexes.Step()) {
       const std::string stored_name = indexes.Text(name);
-      const auto found = std::ranges::find(listed_, stored_name, &StoredTable::Index::stored_name);
+      const auto found = std::ranges::find(listed_, stored_name, &ListedIndex::name);
       told.push_back({static_cast<std::size_t>(found - listed_.begin()), stored_name,
                       indexes.Integer(unique) != 0, indexes.Text(origin)});
     }
@@ -154,7 +154,7 @@ class TableReader {
       ReadIndexFields(index, told.name);
       key_found = key_found || index.primary;
       table.def.indexes.push_back(std::move(index));
-      table.indexes.push_back({told.name, told.place < listed_.size() ? listed_[told.place].create_sql : ""});
+      table.indexes.push_back({told.name, told.place < listed_.size() ? listed_[told.place].sql : ""});
     }
     if (key_found || key_fields.empty()) return;
     // A key that is the row's own number has no index in the file.
@@ -175,7 +175,7 @@ class TableReader {
   }
 
   const Connection& connection_;
-  const std::vector<StoredTable::Index>& listed_;
+  const std::vector<ListedIndex>& listed_;
 };
 
 }  // namespace
@@ -210,14 +210,15 @@ void SchemaCache::Renew() {
   tables_.clear();
   indexes_.clear();
   Statement entries = connection_.Prepare(
-      "SELECT type = 'table', name, sql FROM sqlite_master WHERE type IN ('table', 'index') ORDER BY rowid");
+      "SELECT type = 'table', name, tbl_name, sql FROM sqlite_master WHERE type IN ('table', 'index') ORDER "
+      "BY rowid");
   while (entries.Step()) {
     std::string name = entries.Text(1);
     if (entries.Integer(0) == 0) {
-      indexes_.push_back({std::move(name), entries.Text(2)});
+      indexes_.push_back({std::move(name), entries.Text(2), entries.Text(3)});
     } else if (!IsInternal(name)) {
       std::string folded = FoldIdentifier(name);
-      tables_.push_back({std::move(name), std::move(folded), entries.Text(2), nullptr});
+      tables_.push_back({std::move(name), std::move(folded), entries.Text(3), nullptr});
     }
   }
   version_ = version;
@@ -247,6 +248,16 @@ std::vector<TableDef> SchemaCache::TableDefs() const {
   tables.reserve(tables_.size());
   for (Listed& listed : tables_) tables.push_back(Read(listed).def);
   return tables;
+}
+
+std::map<std::string, std::string> SchemaCache::TableTexts() const {
+  std::map<std::string, std::string> texts;
+  for (const Listed& table : tables_) texts.emplace(table.name, table.sql);
+  for (const ListedIndex& index : indexes_) {
+    const auto table = texts.find(index.table);
+    if (table != texts.end() && !index.sql.empty()) table->second += ";" + index.sql;
+  }
+  return texts;
 }
 
 }  // namespace rbt

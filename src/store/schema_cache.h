@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,6 +24,13 @@ struct StoredTable {
   };
   std::vector<Index> indexes;                 ///< parallel to `def.indexes`
   std::vector<std::string> beyond_table_def;  ///< see `TableText`
+};
+
+/// An index as the file lists it.
+struct ListedIndex {
+  std::string name;
+  std::string table;
+  std::string sql;  ///< empty for the index of a constraint
 };
 
 /// The tables of a file, each read when it is first asked for and again after the schema has changed, by this
@@ -54,6 +62,8 @@ class SchemaCache : public SchemaSource {
   const StoredTable* FindStored(std::string_view table) const;
   /// All of them, in the order of their creation.
   std::vector<TableDef> TableDefs() const;
+  /// See `Database::TableTexts`.
+  std::map<std::string, std::string> TableTexts() const;
 
  private:
   static constexpr std::int64_t kUnknown = -1;
@@ -72,8 +82,8 @@ class SchemaCache : public SchemaSource {
   const Connection& connection_;
   std::int64_t version_ = kUnknown;
   Statement ask_version_;
-  mutable std::vector<Listed> tables_;       ///< in the order of their creation; to ask for one reads it
-  std::vector<StoredTable::Index> indexes_;  ///< of all tables, in the order of their creation
+  mutable std::vector<Listed> tables_;  ///< in the order of their creation; to ask for one reads it
+  std::vector<ListedIndex> indexes_;    ///< of all tables, in the order of their creation
 };
 
 /// The field of a column by its declared type. Types that are SQLite's own words, or none, are taken for what
