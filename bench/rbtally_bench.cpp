@@ -1,255 +1,165 @@
 // SPDX-License-Identifier: MIT
-// Times what a user waits for, each against the bare aggregation over the same file, taken in turn in the
-// same run. `x_bare` is the ratio to quote; `peak_MB` the greatest resident memory meanwhile.
-
+// Times what a user waits for, each in turn with yardsticks over the same file.
+// usage: rbtally_bench [--check] [--rows N,N,...] [--turns N] [--program RBTALLY] [WORDS]
+// Shows the works whose names hold WORDS; "cold" are those of the command line, of this build or another.
+// With --check only those that have a limit; one that is missed ends it with exit status 1.
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <functional>
-#include <map>
+#include <exception>
+#include <iterator>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
-#include <benchmark/benchmark.h>
+#include <fmt/format.h>
 
-#include "platform/numbers/number_words.h"
-#include "platform/system/services.h"
-#include "session/startup/startup.h"
-#include "shell/context/site_context.h"
-#include "shell/preparation/preparation.h"
-#include "tally/engine/stock_engine.h"
-#include "tally/floorpart/floor_range.h"
-#include "tally/floorpart/floor_tally.h"
-#include "tally/floorpart/part_tally.h"
-#include "tally/groups/shape_tally.h"
-#include "tally/rows/bulk_tally.h"
-#include "tally/rows/page_tally.h"
-#include "tally/schedule_positions.h"
-#include "tally/selection.h"
-#include "tally/tally_grid.h"
-#include "yardstick.h"
+#include "limits.h"
 
 namespace rbt::bench {
+
 namespace {
 
-namespace fs = std::filesystem;
+struct Order {
+  bool check = false;
+  std::vector<std::int64_t> rows;
+  int turns = 0;
+  std::string program = RBTALLY_PROGRAM;
+  std::string words;
+};
 
-const fs::path& Folder() {
-  static const fs::path folder = [] {
-    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    std::atexit([] { fs::remove_all(Folder()); });
-    return fs::path(pattern);
-  }();
-  return folder;
-}
-
-/// A demonstration root with so many rows in its first site, its schedule as the entry programs leave it,
-/// made once.
-const fs::path& DemoRoot(std::int64_t rows) {
-  static std::map<std::int64_t, fs::path> roots;
-  fs::path& root = roots[rows];
-  if (!root.empty()) return root;
-  root = Folder() / std::to_string(rows);
-  const std::string command =
-      std::string(RBTALLY_PROGRAM) + " demo " + root.string() + " --sites 1 --rows " + std::to_string(rows);
-  if (std::system((command + " >/dev/null").c_str()) != 0) throw std::runtime_error("failed: " + command);
-  fs::copy_file(root / "DATA/GENBA001.MDB", root / "fresh.MDB");
-  return root;
-}
-
-fs::path SiteFile(const fs::path& root) { return root / "DATA/GENBA001.MDB"; }
-
-void CloseSite() { SiteContext = SiteContextData(); }
-
-void Bind(const fs::path& root) {
-  CloseSite();
-  setenv("RBK_SETTINGS", (root / "settings.ini").c_str(), 1);
-  Services.Root = root;
-  Selection = SelectionData();
-}
-
-/// Times `work` and, in turn with it, the bare aggregation over the same file.
-void Compare(benchmark::State& state, const fs::path& site, const std::function<void()>& set_up,
-             const std::function<void()>& work, Grouping grouping = Grouping::diameter) {
-  double worked = 0.0;
-  double processor = 0.0;
-  double bare = 0.0;
-  double peak = 0.0;
-  for ([[maybe_unused]] auto unused : state) {
-    set_up();
-    bare += BareAggregation(site, grouping);
-    ResetPeakMemory();
-    const double start = SecondsNow();
-    const double processor_start = ProcessorSecondsNow();
-    work();
-    const double seconds = SecondsNow() - start;
-    processor += ProcessorSecondsNow() - processor_start;
-    worked += seconds;
-    peak = std::max(peak, PeakMemoryMb());
-    state.SetIterationTime(seconds);
+std::int64_t NumberOf(std::string_view text) {
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size() || number < 1) {
+    throw std::invalid_argument(fmt::format("{} is no number", text));
   }
-  state.counters["x_bare"] = worked / bare;
-  const auto milliseconds = [&](double seconds) {
-    return seconds / static_cast<double>(state.iterations()) * 1000.0;
-  };
-  state.counters["bare_ms"] = milliseconds(bare);
-  state.counters["cpu_ms"] = milliseconds(processor);
-  state.counters["peak_MB"] = peak;
+  return number;
 }
 
-StartOptions Options() {
-  StartOptions options;
-  options.command_line = true;
-  return options;
+std::vector<std::int64_t> NumbersOf(std::string_view text) {
+  std::vector<std::int64_t> numbers;
+  while (true) {
+    const std::size_t comma = std::min(text.find(','), text.size());
+    numbers.push_back(NumberOf(text.substr(0, comma)));
+    if (comma == text.size()) return numbers;
+    text.remove_prefix(comma + 1);
+  }
 }
 
-void Load() { LoadSite(Options()); }
-void Activate() { ActivateMenu(Options()); }
-
-void LoadFreshSite(benchmark::State& state) {
-  const fs::path& root = DemoRoot(state.range(0));
-  const auto set_up = [&] {
-    Bind(root);
-    fs::copy_file(root / "fresh.MDB", SiteFile(root), fs::copy_options::overwrite_existing);
-  };
-  Compare(state, SiteFile(root), set_up, [] {
-    Load();
-    Activate();
-  });
-}
-
-void LoadSiteAgain(benchmark::State& state) {
-  const fs::path& root = DemoRoot(state.range(0));
-  Bind(root);
-  Load();
-  Activate();
-  Compare(
-      state, SiteFile(root), [&] { Bind(root); }, Load);
-}
-
-void ActivateAgain(benchmark::State& state) {
-  const fs::path& root = DemoRoot(state.range(0));
-  Bind(root);
-  Load();
-  Activate();
-  Compare(
-      state, SiteFile(root), [] {}, Activate);
-}
-
-void Tally(benchmark::State& state, const std::function<void()>& tally) {
-  const fs::path& root = DemoRoot(state.range(0));
-  Bind(root);
-  Load();
-  Activate();
-  Compare(
-      state, SiteFile(root), [] {},
-      [&] {
-        tally();
-        benchmark::DoNotOptimize(TallyGrid.TotalStockWeight);
-      });
-  CloseSite();
-}
-
-/// Every floor of the site, special floors too. The whole of what a press of the button costs.
-void TallyFloors(benchmark::State& state, const std::function<void()>& tally) {
-  const fs::path& root = DemoRoot(state.range(0));
-  Bind(root);
-  Load();
-  Activate();
-  FillFloorsAndParts(*SiteContext.WorkDatabase);
-  const FloorExtent floors = ReadFloorExtent(*SiteContext.WorkDatabase).value();
-  Selection.KaiStart = AllFloors(floors).start;
-  Selection.KaiEnd = AllFloors(floors).end;
-  Selection.KaiMin = floors.KaiMin;
-  Selection.TokubetuMask = SpecialMask::All();
-  Compare(
-      state, SiteFile(root), [] {},
-      [&] {
-        tally();
-        benchmark::DoNotOptimize(FloorTally.SouGoukei);
-        benchmark::DoNotOptimize(PartTally.SouGoukei);
-      },
-      Grouping::floor_and_part);
-  CloseSite();
-}
-
-void FloorTallyOfAllFloors(benchmark::State& state) { TallyFloors(state, Kai_Jyuuryo_Syukei); }
-
-void PartTallyOfAllFloors(benchmark::State& state) {
-  TallyFloors(state, [] { Bui_Jyuuryo_Syukei(Selection.KaiMin, Selection.KaiEnd, 1, 1, 1); });
-}
-
-void BulkTally(benchmark::State& state) { Tally(state, Jyuuryo_Syukei); }
-
-void ShapeTally(benchmark::State& state) {
-  Tally(state, [] {
-    const ShapeRange shapes = WholeShapeRange(*SiteContext.WorkDatabase);
-    Selection.ShapeStart = shapes.first;
-    Selection.ShapeEnd = shapes.last;
-    Keijou_Jyuuryo_Syukei();
-  });
-}
-
-PositionRange WholeSite() { return WholePositionRange(*SiteContext.WorkDatabase, TallyKind::page).value(); }
-
-void PageTally(benchmark::State& state) {
-  Tally(state, [] {
-    const PositionRange range = WholeSite();
-    const auto narrow = [](std::int32_t number) { return ToInt16(number, "position"); };
-    PG_Jyuuryo_Syukei(narrow(range.first.page), narrow(range.first.line), narrow(range.last.page),
-                      narrow(range.last.line));
-  });
-}
-
-void PageShapeTally(benchmark::State& state) {
-  Tally(state, [] {
-    const PositionRange range = WholeSite();
-    PKeijou_Jyuuryo_Syukei(range.first.page, range.first.line, range.last.page, range.last.line);
-  });
-}
-
-/// Calls of the stock-length engine, its settings read anew at each as a call by itself reads them, and read
-/// once as within a tally.
-void EngineCalls(benchmark::State& state) {
-  Bind(DemoRoot(5000));
-  const bool reads_settings = state.range(0) == 1;
-  const EngineSettings settings = ReadEngineSettings();
-  std::int32_t cut = 0;
-  for ([[maybe_unused]] auto unused : state) {
-    cut = 300 + (cut + 37) % 11700;
-    if (reads_settings) {
-      Teijyaku_Keisan(cut, Currency::FromInteger(17), 19);
+Order OrderOf(std::span<char*> words) {
+  Order order;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string_view word = words[i];
+    const bool has_value = i + 1 < words.size();
+    if (word == "--check") {
+      order.check = true;
+    } else if (word == "--rows" && has_value) {
+      order.rows = NumbersOf(words[++i]);
+    } else if (word == "--turns" && has_value) {
+      order.turns = static_cast<int>(NumberOf(words[++i]));
+    } else if (word == "--program" && has_value) {
+      order.program = words[++i];
+    } else if (!word.starts_with("-") && order.words.empty()) {
+      order.words = word;
     } else {
-      benchmark::DoNotOptimize(ComputeStock(cut, Currency::FromInteger(17), 19, settings));
+      throw std::invalid_argument(fmt::format("{} is not understood", word));
     }
   }
-  state.counters["calls"] =
-      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+  if (order.rows.empty()) order.rows = order.check ? NumbersOf("50000") : NumbersOf("5000,50000,1000000");
+  if (order.turns == 0) order.turns = order.check ? 5 : 9;
+  return order;
 }
 
-void SizesUpTo(benchmark::internal::Benchmark* b, std::int64_t largest) {
-  b->Arg(5000)->Arg(50000)->Arg(largest)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(0.5);
+std::vector<Limit> LimitsOf(const Work& work, const DemoSite& site) {
+  std::vector<Limit> limits;
+  std::ranges::copy_if(Limits(), std::back_inserter(limits), [&](const Limit& limit) {
+    return limit.work == work.name && limit.rows == site.Rows();
+  });
+  return limits;
 }
 
-void Sizes(benchmark::internal::Benchmark* b) { SizesUpTo(b, 1000000); }
+/// Of all works that are asked for. Commands come first: what this program holds counts as theirs.
+std::vector<Work> WorksOf(const Order& order, const DemoSite& site) {
+  std::vector<Work> works = ColdWorks(site, order.program);
+  const auto add = [&](std::vector<Work> more) { std::ranges::move(more, std::back_inserter(works)); };
+  add(TallyWorks(site));
+#ifdef RBTALLY_BENCH_SCREENS
+  add(ScreenWorks(site));
+#endif
+  add(EngineWorks(site));
+  std::erase_if(works, [&](const Work& work) {
+    return work.name.find(order.words) == std::string_view::npos ||
+           (order.check && LimitsOf(work, site).empty());
+  });
+  return works;
+}
 
-/// A tally by page numbers its pages in 16 bits; a million rows fill more.
-void SizesByPage(benchmark::internal::Benchmark* b) { SizesUpTo(b, 500000); }
+void Show(const DemoSite& site, const Work& work, const Figures& figures) {
+  constexpr double kMilliseconds = 1000.0;
+  constexpr double kKilobyte = 1000.0;
+  std::string counts;
+  if (figures.counts) {
+    counts = fmt::format("{:>6}{:>9.0f}", figures.counts->syncs,
+                         static_cast<double>(figures.counts->bytes) / kKilobyte);
+  }
+  fmt::print("{:>8}  {:<34}{:>9.1f}{:>9.1f}{:>9.3f}  {:>7.3f} to {:<7.3f}{:>8.2f}{:>8.1f}{}\n", site.Rows(),
+             work.name, figures.wall.middle * kMilliseconds, figures.processor.middle * kMilliseconds,
+             figures.x_bare.middle, figures.x_bare.low, figures.x_bare.high, figures.x_fold.middle,
+             figures.peak_mb, counts);
+}
 
-BENCHMARK(LoadFreshSite)->Apply(Sizes);
-BENCHMARK(LoadSiteAgain)->Apply(Sizes);
-BENCHMARK(ActivateAgain)->Apply(Sizes);
-BENCHMARK(BulkTally)->Apply(Sizes);
-BENCHMARK(ShapeTally)->Apply(Sizes);
-BENCHMARK(PageTally)->Apply(SizesByPage);
-BENCHMARK(PageShapeTally)->Apply(Sizes);
-BENCHMARK(FloorTallyOfAllFloors)->Apply(Sizes);
-BENCHMARK(PartTallyOfAllFloors)->Apply(Sizes);
-BENCHMARK(EngineCalls)->ArgName("settings_read_anew")->Arg(0)->Arg(1);
+/// True where all limits are kept. Tells what is missed, and what is not yet where it is to come.
+bool Keeps(const DemoSite& site, const Work& work, const Figures& figures) {
+  bool kept = true;
+  for (const Limit& limit : LimitsOf(work, site)) {
+    const double figure = FigureOf(figures, limit.figure);
+    const bool missed = figure > limit.most;
+    kept = kept && !missed;
+    if (figure > limit.wanted) {
+      fmt::print("{:>8}  {} {}: {:.3f} {}, limit {}, wanted {}\n", "", missed ? "MISSED" : "not yet",
+                 work.name, figure, NameOf(limit.figure), limit.most, limit.wanted);
+    }
+  }
+  return kept;
+}
+
+bool Run(const Order& order) {
+  fmt::print("{:>8}  {:<34}{:>9}{:>9}{:>9}  {:^18}{:>8}{:>8}{:>6}{:>9}\n", "rows", "", "wall ms", "CPU ms",
+             "x bare", "half of them", "x fold", "peak MB", "syncs", "KB out");
+  bool kept = true;
+  for (const std::int64_t rows : order.rows) {
+    const DemoSite site(rows);
+    for (const Work& work : WorksOf(order, site)) {
+      const Figures figures = Measure(work, site, order.turns);
+      Show(site, work, figures);
+      if (order.check) kept = Keeps(site, work, figures) && kept;
+    }
+  }
+  return kept;
+}
+
+int Main(std::span<char*> words) {
+  constexpr int kWrongUsage = 2;
+  try {
+    return Run(OrderOf(words)) ? EXIT_SUCCESS : EXIT_FAILURE;
+  } catch (const std::invalid_argument& error) {
+    fmt::print(stderr, "rbtally_bench: {}\n", error.what());
+    return kWrongUsage;
+  } catch (const std::exception& error) {
+    fmt::print(stderr, "rbtally_bench: {}\n", error.what());
+    return EXIT_FAILURE;
+  }
+}
 
 }  // namespace
+
 }  // namespace rbt::bench
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  const std::span<char*> words(argv, static_cast<std::size_t>(argc));
+  return rbt::bench::Main(words.subspan(words.empty() ? 0 : 1));
+}

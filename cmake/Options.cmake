@@ -24,6 +24,7 @@ endif()
 string(APPEND CMAKE_CXX_FLAGS_RELEASE
        " -fstack-protector-strong -fstack-clash-protection${jumps} -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS")
 string(APPEND CMAKE_EXE_LINKER_FLAGS_RELEASE " -Wl,-z,relro,-z,now")
+string(APPEND CMAKE_MODULE_LINKER_FLAGS_RELEASE " -Wl,-z,relro,-z,now")
 if(RBTALLY_SANITIZE)
   target_compile_options(rbtally_options INTERFACE -fsanitize=${RBTALLY_SANITIZE}
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)

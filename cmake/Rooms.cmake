@@ -19,11 +19,11 @@ function(rbtally_floor_of room out)
   message(FATAL_ERROR "${room}: its folder has no floor in cmake/Rooms.cmake")
 endfunction()
 
-# rbtally_room([QT] SOURCES file... USES room... [LIBRARIES library...]): the folder as a library. A room uses rooms of
-# its own floor or of lower ones, and those stand before it in src/CMakeLists.txt; its files include from those alone,
-# and Qt where it says so.
+# rbtally_room([QT] [PIC] SOURCES file... USES room... [LIBRARIES library...]): the folder as a library. A room uses
+# rooms of its own floor or of lower ones, and those stand before it in src/CMakeLists.txt; its files include from those
+# alone, and Qt where it says so. What PIC says it of can also stand in a library that is loaded at run time.
 function(rbtally_room)
-  cmake_parse_arguments(ARG "QT" "" "SOURCES;USES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "QT;PIC" "" "SOURCES;USES;LIBRARIES" ${ARGN})
   file(RELATIVE_PATH room ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
   string(REGEX REPLACE "^\\.\\./" "" room "${room}")
   rbtally_floor_of(${room} floor)
@@ -56,7 +56,13 @@ function(rbtally_room)
     set_target_properties(${name} PROPERTIES AUTOUIC ON AUTORCC ON)
     rbtally_reads_precompiled(${name} desktop)
   else()
-    rbtally_reads_precompiled(${name} kernel)
+    if(ARG_PIC)
+      # Precompiled headers are not; nobody puts functions of his own in the place of ours.
+      set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+      target_compile_options(${name} PRIVATE -fno-semantic-interposition)
+    else()
+      rbtally_reads_precompiled(${name} kernel)
+    endif()
     if(floor LESS RBTALLY_QT_FLOOR)
       set_property(GLOBAL APPEND PROPERTY RBTALLY_CORE_ROOMS ${name})
     endif()

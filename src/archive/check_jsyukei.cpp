@@ -95,15 +95,30 @@ void BringUpToDate(const TableDef& wanted) {
   }
 }
 
-/// The template's tables; null without a template.
-using Template = std::unique_ptr<std::vector<TableDef>>;
-
-Template ReadTemplate() {
+/// Null without a template.
+std::unique_ptr<Database> OpenTemplate() {
   if (!FamilyFileExists(kTemplate)) {
     MsgBox(kNoTemplateText, kNoTemplateTitle);
     return nullptr;
   }
-  return std::make_unique<std::vector<TableDef>>(Database::OpenReadOnly(MapPath(kTemplate)).TableDefs());
+  return std::make_unique<Database>(Database::OpenReadOnly(MapPath(kTemplate)));
+}
+
+/// True where the site's tables are those of the template to the word: most have been brought up to it
+/// before.
+bool StandsAs(Database& original) {
+  const auto wanted = original.TableTexts();
+  const auto there = OpenSite().TableTexts();
+  return std::ranges::includes(there, wanted) && std::ranges::none_of(kLeftovers, [&](const Leftover& each) {
+           return there.contains(std::string(each.table)) && !wanted.contains(std::string(each.table));
+         });
+}
+
+/// The template's tables; null without a template.
+using Template = std::unique_ptr<std::vector<TableDef>>;
+
+Template ReadTemplate(Database* original) {
+  return original == nullptr ? nullptr : std::make_unique<std::vector<TableDef>>(original->TableDefs());
 }
 
 /// True for an empty table that dropping and making anew would change.
@@ -159,15 +174,16 @@ void Add_PrimaryKey(std::string_view TableName) {
 }
 
 void ReadyArchiveTables() {
-  const Template wanted = ReadTemplate();
-  Ready(wanted, true);
+  const auto original = OpenTemplate();
+  if (original != nullptr && StandsAs(*original)) return;
+  Ready(ReadTemplate(original.get()), true);
 }
 
 void Check_JSyukei() {
-  const Template wanted = ReadTemplate();
-  if (wanted == nullptr) return;
+  const auto original = OpenTemplate();
+  if (original == nullptr) return;
   if (!SiteContext.WorkDatabase) OpenWorkDatabase();
-  Ready(wanted, false);
+  if (!StandsAs(*original)) Ready(ReadTemplate(original.get()), false);
 }
 
 }  // namespace rbt

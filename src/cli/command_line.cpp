@@ -42,11 +42,13 @@ bool Parse(CLI::App& app, int argc, char** argv) {
   }
 }
 
-/// A word that is no command would only be told as a missing one.
-void RequireCommand(std::span<const Command> commands, int argc, char** argv) {
+/// The command that the first word names; null where an option stands before it. A word that is no command
+/// would only be told as a missing one.
+const Command* FirstCommand(std::span<const Command> commands, int argc, char** argv) {
   const std::string first = argc > 1 ? argv[1] : "";
-  const auto named_so = [&](const Command& command) { return command.name == first; };
-  if (first.empty() || first[0] == '-' || std::ranges::any_of(commands, named_so)) return;
+  const auto found = std::ranges::find(commands, first, &Command::name);
+  if (found != commands.end()) return &*found;
+  if (first.empty() || first[0] == '-') return nullptr;
   throw UsageError("unknown command " + first);
 }
 
@@ -165,13 +167,15 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
   CLI::App app("Tallies the reinforcing bars of a construction site from its bar schedule.", "rbtally");
   app.require_subcommand(1);
   app.set_version_flag("--version", "rbtally " RBTALLY_VERSION, "print name and version");
+  const Command* const first = FirstCommand(commands, argc, argv);
   std::vector<std::pair<CLI::App*, Action>> lines;
   for (const Command& command : commands) {
     CLI::App* line = app.add_subcommand(std::string(command.name), std::string(command.description));
+    // To define the options of all takes as long as many a command.
+    if (first != nullptr && first != &command) continue;
     CommandLine command_line(*line, order);
     lines.emplace_back(line, command.define(command_line));
   }
-  RequireCommand(commands, argc, argv);
   if (!Parse(app, argc, argv)) return std::nullopt;
   const auto given = std::ranges::find_if(lines, [](const auto& line) { return line.first->parsed(); });
   order.action = std::move(given->second);

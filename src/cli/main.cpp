@@ -8,10 +8,8 @@
 
 #include "cli/command_line.h"
 #include "cli/output.h"
+#include "cli/pdf_library.h"
 #include "platform/system/services.h"
-#ifdef RBTALLY_PAINTS_PDF
-#include "desktop/painting_surface.h"
-#endif
 
 namespace rbt {
 
@@ -75,7 +73,7 @@ int main(int argc, char** argv) {
   // A closed pipe is then reported as a failed write.
   std::signal(SIGPIPE, SIG_IGN);
 #ifdef RBTALLY_PAINTS_PDF
-  rbt::Services.PaintPdf = rbt::PaintPdf;
+  rbt::Services.PaintPdf = rbt::PaintPdfByLibrary;
 #endif
   return rbt::ExitStatusOf(argc, argv);
 }

@@ -6,7 +6,7 @@
 #include <QFileDialog>
 #include <fmt/format.h>
 
-#include "desktop/painting_surface.h"
+#include "desktop/painting/painting_surface.h"
 #include "desktop/wait_sign.h"
 #include "platform/files/files.h"
 #include "platform/pass_over_faults.h"

@@ -9,7 +9,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "desktop/painting_surface.h"
+#include "desktop/painting/painting_surface.h"
 
 namespace rbt {
 

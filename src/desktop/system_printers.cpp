@@ -13,7 +13,7 @@
 #include <QPrinterInfo>
 #include <QString>
 
-#include "desktop/painting_surface.h"
+#include "desktop/painting/painting_surface.h"
 #include "platform/fault.h"
 #include "platform/print/paper.h"
 

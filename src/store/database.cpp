@@ -70,7 +70,7 @@ auto NamingFile(const Connection& connection, Translate translate) {
 }  // namespace
 
 Translated Database::Impl::Translate(std::string_view jet_sql, const TranslateOptions& options) {
-  schema_.Refresh();
+  const SchemaCache::Reading reading(schema_);
   return NamingFile(*connection_, [&] { return TranslateJetSql(jet_sql, schema_, options); });
 }
 
@@ -85,7 +85,7 @@ SelectStatement Database::Impl::TranslateSelect(std::string_view jet_sql, const 
 }
 
 ChangeStatement Database::Impl::Fuse(std::span<const std::string> updates) {
-  schema_.Refresh();
+  const SchemaCache::Reading reading(schema_);
   return NamingFile(*connection_, [&] { return FuseUpdates(updates, schema_); });
 }
 
@@ -183,14 +183,17 @@ bool Database::WouldChangeTogether(std::span<const std::string> updates) {
 }
 
 std::vector<TableDef> Database::TableDefs() {
-  impl_->Schema().Refresh();
-  std::vector<TableDef> tables;
-  for (const StoredTable& stored : impl_->Schema().Tables()) tables.push_back(stored.def);
-  return tables;
+  const SchemaCache::Reading reading(impl_->Schema());
+  return impl_->Schema().TableDefs();
+}
+
+std::map<std::string, std::string> Database::TableTexts() {
+  const SchemaCache::Reading reading(impl_->Schema());
+  return impl_->Schema().TableTexts();
 }
 
 std::unique_ptr<TableDef> Database::FindTable(std::string_view name) {
-  impl_->Schema().Refresh();
+  const SchemaCache::Reading reading(impl_->Schema());
   const TableDef* const table = impl_->Schema().Find(name);
   return table == nullptr ? nullptr : std::make_unique<TableDef>(*table);
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <span>
@@ -76,6 +77,9 @@ class Database {
   /// Tables in the order of their creation, internal ones left out; one whose key was added or dropped is
   /// new.
   std::vector<TableDef> TableDefs();
+  /// Tables by their names, each with the words by which the file defines it and its indexes: what has equal
+  /// words is equal. Quicker than to read the definitions.
+  std::map<std::string, std::string> TableTexts();
   /// One table by its name (letter case and width ignored); null when there is none.
   std::unique_ptr<TableDef> FindTable(std::string_view name);
   /// Makes a table with its fields and indexes.

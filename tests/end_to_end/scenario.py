@@ -269,11 +269,18 @@ class World:
             return self.program
         for path in [self.folder, *self.folder.rglob("*")]:
             path.chmod(path.stat().st_mode | (0o555 if path.is_dir() else 0o444))
-        copy = self.folder / "rbtally"
+        copy = self.folder / "program" / "bin" / "rbtally"
         if not copy.exists():
-            shutil.copy(self.program, copy)
+            for file in (self.program, *self.libraries()):
+                target = copy.parent.parent / file.relative_to(self.program.parent.parent)
+                target.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(file, target)
             copy.chmod(0o755)
         return copy
+
+    def libraries(self):
+        """What the program loads from beside it."""
+        return (self.program.parent.parent / "lib" / "rbtally").glob("*.so")
 
 
 DIRECTIVES = {

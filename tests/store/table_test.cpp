@@ -52,6 +52,26 @@ TableDef EveryType() {
   return table;
 }
 
+TEST_F(Tables, are_of_the_same_words_while_they_are_the_same) {
+  Database made = Database::CreateDatabase(file_);
+  made.CreateTable(EveryType());
+  const auto texts = made.TableTexts();
+  EXPECT_EQ(texts.size(), 1);
+
+  Database again = Database::CreateDatabase(folder_ / "GENBA002.MDB");
+  again.CreateTable(EveryType());
+  EXPECT_EQ(again.TableTexts(), texts);
+
+  int number = 3;
+  for (const char* change : {"CREATE INDEX n ON 全部(長)", "ALTER TABLE 全部 ADD COLUMN 新 long",
+                             "DROP INDEX 全部_pkey ON 全部", "CREATE TABLE 別(a long)"}) {
+    Database other = Database::CreateDatabase(folder_ / std::to_string(number++));
+    other.CreateTable(EveryType());
+    other.Execute(change);
+    EXPECT_NE(other.TableTexts(), texts) << change;
+  }
+}
+
 TEST_F(Tables, come_back_from_the_file_as_they_were_made) {
   const TableDef made = EveryType();
   {

@@ -77,7 +77,11 @@ void BindSite(const StartOptions& options) {
                                                         kSelectedDbNameKey.section, kSelectedDbNameKey.key));
   }
   SelectSite(name);
-  if (!options.command_line) OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
+  if (!options.command_line) {
+    OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
+    // By now this user may have come to another right to it.
+    SiteContext.WorkDatabase.reset();
+  }
   OpenWorkDatabase();
 }
 
@@ -277,7 +281,8 @@ LoadResult LoadSite(const StartOptions& options) {
   Step([&] { note(LoadRemainingSettings(registry)); });
   TellUnreadable(unreadable);
   Step(ProbeShapes);
-  SiteContext.WorkDatabase.reset();
+  // The command line goes on with it at once.
+  if (!options.command_line) SiteContext.WorkDatabase.reset();
   Step(ProbeCounters);
   StampRun();
   return result;

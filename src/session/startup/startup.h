@@ -33,8 +33,8 @@ struct LoadResult {
 
 /// Binds the program to the site and readies it: once, before the menu is shown. Settings, site, grades,
 /// presence flags and the date and time of the load are in the global state afterwards, the master database
-/// is open for the run, the site database closed. Throws on whatever keeps the site from being worked on: a
-/// missing STEEL.INI or site database is named.
+/// is open for the run, the site database closed; on the command line it stays open. Throws on whatever keeps
+/// the site from being worked on: a missing STEEL.INI or site database is named.
 LoadResult LoadSite(const StartOptions& options);
 
 /// Binds the site that is selected now and leaves its database open. Another site than the bound one is

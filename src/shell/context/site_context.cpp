@@ -24,9 +24,14 @@ constexpr std::string_view kOtherDatabases[] = {kMasterDatabase, "\\RBK\\DATA\\M
                                                 "\\RBK\\DATA\\JSyukeiORG.mdb", "\\RBK\\DATA\\hozon.MDB"};
 constexpr std::string_view kScheduleTable = "加工テーブル";
 
-Database OpenFamilyDatabase(std::string_view family_path) {
-  const fs::path file = MapPath(family_path);
+Database OpenFamilyDatabase(const fs::path& file) {
   return SiteContext.OnlyRead ? Database::OpenReadOnly(file) : Database::Open(file);
+}
+
+/// True where a database is open as it would be opened now, and its name still leads to it.
+bool StandsOpen(const std::unique_ptr<Database>& database, const fs::path& file) {
+  return database && database->File() == file && !database->IsPrivateCopy() &&
+         database->MayBeWritten() != SiteContext.OnlyRead && !database->HasMoved();
 }
 
 void RequireSite(Database& database) {
@@ -61,17 +66,23 @@ void SelectSite(std::string_view file_name) {
 }
 
 void OpenWorkDatabase() {
-  SiteContext.WorkDatabase.reset();
-  auto site = std::make_unique<Database>(OpenFamilyDatabase("\\RBK\\DATA\\" + SiteContext.SelectedDbName));
+  // With a fault none is open.
+  std::unique_ptr<Database> site = std::move(SiteContext.WorkDatabase);
+  const fs::path file = MapPath("\\RBK\\DATA\\" + SiteContext.SelectedDbName);
+  if (!StandsOpen(site, file)) {
+    site.reset();
+    site = std::make_unique<Database>(OpenFamilyDatabase(file));
+  }
+  site->LetGo();
   RequireSite(*site);
   SiteContext.WorkDatabase = std::move(site);
 }
 
-Database OpenCompanionDatabase() { return OpenFamilyDatabase(CompanionDatabasePath()); }
+Database OpenCompanionDatabase() { return OpenFamilyDatabase(MapPath(CompanionDatabasePath())); }
 
 void OpenMasterDatabase() {
   SiteContext.MasterDatabase.reset();
-  SiteContext.MasterDatabase = std::make_unique<Database>(OpenFamilyDatabase(kMasterDatabase));
+  SiteContext.MasterDatabase = std::make_unique<Database>(OpenFamilyDatabase(MapPath(kMasterDatabase)));
 }
 
 std::string CompanionDatabasePath() { return "\\RBK\\DATA\\HIROI" + SiteContext.SiteNumberText + ".mdb"; }

@@ -124,6 +124,9 @@ std::optional<WholeRange> WholeRangeOf(FieldType type) {
 }
 
 const FieldDef* TableDef::FindField(std::string_view field_name) const {
+  // Most are asked for as they are written, which is seen without folding every name.
+  const auto exact = std::ranges::find(fields, field_name, &FieldDef::name);
+  if (exact != fields.end()) return &*exact;
   const std::string wanted = FoldIdentifier(field_name);
   const auto found = std::ranges::find_if(
       fields, [&](const FieldDef& field) { return FoldIdentifier(field.name) == wanted; });

@@ -83,6 +83,35 @@ TEST_F(Site, IsNoneOfTheFamilysOtherDatabasesWhateverItHolds) {
   EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }), testing::HasSubstr("is no site but SORANO.MDB"));
 }
 
+TEST_F(Site, StaysOpenUntilItsNameLeadsElsewhere) {
+  MakeSite("GENBA001.MDB");
+  SelectSite("GENBA001.MDB");
+  OpenWorkDatabase();
+  const Database* const first = SiteContext.WorkDatabase.get();
+  OpenWorkDatabase();
+  EXPECT_EQ(SiteContext.WorkDatabase.get(), first);
+
+  MakeSite("GENBA002.MDB");
+  std::filesystem::rename(root.Data("GENBA002.MDB"), root.Data("GENBA001.MDB"));
+  EXPECT_TRUE(SiteContext.WorkDatabase->HasMoved());
+  OpenWorkDatabase();
+  EXPECT_FALSE(SiteContext.WorkDatabase->HasMoved());
+
+  *SiteContext.WorkDatabase = Database::CopyOf(*SiteContext.WorkDatabase);
+  OpenWorkDatabase();
+  EXPECT_FALSE(SiteContext.WorkDatabase->IsPrivateCopy());
+}
+
+TEST_F(Site, IsLookedAtAgainWhenItStandsOpen) {
+  MakeSite("GENBA001.MDB");
+  SelectSite("GENBA001.MDB");
+  OpenWorkDatabase();
+  SiteContext.WorkDatabase->Execute("DROP TABLE 加工テーブル");
+  EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }),
+              testing::HasSubstr("is no site: it has no table 加工テーブル"));
+  EXPECT_FALSE(SiteContext.WorkDatabase);
+}
+
 TEST_F(Site, ThatIsOnlyReadIsOpenedSo) {
   MakeSite("GENBA001.MDB");
   SelectSite("GENBA001.MDB");

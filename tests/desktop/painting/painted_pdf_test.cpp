@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/painting_surface.h"
+#include "desktop/painting/painting_surface.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "platform/print/paper.h"

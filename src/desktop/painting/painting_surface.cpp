@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/painting_surface.h"
+#include "desktop/painting/painting_surface.h"
 
 #include <array>
 #include <string>

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "demo_site.h"
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+#include "cost.h"
+#include "platform/system/services.h"
+#include "session/startup/startup.h"
+#include "shell/context/site_context.h"
+#include "tally/selection.h"
+
+namespace rbt::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Goes with the program.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    path_ = pattern;
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+const fs::path& Folder() {
+  static const TemporaryFolder folder;
+  return folder.Path();
+}
+
+fs::path Kept(const fs::path& root) { return root / "fresh.MDB"; }
+
+void CloseSite() { SiteContext = SiteContextData(); }
+
+}  // namespace
+
+DemoSite::DemoSite(std::int64_t rows) : rows_(rows), root_(Folder() / std::to_string(rows)) {
+  setenv("RBK_SETTINGS", (root_ / "settings.ini").c_str(), 1);
+  CostOf({Command{RBTALLY_PROGRAM, "demo", root_, "--sites", "1", "--rows", std::to_string(rows)}});
+  fs::copy_file(Schedule(), Kept(root_));
+}
+
+void DemoSite::MakeFresh() const {
+  CloseSite();
+  fs::copy_file(Kept(root_), Schedule(), fs::copy_options::overwrite_existing);
+}
+
+void DemoSite::Bind() const {
+  CloseSite();
+  setenv("RBK_SETTINGS", (root_ / "settings.ini").c_str(), 1);
+  Services.Root = root_;
+  Selection = SelectionData();
+}
+
+void DemoSite::Open() const {
+  Bind();
+  StartOptions options;
+  options.command_line = true;
+  LoadSite(options);
+  ActivateMenu(options);
+}
+
+}  // namespace rbt::bench

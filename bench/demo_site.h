@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace rbt::bench {
+
+/// A demonstration root with one site of so many rows, below a folder that goes with the program.
+class DemoSite {
+ public:
+  /// Makes it, its schedule as the programs that enter one leave it.
+  explicit DemoSite(std::int64_t rows);
+
+  std::int64_t Rows() const { return rows_; }
+  const std::filesystem::path& Root() const { return root_; }
+  std::filesystem::path Schedule() const { return root_ / "DATA" / "GENBA001.MDB"; }
+  /// The schedule as it was entered; none of a program's own connections may be open to it.
+  void MakeFresh() const;
+
+  /// Makes it the site of this program, with settings of its own; nothing is read yet.
+  void Bind() const;
+  /// The same, loaded and activated, as the command line does it.
+  void Open() const;
+
+ private:
+  std::int64_t rows_;
+  std::filesystem::path root_;
+};
+
+}  // namespace rbt::bench
