@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <sys/stat.h>
 #include <system_error>
 #include <utility>
@@ -45,6 +46,11 @@ void RequireShortPath(const std::filesystem::path& file) {
 bool IsOfReading(int code) {
   return (code & 0xFF) == SQLITE_CORRUPT || (code & 0xFF) == SQLITE_NOTADB || code == SQLITE_IOERR_READ ||
          code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_CORRUPTFS;
+}
+
+std::int64_t Nanoseconds(const timespec& time) {
+  constexpr std::int64_t kPerSecond = 1'000'000'000;
+  return time.tv_sec * kPerSecond + time.tv_nsec;
 }
 
 }  // namespace
@@ -186,8 +192,12 @@ std::optional<FileState> Connection::State() const {
   std::uint32_t changes = 0;
   for (std::size_t i = 0; i < 4; ++i)
     changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
-  constexpr std::int64_t kNanoseconds = 1'000'000'000;
-  return FileState{changes, status.st_ino, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+  return FileState{.changes = changes,
+                   .device = status.st_dev,
+                   .file = status.st_ino,
+                   .size = status.st_size,
+                   .written = Nanoseconds(status.st_mtim),
+                   .touched = Nanoseconds(status.st_ctim)};
 }
 
 bool Connection::HasMoved() const {

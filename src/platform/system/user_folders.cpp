@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own folders: settings, desktop, documents.
+// The user's own folders: settings, cache, desktop, documents.
 #include <cstdlib>
 #include <fstream>
 
@@ -68,6 +68,11 @@ fs::path UserFolder(std::string_view name, const char* usual) {
 fs::path DesktopFolder() { return UserFolder("XDG_DESKTOP_DIR", "Desktop"); }
 
 fs::path DocumentsFolder() { return UserFolder("XDG_DOCUMENTS_DIR", "Documents"); }
+
+fs::path CacheFolder() {
+  const fs::path configured = Environment("XDG_CACHE_HOME");
+  return (configured.is_absolute() ? configured : Home() / ".cache") / "rbtally";
+}
 
 fs::path SettingsFile() {
   const fs::path configured = Environment("RBK_SETTINGS");

@@ -5,10 +5,11 @@
 
 namespace rbt {
 
-/// The load's part of the classification on the bound site, see `ClassifySchedule`; nothing where load and
-/// activation together would leave the schedule as it is.
+/// Classifies the bound site, load and activation together, see `PreparationStatements`: each row that
+/// changes is written once.
 void ClassifyAtLoad(const StartModeTraits& start_mode);
-/// The activation's part, see `RefreshSchedule`.
+/// The activation's part, see `RefreshSchedule`; nothing for a file that nobody has changed since it was
+/// classified.
 void RefreshAtActivation(const StartModeTraits& start_mode);
 
 /// Sees to it that the bound site's schedule, which is open in `SiteContext`, is classified for a start mode,
