@@ -7,6 +7,7 @@
 
 #include "platform/text/characters.h"
 #include "store/dialect/quoting.h"
+#include "store/dialect/translate.h"
 
 namespace rbt::dialect {
 namespace {
@@ -97,6 +98,21 @@ std::string SelectWriter::Sql(const std::vector<std::string>& columns) const {
   std::string sql = Body(fmt::format("{}", fmt::join(columns, ", ")));
   if (!order_.empty()) sql += fmt::format(" ORDER BY {}", fmt::join(order_, ", "));
   return sql;
+}
+
+/// Without an index, and without an order of the statement's own, SQLite has no other way through a table
+/// than row by row.
+std::string SelectWriter::WalkSql(const std::vector<std::string>& columns) const {
+  if (select_.order_by.empty() && table_.indexes.empty()) {
+    return Body(fmt::format("{}(?1, {})", kEachRow, fmt::join(columns, ", ")));
+  }
+  std::vector<std::string> named;
+  std::vector<std::string> names;
+  for (const std::string& column : columns) {
+    names.push_back(fmt::format("\".{}\"", names.size()));
+    named.push_back(fmt::format("{} AS {}", column, names.back()));
+  }
+  return fmt::format("SELECT {}(?1, {}) FROM ({})", kEachRow, fmt::join(names, ", "), Sql(named));
 }
 
 std::string SelectWriter::CountSql() const {

@@ -30,6 +30,8 @@ class SelectWriter {
 
   /// The statement with these expressions as its columns.
   std::string Sql(const std::vector<std::string>& columns) const;
+  /// The statement that hands the expressions of each row, in the order of the result, to `kEachRow`.
+  std::string WalkSql(const std::vector<std::string>& columns) const;
   /// The statement that gives the number of rows.
   std::string CountSql() const;
 

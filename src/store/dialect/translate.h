@@ -68,12 +68,18 @@ using Translated =
     std::variant<SelectStatement, ChangeStatement, CreateTableStatement, DropTableStatement,
                  AddColumnStatement, AddPrimaryKeyStatement, CreateIndexStatement, DropIndexStatement>;
 
+/// The name of the function that a row walk registers.
+inline constexpr const char* kEachRow = "jet_each_row";
+
 struct TranslateOptions {
   /// Narrows `SELECT *` to these fields, those that the table has.
   std::span<const std::string_view> fields = {};
   /// Adds the row's number as the last result column, named `rowid`, for a recordset that is edited (one
   /// plain table, no grouping).
   bool with_rowid = false;
+  /// Hands the columns of each row, in the order of the result, to the function `kEachRow` instead of giving
+  /// rows; its first argument is the statement's one parameter. Of a statement that is not grouped.
+  bool walked = false;
 };
 
 /// Translates one statement of the Jet dialect. What is unknown is refused: `Fault` of kind `database` whose
