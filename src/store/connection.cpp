@@ -17,7 +17,7 @@
 #include "store/connection_patience.h"
 #include "store/database_file.h"
 #include "store/dialect/functions.h"
-#include "store/row_walk.h"
+#include "store/row_taker.h"
 
 namespace rbt {
 namespace {
@@ -137,7 +137,7 @@ void Connection::Configure() const {
   RunSetting(kCacheSize);
   RunSetting("PRAGMA synchronous=FULL");
   RegisterJetFunctions(connection);
-  RegisterRowWalks(connection);
+  RegisterRowTaker(connection);
 }
 
 /// Reads the header and every table's definition.

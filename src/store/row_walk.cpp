@@ -2,44 +2,18 @@
 #include "store/row_walk.h"
 
 #include <algorithm>
-#include <exception>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <fmt/format.h>
-#include <sqlite3.h>
 
 #include "platform/text/characters.h"
 #include "store/database_impl.h"
+#include "store/row_taker.h"
 #include "store/stored_value.h"
 
 namespace rbt {
-namespace {
-
-/// What the statement of a walk gets as its parameter.
-struct Taker {
-  std::function<void(sqlite3_value** values)> take;
-  std::exception_ptr thrown;
-};
-constexpr const char* kTakerType = "rbt::Taker";
-
-/// (taker, column, column, ...). SQLite calls C functions: what is thrown goes round the statement.
-void EachRow(sqlite3_context* context, int, sqlite3_value** arguments) {
-  auto* const taker = static_cast<Taker*>(sqlite3_value_pointer(arguments[0], kTakerType));
-  if (taker == nullptr) return sqlite3_result_error(context, "no walk takes the rows", -1);
-  try {
-    taker->take(arguments + 1);
-  } catch (...) {
-    taker->thrown = std::current_exception();
-    sqlite3_result_error(context, "the walk was ended", -1);
-  }
-}
-
-void NoResult(sqlite3_context*) {}
-
-}  // namespace
-
 class RowWalk::Impl {
  public:
   struct Column {
@@ -73,15 +47,7 @@ class RowWalk::Impl {
     return {table_, columns_[static_cast<std::size_t>(field.index)].name};
   }
 
-  void Run(Taker& taker) {
-    sqlite3_bind_pointer(rows_.Handle(), 1, &taker, kTakerType, nullptr);
-    try {
-      while (rows_.Step()) continue;
-    } catch (const Fault&) {
-      if (taker.thrown) std::rethrow_exception(taker.thrown);
-      throw;
-    }
-  }
+  void Run(const RowTaker& take) { TakeRows(rows_, take); }
 
  private:
   Database& database_;
@@ -99,6 +65,14 @@ std::optional<double> WalkedRow::Double(FieldHandle field) const {
   return ReadDouble(values_[field.index], walk_.impl_->PlaceOf(field));
 }
 
+bool WalkedRow::IsPlain(FieldHandle field) const {
+  sqlite3_value* const value = values_[field.index];
+  const int type = sqlite3_value_type(value);
+  if (type != SQLITE_INTEGER) return type == SQLITE_NULL;
+  const std::int64_t whole = sqlite3_value_int64(value);
+  return whole == static_cast<std::int32_t>(whole);
+}
+
 RowWalk::RowWalk(Database& database, std::string_view jet_sql, std::span<const std::string_view> fields)
     : impl_(std::make_unique<Impl>(
           database, jet_sql, database.impl().TranslateSelect(jet_sql, {.fields = fields, .walked = true}))) {}
@@ -114,16 +88,7 @@ FieldHandle RowWalk::Field(std::string_view name) const {
 }
 
 void RowWalk::Run(const std::function<void(const WalkedRow& row)>& take) {
-  Taker taker{[&](sqlite3_value** values) { take(WalkedRow(*this, values)); }, nullptr};
-  impl_->Run(taker);
-}
-
-void RegisterRowWalks(sqlite3* connection) {
-  // For statements of our own: no schema calls it.
-  constexpr int kFlags = SQLITE_UTF8 | SQLITE_DIRECTONLY;
-  const int code = sqlite3_create_function_v2(connection, kEachRow, -1, kFlags, nullptr, nullptr, EachRow,
-                                              NoResult, nullptr);
-  if (code != SQLITE_OK) throw Fault(FaultKind::database, sqlite3_errmsg(connection));
+  impl_->Run([&](sqlite3_value** values) { take(WalkedRow(*this, values)); });
 }
 
 }  // namespace rbt

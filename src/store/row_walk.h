@@ -10,7 +10,6 @@
 
 #include "store/database.h"
 
-struct sqlite3;
 struct sqlite3_value;
 
 namespace rbt {
@@ -23,6 +22,8 @@ class WalkedRow {
   /// As those of `Recordset`.
   std::optional<std::int32_t> Int32(FieldHandle field) const;
   std::optional<double> Double(FieldHandle field) const;
+  /// Null, or a whole number of 32 bits stored as one: nothing that reading or adding up could fault at.
+  bool IsPlain(FieldHandle field) const;
 
  private:
   friend class RowWalk;
@@ -54,8 +55,5 @@ class RowWalk {
   class Impl;
   std::unique_ptr<Impl> impl_;
 };
-
-/// Registers on a connection the function that the statements of walks call, see `kEachRow`.
-void RegisterRowWalks(sqlite3* connection);
 
 }  // namespace rbt

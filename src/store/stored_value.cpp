@@ -171,12 +171,7 @@ std::optional<double> DoubleIn(const In& in, const FieldPlace& place) {
 
 template <typename In>
 std::optional<std::int32_t> Int32In(const In& in, const FieldPlace& place) {
-  if (in.Type() == SQLITE_INTEGER) {
-    const std::int64_t whole = in.Whole();
-    const auto narrow = static_cast<std::int32_t>(whole);
-    if (narrow != whole) throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
-    return narrow;
-  }
+  if (in.Type() == SQLITE_INTEGER) return NarrowInt32(in.Whole(), place);
   const auto number = DoubleIn(in, place);
   if (!number) return std::nullopt;
   return ToInt32(*number, place.Text());
@@ -186,6 +181,12 @@ std::optional<std::int32_t> Int32In(const In& in, const FieldPlace& place) {
 
 std::string FieldPlace::Text() const {
   return table.empty() ? std::string(field) : fmt::format("{}.{}", table, field);
+}
+
+std::int32_t NarrowInt32(std::int64_t whole, const FieldPlace& place) {
+  const auto narrow = static_cast<std::int32_t>(whole);
+  if (narrow != whole) throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
+  return narrow;
 }
 
 std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace& place) {

@@ -33,6 +33,8 @@ std::optional<std::int32_t> ReadInt32(sqlite3_stmt* row, int column, const Field
 /// Both of a value that a statement hands to a function.
 std::optional<double> ReadDouble(sqlite3_value* value, const FieldPlace& place);
 std::optional<std::int32_t> ReadInt32(sqlite3_value* value, const FieldPlace& place);
+/// Beyond 32 bits `overflow`.
+std::int32_t NarrowInt32(std::int64_t whole, const FieldPlace& place);
 /// The text in a column, numbers in their shortest form, nothing when null.
 std::optional<std::string> ReadText(sqlite3_stmt* row, int column, const FieldPlace& place);
 

@@ -12,6 +12,7 @@
 #include "shell/context/site_context.h"
 #include "shell/preparation/classification_memory.h"
 #include "shell/preparation/preparation.h"
+#include "shell/preparation/statements.h"
 #include "store/database.h"
 
 namespace rbt {
@@ -135,6 +136,12 @@ void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
   FillFloorsAndParts(schedule);
   transaction.CommitAndHold();
   NoteAsClassified(schedule);
+}
+
+void JoinDimensions() {
+  Database& schedule = *SiteContext.WorkDatabase;
+  if (!schedule.IsPrivateCopy() && IsKnownAsClassified(schedule)) return;
+  schedule.Execute(kJoinDimensions);
 }
 
 ClassifiedSchedule::ClassifiedSchedule(const StartModeTraits& start_mode, FloorsAndParts lines) {

@@ -23,6 +23,10 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode);
 /// The same with a floor and a part for every line, see `FillFloorsAndParts`: for the floor and part tallies.
 void HoldScheduleWithFloors(const StartModeTraits& start_mode);
 
+/// Brings the dimension text of the schedule, which must be held where others may change it, up to date;
+/// nothing where it is known to be classified, which has it in it.
+void JoinDimensions();
+
 /// What a hold sees to beside the classes.
 enum class FloorsAndParts { as_they_are, filled };
 

@@ -46,6 +46,7 @@ SelectStatement TranslateSelect(const Select& select, const Scope& scope, const 
   if (columns.empty()) columns.emplace_back("NULL");
   statement.sql = options.walked ? writer.WalkSql(columns) : writer.Sql(columns);
   statement.count_sql = writer.CountSql();
+  if (options.rows_to_group) statement.rows_to_group = writer.RowsOfGroups();
   return statement;
 }
 
