@@ -41,5 +41,8 @@ std::filesystem::path OfferedFolder();
 /// Where the user's settings stand: `$RBK_SETTINGS`, or else `rbtally/settings.ini` in `$XDG_CONFIG_HOME`
 /// (`~/.config` when that is not set).
 std::filesystem::path SettingsFile();
+/// Where stands what can be worked out anew at any time: `rbtally` in `$XDG_CACHE_HOME` (`~/.cache` when that
+/// is not set). Nobody has made it yet.
+std::filesystem::path CacheFolder();
 
 }  // namespace rbt

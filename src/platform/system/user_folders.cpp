@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own folders: settings, desktop, documents.
+// The user's own folders: settings, cache, desktop, documents.
 #include <cstdlib>
 #include <fstream>
 
@@ -70,6 +70,11 @@ std::optional<fs::path> DesktopFolder() { return UserFolder("XDG_DESKTOP_DIR", "
 std::optional<fs::path> DocumentsFolder() { return UserFolder("XDG_DOCUMENTS_DIR", "Documents"); }
 
 fs::path OfferedFolder() { return DocumentsFolder().value_or(Home()); }
+
+fs::path CacheFolder() {
+  const fs::path configured = Environment("XDG_CACHE_HOME");
+  return (configured.is_absolute() ? configured : Home() / ".cache") / "rbtally";
+}
 
 fs::path SettingsFile() {
   const fs::path configured = Environment("RBK_SETTINGS");
