@@ -31,7 +31,7 @@ struct StockLength {
   int mm = 0;
   Milligrams table_weight = 0;        ///< of one bar, as the tally weighs it
   Micros cost = 0;                    ///< of one bar: its mm, or its table weight by the price
-  std::optional<std::int64_t> price;  ///< yen a tonne
+  std::optional<std::int64_t> price = std::nullopt;  ///< yen a tonne
   Milligrams least_lot = 0;           ///< least table weight of a purchase line; 0: any
 
   friend bool operator==(const StockLength&, const StockLength&) = default;
@@ -61,6 +61,7 @@ struct PlannedRow {
   int own_mm = 0;             ///< the schedule's stock length; 0: none, from a file
   std::int64_t own_bars = 0;  ///< bars that the schedule gives the row
   std::string mark;           ///< from a file
+  std::size_t place = 0;      ///< in the table or file, from 0
 };
 
 /// All pieces of one length in a group.
@@ -89,7 +90,7 @@ struct KeptRow {
   int stock_mm = 0;  ///< 0: no length to order
   std::int64_t bars = 0;
   Milligrams table_weight = 0;  ///< of one bar
-  std::optional<std::int64_t> price;
+  std::optional<std::int64_t> price = std::nullopt;
 };
 
 /// All that a plan is made from, frozen. Groups stand in the order in which a plan tells them: by scope as
