@@ -30,9 +30,10 @@ inline std::vector<StockLength> Lengths(int diameter, const std::vector<int>& mm
   return lengths;
 }
 
-/// A problem of one group of D16 on the whole site; `pieces` are (cut, count), each a row without a stock length
-/// of its own.
-inline Problem OneGroup(const std::vector<std::pair<int, std::int64_t>>& pieces, const std::vector<int>& lengths) {
+/// A problem of one group of D16 on the whole site; `pieces` are (cut, count), each a row without a stock
+/// length of its own.
+inline Problem OneGroup(const std::vector<std::pair<int, std::int64_t>>& pieces,
+                        const std::vector<int>& lengths) {
   Problem problem;
   problem.supplies.push_back({{16, 1, false}, Lengths(16, lengths), {}});
   Group group{"site", 0, {}};

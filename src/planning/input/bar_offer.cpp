@@ -97,7 +97,7 @@ std::vector<StockLength> AllowedLengths(const BarOffer& offer, const SiteLengths
   return lengths;
 }
 
-std::vector<RestBar> RestsOf(const BarOffer& offer, const Steel& steel) {
+std::vector<RestBar> RestsOf(const BarOffer& offer, const BarSteel& steel) {
   std::map<int, std::int64_t> counts;
   for (const RestLine& rest : offer.rests) {
     const bool of_steel = rest.diameter == steel.diameter && rest.kind == steel.kind && !steel.hoop;

@@ -38,7 +38,7 @@ std::vector<StockLength> AllowedLengths(const BarOffer& offer, const SiteLengths
 std::optional<std::int64_t> PriceOf(const BarOffer& offer, int diameter, int mm);
 
 /// The rest bars of a steel, rising, each length once; none for hoops.
-std::vector<RestBar> RestsOf(const BarOffer& offer, const Steel& steel);
+std::vector<RestBar> RestsOf(const BarOffer& offer, const BarSteel& steel);
 
 /// "D16".
 std::string DiameterName(int diameter);

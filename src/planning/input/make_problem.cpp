@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "planning/problem/bar_rule.h"
 #include "planning/problem/refusal.h"
 #include "planning/problem/weights.h"
@@ -51,7 +52,7 @@ class ProblemBuilder {
     return lengths_[diameter] = AllowedLengths(offer_, site_, diameter, Options().aim);
   }
 
-  void Plan(const Scopes::Scope& scope, const Steel& steel, int cut_mm, PlannedRow row) {
+  void Plan(const Scopes::Scope& scope, const BarSteel& steel, int cut_mm, PlannedRow row) {
     names_[scope.place] = scope.name;
     Cut& cut = groups_[{scope.place, steel}][cut_mm];
     cut.mm = cut_mm;
@@ -69,7 +70,7 @@ class ProblemBuilder {
   }
 
   Problem Build() {
-    std::map<Steel, std::size_t> supplies;
+    std::map<BarSteel, std::size_t> supplies;
     for (const auto& [key, cuts] : groups_) supplies[key.second] = 0;
     for (auto& [steel, index] : supplies) {
       index = problem_.supplies.size();
@@ -104,7 +105,7 @@ class ProblemBuilder {
   std::size_t rows_ = 0;
   std::map<int, std::vector<StockLength>> lengths_;
   std::map<int, std::string> names_;
-  std::map<std::pair<int, Steel>, Cuts> groups_;  ///< by the scope's place and the steel
+  std::map<std::pair<int, BarSteel>, Cuts> groups_;  ///< by the scope's place and the steel
 };
 
 /// Sorts a site's rows into planned and kept.
@@ -115,7 +116,7 @@ class SiteRows {
 
   /// True when the row is planned.
   bool Take(const SteelRow& row) {
-    const Steel steel{row.diameter, row.kind, row.hoop};
+    const BarSteel steel{row.diameter, row.kind, row.hoop};
     const std::optional<Scopes::Scope> scope = scopes_.ScopeOf(row.floor);
     if (const auto reason = ReasonToKeep(row, scope.has_value())) {
       builder_.Keep({row.page, row.line, *reason, steel, std::max(0, MmOf(row.stock_m)), BarsOf(row)});

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "data/floors.h"
 #include "data/materials.h"
 #include "tally/rows/bar_row_reader.h"
@@ -16,7 +17,7 @@ constexpr std::string_view kFloorColumn = "階";
 
 bool CountsAsSteel(const BarRow& row, const RowRules& rules) {
   const bool deformed = !row.IsOf(MaterialKind::ulbon) && DiameterIndex(row.diameter_code.value_or(0)) >= 0;
-  return deformed && !(rules.hoop_mode == 1 && row.IsHoop());
+  return deformed && !(rules.hoops == ShapeFilter::left_out && row.IsHoop());
 }
 
 SteelRow SteelRowOf(const BarRow& row, std::optional<std::int32_t> floor) {

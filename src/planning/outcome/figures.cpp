@@ -5,6 +5,7 @@
 #include <set>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "planning/problem/weights.h"
 #include "planning/solve/row_plans.h"
 #include "platform/fault.h"

@@ -75,8 +75,8 @@ std::optional<Micros> YenOf(Milligrams bar, std::int64_t bars, const std::option
 }
 
 std::vector<PurchaseLine> PurchaseOf(const Problem& problem, const Plan& plan) {
-  std::map<std::pair<Steel, int>, PurchaseLine> lines;
-  const auto buy = [&](const Steel& steel, int mm, std::int64_t planned, std::int64_t kept, Milligrams bar,
+  std::map<std::pair<BarSteel, int>, PurchaseLine> lines;
+  const auto buy = [&](const BarSteel& steel, int mm, std::int64_t planned, std::int64_t kept, Milligrams bar,
                        const std::optional<std::int64_t>& price) {
     PurchaseLine& line = lines[{steel, mm}];
     line.steel = steel;
@@ -105,7 +105,7 @@ std::vector<PurchaseLine> PurchaseOf(const Problem& problem, const Plan& plan) {
 }
 
 std::vector<UsableRest> RestsOf(const std::vector<OutcomeGroup>& groups, int usable) {
-  std::map<std::pair<Steel, std::int64_t>, std::int64_t> counts;
+  std::map<std::pair<BarSteel, std::int64_t>, std::int64_t> counts;
   for (const OutcomeGroup& group : groups) {
     for (const OutcomePattern& pattern : group.patterns) {
       if (pattern.left_mm < usable || pattern.left_mm == 0) continue;

@@ -40,7 +40,7 @@ struct OutcomePattern {
 
 struct OutcomeGroup {
   std::string scope;
-  Steel steel;
+  BarSteel steel;
   std::vector<int> lengths;  ///< mm, rising
   std::vector<OutcomeCut> cuts;
   std::vector<OutcomePattern> patterns;
@@ -68,7 +68,7 @@ struct OutcomeShort {
 };
 
 struct PurchaseLine {
-  Steel steel;
+  BarSteel steel;
   int stock_mm = 0;
   std::int64_t planned = 0;  ///< bars
   std::int64_t kept = 0;     ///< bars of the rows that stay as scheduled
@@ -80,7 +80,7 @@ struct PurchaseLine {
 
 /// Usable rests of one length.
 struct UsableRest {
-  Steel steel;
+  BarSteel steel;
   std::int64_t mm = 0;
   std::int64_t count = 0;
 };
@@ -118,7 +118,7 @@ struct OutcomeBound {
 };
 
 struct OutcomeAdvice {
-  Steel steel;
+  BarSteel steel;
   struct Point {
     int count = 0;
     std::vector<int> lengths;

@@ -51,7 +51,7 @@ struct AdvicePoint {
 };
 
 struct Advice {
-  Steel steel;
+  BarSteel steel;
   std::vector<AdvicePoint> curve;  ///< for 1, 2, ... lengths
 
   friend bool operator==(const Advice&, const Advice&) = default;

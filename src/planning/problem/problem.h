@@ -18,21 +18,21 @@ using Milligrams = std::int64_t;
 using Micros = std::int64_t;
 
 /// What may be cut from the same bars and is ordered on the same lines.
-struct Steel {
+struct BarSteel {
   int diameter = 0;   ///< diameter code, 0: none given
   int kind = 1;       ///< 予備2, at least 1
   bool hoop = false;  ///< welded closed hoops are made elsewhere
 
-  friend auto operator<=>(const Steel&, const Steel&) = default;
+  friend auto operator<=>(const BarSteel&, const BarSteel&) = default;
 };
 
 /// A length that may be bought.
 struct StockLength {
   int mm = 0;
-  Milligrams table_weight = 0;        ///< of one bar, as the tally weighs it
-  Micros cost = 0;                    ///< of one bar: its mm, or its table weight by the price
+  Milligrams table_weight = 0;                       ///< of one bar, as the tally weighs it
+  Micros cost = 0;                                   ///< of one bar: its mm, or its table weight by the price
   std::optional<std::int64_t> price = std::nullopt;  ///< yen a tonne
-  Milligrams least_lot = 0;           ///< least table weight of a purchase line; 0: any
+  Milligrams least_lot = 0;                          ///< least table weight of a purchase line; 0: any
 
   friend bool operator==(const StockLength&, const StockLength&) = default;
 };
@@ -48,7 +48,7 @@ struct RestBar {
 /// A steel that has pieces to plan, with the bars that it may be cut from. Both lists ascend, each length
 /// once.
 struct Supply {
-  Steel steel;
+  BarSteel steel;
   std::vector<StockLength> lengths;  ///< never empty
   std::vector<RestBar> rests;        ///< none for hoops
 };
@@ -86,7 +86,7 @@ struct KeptRow {
   std::optional<int> page;
   std::optional<int> line;
   KeptReason reason = KeptReason::column;
-  Steel steel;
+  BarSteel steel;
   int stock_mm = 0;  ///< 0: no length to order
   std::int64_t bars = 0;
   Milligrams table_weight = 0;  ///< of one bar

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 
 namespace rbt::planning {
 namespace {

@@ -7,7 +7,7 @@
 namespace rbt::planning {
 
 std::string NameOf(const Problem& problem, const Group& group) {
-  const Steel& steel = problem.supplies[group.supply].steel;
+  const BarSteel& steel = problem.supplies[group.supply].steel;
   return group.scope + " D" + std::to_string(steel.diameter) + " kind " + std::to_string(steel.kind) +
          (steel.hoop ? " hoop" : "");
 }

@@ -21,13 +21,13 @@ struct Taken {
 
 void Append(Faults& faults, Faults more) { std::ranges::move(more, std::back_inserter(faults)); }
 
-std::string NameOf(const Steel& steel) {
+std::string NameOf(const BarSteel& steel) {
   return "D" + std::to_string(steel.diameter) + " kind " + std::to_string(steel.kind) +
          (steel.hoop ? " hoop" : "");
 }
 
 /// Table weight that rows kept as scheduled order of a length.
-std::int64_t KeptWeight(const Problem& problem, const Steel& steel, int mm) {
+std::int64_t KeptWeight(const Problem& problem, const BarSteel& steel, int mm) {
   std::int64_t weight = 0;
   for (const KeptRow& row : problem.kept) {
     if (row.steel == steel && row.stock_mm == mm) weight += row.bars * row.table_weight;

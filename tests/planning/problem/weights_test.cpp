@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "data/bar_tables.h"
+#include "data/diameters.h"
 #include "support/fault_of.h"
 
 namespace rbt::planning {

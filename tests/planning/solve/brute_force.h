@@ -11,11 +11,12 @@
 
 namespace rbt::planning::test {
 
-/// The least cost of a small group, all ways tried: the longest piece left goes on some bar with every set of other
-/// pieces that fits.
+/// The least cost of a small group, all ways tried: the longest piece left goes on some bar with every set of
+/// other pieces that fits.
 class BruteForce {
  public:
-  BruteForce(const Problem& problem, const Group& group) : problem_(problem), supply_(problem.supplies[group.supply]) {
+  BruteForce(const Problem& problem, const Group& group)
+      : problem_(problem), supply_(problem.supplies[group.supply]) {
     for (const Cut& cut : group.cuts) {
       cuts_.push_back(cut.mm);
       left_.push_back(static_cast<int>(cut.count));

@@ -37,7 +37,8 @@ double Best(const Sample& sample, std::size_t at, int room, int kinds) {
   double best = Best(sample, at + 1, room, kinds);
   const int weight = sample.task.items[at].weight;
   for (int pieces = 1; pieces <= sample.left[at] && pieces * weight <= room; ++pieces) {
-    best = std::max(best, pieces * sample.prices[at] + Best(sample, at + 1, room - pieces * weight, kinds - 1));
+    best =
+        std::max(best, pieces * sample.prices[at] + Best(sample, at + 1, room - pieces * weight, kinds - 1));
   }
   return best;
 }

@@ -12,7 +12,9 @@ class CoverLpTest : public ::testing::Test {
     if (!LinearProgramsAreSolved()) GTEST_SKIP() << "built without the library";
   }
 
-  void Add(CoverLp& lp, double cost, std::vector<std::pair<int, double>> entries) { lp.AddColumn(cost, entries); }
+  void Add(CoverLp& lp, double cost, std::vector<std::pair<int, double>> entries) {
+    lp.AddColumn(cost, entries);
+  }
 };
 
 TEST_F(CoverLpTest, CoversItsNeedsAtTheLeastCost) {

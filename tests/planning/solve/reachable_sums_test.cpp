@@ -37,7 +37,8 @@ TEST(OrShifted, MovesBitsAcrossWords) {
 
 TEST(HighestBit, LooksFromLowToHigh) {
   std::vector<std::uint64_t> row(3, 0);
-  for (const int bit : {0, 5, 63, 64, 130}) row[static_cast<std::size_t>(bit) / 64] |= std::uint64_t{1} << (bit % 64);
+  for (const int bit : {0, 5, 63, 64, 130})
+    row[static_cast<std::size_t>(bit) / 64] |= std::uint64_t{1} << (bit % 64);
   EXPECT_EQ(HighestBit(row, 0, 191), 130);
   EXPECT_EQ(HighestBit(row, 0, 129), 64);
   EXPECT_EQ(HighestBit(row, 0, 63), 63);
@@ -82,15 +83,15 @@ TEST(ReachableSums, MixNoMoreItemsThanAllowed) {
 }
 
 /// All sums of items from `at` on, with at most `kinds` of them (below 0: any number).
-void Collect(const CuttingTask& task, const std::vector<std::int64_t>& left, std::size_t at, int kinds, int sum,
-             std::set<int>& sums) {
+void Collect(const CuttingTask& task, const std::vector<std::int64_t>& left, std::size_t at, int kinds,
+             int sum, std::set<int>& sums) {
   if (at == task.items.size() || kinds == 0) {
     sums.insert(sum);
     return;
   }
   for (std::int64_t pieces = 0; pieces <= left[at]; ++pieces) {
-    Collect(task, left, at + 1, pieces > 0 ? kinds - 1 : kinds, sum + static_cast<int>(pieces) * task.items[at].weight,
-            sums);
+    Collect(task, left, at + 1, pieces > 0 ? kinds - 1 : kinds,
+            sum + static_cast<int>(pieces) * task.items[at].weight, sums);
   }
 }
 
@@ -109,7 +110,8 @@ TEST(ReachableSums, AreThoseOfATrialOfAllWays) {
     sums.LeadWith(static_cast<int>(lead));
     std::set<int> all;
     for (std::int64_t pieces = 1; pieces <= left[lead]; ++pieces) {
-      Collect(task, left, lead + 1, task.mix == 0 ? -1 : task.mix - 1, static_cast<int>(pieces) * weights[lead], all);
+      Collect(task, left, lead + 1, task.mix == 0 ? -1 : task.mix - 1,
+              static_cast<int>(pieces) * weights[lead], all);
     }
     const int capacity = task.bars[0].capacity;
     const auto above = all.upper_bound(capacity);
