@@ -90,7 +90,7 @@ std::vector<std::string> GridTallyWords() {
 }
 
 TallyResult CountAskedTally(const std::string& word, const CommonOptions& common,
-                            const SelectionOptions& options) {
+                            const SelectionOptions& options, const std::function<void()>& beside) {
   const TallyKindRow* row = FindTallyKind(word);
   if (row == nullptr) throw UsageError("unknown tally " + word);
   if (options.kinds == 0 && row->range != TallyRange::floors)
@@ -100,6 +100,7 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   ApplySelection(options, Selection);
   TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
+  if (beside) beside();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;

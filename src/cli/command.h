@@ -40,6 +40,7 @@ Action DefineLoad(CommandLine& line);
 Action DefineList(CommandLine& line);
 Action DefineRename(CommandLine& line);
 Action DefineDelete(CommandLine& line);
+Action DefinePlan(CommandLine& line);
 Action DefineReport(CommandLine& line);
 Action DefineImport(CommandLine& line);
 Action DefineCheck(CommandLine& line);

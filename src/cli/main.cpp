@@ -58,6 +58,7 @@ std::span<const Command> Commands() {
       {"list", "List the saved tallies of a site", DefineList},
       {"rename", "Give a saved tally another name", DefineRename},
       {"delete", "Delete saved tallies", DefineDelete},
+      {"plan", "Plan what to buy and what to cut from each bar, for the whole site", DefinePlan},
       {"report", "Print a report form of a tally to a PDF file", DefineReport},
       {"import", "Take real Jet files into the store", DefineImport},
       {"check", "Look whether a real Jet file is sound", DefineCheck},

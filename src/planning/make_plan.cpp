@@ -11,25 +11,32 @@
 namespace rbt::planning {
 namespace {
 
-void Check(const Problem& problem, const Plan& plan) {
-  const std::vector<std::string> faults = FindFaults(problem, plan);
+void Require(const std::vector<std::string>& faults) {
   if (!faults.empty()) throw Refusal("the plan failed its check: " + faults.front());
 }
 
 }  // namespace
 
 Plan MakePlan(const Problem& problem, const StopSignal& signal, const PlanListener& listener) {
-  Plan plan = SolvePlan(problem, signal, listener);
-  Check(problem, plan);
+  Verifier verifier(problem);
+  PlanListener checked = nullptr;
+  if (listener) {
+    checked = [&](const Plan& so_far, std::size_t done, std::size_t of) {
+      Require(verifier.FindFaults(so_far));
+      listener(so_far, done, of);
+    };
+  }
+  Plan plan = SolvePlan(problem, signal, checked);
+  Require(verifier.FindFaults(plan));
   return plan;
 }
 
-StopSignal StopAfter(double seconds, std::stop_token cancel) {
+StopSignal StopAfter(double seconds, std::function<bool()> cancelled) {
   using Clock = std::chrono::steady_clock;
   const auto end =
       Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
-  return [end, cancel = std::move(cancel)] {
-    if (cancel.stop_requested()) return Stopped::cancel;
+  return [end, cancelled = std::move(cancelled)] {
+    if (cancelled && cancelled()) return Stopped::cancel;
     return Clock::now() >= end ? Stopped::time : Stopped::no;
   };
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <stop_token>
+#include <functional>
 
 #include "planning/problem/plan.h"
 #include "planning/problem/problem.h"
@@ -10,12 +10,12 @@
 
 namespace rbt::planning {
 
-/// A plan, checked. The listener may be empty; what it is told is checked too. Faults: `Refusal` where no
+/// A plan, checked. The listener may be empty; what it is told is checked as well. Faults: `Refusal` where no
 /// plan can be made, or where a plan fails its check, which names what is wrong; `overflow`.
 Plan MakePlan(const Problem& problem, const StopSignal& signal, const PlanListener& listener = nullptr);
 
-/// Says `time` once so many seconds have passed from now, `cancel` when a stop was requested. The clock runs
-/// whatever the machine does.
-StopSignal StopAfter(double seconds, std::stop_token cancel = {});
+/// Says `time` once so many seconds have passed from now, `cancel` as soon as it was asked for; nobody asks
+/// where `cancelled` is empty.
+StopSignal StopAfter(double seconds, std::function<bool()> cancelled = nullptr);
 
 }  // namespace rbt::planning

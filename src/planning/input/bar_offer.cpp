@@ -19,7 +19,10 @@ constexpr int kMmOf13m = 13000;
 
 int MmOfColumn(int column) { return static_cast<int>(StockMetres(column) * 1000.0); }
 
-bool HasColumn(int mm) { return StockIndex(mm / 1000.0) >= 0; }
+bool HasColumn(int mm, bool use_13m) {
+  const int column = StockIndex(mm / 1000.0);
+  return column >= 0 && (column != kColumn13m || use_13m);
+}
 
 /// What the lines say of a length: a line of the diameter itself before one of all.
 const LengthLine* FindLine(const BarOffer& offer, int diameter, int mm) {
@@ -58,18 +61,20 @@ std::set<int> LengthsOf(const BarOffer& offer, const SiteLengths* site, int diam
   return site != nullptr ? LengthsOfSite(*site, diameter) : std::set<int>();
 }
 
-void CheckColumn(int mm) {
-  if (!HasColumn(mm)) throw Refusal("length " + std::to_string(mm) + " has no column");
+void CheckColumn(int mm, bool use_13m) {
+  if (!HasColumn(mm, use_13m)) throw Refusal("length " + std::to_string(mm) + " has no column");
 }
 
 }  // namespace
 
 std::string DiameterName(int diameter) { return "D" + std::to_string(diameter); }
 
-void CheckColumns(const BarOffer& offer) {
-  for (const int mm : offer.lengths.value_or(std::vector<int>())) CheckColumn(mm);
-  for (const LengthLine& line : offer.length_lines.value_or(std::vector<LengthLine>()))
-    CheckColumn(line.length);
+void CheckColumns(const BarOffer& offer, bool use_13m) {
+  for (const int mm : offer.lengths.value_or(std::vector<int>())) CheckColumn(mm, use_13m);
+  if (offer.lengths) return;  // the lines say no more than prices and lots
+  for (const LengthLine& line : offer.length_lines.value_or(std::vector<LengthLine>())) {
+    CheckColumn(line.length, use_13m);
+  }
 }
 
 std::optional<std::int64_t> PriceOf(const BarOffer& offer, int diameter, int mm) {

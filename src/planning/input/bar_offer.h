@@ -26,8 +26,9 @@ struct SiteLengths {
   std::map<int, std::set<int>> of_rows;  ///< mm by diameter, with a column in the tally's sums
 };
 
-/// Refuses offered lengths that a site's tally has no column for: "length 5250 has no column".
-void CheckColumns(const BarOffer& offer);
+/// Refuses offered lengths that a site's tally has no column for: "length 5250 has no column". 13.0 m has one
+/// where the site uses it.
+void CheckColumns(const BarOffer& offer, bool use_13m);
 
 /// The lengths of a diameter that may be bought, rising, with what they cost by the aim. Refusals: "no stock
 /// length is allowed for D16", "no price for D16 6500".

@@ -163,7 +163,7 @@ void TakeBarsOut(TallyTable& table, const SteelRow& row) {
 
 Problem MakeProblem(const SiteSchedule& schedule, const SiteLengths& lengths, const BarOffer& offer,
                     const Scopes& scopes, const PlanOptions& options) {
-  CheckColumns(offer);
+  CheckColumns(offer, lengths.use_13m);
   ProblemBuilder builder(offer, &lengths, options);
   SiteRows rows(builder, schedule.closing, scopes);
   SiteTally tally{schedule.table, schedule.table, schedule.closing};

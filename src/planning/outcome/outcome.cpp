@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <map>
 
+#include <fmt/format.h>
+
 #include "planning/outcome/figures.h"
 #include "planning/problem/weights.h"
 #include "planning/solve/row_plans.h"
@@ -168,6 +170,22 @@ Outcome Describe(const Problem& problem, const Plan& plan) {
   outcome.bound = BoundOf(problem, outcome.groups);
   for (const Advice& advice : plan.advice) outcome.advice.push_back(Described(problem, advice));
   return outcome;
+}
+
+std::string ProgressText(const Problem& problem, const Plan& plan, std::size_t done, std::size_t of) {
+  std::vector<OutcomeGroup> groups;
+  groups.reserve(problem.groups.size());
+  for (std::size_t g = 0; g < problem.groups.size(); ++g) {
+    groups.push_back(Described(problem, problem.groups[g], plan.groups[g]));
+  }
+  const OutcomeBound bound = BoundOf(problem, groups);
+  const std::string begin = fmt::format("{} of {} groups: ", done, of);
+  if (!bound.loss_percent) {
+    return begin + fmt::format("cost {} JPY, bound {} JPY", bound.plan_cost / kUnit, bound.cost / kUnit);
+  }
+  const double loss =
+      PercentAbove(static_cast<double>(bound.plan_cost), static_cast<double>(InstalledWeight(problem)));
+  return begin + fmt::format("loss {:.3f} %, bound {:.3f} %", loss, *bound.loss_percent);
 }
 
 std::string_view MethodName(Method method) {

@@ -146,6 +146,9 @@ struct Outcome {
 /// All figures of a plan of the problem. Faults: `overflow`.
 Outcome Describe(const Problem& problem, const Plan& plan);
 
+/// How far a plan is: "3 of 12 groups: loss 0.123 %, bound 0.101 %", or its cost and bound in yen.
+std::string ProgressText(const Problem& problem, const Plan& plan, std::size_t done, std::size_t of);
+
 /// "schedule", "perRow", "greedy", "columns".
 std::string_view MethodName(Method method);
 /// "column", "empty", "joined", "welded", "scope", "long".

@@ -77,7 +77,7 @@ Promises PromisesOf(const Problem& problem, const Group& group) {
     promises.cost += FindLength(supply, best.stock_mm)->cost * best.Bars();
     for (const PlannedRow& row : cut.rows) {
       const StockLength* own = FindLength(supply, row.own_mm);
-      if (own == nullptr) {
+      if (own == nullptr || PiecesPerBar(rule, own->mm, cut.mm) == 0) {
         lengths_allowed = false;
         continue;
       }

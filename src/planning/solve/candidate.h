@@ -32,8 +32,8 @@ struct Promises {
   bool KeptBy(const Candidate& candidate) const;
 };
 
-/// The schedule's figures count where all its lengths may be bought: every row with as many bars as the
-/// schedule gives it, or as it needs if these are more.
+/// The schedule's figures count where all its lengths may be bought and hold their pieces: every row with as
+/// many bars as the schedule gives it, or as it needs if these are more.
 Promises PromisesOf(const Problem& problem, const Group& group);
 
 /// Every row from its own length; nothing where one may not be bought or does not hold its piece.

@@ -148,7 +148,9 @@ void GroupCheck::CheckPromises() {
     for (const PlannedRow& row : cut.rows) {
       const StockLength* own = Length(row.own_mm);
       if (own == nullptr) return;  // no promise: the schedule's length may not be bought
-      const std::int64_t bars = std::max(row.own_bars, CutAlone(own->mm, cut.mm, row.pieces).bars);
+      const Alone alone = CutAlone(own->mm, cut.mm, row.pieces);
+      if (!alone.fits) return;  // nor where the piece does not come out of it
+      const std::int64_t bars = std::max(row.own_bars, alone.bars);
       schedule_cost += own->cost * bars;
       schedule_steel += own->mm * bars;
       schedule_table += own->table_weight * bars;

@@ -93,26 +93,41 @@ std::int64_t CostOf(const Supply& supply, const std::map<int, std::int64_t>& bou
 
 }  // namespace
 
-std::vector<std::string> FindFaults(const Problem& problem, const Plan& plan) {
-  if (plan.groups.size() != problem.groups.size()) {
-    return {std::to_string(plan.groups.size()) + " groups are planned, not " +
-            std::to_string(problem.groups.size())};
-  }
-  Faults faults;
-  std::vector<Taken> taken(problem.supplies.size());
-  for (std::size_t g = 0; g < plan.groups.size(); ++g) {
-    const Group& group = problem.groups[g];
-    GroupCheck check(problem, g, plan.groups[g]);
-    Append(faults, check.Run());
-    const std::int64_t cost = CostOf(problem.supplies[group.supply], check.Bought());
-    Append(faults, CheckPrices(problem, group, plan.groups[g], cost));
-    for (const auto& [mm, bars] : check.Bought()) taken[group.supply].bought[mm] += bars;
-    for (const auto& [mm, bars] : check.Rests()) taken[group.supply].rests[mm] += bars;
-  }
-  for (std::size_t s = 0; s < taken.size(); ++s)
-    Append(faults, CheckSupply(problem, problem.supplies[s], taken[s]));
-  for (const Advice& advice : plan.advice) Append(faults, CheckAdvice(problem, advice));
+Verifier::Verifier(const Problem& problem)
+    : problem_(problem), groups_(problem.groups.size()), sound_(problem.groups.size(), false) {}
+
+Faults Verifier::CheckGroup(std::size_t group, const GroupPlan& plan) {
+  GroupCheck check(problem_, group, plan);
+  Faults faults = check.Run();
+  const Group& of = problem_.groups[group];
+  Append(faults, CheckPrices(problem_, of, plan, CostOf(problem_.supplies[of.supply], check.Bought())));
+  groups_[group] = {plan, check.Bought(), check.Rests()};
   return faults;
 }
+
+Faults Verifier::FindFaults(const Plan& plan) {
+  if (plan.groups.size() != problem_.groups.size()) {
+    return {std::to_string(plan.groups.size()) + " groups are planned, not " +
+            std::to_string(problem_.groups.size())};
+  }
+  Faults faults;
+  std::vector<Taken> taken(problem_.supplies.size());
+  for (std::size_t g = 0; g < plan.groups.size(); ++g) {
+    if (!sound_[g] || groups_[g].plan != plan.groups[g]) {
+      Faults found = CheckGroup(g, plan.groups[g]);
+      sound_[g] = found.empty();
+      Append(faults, std::move(found));
+    }
+    Taken& of_supply = taken[problem_.groups[g].supply];
+    for (const auto& [mm, bars] : groups_[g].bought) of_supply.bought[mm] += bars;
+    for (const auto& [mm, bars] : groups_[g].rests) of_supply.rests[mm] += bars;
+  }
+  for (std::size_t s = 0; s < taken.size(); ++s)
+    Append(faults, CheckSupply(problem_, problem_.supplies[s], taken[s]));
+  for (const Advice& advice : plan.advice) Append(faults, CheckAdvice(problem_, advice));
+  return faults;
+}
+
+Faults FindFaults(const Problem& problem, const Plan& plan) { return Verifier(problem).FindFaults(plan); }
 
 }  // namespace rbt::planning

@@ -11,7 +11,6 @@
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "store/database.h"
-#include "tally/closing_sums.h"
 #include "tally/rows/bulk_statement.h"
 #include "tally/rows/row_walk.h"
 #include "tally/spiral_reader.h"
@@ -35,6 +34,8 @@ void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");
 }
 
+}  // namespace
+
 RowRules BulkRowRules(const SelectionData& selection) {
   RowRules rules;
   rules.hoops = selection.HoopMode;
@@ -44,7 +45,7 @@ RowRules BulkRowRules(const SelectionData& selection) {
   return rules;
 }
 
-}  // namespace
+ClosingRules BulkClosingRules() { return {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1}; }
 
 void Jyuuryo_Syukei() {
   const RowRules rules = BulkRowRules(Selection);
@@ -58,7 +59,7 @@ void Jyuuryo_Syukei() {
     Database companion = Database::OpenReadOnly(MapPath(CompanionDatabasePath()));
     FoldSpirals(table, ReadSpirals(companion), Selection);
   }
-  CloseSums(table, {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1});
+  CloseSums(table, BulkClosingRules());
   TallyGrid = std::move(table);
 }
 

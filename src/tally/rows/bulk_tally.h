@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tally/closing_sums.h"
+#include "tally/rows/row_fold.h"
+#include "tally/selection.h"
 #include "tally/tally_grid.h"
 
 namespace rbt {
+
+/// How the bulk tally takes rows in under a selection, and how it closes its sums, by the settings as they
+/// stand.
+RowRules BulkRowRules(const SelectionData& selection);
+ClosingRules BulkClosingRules();
 
 /// Tallies the whole site under the selection into `TallyGrid` and sets the presence flags of `RunState`.
 /// `SiteContext.WorkDatabase` must be open. While `AccumulateFlag` is set it adds to what `LoadAccumulation`

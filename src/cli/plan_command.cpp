@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+#include <string>
+
+#include "cli/asked_tally.h"
+#include "cli/command_line.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/plan_options.h"
+#include "planning/input/make_problem.h"
+#include "planning/make_plan.h"
+#include "planning/outcome/outcome.h"
+#include "planning/outcome/plan_json.h"
+#include "planning/outcome/plan_text.h"
+#include "platform/files/files.h"
+#include "platform/system/interrupt.h"
+
+namespace rbt {
+
+namespace {
+
+planning::Problem ProblemOf(const PlanCommandOptions& options, const PlanRequest& request) {
+  if (!options.pieces_file.empty()) {
+    return planning::MakeProblem(planning::ParsePieces(ReadFileBytes(options.pieces_file)), request.offer,
+                                 request.options);
+  }
+  planning::Problem problem;
+  CountAskedTally("bulk", options.common, options.selection, [&] { problem = SiteProblem(request); });
+  return problem;
+}
+
+std::string TextOf(const planning::Outcome& outcome, const std::string& format) {
+  if (format == "json") return planning::PlanJson(outcome);
+  return format == "csv" ? planning::PlanCsv(outcome) : planning::PlanTable(outcome);
+}
+
+planning::PlanListener ListenerOf(const planning::Problem& problem, bool progress) {
+  if (!progress) return nullptr;
+  return [&problem](const planning::Plan& plan, std::size_t done, std::size_t of) {
+    ReportError(planning::ProgressText(problem, plan, done, of));
+  };
+}
+
+void RunPlan(const PlanCommandOptions& options) {
+  InterruptWatch interrupt;
+  const PlanRequest request = PlanRequestOf(options);
+  const planning::Problem problem = ProblemOf(options, request);
+  const planning::StopSignal stop =
+      planning::StopAfter(options.time_limit, [&interrupt] { return interrupt.Requested(); });
+  const planning::Plan plan = planning::MakePlan(problem, stop, ListenerOf(problem, options.progress));
+  WriteResult(TextOf(planning::Describe(problem, plan), options.format));
+}
+
+}  // namespace
+
+Action DefinePlan(CommandLine& line) {
+  auto options = std::make_shared<PlanCommandOptions>();
+  AddCommonOptions(line, options->common);
+  AddSelectionOptions(line, options->selection);
+  AddPlanOptions(line, *options);
+  AddFormatOption(line, options->format);
+  return [options] { RunPlan(*options); };
+}
+
+}  // namespace rbt
