@@ -64,10 +64,19 @@ class GroupJudge {
   std::unique_ptr<Columns> columns_;
 };
 
+/// Bars in parts are a judge of large groups; of small ones, where sets cost alike, whole bars tell more.
 struct JudgedSet {
   LengthSet lengths;
-  double cost = kImpossible;
+  double cost = kImpossible;   ///< of the linear program, where it is solved
+  double guess = kImpossible;  ///< of the greedy plans
 };
+
+bool Gains(double cost, double over) { return cost < over * (1.0 - kGain); }
+
+bool IsCheaper(const JudgedSet& a, const JudgedSet& b) {
+  if (Gains(a.cost, b.cost)) return true;
+  return !Gains(b.cost, a.cost) && a.guess < b.guess;
+}
 
 /// What all groups of a supply cost from a set of lengths.
 class Judge {
@@ -85,20 +94,22 @@ class Judge {
     for (LengthSet& set : sets) {
       if (pace_.Stopped()) return {};
       if (!HoldsAll(problem_, groups_, set)) continue;
-      judged.push_back({std::move(set), 0.0});
-      for (const auto& judge : judges_) judged.back().cost += judge->Guess(judged.back().lengths);
+      judged.push_back({std::move(set), 0.0, 0.0});
+      for (const auto& judge : judges_) judged.back().guess += judge->Guess(judged.back().lengths);
     }
-    const auto by_cost = [](const JudgedSet& a, const JudgedSet& b) { return a.cost < b.cost; };
-    std::ranges::stable_sort(judged, by_cost);
+    std::ranges::stable_sort(judged, {}, &JudgedSet::guess);
     if (judged.size() > most) judged.resize(most);
     for (JudgedSet& set : judged) set.cost = Cost(set);
-    const auto best = std::ranges::min_element(judged, by_cost);
-    return best == judged.end() || pace_.Stopped() ? JudgedSet{} : *best;
+    JudgedSet best;
+    for (JudgedSet& set : judged) {
+      if (best.lengths.empty() || IsCheaper(set, best)) best = std::move(set);
+    }
+    return pace_.Stopped() ? JudgedSet{} : best;
   }
 
  private:
   double Cost(const JudgedSet& guessed) {
-    if (!judges_.front()->CanTellMore()) return guessed.cost;
+    if (!judges_.front()->CanTellMore()) return guessed.guess;
     double cost = 0.0;
     for (const auto& judge : judges_) cost += pace_.Stopped() ? kImpossible : judge->Cost(guessed.lengths);
     return cost;
@@ -129,8 +140,6 @@ JudgedSet BestWithOneMore(Judge& judge, const LengthSet& base, const LengthSet& 
   return judge.Cheapest(std::move(sets), judged);
 }
 
-bool Gains(double cost, double over) { return cost < over * (1.0 - kGain); }
-
 /// Exchanges one length for another as long as that gains.
 void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all) {
   bool gained = set.lengths.size() > 1;
@@ -138,7 +147,7 @@ void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all) {
     gained = false;
     for (const std::size_t length : LengthSet(set.lengths)) {
       JudgedSet other = BestWithOneMore(judge, Without(set.lengths, length), all, kJudgedOfExchanged);
-      if (!Gains(other.cost, set.cost)) continue;
+      if (other.lengths.empty() || !IsCheaper(other, set)) continue;
       set = std::move(other);
       gained = true;
     }
@@ -203,11 +212,11 @@ std::vector<LengthSet> SearchLengthSets(const Problem& problem, std::size_t supp
   while (last.lengths.size() < std::min(most, all.size())) {
     JudgedSet next = BestWithOneMore(judge, last.lengths, all, kJudgedOfGrown);
     if (sets.empty() && next.lengths.empty()) {
-      next.lengths = Cover(problem, groups);
-      next.cost = judge.Cheapest({next.lengths}, 1).cost;
+      next = judge.Cheapest({Cover(problem, groups)}, 1);
     }
+    if (next.lengths.empty()) break;
     Exchange(judge, next, all);
-    if (next.lengths.size() > most || (!sets.empty() && !Gains(next.cost, last.cost))) break;
+    if (next.lengths.size() > most || (!sets.empty() && !IsCheaper(next, last))) break;
     last = next;
     sets.push_back(std::move(next.lengths));
   }

@@ -129,7 +129,8 @@ LimitedSupply::Plans LimitedSupply::MakePlans(const LengthSet& lengths, Method m
 }
 
 void LimitedSupply::ConsiderWithFullLots(LengthSet lengths, bool by_columns, Pace& pace) {
-  while (true) {
+  // What a plan uses may hold too little: some of its pieces come out of rest bars.
+  while (HoldsAll(problem_, groups_, lengths)) {
     const Plans plans = Consider(lengths, by_columns, pace);
     if (KeepsLimits(plans)) return;
     const LengthSet used = UsedLengths(supply_, plans);
