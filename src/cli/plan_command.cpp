@@ -6,6 +6,7 @@
 #include "cli/command_line.h"
 #include "cli/options.h"
 #include "cli/output.h"
+#include "cli/output_options.h"
 #include "cli/plan_options.h"
 #include "planning/input/make_problem.h"
 #include "planning/make_plan.h"
@@ -13,7 +14,17 @@
 #include "planning/outcome/plan_json.h"
 #include "planning/outcome/plan_text.h"
 #include "platform/files/files.h"
+#include "platform/print/diverted_deliveries.h"
+#include "platform/system/clock.h"
 #include "platform/system/interrupt.h"
+#include "platform/system/message.h"
+#include "platform/system/printing.h"
+#include "reports/frame/cut_figure_message.h"
+#include "reports/frame/print_frame.h"
+#include "reports/frame/report_head.h"
+#include "reports/frame/report_site.h"
+#include "reports/plan/purchase_sheet.h"
+#include "reports/plan/shop_sheet.h"
 
 namespace rbt {
 
@@ -41,14 +52,51 @@ planning::PlanListener ListenerOf(const planning::Problem& problem, bool progres
   };
 }
 
+/// What the sheets have at their head; a plan of a file has no site.
+PlanSheetHead HeadOf(const PlanCommandOptions& options) {
+  PlanSheetHead head;
+  ReportDate date;
+  if (options.pieces_file.empty()) {
+    const ReportSite site = ReadReportSite();
+    head.project = site.long_name.empty() ? site.short_name : site.long_name;
+    head.client = site.client;
+    date.western = site.western_dates;
+  }
+  const DateTexts today = DefaultDateTexts(Now());
+  date = {date.western, today.year, today.month, today.day};
+  head.date = DateText(date);
+  return head;
+}
+
+void WriteSheet(const std::string& file, const std::function<void(PrinterSurface& Printer)>& sheet) {
+  if (file.empty()) return;
+  DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
+  PrintReport(kPortrait, kPaperKindA4, sheet);
+  WritePdf(diverted.Take(), file);
+}
+
+void WriteSheets(const PlanCommandOptions& options, const planning::Outcome& outcome) {
+  const PlanSheetHead head = HeadOf(options);
+  WriteSheet(options.shop_sheet, [&](PrinterSurface& Printer) { DrawShopSheet(Printer, head, outcome); });
+  WriteSheet(options.purchase_sheet, [&](PrinterSurface& Printer) {
+    const CutFigures cut = DrawPurchaseSheet(Printer, head, outcome);
+    if (!cut.empty()) MsgBox(CutFigureMessage(cut));
+  });
+}
+
 void RunPlan(const PlanCommandOptions& options) {
   InterruptWatch interrupt;
+  RequireOutputs({{"--shop-sheet", {options.shop_sheet, OutputKind::pdf}},
+                  {"--purchase-sheet", {options.purchase_sheet, OutputKind::pdf}}},
+                 options.force);
   const PlanRequest request = PlanRequestOf(options);
   const planning::Problem problem = ProblemOf(options, request);
   const planning::StopSignal stop =
       planning::StopAfter(options.time_limit, [&interrupt] { return interrupt.Requested(); });
   const planning::Plan plan = planning::MakePlan(problem, stop, ListenerOf(problem, options.progress));
-  WriteResult(TextOf(planning::Describe(problem, plan), options.format));
+  const planning::Outcome outcome = planning::Describe(problem, plan);
+  if (!options.shop_sheet.empty() || !options.purchase_sheet.empty()) WriteSheets(options, outcome);
+  WriteResult(TextOf(outcome, options.format));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cli/command_line.h"
+#include "cli/output_options.h"
 #include "planning/input/plan_files.h"
 #include "planning/input/scopes.h"
 #include "platform/files/files.h"
@@ -90,6 +91,9 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
       "seconds after which the best so far is the plan; default 10");
   line.NumberOption("--advise", options.advise, 0, kMostLengths,
                     "what the best 1 to so many lengths would lose");
+  line.TextOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
+  line.TextOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
+  AddForceOption(line, options.force);
   line.Flag("--progress", options.progress, "tell on standard error how far the plan is");
 }
 

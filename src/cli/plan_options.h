@@ -34,6 +34,9 @@ struct PlanCommandOptions {
   std::int32_t advise = 0;
   double time_limit = 10.0;  ///< seconds
   bool progress = false;
+  std::string shop_sheet;      ///< PDF file; empty: none
+  std::string purchase_sheet;  ///< likewise
+  bool force = false;
   std::string format = "table";
 };
 
