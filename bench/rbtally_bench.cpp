@@ -8,11 +8,11 @@
 #include <filesystem>
 #include <functional>
 #include <map>
-#include <stdexcept>
 #include <string>
 
 #include <benchmark/benchmark.h>
 
+#include "bench_site.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/services.h"
 #include "session/startup/startup.h"
@@ -35,26 +35,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path& Folder() {
-  static const fs::path folder = [] {
-    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    std::atexit([] { fs::remove_all(Folder()); });
-    return fs::path(pattern);
-  }();
-  return folder;
-}
-
 /// A demonstration root with so many rows in its first site, its schedule as the entry programs leave it,
 /// made once.
 const fs::path& DemoRoot(std::int64_t rows) {
   static std::map<std::int64_t, fs::path> roots;
   fs::path& root = roots[rows];
   if (!root.empty()) return root;
-  root = Folder() / std::to_string(rows);
-  const std::string command =
-      std::string(RBTALLY_PROGRAM) + " demo " + root.string() + " --sites 1 --rows " + std::to_string(rows);
-  if (std::system((command + " >/dev/null").c_str()) != 0) throw std::runtime_error("failed: " + command);
+  root = MakeDemoRoot(Folder() / std::to_string(rows), rows, 1);
   fs::copy_file(root / "DATA/GENBA001.MDB", root / "fresh.MDB");
   return root;
 }

@@ -2,7 +2,6 @@
 #include "planning/verify/price_check.h"
 
 #include <algorithm>
-#include <deque>
 #include <numeric>
 
 #include "planning/verify/group_check.h"
@@ -23,18 +22,23 @@ struct Priced {
 /// of as many multiples of its room slides over the worths without it.
 std::vector<std::int64_t> MostWorth(const std::vector<Priced>& pieces, std::int64_t largest) {
   std::vector<std::int64_t> worth(static_cast<std::size_t>(largest) + 1, 0);
+  struct Bare {
+    std::int64_t pieces;  ///< so far
+    std::int64_t worth;   ///< as if none of them were taken
+  };
+  std::vector<Bare> window;
   for (const Priced& piece : pieces) {
     if (piece.price == 0) continue;
     for (std::int64_t offset = 0; offset < std::min(piece.room, largest + 1); ++offset) {
-      std::deque<std::pair<std::int64_t, std::int64_t>>
-          window;  // (pieces so far, worth as if none were taken)
+      window.clear();
+      std::size_t first = 0;
       for (std::int64_t n = 0; offset + n * piece.room <= largest; ++n) {
         std::int64_t& at = worth[static_cast<std::size_t>(offset + n * piece.room)];
         const std::int64_t bare = at - n * piece.price;
-        while (!window.empty() && window.back().second <= bare) window.pop_back();
-        window.emplace_back(n, bare);
-        while (window.front().first < n - piece.count) window.pop_front();
-        at = window.front().second + n * piece.price;
+        while (window.size() > first && window.back().worth <= bare) window.pop_back();
+        window.push_back({n, bare});
+        while (window[first].pieces < n - piece.count) ++first;
+        at = window[first].worth + n * piece.price;
       }
     }
   }

@@ -43,6 +43,6 @@ class Verifier {
 };
 
 /// Cells of the table by which prices are checked.
-inline constexpr long long kLargestTable = 400'000'000;
+inline constexpr long long kLargestTable = 100'000'000;
 
 }  // namespace rbt::planning
