@@ -4,6 +4,7 @@
 
 usage: plan_test.py RBTALLY [ROUNDS [SEED]]"""
 
+import copy
 import csv
 import io
 import json
@@ -273,6 +274,55 @@ class Round:
         return [f"refused: {err}"]
 
 
+def spoil_each(doc, spoil=()):
+    """The document again and again, one number, text or flag of it changed: (where, spoilt)."""
+    def places(value, path):
+        if isinstance(value, dict):
+            for name, item in value.items():
+                yield from places(item, (*path, name))
+        elif isinstance(value, list):
+            for index, item in enumerate(value):
+                yield from places(item, (*path, index))
+        elif value is not None:
+            yield path
+
+    for path in places(doc, spoil):
+        spoilt = copy.deepcopy(doc)
+        holder = spoilt
+        for step in path[:-1]:
+            holder = holder[step]
+        old = holder[path[-1]]
+        holder[path[-1]] = (not old) if isinstance(old, bool) else old + 1 if isinstance(old, (int, float)) else old + "x"
+        yield path, spoilt
+
+
+def judge_the_judge(rbtally, root):
+    """A sound plan spoilt in one place at a time: the judge must see each, but for what may differ."""
+    one = Round(rbtally, root, 1)
+    options = {"kerf": 3, "trim": 20, "plus": 10, "mix": 2, "maxLengths": 0, "usable": 300, "scope": "site", "welded": "plan",
+               "aim": "steel"}
+    task = plan_judge.Task(options, {16: {6000: (90000, 0), 9000: (None, 0), 12000: (None, 0)}}, [(16, 1, 3000, 2)], False)
+    rows = [("length", "count", "diameter"), (2340, 17, 16), (1210, 9, 16), (4100, 6, 16)]
+    for line, (cut, n, d) in enumerate(rows[1:], 2):
+        task.add((0, "site", d, 1, False), cut, (0, line, n, 0, 0))
+    lengths = one.write("lengths.csv", [("diameter", "length", "price", "min_kg"), (16, 6000, 90000, None), (16, 9000, None, None),
+                                        (16, 12000, None, None)])
+    rests = one.write("rests.csv", [("diameter", "kind", "length", "count"), (16, 1, 3000, 2)])
+    words = ["--pieces=" + one.write("pieces.csv", rows), f"--lengths-file={lengths}", f"--rests={rests}", *words_of(options)]
+    doc = json.loads(one.plan([*words, "--format=json", "--advise=2"])[1])
+    plan_judge.judge(task, doc, advise=2)
+    for path, spoilt in spoil_each(doc):
+        if path[-1] == "method" or "advice" in path:
+            continue
+        if "prices" in path or path[-2:] == ("bound", "cost"):
+            continue  # a price may be higher where nothing is worth too much by it
+        try:
+            plan_judge.judge(task, spoilt, advise=2)
+        except plan_judge.Fault:
+            continue
+        sys.exit(f"the judge lets {path} pass")
+
+
 def main():
     rbtally = os.path.abspath(sys.argv[1])
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 100
@@ -283,6 +333,7 @@ def main():
                        env={**os.environ, "RBK_SETTINGS": str(Path(folder) / "settings.ini")})
         shutil.copy(root / "DATA/GENBA001.MDB", root / "pristine.MDB")
         shutil.copy(root / "DATA/STEEL.INI", root / "pristine.INI")
+        judge_the_judge(rbtally, root)
         for number in range(rounds):
             one = Round(rbtally, root, seed + number)
             found = one.site() if number % 2 else one.pieces()
