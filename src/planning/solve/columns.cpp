@@ -190,7 +190,7 @@ void Columns::Purge() {
 }
 
 void Columns::ReadPrices() {
-  const std::span<const double> duals = lp_.Prices();
+  const ViewByIndex<const double> duals = lp_.Prices();
   for (int item = 0; item < items_; ++item)
     prices_[item] = left_[item] == 0 ? 0.0 : std::max(0.0, duals[item]);
   for (int bar = 0; bar < bars_ && task_.bars[bar].rest; ++bar) {
@@ -272,7 +272,7 @@ void Columns::BeginBound() {
   }
   for (int bar = 0; bar < bars_; ++bar) dearest_[bar] = {bar, -1, 0, task_.bars[bar].capacity * dearest};
   bound_ = 0.0;
-  bound_prices_.assign(items_, 0.0);
+  bound_prices_.assign(task_.items.size(), 0.0);
   UpdateBound();
 }
 

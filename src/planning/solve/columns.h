@@ -91,20 +91,20 @@ class Columns {
   Pace& pace_;
   int items_;
   int bars_;
-  std::vector<std::int64_t> left_;
-  std::vector<std::int64_t> bars_left_;  ///< of rest bars
-  std::vector<bool> allowed_;            ///< of each bar
-  std::vector<double> cost_;  ///< of each bar in the program: equal costs are told apart by the table weight
-  double whole_cost_ = 0.0;   ///< of which every cost of whole bars is a multiple; 0: of nothing
+  ByIndex<std::int64_t> left_;
+  ByIndex<std::int64_t> bars_left_;  ///< of rest bars
+  ByIndex<bool> allowed_;            ///< of each bar
+  ByIndex<double> cost_;     ///< of each bar in the program: equal costs are told apart by the table weight
+  double whole_cost_ = 0.0;  ///< of which every cost of whole bars is a multiple; 0: of nothing
   CoverLp lp_;
   std::unique_ptr<ContentTable> table_;
   std::vector<Column> columns_;
   std::set<std::pair<int, Content>> known_;
-  std::vector<double> prices_;    ///< of the items
-  std::vector<double> scarcity_;  ///< of each rest bar: what one more would save
-  std::vector<Lead> dearest_;     ///< of each bar
+  ByIndex<double> prices_;    ///< of the items
+  ByIndex<double> scarcity_;  ///< of each rest bar: what one more would save
+  ByIndex<Lead> dearest_;     ///< of each bar
   double bound_ = 0.0;
-  std::vector<double> bound_prices_;
+  ByIndex<double> bound_prices_;
 };
 
 }  // namespace rbt::planning

@@ -13,7 +13,7 @@ class WholePrices {
  public:
   using Worth = std::int32_t;
 
-  void Set(const CuttingTask& task, std::span<const double> prices) {
+  void Set(const CuttingTask& task, ViewByIndex<const double> prices) {
     double dearest = 0.0;  // by weight: no content is worth more than the largest bar full of it
     for (std::size_t i = 0; i < prices.size(); ++i) {
       dearest = std::max(dearest, prices[i] / task.items[i].weight);
@@ -30,7 +30,7 @@ class WholePrices {
   static constexpr double kLargest = 1 << 30;
 
   double scale_ = 1.0;
-  std::vector<Worth> whole_;
+  ByIndex<Worth> whole_;
 };
 
 int Most(const CuttingTask& task, int item, int capacity, std::int64_t left) {
@@ -40,7 +40,7 @@ int Most(const CuttingTask& task, int item, int capacity, std::int64_t left) {
 /// A bar that the leading item fills alone.
 class NothingMore : public ContentTable {
  public:
-  void Fill(std::span<const double> /*prices*/, std::span<const std::int64_t> /*left*/) override {}
+  void Fill(ViewByIndex<const double> /*prices*/, ViewByIndex<const std::int64_t> /*left*/) override {}
   double Worth(int /*capacity*/) const override { return 0.0; }
   Content ContentAt(int /*capacity*/) const override { return {}; }
   std::int64_t Steps() const override { return 0; }
@@ -49,9 +49,10 @@ class NothingMore : public ContentTable {
 /// One item by itself.
 class OneItem : public ContentTable {
  public:
-  explicit OneItem(const CuttingTask& task) : task_(task), cells_(task.LargestCapacity() + 1) {}
+  explicit OneItem(const CuttingTask& task)
+      : task_(task), cells_(static_cast<std::size_t>(task.LargestCapacity()) + 1) {}
 
-  void Fill(std::span<const double> prices, std::span<const std::int64_t> left) override {
+  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
     std::ranges::fill(cells_, Cell{});
     const int capacity = task_.LargestCapacity();
     for (int i = 0; i < static_cast<int>(prices.size()); ++i) {
@@ -79,7 +80,7 @@ class OneItem : public ContentTable {
   };
 
   const CuttingTask& task_;
-  std::vector<Cell> cells_;
+  ByIndex<Cell> cells_;
 };
 
 /// Any items: the pieces of an item come in bundles of 1, 2, 4, ... and the rest, each taken or not.
@@ -88,7 +89,7 @@ class AnyItems : public ContentTable {
   explicit AnyItems(const CuttingTask& task)
       : task_(task), size_(static_cast<std::size_t>(task.LargestCapacity()) + 1), next_(size_) {}
 
-  void Fill(std::span<const double> prices, std::span<const std::int64_t> left) override {
+  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
     prices_.Set(task_, prices);
     bundles_.clear();
     worth_.assign(size_, 0);
@@ -110,7 +111,7 @@ class AnyItems : public ContentTable {
   Content ContentAt(int capacity) const override {
     Content content;
     for (std::size_t b = bundles_.size(); b-- > 0;) {
-      if (taken_[b * size_ + capacity] == 0) continue;
+      if (taken_[b * size_ + static_cast<std::size_t>(capacity)] == 0) continue;
       const auto [item, pieces] = bundles_[b];
       capacity -= pieces * task_.items[item].weight;
       if (content.empty() || content.back().first != item) content.emplace_back(item, 0);
@@ -130,7 +131,7 @@ class AnyItems : public ContentTable {
 
   void TakeOrLeave(std::size_t bundle) {
     const auto [item, pieces] = bundles_[bundle];
-    const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight) * pieces;
+    const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight * pieces);
     const WholePrices::Worth worth = prices_.Of(item) * pieces;
     std::uint8_t* taken = taken_.data() + bundle * size_;
     const WholePrices::Worth* before = worth_.data();
@@ -149,7 +150,7 @@ class AnyItems : public ContentTable {
   std::size_t size_;
   WholePrices prices_;
   std::vector<Bundle> bundles_;
-  std::vector<WholePrices::Worth> worth_;  ///< by capacity
+  ByIndex<WholePrices::Worth> worth_;  ///< by capacity
   std::vector<WholePrices::Worth> next_;
   std::vector<std::uint8_t> taken_;  ///< bundle by bundle, by capacity
 };
@@ -161,10 +162,10 @@ class FewItems : public ContentTable {
       : task_(task),
         kinds_(kinds),
         size_(static_cast<std::size_t>(task.LargestCapacity()) + 1),
-        worth_(kinds + 1),
-        pieces_(task.items.size() * kinds * size_) {}
+        worth_(static_cast<std::size_t>(kinds) + 1),
+        pieces_(task.items.size() * static_cast<std::size_t>(kinds) * size_) {}
 
-  void Fill(std::span<const double> prices, std::span<const std::int64_t> left) override {
+  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
     prices_.Set(task_, prices);
     for (auto& row : worth_) row.assign(size_, 0);
     for (int i = 0; i < static_cast<int>(prices.size()); ++i) {
@@ -193,17 +194,19 @@ class FewItems : public ContentTable {
   std::int64_t Steps() const override { return static_cast<std::int64_t>(pieces_.size()) * 2; }
 
  private:
-  std::span<const std::uint8_t> Pieces(int item, int kinds) const {
-    return std::span(pieces_).subspan((static_cast<std::size_t>(item) * kinds_ + kinds - 1) * size_, size_);
+  ViewByIndex<const std::uint8_t> Pieces(int item, int kinds) const {
+    return std::span(pieces_).subspan(Row(item, kinds) * size_, size_);
   }
+  /// Where the pieces of an item stand as one of so many items.
+  std::size_t Row(int item, int kinds) const { return static_cast<std::size_t>(item * kinds_ + kinds - 1); }
 
   void TakeSome(int item, int kinds, int most) {
-    std::uint8_t* taken = pieces_.data() + (static_cast<std::size_t>(item) * kinds_ + kinds - 1) * size_;
+    std::uint8_t* taken = pieces_.data() + Row(item, kinds) * size_;
     std::fill_n(taken, size_, std::uint8_t{0});
     const WholePrices::Worth* fewer = worth_[kinds - 1].data();
     WholePrices::Worth* row = worth_[kinds].data();
     for (int pieces = 1; pieces <= most; ++pieces) {
-      const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight) * pieces;
+      const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight * pieces);
       const WholePrices::Worth worth = prices_.Of(item) * pieces;
       for (std::size_t c = weight; c < size_; ++c) {
         const WholePrices::Worth with = fewer[c - weight] + worth;
@@ -219,8 +222,8 @@ class FewItems : public ContentTable {
   int kinds_;
   std::size_t size_;
   WholePrices prices_;
-  std::vector<std::vector<WholePrices::Worth>> worth_;  ///< by number of items, by capacity
-  std::vector<std::uint8_t> pieces_;                    ///< by item, number of items, capacity
+  ByIndex<ByIndex<WholePrices::Worth>> worth_;  ///< by number of items, by capacity
+  std::vector<std::uint8_t> pieces_;            ///< by item, number of items, capacity
 };
 
 }  // namespace

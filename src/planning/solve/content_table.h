@@ -3,8 +3,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 
+#include "planning/solve/by_index.h"
 #include "planning/solve/cutting_task.h"
 
 namespace rbt::planning {
@@ -15,7 +15,7 @@ class ContentTable {
   virtual ~ContentTable() = default;
 
   /// `prices`, at least 0, and `left`, how often an item may be taken, are parallel to the items.
-  virtual void Fill(std::span<const double> prices, std::span<const std::int64_t> left) = 0;
+  virtual void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) = 0;
   /// Of the last fill, by a capacity from 0 to the task's largest: the worth, up to rounding, and a content
   /// that has it.
   virtual double Worth(int capacity) const = 0;

@@ -87,8 +87,8 @@ CuttingTask MakeTask(const Problem& problem, const Group& group) {
   return MakeTask(problem, group, AllLengths(supply), AllRests(supply));
 }
 
-std::vector<std::int64_t> DemandOf(const CuttingTask& task) {
-  std::vector<std::int64_t> demand;
+ByIndex<std::int64_t> DemandOf(const CuttingTask& task) {
+  ByIndex<std::int64_t> demand;
   for (const Item& item : task.items) demand.push_back(item.demand);
   return demand;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "planning/problem/problem.h"
+#include "planning/solve/by_index.h"
 
 namespace rbt::planning {
 
@@ -41,9 +42,9 @@ using Cutting = std::vector<CutBars>;
 
 /// One group as the solver sees it.
 struct CuttingTask {
-  std::vector<Item> items;  ///< by falling cut
-  std::vector<Bar> bars;    ///< rest bars first, then bars to buy, each by rising length
-  int mix = 0;              ///< at most so many items on a bar; 0: any number
+  ByIndex<Item> items;  ///< by falling cut
+  ByIndex<Bar> bars;    ///< rest bars first, then bars to buy, each by rising length
+  int mix = 0;          ///< at most so many items on a bar; 0: any number
 
   /// The number of pieces of an item that fit a bar, demand aside.
   int MostPieces(int item, int bar) const;
@@ -64,7 +65,7 @@ CuttingTask MakeTask(const Problem& problem, const Group& group, const LengthSet
 /// With all lengths and all rests.
 CuttingTask MakeTask(const Problem& problem, const Group& group);
 
-std::vector<std::int64_t> DemandOf(const CuttingTask& task);
+ByIndex<std::int64_t> DemandOf(const CuttingTask& task);
 Micros CostOf(const CuttingTask& task, const Cutting& cutting);
 
 }  // namespace rbt::planning

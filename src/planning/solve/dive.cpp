@@ -178,8 +178,8 @@ class Diver {
   // The dive under way.
   Cutting cut_;
   Micros cut_cost_ = 0;
-  std::vector<std::int64_t> left_;
-  std::vector<std::int64_t> bars_left_;
+  ByIndex<std::int64_t> left_;
+  ByIndex<std::int64_t> bars_left_;
   std::vector<Fraction> fractions_;  ///< what the last solve has of bars that are not whole
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 class Greedy {
  public:
-  Greedy(const CuttingTask& task, std::vector<std::int64_t> left)
+  Greedy(const CuttingTask& task, ByIndex<std::int64_t> left)
       : task_(task), left_(std::move(left)), sums_(task, left_) {
     for (const Bar& bar : task.bars) available_.push_back(bar.rest ? bar.available : kNoEnd);
   }
@@ -68,15 +68,15 @@ class Greedy {
   }
 
   const CuttingTask& task_;
-  std::vector<std::int64_t> left_;
-  std::vector<std::int64_t> available_;
+  ByIndex<std::int64_t> left_;
+  ByIndex<std::int64_t> available_;
   ReachableSums sums_;
   Cutting cutting_;
 };
 
 }  // namespace
 
-Cutting CutGreedily(const CuttingTask& task, std::vector<std::int64_t> left) {
+Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left) {
   return Greedy(task, std::move(left)).Cut();
 }
 

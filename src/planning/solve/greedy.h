@@ -11,7 +11,7 @@ namespace rbt::planning {
 /// Cuts what is left of each item: bar by bar, the longest piece left with those that fill the rest of a bar
 /// best, from the bar that costs least for what it carries; rest bars before any that is bought. Every item
 /// must fit a bar that can be bought.
-Cutting CutGreedily(const CuttingTask& task, std::vector<std::int64_t> left);
+Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left);
 
 /// What such a cutting took, in steps of about a nanosecond.
 std::int64_t GreedySteps(const CuttingTask& task, const Cutting& cutting);

@@ -13,10 +13,10 @@ namespace {
 constexpr Micros kUnit = 1'000'000;
 
 /// What the dearest content of every capacity is worth, none of an item more often than it is to be cut.
-std::vector<Micros> DearestWorths(const CuttingTask& task, std::span<const Micros> prices) {
+std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices) {
   const int capacity = task.LargestCapacity();
-  std::vector<Micros> worth(static_cast<std::size_t>(capacity) + 1, 0);
-  std::vector<Micros> next(worth);
+  ByIndex<Micros> worth(static_cast<std::size_t>(capacity) + 1, 0);
+  ByIndex<Micros> next(worth);
   for (std::size_t i = 0; i < prices.size(); ++i) {
     const Item& item = task.items[i];
     auto most = static_cast<int>(std::min<std::int64_t>(item.demand, capacity / item.weight));
@@ -34,12 +34,13 @@ std::vector<Micros> DearestWorths(const CuttingTask& task, std::span<const Micro
   return worth;
 }
 
-Micros DearestOf(const Bar& bar, std::span<const Micros> worths, std::span<const Micros> prices) {
+Micros DearestOf(const Bar& bar, ViewByIndex<const Micros> worths, ViewByIndex<const Micros> prices) {
   const Micros whole = bar.whole_item >= 0 ? prices[bar.whole_item] : 0;
   return std::max(worths[bar.capacity], whole);
 }
 
-Micros BoundOf(const CuttingTask& task, std::span<const Micros> prices, std::span<const Micros> rest_worths) {
+Micros BoundOf(const CuttingTask& task, ViewByIndex<const Micros> prices,
+               ViewByIndex<const Micros> rest_worths) {
   Micros bound = 0;
   for (std::size_t i = 0; i < prices.size(); ++i) bound += prices[i] * task.items[i].demand;
   for (std::size_t b = 0; b < task.bars.size(); ++b) {
@@ -48,8 +49,8 @@ Micros BoundOf(const CuttingTask& task, std::span<const Micros> prices, std::spa
   return std::max<Micros>(0, bound);
 }
 
-std::vector<Micros> RestWorths(const CuttingTask& task, std::span<const Micros> worths,
-                               std::span<const Micros> prices) {
+std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros> worths,
+                               ViewByIndex<const Micros> prices) {
   std::vector<Micros> of;
   for (const Bar& bar : task.bars) of.push_back(bar.rest ? DearestOf(bar, worths, prices) : 0);
   return of;
@@ -86,7 +87,7 @@ std::vector<double> MaterialPrices(const CuttingTask& task) {
     const double price = static_cast<double>(bar.cost) / kUnit / bar.capacity;
     if (least == 0.0 || price < least) least = price;
   }
-  std::vector<double> prices;
+  ByIndex<double> prices;
   for (const Item& item : task.items) prices.push_back(item.weight * least);
   for (const Bar& bar : task.bars) {
     if (bar.whole_item < 0 || bar.rest) continue;

@@ -11,7 +11,7 @@ namespace rbt::planning {
 
 /// Whole prices and the bound that they prove.
 struct PriceProof {
-  std::vector<Micros> prices;  ///< parallel to the items
+  ByIndex<Micros> prices;  ///< parallel to the items
   Micros bound = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace rbt::planning {
 
-ReachableSums::ReachableSums(const CuttingTask& task, const std::vector<std::int64_t>& left)
+ReachableSums::ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left)
     : task_(task),
       left_(left),
       items_(static_cast<int>(task.items.size())),
@@ -24,11 +24,11 @@ int ReachableSums::Most(int item) const {
 }
 
 Words ReachableSums::Row(int item, int kinds) {
-  return Words(rows_).subspan((static_cast<std::size_t>(item) * (kinds_ + 1) + kinds) * words_, words_);
+  return Words(rows_).subspan(static_cast<std::size_t>(item * (kinds_ + 1) + kinds) * words_, words_);
 }
 
 ConstWords ReachableSums::Row(int item, int kinds) const {
-  return ConstWords(rows_).subspan((static_cast<std::size_t>(item) * (kinds_ + 1) + kinds) * words_, words_);
+  return ConstWords(rows_).subspan(static_cast<std::size_t>(item * (kinds_ + 1) + kinds) * words_, words_);
 }
 
 void ReachableSums::WithCopies(Words to, ConstWords from, int weight, int copies) const {

@@ -14,7 +14,7 @@ namespace rbt::planning {
 class ReachableSums {
  public:
   /// `left` is parallel to the items and must outlive the object.
-  ReachableSums(const CuttingTask& task, const std::vector<std::int64_t>& left);
+  ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left);
 
   /// After a change of what is left of items `first` to `last`; those before are used up.
   void Renew(int first, int last);
@@ -36,7 +36,7 @@ class ReachableSums {
   void WithCopies(Words to, ConstWords from, int weight, int copies) const;
 
   const CuttingTask& task_;
-  const std::vector<std::int64_t>& left_;
+  const ByIndex<std::int64_t>& left_;
   int items_;
   int largest_;  ///< capacity
   int kinds_;    ///< at most so many items on a bar, 0: any number
