@@ -14,8 +14,7 @@ class ByIndex : public std::vector<T> {
  public:
   using std::vector<T>::vector;
   using std::vector<T>::operator[];
-  explicit(false) ByIndex(std::vector<T> values)  // NOLINT(google-explicit-constructor): it is the same
-      : std::vector<T>(std::move(values)) {}
+  explicit ByIndex(std::vector<T> values) : std::vector<T>(std::move(values)) {}
 
   decltype(auto) operator[](int index) { return (*this)[static_cast<std::size_t>(index)]; }
   decltype(auto) operator[](int index) const { return (*this)[static_cast<std::size_t>(index)]; }

@@ -113,7 +113,7 @@ void Columns::Offer(const Cutting& cutting) {
   for (const CutBars& bars : cutting) Add(bars.bar, bars.content);
 }
 
-void Columns::SetLeft(const std::vector<std::int64_t>& items, const std::vector<std::int64_t>& bars) {
+void Columns::SetLeft(const ByIndex<std::int64_t>& items, const ByIndex<std::int64_t>& bars) {
   left_ = items;
   bars_left_ = bars;
   for (int item = 0; item < items_; ++item) lp_.SetNeed(item, static_cast<double>(left_[item]));
@@ -123,7 +123,7 @@ void Columns::SetLeft(const std::vector<std::int64_t>& items, const std::vector<
   AllowColumns();
 }
 
-void Columns::AllowBars(const std::vector<bool>& allowed) {
+void Columns::AllowBars(const ByIndex<bool>& allowed) {
   allowed_ = allowed;
   AllowColumns();
 }

@@ -30,10 +30,10 @@ class Columns {
   void Offer(const Cutting& cutting);
   /// From now on so many pieces are left of each item and so many of each rest bar (parallel to the task's
   /// bars, those to buy not looked at); contents that hold more than is left are set aside.
-  void SetLeft(const std::vector<std::int64_t>& items, const std::vector<std::int64_t>& bars);
+  void SetLeft(const ByIndex<std::int64_t>& items, const ByIndex<std::int64_t>& bars);
 
   /// From now on only these bars may be used (parallel to the task's bars).
-  void AllowBars(const std::vector<bool>& allowed);
+  void AllowBars(const ByIndex<bool>& allowed);
 
   /// Until no content improves the cost. False when it was stopped or the program has no optimum.
   bool Converge();

@@ -42,7 +42,7 @@ class GroupJudge {
   bool CanTellMore() const { return columns_ != nullptr; }
   /// By the linear program, which begins with the greedy plan.
   double Cost(const LengthSet& lengths) {
-    std::vector<bool> allowed;
+    ByIndex<bool> allowed;
     std::size_t length = 0;
     for (const Bar& bar : task_.bars) {
       allowed.push_back(bar.rest || std::ranges::binary_search(lengths, length));

@@ -80,7 +80,7 @@ PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
   return proof;
 }
 
-std::vector<double> MaterialPrices(const CuttingTask& task) {
+ByIndex<double> MaterialPrices(const CuttingTask& task) {
   double least = 0.0;
   for (const Bar& bar : task.bars) {
     if (bar.rest || bar.capacity == 0) continue;

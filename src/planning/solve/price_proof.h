@@ -23,7 +23,7 @@ PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices);
 /// What a piece takes of a bar at the least price for capacity: proven without a table.
 PriceProof ProveMaterialBound(const CuttingTask& task);
 /// The same as a first guess.
-std::vector<double> MaterialPrices(const CuttingTask& task);
+ByIndex<double> MaterialPrices(const CuttingTask& task);
 
 /// A bound rounded up to a multiple of the greatest common measure of the costs, when these are whole.
 Micros RoundUpBound(const CuttingTask& task, Micros bound);

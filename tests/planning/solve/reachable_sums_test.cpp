@@ -48,7 +48,7 @@ TEST(HighestBit, LooksFromLowToHigh) {
 
 TEST(ReachableSums, TakeNoPieceMoreOftenThanItIsLeft) {
   const CuttingTask task = TaskOf({50, 30, 20}, 120);
-  std::vector<std::int64_t> left{1, 1, 1};
+  ByIndex<std::int64_t> left{1, 1, 1};
   ReachableSums sums(task, left);
   sums.LeadWith(0);
   EXPECT_EQ(sums.Best(120), 100);
@@ -61,7 +61,7 @@ TEST(ReachableSums, TakeNoPieceMoreOftenThanItIsLeft) {
 
 TEST(ReachableSums, HoldTheLeadingItem) {
   const CuttingTask task = TaskOf({50, 30}, 120);
-  const std::vector<std::int64_t> left{1, 9};
+  const ByIndex<std::int64_t> left{1, 9};
   ReachableSums sums(task, left);
   sums.LeadWith(0);
   EXPECT_EQ(sums.Best(120), 110);  // four of 30 would fill it
@@ -71,7 +71,7 @@ TEST(ReachableSums, HoldTheLeadingItem) {
 }
 
 TEST(ReachableSums, MixNoMoreItemsThanAllowed) {
-  const std::vector<std::int64_t> left{1, 1, 4};
+  const ByIndex<std::int64_t> left{1, 1, 4};
   const CuttingTask two = TaskOf({50, 30, 10}, 100, 2);
   ReachableSums sums(two, left);
   sums.LeadWith(0);
@@ -83,8 +83,8 @@ TEST(ReachableSums, MixNoMoreItemsThanAllowed) {
 }
 
 /// All sums of items from `at` on, with at most `kinds` of them (below 0: any number).
-void Collect(const CuttingTask& task, const std::vector<std::int64_t>& left, std::size_t at, int kinds,
-             int sum, std::set<int>& sums) {
+void Collect(const CuttingTask& task, const ByIndex<std::int64_t>& left, std::size_t at, int kinds, int sum,
+             std::set<int>& sums) {
   if (at == task.items.size() || kinds == 0) {
     sums.insert(sum);
     return;
@@ -99,7 +99,7 @@ TEST(ReachableSums, AreThoseOfATrialOfAllWays) {
   for (std::uint64_t seed = 1; seed <= 200; ++seed) {
     Random random(seed);
     std::vector<int> weights;
-    std::vector<std::int64_t> left;
+    ByIndex<std::int64_t> left;
     for (int i = 0; i < random.Between(1, 5); ++i) {
       weights.push_back(random.Between(1, 60));
       left.push_back(random.Between(0, 3));
