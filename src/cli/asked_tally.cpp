@@ -95,7 +95,7 @@ std::vector<std::string> GridTallyWords() {
 }
 
 TallyResult CountAskedTally(const std::string& word, const CommonOptions& common,
-                            const SelectionOptions& options) {
+                            const SelectionOptions& options, const std::function<void()>& beside) {
   const TallyKindRow* row = FindTallyKind(word);
   if (row == nullptr) throw UsageError("unknown tally " + word);
   if (options.kinds == 0 && row->range != TallyRange::floors)
@@ -107,6 +107,7 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   if (row->range == TallyRange::names) work.emplace();
   TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
+  if (beside) beside();
   if (work) work->Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);

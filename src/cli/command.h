@@ -43,6 +43,7 @@ Action DefineRename(CommandLine& line);
 Action DefineDelete(CommandLine& line);
 Action DefineExport(CommandLine& line);
 Action DefineAccumulate(CommandLine& line);
+Action DefinePlan(CommandLine& line);
 Action DefineReport(CommandLine& line);
 Action DefineImport(CommandLine& line);
 Action DefineCheck(CommandLine& line);

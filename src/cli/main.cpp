@@ -59,6 +59,7 @@ std::span<const Command> Commands() {
       {"delete", "Delete saved tallies", DefineDelete},
       {"export", "Write the CSV file of a tally", DefineExport},
       {"accumulate", "Add up the bulk tallies of several sites", DefineAccumulate},
+      {"plan", "Plan what to buy and what to cut from each bar, for the whole site", DefinePlan},
       {"report", "Print a report form of a tally to a PDF file", DefineReport},
       {"import", "Take real Jet files into the store", DefineImport},
       {"check", "Look whether a real Jet file is sound", DefineCheck},

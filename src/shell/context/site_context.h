@@ -47,8 +47,8 @@ std::string SiteNumberOf(std::string_view file_name);
 /// Binds the context to a schedule file by its name; the database is not opened.
 void SelectSite(std::string_view file_name);
 /// Opens `\RBK\DATA\` + `SelectedDbName` and leaves it in `SiteContext`; where it stands open there, and the
-/// name still leads to it, it stays open. A file that is no site throws `file`: it must hold 加工テーブル, and be
-/// none of the family's other databases whatever its name.
+/// name still leads to it, it stays open. A file that is no site throws `file`: it must hold 加工テーブル,
+/// and be none of the family's other databases whatever its name.
 void OpenWorkDatabase();
 /// Opens the site's companion file: for reading where the site is only read.
 Database OpenCompanionDatabase();

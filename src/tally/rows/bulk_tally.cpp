@@ -26,6 +26,8 @@ void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");
 }
 
+}  // namespace
+
 RowRules BulkRowRules(const SelectionData& selection) {
   RowRules rules;
   rules.hoops = selection.HoopMode;
@@ -34,8 +36,6 @@ RowRules BulkRowRules(const SelectionData& selection) {
   rules.counts_without_column_by_choice = selection.MaterialCalcChoice;
   return rules;
 }
-
-}  // namespace
 
 ClosingRules BulkClosingRules() { return {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1}; }
 
