@@ -8,6 +8,7 @@
 #include "data/diameters.h"
 #include "data/floors.h"
 #include "data/materials.h"
+#include "store/row_walk.h"
 #include "tally/rows/bar_row_reader.h"
 
 namespace rbt::planning {
@@ -44,16 +45,15 @@ SiteSchedule ReadSiteSchedule(Database& site, std::string_view statement, const 
   schedule.closing = closing;
   std::vector<std::string_view> columns(BarRowReader::Columns().begin(), BarRowReader::Columns().end());
   columns.push_back(kFloorColumn);
-  Recordset rows = site.OpenSnapshot(statement, columns);
+  RowWalk rows(site, statement, columns);
   const BarRowReader reader(rows);
   const std::optional<FieldHandle> floor = rows.FindField(kFloorColumn);
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const BarRow row = reader.Read(rows);
+  rows.Run([&](const WalkedRow& found) {
+    const BarRow row = reader.Read(found);
     FoldRow(schedule.table, row, rules);
-    if (CountsAsSteel(row, rules)) {
-      schedule.rows.push_back(SteelRowOf(row, floor ? rows.Int32(*floor) : std::nullopt));
-    }
-  }
+    if (!CountsAsSteel(row, rules)) return;
+    schedule.rows.push_back(SteelRowOf(row, floor ? found.Int32(*floor) : std::nullopt));
+  });
   return schedule;
 }
 
