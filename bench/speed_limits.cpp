@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "limits.h"
+#include "speed_limits.h"
 
 namespace rbt::bench {
 
