@@ -5,10 +5,12 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "archive/csv/csv_subject.h"
 #include "archive/store/save_tally.h"
 #include "archive/store/site_file.h"
+#include "screens/archive/frm_back_up.h"
 #include "screens/archive/load_files.h"
-#include "screens/archive/save_files.h"
+#include "screens/archive/saved_tally_dialogs.h"
 #include "session/panels/site_head.h"
 #include "shell/config/settings.h"
 
@@ -49,13 +51,21 @@ void ProvideSavedTallies() {
 std::unique_ptr<QWidget> MakeSave(TallyKind kind) {
   BindChosenSite();
   ProvideSavedTallies();
-  return std::make_unique<SaveFiles>(SampleTally(kind), SavedMemos{"北棟", "", ""}, SaveParts());
+  return MakeSaveFiles(SampleTally(kind), SavedMemos{"北棟", "", ""});
 }
 
 std::unique_ptr<QWidget> MakeLoad(TallyKind kind) {
   BindChosenSite();
   ProvideSavedTallies();
   return std::make_unique<LoadFiles>(kind);
+}
+
+std::unique_ptr<QWidget> MakeBackUp() {
+  BindChosenSite();
+  BackUpParts parts;
+  parts.volumes = {{"/", "/"}, {"/media/usb  [ＵＳＢ]", "/media/usb"}};
+  parts.choose_folder = [](const std::filesystem::path&) { return std::filesystem::path("/media/usb/csv"); };
+  return std::make_unique<FrmBackUp>(CsvOfTally{.result = SampleTally(TallyKind::page)}, std::move(parts));
 }
 
 void SelectFirst(QWidget& dialog) { dialog.findChild<QListWidget*>("List1")->item(0)->setSelected(true); }
@@ -88,7 +98,12 @@ std::vector<FormEntry> ArchiveForms() {
            .make = [] { return MakeLoad(TallyKind::part); },
            .first_focus = "List1",
            .keys = LoadFiles::Keys(),
-           .states = {{"empty", [](QWidget&) {}}}}};
+           .states = {{"empty", [](QWidget&) {}}}},
+          {.name = "FrmBackUp",
+           .make = MakeBackUp,
+           .first_focus = "btnSave",
+           .keys = FrmBackUp::Keys(),
+           .states = {{"folder", [](QWidget&) {}}}}};
 }
 
 }  // namespace rbt

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/arguments.h"
 
+#include <filesystem>
 #include <string_view>
+
+#include "platform/text/characters.h"
+#include "session/menu/captions.h"
+#include "session/names/names_view.h"
 
 namespace rbt {
 
@@ -31,6 +36,30 @@ Arguments ParseArguments(std::span<const char* const> words) {
     }
   }
   return arguments;
+}
+
+const ProgramWords& WordsOf(std::string_view program) {
+  static constexpr ProgramWords kOfMenu{
+      "rbtally1", kMenuTitle,
+      "Opens the tally menu of the site that another program of the family has chosen."};
+  static constexpr ProgramWords kOfNames{
+      "rbtally2", kNamesTitle,
+      "Opens the registered names of the site that another program of the family has chosen."};
+  return WorksWithNames(program) ? kOfNames : kOfMenu;
+}
+
+std::string UsageOf(const ProgramWords& words) {
+  std::string usage = "usage: ";
+  usage.append(words.name).append(" [--root DIR] [START-MODE ...]\n\n").append(words.purpose);
+  return usage +=
+         "\n\n"
+         "  --root DIR   the folder that \\RBK\\ stands for; default $RBK_ROOT\n"
+         "  --help       this text\n"
+         "  --version    the version\n";
+}
+
+bool WorksWithNames(std::string_view program) {
+  return EqualIgnoringCase(std::filesystem::path(program).stem().string(), "rbtally2");
 }
 
 }  // namespace rbt

@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace rbt {
 
@@ -19,5 +20,21 @@ struct Arguments {
 /// Takes the options out of the program's words (its own name not among them). A word of one dash is no
 /// option: start modes may be negative.
 Arguments ParseArguments(std::span<const char* const> words);
+
+/// What the program calls itself.
+struct ProgramWords {
+  std::string_view name;
+  std::string_view title;    ///< of messages before the first form
+  std::string_view purpose;  ///< what it opens: one sentence of the usage
+};
+
+/// The words of the program that was started under a name, see `WorksWithNames`.
+const ProgramWords& WordsOf(std::string_view program);
+/// What `--help` tells.
+std::string UsageOf(const ProgramWords& words);
+
+/// True for the name under which the program works with registered names: "rbtally2", in whatever folder,
+/// with or without ".exe", letter case ignored.
+bool WorksWithNames(std::string_view program);
 
 }  // namespace rbt

@@ -2,16 +2,19 @@
 #include "cli/asked_tally.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "cli/command.h"
 #include "cli/session.h"
 #include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
+#include "session/names/name_work.h"
 #include "shell/context/site_context.h"
 #include "shell/preparation/classified_schedule.h"
 #include "tally/floorpart/floor_range.h"
 #include "tally/kinds/tally_kinds.h"
+#include "tally/names/name_list.h"
 #include "tally/schedule_positions.h"
 #include "tally/selection.h"
 #include "tally/tally_grid.h"
@@ -65,6 +68,8 @@ void TakeRange(TallyRange range, const SelectionOptions& options) {
       return TakePositions(Selection, PositionsOf(options));
     case TallyRange::floors:
       return TakeAskedFloors(options);
+    case TallyRange::names:
+      return HoldMarks(*SiteContext.NameDatabase, options.names);
     case TallyRange::whole_site:
       return;
   }
@@ -90,7 +95,7 @@ std::vector<std::string> GridTallyWords() {
 }
 
 TallyResult CountAskedTally(const std::string& word, const CommonOptions& common,
-                            const SelectionOptions& options) {
+                            const SelectionOptions& options, const std::function<void()>& beside) {
   const TallyKindRow* row = FindTallyKind(word);
   if (row == nullptr) throw UsageError("unknown tally " + word);
   if (options.kinds == 0 && row->range != TallyRange::floors)
@@ -98,8 +103,12 @@ TallyResult CountAskedTally(const std::string& word, const CommonOptions& common
   OpenSite(common);
   Selection.TallyKind = row->kind;
   ApplySelection(options, Selection);
+  std::optional<NameWork> work;
+  if (row->range == TallyRange::names) work.emplace();
   TakeRange(row->range, options);
   TallyResult result = CountTally(row->kind);
+  if (beside) beside();
+  if (work) work->Close();
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   ShowStockWarning(result);
   return result;

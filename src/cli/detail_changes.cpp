@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/detail_changes.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
 
+#include "cli/asked_tally.h"
 #include "cli/command_line.h"
 #include "shell/config/settings.h"
 #include "tally/detail/detail_change.h"
@@ -66,6 +68,13 @@ void RequireCells(const DetailChanges& changes) {
     if (cell == nullptr || CellOf(*cell, columns)) continue;
     throw UsageError("--set: the list has no cell " + cell->row + "/" + cell->column);
   }
+}
+
+void RequireChangesOfKind(const std::string& kind, const DetailChanges& changes) {
+  const std::vector<std::string> words = GridTallyWords();
+  const bool has_list = std::find(words.begin(), words.end(), kind) != words.end();
+  if (!has_list && !changes.empty()) throw UsageError("--percent, --set: not for the floor and part tallies");
+  RequireCells(changes);
 }
 
 TallyResult Changed(TallyResult result, const DetailChanges& changes) {

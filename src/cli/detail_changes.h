@@ -29,6 +29,8 @@ using DetailChanges = std::vector<std::variant<PercentChange, CellChange>>;
 void AddChangeOptions(CommandLine& line, DetailChanges& changes, const std::string& percent_description);
 /// Throws `UsageError` for a cell that the grid does not have under the setting 定尺13有無.
 void RequireCells(const DetailChanges& changes);
+/// The same, and for any change of a tally without a purchase list: of floors or parts.
+void RequireChangesOfKind(const std::string& kind, const DetailChanges& changes);
 /// The result after the changes, as the detail screen makes them. Throws `overflow`.
 TallyResult Changed(TallyResult result, const DetailChanges& changes);
 

@@ -49,6 +49,21 @@ bool TakeFloorRange(const std::string& text, std::optional<FloorRange>& floors) 
   return true;
 }
 
+/// "3,1,12": whole numbers and nothing else.
+bool TakeNumbers(std::string_view text, std::vector<std::int32_t>& numbers) {
+  numbers.clear();
+  while (true) {
+    std::int32_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc()) return false;
+    numbers.push_back(number);
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    if (text.empty()) return true;
+    if (text.front() != ',') return false;
+    text.remove_prefix(1);
+  }
+}
+
 /// "10" or "-2.5": digits, a sign and a point.
 bool TakePercent(const std::string& text, double& percent) {
   const auto [end, error] =
@@ -83,6 +98,9 @@ void AddSelectionOptions(CommandLine& line, SelectionOptions& options) {
   AddPair(line, "--from", options.from, "/", "P/L",
           "first page and line of the page and page-shape tallies; default the first of the schedule");
   AddPair(line, "--to", options.to, "/", "P/L", "last page and line; default the last of the schedule");
+  line.FormOption(
+      "--names", "N,N,...", [&options](const std::string& text) { return TakeNumbers(text, options.names); },
+      "numbers of the registered names of the names tally; default none");
 }
 
 void AddFloorOptions(CommandLine& line, SelectionOptions& options) {

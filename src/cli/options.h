@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "data/shapes.h"
 #include "data/start_mode.h"
@@ -33,6 +34,7 @@ struct SelectionOptions {
   std::optional<ShapeRange> shapes;      ///< of the shape tally; nothing: all
   std::optional<SchedulePosition> from;  ///< of the tallies by page and line; nothing: the first
   std::optional<SchedulePosition> to;    ///< nothing: the last
+  std::vector<std::int32_t> names;       ///< 登録AN of the names of the tally of registered names
   std::optional<FloorRange> floors;      ///< of the floor and part tallies; nothing: all
   std::int16_t special = 0;              ///< TokubetuMask
   double uplift = 0.0;                   ///< percent, of the floor and part tallies

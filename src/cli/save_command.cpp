@@ -41,16 +41,6 @@ struct SaveOptions {
   bool replace = false;
 };
 
-/// The changes are those of the purchase list, which floors and parts do not have.
-void RequireChangesOfKind(const SaveOptions& options) {
-  const std::vector<std::string> words = GridTallyWords();
-  const bool has_list = std::find(words.begin(), words.end(), options.kind) != words.end();
-  if (!has_list && !options.changes.empty()) {
-    throw UsageError("--percent, --set: not for the floor and part tallies");
-  }
-  RequireCells(options.changes);
-}
-
 /// All floors as the screen's button enters them, with every special floor that has rows and no other.
 bool IsWholeSite(const SelectionData& selection, Database& site) {
   const std::optional<FloorExtent> extent = ReadFloorExtent(site);
@@ -95,7 +85,7 @@ void WriteSave(const TallyResult& result, const SaveOrder& order, const std::vec
 }
 
 void RunSave(const SaveOptions& options) {
-  RequireChangesOfKind(options);
+  RequireChangesOfKind(options.kind, options.changes);
   TallyResult result = CountAskedTally(options.kind, options.common, options.selection);
   RequireWholeSite(result);
   if (!options.changes.empty()) result = Changed(std::move(result), options.changes);

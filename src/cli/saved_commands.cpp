@@ -8,7 +8,6 @@
 
 #include <fmt/format.h>
 
-#include "archive/store/load_tally.h"
 #include "archive/store/manage_tallies.h"
 #include "archive/store/saved_name.h"
 #include "archive/store/site_file.h"
@@ -47,12 +46,8 @@ void OpenSiteOf(const SavedOptions& options) {
 // load
 
 void RunLoad(const SavedOptions& options) {
-  OpenSiteOf(options);
-  const std::vector<SavedTally> list = ListOfWord(options.kind);
-  const SavedTally& saved = RequireSaved(list, options.names.front());
-  const SiteFile site;
-  const LoadedTally loaded = LoadTally(*site, saved, Has13m());
-  if (!loaded.has_rows) throw Fault(FaultKind::database, "データがありません");
+  OpenSite(options.common);
+  const LoadedTally loaded = LoadNamed(options.kind, options.names.front());
   WriteResult(ResultText(loaded.result, options.format));
 }
 

@@ -7,6 +7,7 @@
 #include "cli/command.h"
 #include "platform/fault.h"
 #include "shell/config/settings.h"
+#include "shell/context/site_context.h"
 #include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
@@ -36,6 +37,16 @@ const SavedTally& RequireSaved(const std::vector<SavedTally>& list, const std::s
   const SavedTally* saved = FindSaved(list, name);
   if (saved == nullptr) throw Fault(FaultKind::database, fmt::format("no saved tally has the name {}", name));
   return *saved;
+}
+
+LoadedTally LoadNamed(const std::string& word, const std::string& name) {
+  SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
+  const std::vector<SavedTally> list = ListOfWord(word);
+  const SavedTally& saved = RequireSaved(list, name);
+  const SiteFile site;
+  LoadedTally loaded = LoadTally(*site, saved, Has13m());
+  if (!loaded.has_rows) throw Fault(FaultKind::database, "データがありません");
+  return loaded;
 }
 
 }  // namespace rbt

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "archive/store/saved_tallies.h"
+#include "archive/store/load_tally.h"
 
 namespace rbt {
 
@@ -21,5 +21,9 @@ std::vector<SavedTally> ListOfWord(const std::string& word);
 
 /// The newest of a list by its name; one that is not there throws `database`.
 const SavedTally& RequireSaved(const std::vector<SavedTally>& list, const std::string& name);
+
+/// Loads the newest of a kind by its name, once the site is open, which is let go. One that is not there, or
+/// is without rows, throws `database`.
+LoadedTally LoadNamed(const std::string& word, const std::string& name);
 
 }  // namespace rbt

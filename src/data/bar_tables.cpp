@@ -39,7 +39,7 @@ using BarWeights = Checked2D<double, kDiameterRows, kStockColumns>;
 BarWeights ComputeBarWeights() {
   BarWeights weights;
   for (int d = 0; d < kDiameterRows; ++d) {
-    for (int l = 0; l < kStockColumns; ++l) weights[d][l] = ThreeFigures(StockMetres(l) * UnitWeight(d));
+    for (int l = 0; l < kStockColumns; ++l) weights[d][l] = BarWeightOf(d, StockMetres(l));
   }
   return weights;
 }
@@ -63,6 +63,8 @@ double BarWeight(int d, int l) {
   static const BarWeights weights = ComputeBarWeights();
   return weights[d][l];
 }
+
+double BarWeightOf(int d, double metres) { return ThreeFigures(metres * UnitWeight(d)); }
 
 double Get_BarWeightTbl(std::int16_t row, std::int16_t column) {
   const int index = row * kColumnsTo12m + column;

@@ -22,8 +22,10 @@ double StockMetres(int stock_column);
 /// significant figures, halves to the even figure: the double nearest to that decimal. Faults: subscript out
 /// of range.
 double BarWeight(int d, int l);
-/// The same from the table of 12 rows of 18 columns that the shape by page and line tally reads at row x 18 +
-/// column: the 13.0 m column (18) gives the 3.5 m weight of the next diameter, and of D51 it faults.
+/// Kilograms of one bar of any length above 0 in metres, with a column or without, rounded likewise.
+double BarWeightOf(int d, double metres);
+/// `BarWeight` from the table of 12 rows of 18 columns that the shape by page and line tally reads at row x
+/// 18 + column: the 13.0 m column (18) gives the 3.5 m weight of the next diameter, and of D51 it faults.
 /// Faults: subscript out of range.
 double Get_BarWeightTbl(std::int16_t row, std::int16_t column);
 

@@ -18,12 +18,26 @@ std::int32_t IntegerOrZero(const Recordset& rows, FieldHandle field) { return ro
 
 std::string TextOrEmpty(const Recordset& rows, FieldHandle field) { return rows.Text(field).value_or(""); }
 
-/// A site without a row in the master database cannot be worked on.
-void RequireSite(const Recordset& rows, std::string_view file_name) {
-  if (rows.Eof()) {
-    throw Fault(FaultKind::database,
-                "工事テーブル: no current record with データパス \"" + std::string(file_name) + "\"");
+constexpr std::string_view kDataPaths = "SELECT データパス FROM 工事テーブル";
+
+/// データパス as the site's row has it: blanks may stand around the name of the file there. A site without a
+/// row in the master database cannot be worked on.
+std::string PathInRow(Database& master, std::string_view file_name) {
+  Recordset same =
+      master.OpenSnapshot(std::string(kDataPaths) + " WHERE データパス = " + QuotedText(file_name, '\''));
+  if (!same.Eof()) return std::string(file_name);
+  const std::string name = FoldIdentifier(Trim(file_name));
+  for (Recordset rows = master.OpenSnapshot(kDataPaths); !rows.Eof(); rows.MoveNext()) {
+    std::string path = TextOrEmpty(rows, rows.Field("データパス"));
+    if (FoldIdentifier(Trim(path)) == name) return path;
   }
+  throw Fault(FaultKind::database,
+              "工事テーブル: no current record with データパス \"" + std::string(file_name) + "\"");
+}
+
+SiteHead HeadOf(const Recordset& site) {
+  return {IntegerOrZero(site, site.Field("番号")), TextOrEmpty(site, site.Field("工事名")),
+          TextOrEmpty(site, site.Field("データパス")), IntegerOrZero(site, site.Field("取引先コード"))};
 }
 
 }  // namespace
@@ -34,10 +48,22 @@ std::string SiteHeadStatement(std::string_view file_name) {
 }
 
 SiteHead ReadSiteHead(Database& master, std::string_view file_name) {
-  Recordset rows = master.OpenSnapshot(SiteHeadStatement(file_name));
-  RequireSite(rows, file_name);
-  return {IntegerOrZero(rows, rows.Field("番号")), TextOrEmpty(rows, rows.Field("工事名")),
-          TextOrEmpty(rows, rows.Field("データパス")), IntegerOrZero(rows, rows.Field("取引先コード"))};
+  return HeadOf(master.OpenSnapshot(SiteHeadStatement(PathInRow(master, file_name))));
+}
+
+std::vector<SiteHead> AllSiteHeads(Database& master) {
+  Recordset rows = master.OpenSnapshot(
+      "SELECT [番号], [工事名], [データパス], [取引先コード] FROM 工事テーブル ORDER BY 番号");
+  std::vector<SiteHead> sites;
+  sites.reserve(static_cast<std::size_t>(rows.RecordCount()));
+  for (; !rows.Eof(); rows.MoveNext()) sites.push_back(HeadOf(rows));
+  return sites;
+}
+
+std::optional<SiteHead> FindSiteHead(Database& master, std::int32_t number) {
+  Recordset rows = master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE 番号 = " + std::to_string(number));
+  if (rows.Eof()) return std::nullopt;
+  return HeadOf(rows);
 }
 
 std::string ClientName(Database& master, std::int32_t code) {
@@ -47,12 +73,11 @@ std::string ClientName(Database& master, std::int32_t code) {
 }
 
 LongName ReadLongName(Database& master, std::string_view file_name) {
-  const std::string site = "データパス=" + QuotedText(file_name, '"');
+  const std::string site = "データパス=" + QuotedText(PathInRow(master, file_name), '"');
   LongName found;
   {
     Recordset rows =
         master.OpenSnapshot("SELECT 長い工事名,工事名区切り文字数 FROM 工事テーブル WHERE " + site);
-    RequireSite(rows, file_name);
     const FieldHandle name = rows.Field("長い工事名");
     const FieldHandle width = rows.Field("工事名区切り文字数");
     if (rows.IsNull(name)) return {};
@@ -67,9 +92,8 @@ LongName ReadLongName(Database& master, std::string_view file_name) {
 }
 
 SteelSupply ReadSteelSupply(Database& master, std::string_view file_name) {
-  Recordset rows =
-      master.OpenSnapshot("SELECT 支給形態 FROM 工事テーブル WHERE データパス=" + QuotedText(file_name, '"'));
-  RequireSite(rows, file_name);
+  Recordset rows = master.OpenSnapshot("SELECT 支給形態 FROM 工事テーブル WHERE データパス=" +
+                                       QuotedText(PathInRow(master, file_name), '"'));
   const bool supplied =
       IntegerOrZero(rows, rows.Field("支給形態")) == static_cast<std::int32_t>(SteelSupply::supplied);
   return supplied ? SteelSupply::supplied : SteelSupply::own;
@@ -77,15 +101,13 @@ SteelSupply ReadSteelSupply(Database& master, std::string_view file_name) {
 
 std::int32_t ReadMakerNumber(Database& master, std::string_view file_name) {
   Recordset rows = master.OpenSnapshot("SELECT メーカーNo FROM 工事テーブル WHERE データパス=" +
-                                       QuotedText(file_name, '"'));
-  RequireSite(rows, file_name);
+                                       QuotedText(PathInRow(master, file_name), '"'));
   return IntegerOrZero(rows, rows.Field("メーカーNo"));
 }
 
 SiteGrades ReadSiteGrades(Database& master, std::string_view file_name) {
-  Recordset rows =
-      master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE データパス = " + QuotedText(file_name, '\''));
-  RequireSite(rows, file_name);
+  Recordset rows = master.OpenSnapshot("SELECT * FROM 工事テーブル WHERE データパス = " +
+                                       QuotedText(PathInRow(master, file_name), '\''));
   SiteGrades grades;
   FieldHandle grade{};
   for (std::size_t i = 0; i < kDeformedDiameters.size(); ++i) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/database.h"
 
@@ -21,8 +22,13 @@ struct SiteHead {
 
 /// The statement that finds a site's row by the name of its schedule file.
 std::string SiteHeadStatement(std::string_view file_name);
-/// The row of a site; one that the master database lacks throws `database`.
+/// The row of a site, here and below by the name of its schedule file, around which blanks may stand in
+/// データパス. One that the master database lacks throws `database`.
 SiteHead ReadSiteHead(Database& master, std::string_view file_name);
+/// The rows of all sites, by their numbers.
+std::vector<SiteHead> AllSiteHeads(Database& master);
+/// The row of a site by its number; nothing when there is none.
+std::optional<SiteHead> FindSiteHead(Database& master, std::int32_t number);
 
 /// 会社名 of a client, empty when it is null or the code has no row.
 std::string ClientName(Database& master, std::int32_t code);

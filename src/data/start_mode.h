@@ -27,6 +27,7 @@ struct StartModeTraits {
   bool only_plain_bars_are_straight = false;  ///< bars with threaded or anchored ends count as bent
   bool counts_plates = true;                  ///< else no row of the schedule has an anchor plate
   bool probes_presence = true;                ///< tallies ask for hoops and anchor plates in their range
+  bool probes_plates_of_names = true;         ///< the tally of registered names asks for anchor plates
   bool offers_shape_filters = true;           ///< result screens have buttons for hoops and anchor plates
   bool hides_slit = false;                    ///< captions of kinds and total rows lose the slit word
   bool hides_slit_in_bulk_kinds = false;      ///< the caption of kinds of the bulk screen loses it
@@ -52,11 +53,12 @@ inline constexpr StartModeRow kStartModes[] = {
       .only_plain_bars_are_straight = true,
       .counts_plates = false,
       .probes_presence = false,
+      .probes_plates_of_names = false,
       .offers_shape_filters = false,
       .hides_slit = true,
       .hides_slit_in_bulk_kinds = true,
       .hides_cuts = true}},
-    {2, {.pass_on_to = "\\rbk\\rbtally2.exe 2"}},
+    {2, {.pass_on_to = "\\rbk\\rbtally2.exe 2", .probes_plates_of_names = false}},
     {3,
      {.menu = MenuExtent::reduced,
       .offers_coupler_counter = false,
@@ -66,6 +68,7 @@ inline constexpr StartModeRow kStartModes[] = {
       .only_plain_bars_are_straight = true,
       .counts_plates = false,
       .probes_presence = false,
+      .probes_plates_of_names = false,
       .offers_shape_filters = false,
       .hides_slit = true,
       .hides_slit_in_bulk_kinds = true,

@@ -1,11 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/lock_question.h"
 
+#include <chrono>
+
+#include <QApplication>
+#include <QWidget>
+
 #include "desktop/pending_events.h"
 #include "platform/system/message.h"
 #include "shell/context/run_state.h"
 
 namespace rbt {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// How long a picture of the windows stands while the program waits.
+constexpr std::chrono::milliseconds kPaintedFor{200};
+
+}  // namespace
 
 bool AskToWaitOn(const std::filesystem::path& file) {
   ProcessEventsWithoutInput();
@@ -19,6 +33,16 @@ bool AskToWaitOn(const std::filesystem::path& file) {
   return !RunState.GaveUpWaiting;
 }
 
-void NoteWait() { RunState.HasWaited = true; }
+WaitHook NoteWaits() {
+  return [painted = Clock::time_point()]() mutable {
+    RunState.HasWaited = true;
+    if (Clock::now() - painted < kPaintedFor) return;
+    // No event is looked at: one of them could use the file in the midst of the statement that waits for it.
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) window->repaint();
+    }
+    painted = Clock::now();
+  };
+}
 
 }  // namespace rbt

@@ -232,7 +232,7 @@ std::string PreviewForm::OwnPaperNote(const std::string& printer) const {
 void PreviewForm::ShowPrinter() {
   const bool can_print = !parts_.printers.empty();
   ui_->cmdPrint->setEnabled(can_print);
-  ui_->cmdPrint->setToolTip(can_print ? QString() : QString::fromUtf8(kNoPrinter));
+  if (!can_print) ui_->cmdPrint->setToolTip(QString::fromUtf8(kNoPrinter));
   const std::optional<std::string> printer = OwnPrinter();
   const std::string target =
       printer ? "印刷先：" + *printer + OwnPaperNote(*printer) : "印刷先：印刷の時に選びます。";

@@ -8,11 +8,13 @@
 
 #include "desktop/painting/painting_surface.h"
 #include "desktop/wait_sign.h"
+#include "platform/files/files.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
+#include "session/panels/file_messages.h"
 #include "shell/output/output_files.h"
 
 namespace rbt {
@@ -43,24 +45,13 @@ std::string FileNameOf(std::string_view title) {
   return name.empty() ? kNameWithoutTitle : name;
 }
 
-bool IsThere(const fs::path& file) {
-  std::error_code error;
-  return fs::symlink_status(file, error).type() != fs::file_type::not_found;
-}
-
-bool MayReplace(const fs::path& file, const std::string& title) {
-  if (!IsThere(file)) return true;
-  return MsgBox("「" + file.string() + "」は既にあります。\r\n置き換えますか？", title,
-                MessageButtons::yes_no) == MessageAnswer::yes;
-}
-
 /// False, after a message, when the file cannot be written.
 bool Write(std::span<const PrintedDocument> documents, const fs::path& file, const std::string& title) {
   const auto fault = PassOverFaults(FaultKind::file, [&] {
     RequireOutputPlace(file);
     PaintPdf(documents, file);
   });
-  if (fault) MsgBox("「" + file.string() + "」に保存できません。\r\n" + fault->what(), title);
+  if (fault) TellNotSaved(file, *fault, title);
   return !fault;
 }
 
@@ -93,9 +84,10 @@ fs::path OfferedPdfFile(std::string_view title) {
   const DateTime today = Now();
   const std::string stem =
       fmt::format("{}-{:04}{:02}{:02}", FileNameOf(title), today.year, today.month, today.day);
-  fs::path file = DocumentsFolder() / (stem + kExtension);
-  for (int copy = 2; IsThere(file); ++copy) {
-    file = DocumentsFolder() / fmt::format("{}-{}{}", stem, copy, kExtension);
+  const fs::path folder = OfferedFolder();
+  fs::path file = folder / (stem + kExtension);
+  for (int copy = 2; IsTaken(file); ++copy) {
+    file = folder / fmt::format("{}-{}{}", stem, copy, kExtension);
   }
   return file;
 }
@@ -107,7 +99,7 @@ bool SaveAsPdf(QWidget& form, std::span<const PrintedDocument> documents,
   while (const std::optional<fs::path> named = ask(form, offered)) {
     const fs::path file = WithExtension(*named);
     offered = file;
-    if (!MayReplace(file, title) || !Write(documents, file, title)) continue;
+    if (!MayReplaceFile(file, title) || !Write(documents, file, title)) continue;
     MsgBox("「" + file.string() + "」に保存しました。", title);
     return true;
   }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <sys/stat.h>
 #include <system_error>
 #include <utility>
@@ -16,6 +17,7 @@
 #include "store/connection_patience.h"
 #include "store/database_file.h"
 #include "store/dialect/functions.h"
+#include "store/row_taker.h"
 
 namespace rbt {
 namespace {
@@ -45,6 +47,11 @@ void RequireShortPath(const std::filesystem::path& file) {
 bool IsOfReading(int code) {
   return (code & 0xFF) == SQLITE_CORRUPT || (code & 0xFF) == SQLITE_NOTADB || code == SQLITE_IOERR_READ ||
          code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_CORRUPTFS;
+}
+
+std::int64_t Nanoseconds(const timespec& time) {
+  constexpr std::int64_t kPerSecond = 1'000'000'000;
+  return time.tv_sec * kPerSecond + time.tv_nsec;
 }
 
 }  // namespace
@@ -130,6 +137,7 @@ void Connection::Configure() const {
   RunSetting(kCacheSize);
   RunSetting("PRAGMA synchronous=FULL");
   RegisterJetFunctions(connection);
+  RegisterRowTaker(connection);
 }
 
 /// Reads the header and every table's definition.
@@ -186,8 +194,12 @@ std::optional<FileState> Connection::State() const {
   std::uint32_t changes = 0;
   for (std::size_t i = 0; i < 4; ++i)
     changes = changes << 8U | static_cast<unsigned char>(head[kCounterAt + i]);
-  constexpr std::int64_t kNanoseconds = 1'000'000'000;
-  return FileState{changes, status.st_ino, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+  return FileState{.changes = changes,
+                   .device = status.st_dev,
+                   .file = status.st_ino,
+                   .size = status.st_size,
+                   .written = Nanoseconds(status.st_mtim),
+                   .touched = Nanoseconds(status.st_ctim)};
 }
 
 bool Connection::HasMoved() const {

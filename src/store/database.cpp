@@ -133,6 +133,8 @@ void Database::Impl::Hold() {
   if (!hold_) hold_ = connection_->Hold();
 }
 
+std::string_view Database::StoreVersion() { return sqlite3_sourceid(); }
+
 Database Database::Open(const std::filesystem::path& file) {
   return Database(std::make_unique<Impl>(std::make_unique<Connection>(file, OpenMode::read_write)));
 }

@@ -26,6 +26,9 @@ namespace rbt {
 /// takes no lock on writing.
 class Database {
  public:
+  /// The exact version of the store that works out what statements say.
+  static std::string_view StoreVersion();
+
   /// Opens an existing file for reading and writing. Throws `file`/`database` when it is missing, is no
   /// database, is damaged, or is a real Jet file (which is named as such and left alone).
   static Database Open(const std::filesystem::path& file);

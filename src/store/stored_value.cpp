@@ -123,16 +123,58 @@ Value CheckedBytes(const FieldDef& field, const Value& value, const FieldPlace& 
   return value;
 }
 
-/// Of a column that is not null.
-double NumberAt(sqlite3_stmt* row, int column, const FieldPlace& place) {
-  switch (sqlite3_column_type(row, column)) {
+/// Where a number is read: a column of the current row, or a value that is handed to a function.
+struct InColumn {
+  sqlite3_stmt* row;
+  int column;
+
+  int Type() const { return sqlite3_column_type(row, column); }
+  std::int64_t Whole() const { return sqlite3_column_int64(row, column); }
+  double Real() const { return sqlite3_column_double(row, column); }
+  std::string Text() const { return TextAt(row, column); }
+};
+struct InArgument {
+  sqlite3_value* value;
+
+  int Type() const { return sqlite3_value_type(value); }
+  std::int64_t Whole() const { return sqlite3_value_int64(value); }
+  double Real() const { return sqlite3_value_double(value); }
+  std::string Text() const {
+    const unsigned char* const text = sqlite3_value_text(value);
+    if (text == nullptr) return {};
+    return {text, text + sqlite3_value_bytes(value)};
+  }
+};
+
+/// Of a value that is not null.
+template <typename In>
+double NumberIn(const In& in, const FieldPlace& place) {
+  switch (in.Type()) {
     case SQLITE_TEXT:
-      return NumberOfText(TextAt(row, column), place.Text());
+      return NumberOfText(in.Text(), place.Text());
     case SQLITE_BLOB:
       throw Mismatch(place, "bytes for a number");
     default:
-      return sqlite3_column_double(row, column);
+      return in.Real();
   }
+}
+
+double NumberAt(sqlite3_stmt* row, int column, const FieldPlace& place) {
+  return NumberIn(InColumn{row, column}, place);
+}
+
+template <typename In>
+std::optional<double> DoubleIn(const In& in, const FieldPlace& place) {
+  if (in.Type() == SQLITE_NULL) return std::nullopt;
+  return NumberIn(in, place);
+}
+
+template <typename In>
+std::optional<std::int32_t> Int32In(const In& in, const FieldPlace& place) {
+  if (in.Type() == SQLITE_INTEGER) return NarrowInt32(in.Whole(), place);
+  const auto number = DoubleIn(in, place);
+  if (!number) return std::nullopt;
+  return ToInt32(*number, place.Text());
 }
 
 }  // namespace
@@ -141,21 +183,26 @@ std::string FieldPlace::Text() const {
   return table.empty() ? std::string(field) : fmt::format("{}.{}", table, field);
 }
 
+std::int32_t NarrowInt32(std::int64_t whole, const FieldPlace& place) {
+  const auto narrow = static_cast<std::int32_t>(whole);
+  if (narrow != whole) throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
+  return narrow;
+}
+
 std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace& place) {
-  if (sqlite3_column_type(row, column) == SQLITE_NULL) return std::nullopt;
-  return NumberAt(row, column, place);
+  return DoubleIn(InColumn{row, column}, place);
 }
 
 std::optional<std::int32_t> ReadInt32(sqlite3_stmt* row, int column, const FieldPlace& place) {
-  if (sqlite3_column_type(row, column) == SQLITE_INTEGER) {
-    const std::int64_t whole = sqlite3_column_int64(row, column);
-    const auto narrow = static_cast<std::int32_t>(whole);
-    if (narrow != whole) throw Fault{FaultKind::overflow, fmt::format("{}: {}", place.Text(), whole)};
-    return narrow;
-  }
-  const auto number = ReadDouble(row, column, place);
-  if (!number) return std::nullopt;
-  return ToInt32(*number, place.Text());
+  return Int32In(InColumn{row, column}, place);
+}
+
+std::optional<double> ReadDouble(sqlite3_value* value, const FieldPlace& place) {
+  return DoubleIn(InArgument{value}, place);
+}
+
+std::optional<std::int32_t> ReadInt32(sqlite3_value* value, const FieldPlace& place) {
+  return Int32In(InArgument{value}, place);
 }
 
 std::optional<std::string> ReadText(sqlite3_stmt* row, int column, const FieldPlace& place) {

@@ -30,6 +30,11 @@ Value ReadStored(sqlite3_stmt* row, int column, const FieldDef* field, const Fie
 std::optional<double> ReadDouble(sqlite3_stmt* row, int column, const FieldPlace& place);
 /// As `ReadDouble`, rounded halves to even; beyond 32 bits `overflow`.
 std::optional<std::int32_t> ReadInt32(sqlite3_stmt* row, int column, const FieldPlace& place);
+/// Both of a value that a statement hands to a function.
+std::optional<double> ReadDouble(sqlite3_value* value, const FieldPlace& place);
+std::optional<std::int32_t> ReadInt32(sqlite3_value* value, const FieldPlace& place);
+/// Beyond 32 bits `overflow`.
+std::int32_t NarrowInt32(std::int64_t whole, const FieldPlace& place);
 /// The text in a column, numbers in their shortest form, nothing when null.
 std::optional<std::string> ReadText(sqlite3_stmt* row, int column, const FieldPlace& place);
 

@@ -58,6 +58,18 @@ std::string_view AnchorPlateClause(ShapeFilter plates) {
   return "";
 }
 
+std::string_view HoopClause(ShapeFilter hoops) {
+  switch (hoops) {
+    case ShapeFilter::left_out:
+      return " AND 形状No<>87 ";
+    case ShapeFilter::alone:
+      return " AND 形状No=87 ";
+    case ShapeFilter::with_others:
+      break;
+  }
+  return "";
+}
+
 std::string_view FormClause(FormMask forms) { return TextOfMask(kFormClauses, forms); }
 
 std::string_view KindClause(KindMask kinds) { return TextOfMask(kKindClauses, kinds); }

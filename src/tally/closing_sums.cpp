@@ -8,12 +8,16 @@
 namespace rbt {
 namespace {
 
-void SumDiameter(TallyTable& table, int d, const ClosingRules& rules) {
+void WeighCells(TallyTable& table, int d, const ClosingRules& rules) {
   const int columns = StockColumnsInUse(rules.sum_13m_column);
   for (int l = 0; l < columns; ++l) {
     table.InstalledWeight[d][l] += Currency::FromDouble(table.CutLengthM[d][l] * UnitWeight(d));
-    table.InstalledWeightByDia[d] += table.InstalledWeight[d][l];
   }
+}
+
+void SumDiameter(TallyTable& table, int d, const ClosingRules& rules) {
+  const int columns = StockColumnsInUse(rules.sum_13m_column);
+  for (int l = 0; l < columns; ++l) table.InstalledWeightByDia[d] += table.InstalledWeight[d][l];
   table.StockWeightByDia[d] += StockWeightOfCells(table, d, columns);
   table.InstalledWeightByDia[d] += Currency::FromDouble(table.LengthWithoutColumnM[d] * UnitWeight(d));
   if (rules.cap_installed_weight && table.InstalledWeightByDia[d] > table.StockWeightByDia[d]) {
@@ -34,15 +38,37 @@ double LossRate(Currency stock, Currency installed) {
   return (stock - installed).ToDouble() / installed.ToDouble() * 100.0;
 }
 
-}  // namespace
-
-void CloseSums(TallyTable& table, const ClosingRules& rules) {
+/// From weighed cells, on top of nothing.
+void SumAll(TallyTable& table, const ClosingRules& rules) {
   for (int d = 0; d < kDeformedRows; ++d) {
     SumDiameter(table, d, rules);
     AddStockAndFittings(table, d);
     table.TotalInstalledWeight += WholeKilograms(table.InstalledWeightByDia[d]);
   }
   table.LossRatePercent = LossRate(table.TotalStockWeight, table.TotalInstalledWeight);
+}
+
+void ClearTotalsOfStockAndFittings(TallyTable& table) {
+  table.TotalStockWeight = Currency();
+  table.TotalWeldCount = 0;
+  table.TotalThreadCount = 0;
+  table.TotalPlateCount = 0;
+  table.TotalCutCount = 0;
+}
+
+}  // namespace
+
+void CloseSums(TallyTable& table, const ClosingRules& rules) {
+  for (int d = 0; d < kDeformedRows; ++d) WeighCells(table, d, rules);
+  SumAll(table, rules);
+}
+
+void CloseWeighedCells(TallyTable& table, const ClosingRules& rules) {
+  table.StockWeightByDia.Clear();
+  table.InstalledWeightByDia.Clear();
+  ClearTotalsOfStockAndFittings(table);
+  table.TotalInstalledWeight = Currency();
+  SumAll(table, rules);
 }
 
 Currency StockWeightOfCells(const TallyTable& table, int d, int columns) {
@@ -52,11 +78,7 @@ Currency StockWeightOfCells(const TallyTable& table, int d, int columns) {
 }
 
 void SumStockAndFittings(TallyTable& table) {
-  table.TotalStockWeight = Currency();
-  table.TotalWeldCount = 0;
-  table.TotalThreadCount = 0;
-  table.TotalPlateCount = 0;
-  table.TotalCutCount = 0;
+  ClearTotalsOfStockAndFittings(table);
   for (int d = 0; d < kDeformedRows; ++d) AddStockAndFittings(table, d);
 }
 

@@ -17,6 +17,8 @@ struct ClosingRules {
 /// diameter's stock weight is the sum of its cells each rounded to a whole kilogram, the total that of the
 /// diameters rounded again; installed weight stays unrounded up to the total.
 void CloseSums(TallyTable& table, const ClosingRules& rules);
+/// The same over cells whose installed weight stands already; sums that stand are replaced.
+void CloseWeighedCells(TallyTable& table, const ClosingRules& rules);
 
 /// The sum of a diameter's stock cells in the first `columns`, each rounded to a whole kilogram.
 Currency StockWeightOfCells(const TallyTable& table, int d, int columns);

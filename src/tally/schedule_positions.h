@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "data/shapes.h"
 #include "store/database.h"
@@ -43,8 +44,9 @@ LineRange LinesBetween(Database& site, const PositionRange& positions);
 /// tally by positions begins with. A null 頁 or 行 is 0. Nothing for an empty schedule.
 std::optional<PositionRange> WholePositionRange(Database& site, TallyKind kind);
 
-/// The first field of "SELECT expression From 加工テーブル where_clause": null when there is no row.
-Value GetKeijouNoSQL(Database& site, std::string_view expression, std::string_view where_clause);
+/// The fields of the first row of "SELECT expression From 加工テーブル where_clause"; none when there is no
+/// row.
+std::vector<Value> GetKeijouNoSQL(Database& site, std::string_view expression, std::string_view where_clause);
 
 /// Smallest and largest 形状No of the schedule, within a range of lines when one is given; 0 and 0 when no
 /// row has a shape.

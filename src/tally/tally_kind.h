@@ -13,6 +13,7 @@ enum class TallyKind : std::int32_t {
   page_shape = 3,  ///< shapes of a range of pages and lines, 形状別 頁行別集計
   floor = 4,       ///< 階別集計
   part = 5,        ///< 部位別集計
+  names = 6,       ///< the marked registered names, 登録名集計
 };
 
 }  // namespace rbt

@@ -41,4 +41,24 @@ TEST(Arguments, HelpAndVersionAreAskedFor) {
   EXPECT_FALSE(Parse({"1"}).help);
 }
 
+TEST(Arguments, TheProgramWorksWithNamesUnderTheNameOfTheirCompanion) {
+  for (const char* name : {"rbtally2", "/srv/rbk/rbtally2.exe", "RBTALLY2.EXE", "./Rbtally2"}) {
+    EXPECT_TRUE(WorksWithNames(name)) << name;
+  }
+  for (const char* name : {"rbtally1", "/srv/rbtally2/rbtally1.exe", "rbtally21", ""}) {
+    EXPECT_FALSE(WorksWithNames(name)) << name;
+  }
+}
+
+TEST(Arguments, TheProgramCallsItselfAsItWasStarted) {
+  EXPECT_EQ(WordsOf("/srv/rbk/rbtally1").name, "rbtally1");
+  EXPECT_EQ(WordsOf("/srv/rbk/rbtally1").title, "重量集計メニュー");
+  EXPECT_EQ(WordsOf("/srv/rbk/rbtally2.exe").name, "rbtally2");
+  EXPECT_EQ(WordsOf("/srv/rbk/rbtally2.exe").title, "登録名加工帳");
+  EXPECT_TRUE(
+      UsageOf(WordsOf("rbtally2"))
+          .starts_with("usage: rbtally2 [--root DIR] [START-MODE ...]\n\nOpens the registered names"));
+  EXPECT_TRUE(UsageOf(WordsOf("rbtally1")).ends_with("  --version    the version\n"));
+}
+
 }  // namespace rbt::test

@@ -63,6 +63,18 @@ TEST_F(MasterDatabase, GivesTheHeadOfASite) {
   EXPECT_EQ(ClientName(Master(), head.client_code), "山田建設");
 }
 
+TEST_F(MasterDatabase, ListsSitesByNumberAndFindsOneByIts) {
+  Run("INSERT INTO 工事テーブル (番号, 工事名, データパス) VALUES (12, '駅前ビル', 'GENBA012.MDB')");
+  Run("INSERT INTO 工事テーブル (番号, 工事名, データパス) VALUES (3, '倉庫', 'GENBA003.MDB')");
+  const std::vector<SiteHead> sites = AllSiteHeads(Master());
+  ASSERT_EQ(sites.size(), 2U);
+  EXPECT_EQ(sites[0].name, "倉庫");
+  EXPECT_EQ(sites[1].data_path, "GENBA012.MDB");
+  ASSERT_TRUE(FindSiteHead(Master(), 12));
+  EXPECT_EQ(FindSiteHead(Master(), 12)->name, "駅前ビル");
+  EXPECT_FALSE(FindSiteHead(Master(), 4));
+}
+
 TEST_F(MasterDatabase, ReadsNullsOfASiteAsNothing) {
   Run("INSERT INTO 工事テーブル (データパス) VALUES ('GENBA001.MDB')");
   const SiteHead head = ReadSiteHead(Master(), "GENBA001.MDB");
@@ -100,6 +112,20 @@ TEST_F(MasterDatabase, FindsASiteWhoseFileNameHoldsQuotes) {
   EXPECT_EQ(ReadMakerNumber(Master(), "O'Hara\" OR 1=1.MDB"), 6);
   EXPECT_THROW(ReadMakerNumber(Master(), "x\" OR \"\"=\""), Fault);
   EXPECT_THROW(ReadSiteHead(Master(), "x' OR ''='"), Fault);
+}
+
+TEST_F(MasterDatabase, FindsASiteWhoseDataPathHasBlanksAroundTheFileName) {
+  Run("INSERT INTO 工事テーブル (番号, データパス, 長い工事名, メーカーNo, 支給形態, SD10) "
+      "VALUES (5, ' GENBA005.MDB  ', '長い名前', 6, 1, 3)");
+  EXPECT_EQ(ReadSiteHead(Master(), "genba005.mdb").number, 5);
+  EXPECT_EQ(ReadSiteHead(Master(), "GENBA005.MDB").data_path, " GENBA005.MDB  ");
+  EXPECT_EQ(ReadLongName(Master(), "GENBA005.MDB").name, "長い名前");
+  EXPECT_EQ(Get("SELECT 工事名区切り文字数 FROM 工事テーブル"), Value{std::int64_t{50}}) << "written there";
+  EXPECT_EQ(ReadMakerNumber(Master(), "GENBA005.MDB"), 6);
+  EXPECT_EQ(ReadSteelSupply(Master(), "GENBA005.MDB"), SteelSupply::supplied);
+  EXPECT_EQ(ReadSiteGrades(Master(), "GENBA005.MDB").codes[0], 3);
+  Run("INSERT INTO 工事テーブル (番号, データパス) VALUES (7, 'GENBA005.MDB')");
+  EXPECT_EQ(ReadSiteHead(Master(), "GENBA005.MDB").number, 7) << "the one without blanks comes first";
 }
 
 TEST_F(MasterDatabase, ComposesTheHeadStatementWordForWord) {

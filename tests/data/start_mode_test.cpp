@@ -66,6 +66,10 @@ TEST(StartModeTraits, OneAndThreeKnowNoPlatesNoProbesAndNoCuts) {
   EXPECT_EQ(ModesWith(&StartModeTraits::hides_cuts), (Modes{1, 3}));
 }
 
+TEST(StartModeTraits, TheTallyOfRegisteredNamesAsksForPlatesInNoneOf1And2And3) {
+  EXPECT_EQ(ModesWithout(&StartModeTraits::probes_plates_of_names), (Modes{1, 2, 3}));
+}
+
 TEST(StartModeTraits, OneAndThreeAndFourKnowPlainBarsAloneNoShapeFiltersAndNoSlitBars) {
   EXPECT_EQ(ModesWith(&StartModeTraits::only_plain_bars_are_straight), (Modes{1, 3, 4}));
   EXPECT_EQ(ModesWithout(&StartModeTraits::offers_shape_filters), (Modes{1, 3, 4}));

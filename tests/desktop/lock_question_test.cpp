@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include "desktop/action.h"
@@ -29,7 +30,7 @@ class LockQuestion : public testing::Test {
   LockQuestion() {
     Services.LockPatience = std::chrono::milliseconds(1);
     Services.WaitOn = AskToWaitOn;
-    Services.OnWait = NoteWait;
+    Services.OnWait = NoteWaits();
   }
   /// An action that has to wait for the schedule, which another connection is writing.
   bool Work() {
@@ -103,6 +104,30 @@ TEST_F(LockQuestion, DropsTheKeysThatWerePressedDuringTheWait) {
   PostKey(box);
   Settle();
   EXPECT_EQ(box.text(), "77") << "afterwards they count again";
+}
+
+TEST_F(LockQuestion, KeepsTheWindowsPaintedDuringTheWaitWithoutLookingAtTheirKeys) {
+  class Painted : public QLineEdit {
+   public:
+    int times = 0;
+
+   protected:
+    void paintEvent(QPaintEvent* event) override {
+      ++times;
+      QLineEdit::paintEvent(event);
+    }
+  };
+  QWidget window;
+  auto* box = new Painted;
+  (new QVBoxLayout(&window))->addWidget(box);
+  window.show();
+  Settle();
+  box->times = 0;
+  box->setText("changed");
+  PostKey(*box);
+  Services.OnWait();
+  EXPECT_GT(box->times, 0);
+  EXPECT_EQ(box->text(), "changed");
 }
 
 TEST_F(LockQuestion, WhatFallsDueWhileKeysAreDroppedKnowsThatTheActionStillRuns) {

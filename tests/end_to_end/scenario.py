@@ -239,7 +239,7 @@ class World:
             self.stderr, self.status = [], 0
             return
         if words[0] == "cat":
-            self.stdout = (self.folder / words[1]).read_bytes().decode("utf-8")
+            self.stdout = readable((self.folder / words[1]).read_bytes())
             self.stderr, self.status = [], 0
             return
         if words[0] != "rbtally":

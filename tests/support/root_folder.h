@@ -11,10 +11,12 @@
 namespace rbt::test {
 
 /// A fresh root folder with a DATA folder, in force for the life of the object, with settings of its own
-/// outside the root. Its end brings all services back.
+/// and a cache outside the root. Its end brings all services back.
 class RootFolder {
  public:
-  RootFolder() : settings_("RBK_SETTINGS", (settings_folder_ / "settings.ini").string()) {
+  RootFolder()
+      : settings_("RBK_SETTINGS", (settings_folder_ / "settings.ini").string()),
+        cache_("XDG_CACHE_HOME", (settings_folder_ / "cache").string()) {
     std::filesystem::create_directories(folder_ / "DATA");
     Services.Root = folder_.Path();
     Services.FamilyDirectory.reset();
@@ -37,6 +39,7 @@ class RootFolder {
   TemporaryFolder folder_;
   TemporaryFolder settings_folder_;
   EnvironmentVariable settings_;
+  EnvironmentVariable cache_;
   KeptServices services_;
 };
 

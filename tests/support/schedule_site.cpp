@@ -69,4 +69,12 @@ void ScheduleSite::AddSpiral(const Value& material, const Value& diameter, doubl
          {{"材質", material}, {"径", diameter}, {"全重量", Value{Currency::FromDouble(weight)}}});
 }
 
+void ScheduleSite::AddName(const Value& number, const std::string& name, const Value& mark) {
+  Database companion = Database::Open(folder_.Data("HIROI001.mdb"));
+  if (companion.FindTable("登録名") == nullptr) {
+    companion.CreateTable(TableOf(CompanionFileTables(), "登録名"));
+  }
+  Insert(companion, "登録名", {{"登録AN", number}, {"登録名", Value{name}}, {"表示番号", mark}});
+}
+
 }  // namespace rbt::test

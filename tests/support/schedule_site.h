@@ -35,6 +35,9 @@ class ScheduleSite {
   /// Adds a row to スパイラル of the companion file; the table is made with the first.
   void AddSpiral(const Value& material, const Value& diameter, double weight);
 
+  /// Adds a row to 登録名 of the companion file; the table is made with the first.
+  void AddName(const Value& number, const std::string& name, const Value& mark);
+
   Database& Work();
   const RootFolder& Folder() const { return folder_; }
 

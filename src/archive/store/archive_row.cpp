@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "archive/store/archive_row.h"
 
-#include <variant>
-
 #include <fmt/format.h>
 
 #include "data/quoted_text.h"
@@ -43,10 +41,7 @@ std::string ArchiveRow::Statement() const {
 std::int32_t ArchiveField::Count() const { return handle_ ? rows_->Int32(*handle_).value_or(0) : 0; }
 
 Currency ArchiveField::Weight() const {
-  if (!handle_ || rows_->IsNull(*handle_)) return {};
-  const Value weight = rows_->Get(*handle_);
-  if (const auto* kilograms = std::get_if<Currency>(&weight)) return *kilograms;
-  return Currency::FromDouble(NumberOf(weight, rows_->FieldName(*handle_)));
+  return handle_ ? AmountOf(rows_->Get(*handle_), rows_->FieldName(*handle_)) : Currency();
 }
 
 std::string ArchiveField::Text() const { return handle_ ? TextOf(rows_->Get(*handle_)) : ""; }

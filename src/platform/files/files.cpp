@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/files.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -33,6 +34,10 @@ fs::path Target(const fs::path& file) {
 bool IsTaken(const fs::path& name) {
   std::error_code error;
   return fs::exists(fs::symlink_status(name, error));
+}
+
+bool LiesIn(const fs::path& folder, const fs::path& path) {
+  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();
 }
 
 bool TakesFiles(const fs::path& folder) {

@@ -10,6 +10,10 @@ namespace rbt {
 /// Whether anything stands under a name, be it a link that leads nowhere.
 bool IsTaken(const std::filesystem::path& name);
 
+/// Whether a path is that of a folder or leads to something below it, by its components; links are not
+/// followed.
+bool LiesIn(const std::filesystem::path& folder, const std::filesystem::path& path);
+
 /// Whether this user may make files in a folder.
 bool TakesFiles(const std::filesystem::path& folder);
 

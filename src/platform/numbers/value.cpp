@@ -19,6 +19,11 @@ std::int32_t Int32Of(const Value& value, std::string_view where) {
   return ToInt32(NumberOf(value, where), where);
 }
 
+Currency AmountOf(const Value& value, std::string_view where) {
+  if (const auto* exact = std::get_if<Currency>(&value)) return *exact;
+  return IsNull(value) ? Currency() : Currency::FromDouble(NumberOf(value, where));
+}
+
 std::string TextOf(const Value& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return std::to_string(*whole);
   if (const auto* real = std::get_if<double>(&value)) return ShortestDecimal(*real);

@@ -24,6 +24,9 @@ inline bool IsNull(const Value& value) { return std::holds_alternative<std::mono
 double NumberOf(const Value& value, std::string_view where);
 /// As `NumberOf`, rounded halves to even into a 32-bit integer; beyond it `overflow`.
 std::int32_t Int32Of(const Value& value, std::string_view where);
+/// The amount in a value, null is 0: a Currency as it is, any other number as `Currency::FromDouble` takes
+/// it.
+Currency AmountOf(const Value& value, std::string_view where);
 /// The text of a value: null is empty, numbers in their shortest decimal form.
 std::string TextOf(const Value& value);
 

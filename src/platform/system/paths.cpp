@@ -105,6 +105,14 @@ bool FamilyFileExists(std::string_view family_path) {
   return fs::is_regular_file(status);
 }
 
+std::optional<fs::path> OwnProgram(std::string_view name) {
+  if (Services.ProgramFolder.empty()) return std::nullopt;
+  fs::path program = Services.ProgramFolder / name;
+  std::error_code not_there;
+  if (!fs::is_regular_file(program, not_there)) return std::nullopt;
+  return program;
+}
+
 void ChangeFamilyDirectory(std::string_view family_path) {
   fs::path directory = MapPath(family_path);
   std::error_code error;

@@ -67,11 +67,16 @@ class SpawnActions {
   posix_spawn_file_actions_t actions_{};
 };
 
+fs::path ProgramFile(const std::string& name) {
+  const bool has_folder = name.find_first_of("\\/") != std::string::npos;
+  return has_folder ? MapPath(name) : OwnProgram(name).value_or(fs::path(name));
+}
+
 pid_t Start(std::string_view command_line) {
   std::vector<std::string> words = SplitAtBlanks(command_line);
   if (words.empty()) throw Fault(FaultKind::file, "no program to start");
   const std::string program_name = words.front();
-  const fs::path program = MapPath(program_name);
+  const fs::path program = ProgramFile(program_name);
   std::error_code error;
   if (!fs::is_regular_file(program, error)) {
     throw Fault(FaultKind::file, program_name + ": the program does not exist (" + program.string() + ")");

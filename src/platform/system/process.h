@@ -10,8 +10,8 @@ namespace rbt {
 enum class WindowStyle { hidden = 0, normal = 1, minimised = 2, maximised = 3 };
 
 /// Starts a program of the family, `\rbk\kakou\rbweldcnt.exe` with its arguments split at blanks, and returns
-/// when it has ended, pending events run once afterwards. Throws `file` naming the program when it does not
-/// exist, cannot be started.
+/// when it has ended, pending events run once afterwards. A name without a folder is that of a program beside
+/// this one, see `OwnProgram`. Throws `file` naming the program when it does not exist, cannot be started.
 void RunAndWait(std::string_view command_line, WindowStyle style);
 /// The same, with pending events run about every millisecond, so that the window stays painted.
 void RunAndWaitPoll(std::string_view command_line, WindowStyle style);

@@ -39,6 +39,8 @@ struct ServicesData {
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.
   ColourChooser Colours = ChooseNoColour;
+  /// `OwnProgram()`: the folder of this program and of those that are installed with it; empty: none are.
+  std::filesystem::path ProgramFolder;
   /// `RunAndWait()`, `RunAndWaitPoll()`.
   Launcher Launch = LaunchProgram;
   /// `RunPendingEvents()`: without windows there are none.
@@ -51,9 +53,6 @@ struct ServicesData {
   PrinterSource FindPrinters;
   /// `WritePdf()`; empty: nothing can paint.
   PdfWriter PaintPdf;
-  /// `LoadAccumulation()`: brings the sums of the sites that were tallied before into the current result, all
-  /// of them or, with a fault, none; empty: there are none.
-  std::function<void()> Accumulation;
 };
 
 extern ServicesData Services;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own folders: settings, desktop, documents.
+// The user's own folders: settings, cache, desktop, documents.
 #include <cstdlib>
 #include <fstream>
 
@@ -54,20 +54,27 @@ fs::path ConfiguredUserDirectory(std::string_view name) {
   return found;
 }
 
-/// The configured folder, else the usual one below the home folder, else the home folder itself.
-fs::path UserFolder(std::string_view name, const char* usual) {
+/// The configured folder, else the usual one below the home folder.
+std::optional<fs::path> UserFolder(std::string_view name, const char* usual) {
   std::error_code error;
   for (const fs::path& folder : {ConfiguredUserDirectory(name), Home() / usual}) {
     if (!folder.empty() && fs::is_directory(folder, error)) return folder;
   }
-  return Home();
+  return std::nullopt;
 }
 
 }  // namespace
 
-fs::path DesktopFolder() { return UserFolder("XDG_DESKTOP_DIR", "Desktop"); }
+std::optional<fs::path> DesktopFolder() { return UserFolder("XDG_DESKTOP_DIR", "Desktop"); }
 
-fs::path DocumentsFolder() { return UserFolder("XDG_DOCUMENTS_DIR", "Documents"); }
+std::optional<fs::path> DocumentsFolder() { return UserFolder("XDG_DOCUMENTS_DIR", "Documents"); }
+
+fs::path OfferedFolder() { return DocumentsFolder().value_or(Home()); }
+
+fs::path CacheFolder() {
+  const fs::path configured = Environment("XDG_CACHE_HOME");
+  return (configured.is_absolute() ? configured : Home() / ".cache") / "rbtally";
+}
 
 fs::path SettingsFile() {
   const fs::path configured = Environment("RBK_SETTINGS");

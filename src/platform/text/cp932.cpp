@@ -47,6 +47,20 @@ std::string ToCp932(std::string_view utf8) {
   return bytes;
 }
 
+Cp932Text ToCp932Lenient(std::string_view utf8) {
+  Cp932Text text;
+  while (!utf8.empty()) {
+    utf8.remove_prefix(Encoder().Convert(utf8, text.bytes));
+    if (utf8.empty()) break;
+    const std::string_view bytes = Left(utf8, 1);
+    const std::string character = Utf8Of(CharactersOf(bytes).front());
+    text.bytes += '?';
+    if (text.lacking.find(character) == std::string::npos) text.lacking += character;
+    utf8.remove_prefix(bytes.size());
+  }
+  return text;
+}
+
 std::string FromCp932(std::string_view bytes) {
   std::string text;
   const std::size_t taken = Decoder().Convert(bytes, text);

@@ -12,6 +12,13 @@ namespace rbt {
 /// yen sign as a backslash. Throws `type mismatch`, naming the character and its place, for what the code
 /// page does not hold or for text that is not UTF-8.
 std::string ToCp932(std::string_view utf8);
+/// What code page 932 makes of a text.
+struct Cp932Text {
+  std::string bytes;    ///< with "?" for each character that the code page lacks
+  std::string lacking;  ///< those characters, each once, in their order; UTF-8
+};
+/// As `ToCp932`, for files that are written whatever the text holds.
+Cp932Text ToCp932Lenient(std::string_view utf8);
 /// Code page 932 to UTF-8. A byte sequence that is no character throws `type mismatch` and names its offset.
 std::string FromCp932(std::string_view bytes);
 /// As `FromCp932`, with U+FFFD for what is no character: for files that must stay readable.

@@ -11,6 +11,8 @@ inline constexpr std::string_view kCsvRecordEnd = "\r\n";
 /// A cell of a CSV record (RFC 4180): in double quotes, inner ones doubled, where it holds a comma, a quote
 /// or a line break, else as it is.
 std::string CsvCell(std::string_view text);
+/// A text as a cell in double quotes, whatever it holds, inner ones doubled.
+std::string QuotedCsvCell(std::string_view text);
 
 /// One record, cell after cell.
 class CsvRecord {

@@ -24,7 +24,8 @@ HintLine::HintLine(QWidget& form, QLabel& line, std::span<const ControlHint> hin
 
 void HintLine::Tell(const QWidget* focused) {
   const auto hint = hints_.find(focused);
-  line_.setText(hint == hints_.end() ? otherwise_ : hint->second);
+  const QString unlisted = otherwise_.isEmpty() ? focused->toolTip() : otherwise_;
+  line_.setText(hint == hints_.end() ? unlisted : hint->second);
 }
 
 }  // namespace rbt

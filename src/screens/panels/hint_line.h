@@ -15,8 +15,8 @@ class QWidget;
 
 namespace rbt {
 
-/// Tells in a label of a form what its focused control does, and `otherwise` of one without a hint; every
-/// control has its own words as its tool tip too.
+/// Tells in a label of a form what its focused control does; of one without a hint `otherwise`, or where that
+/// is empty its tool tip. Every hint is its control's tool tip too.
 class HintLine : public QObject {
  public:
   /// Controls that the form does not have are left out.

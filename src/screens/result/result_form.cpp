@@ -54,6 +54,7 @@ void ResultForm::PlaceRange() {
   switch (presenter_.Screen().Range()) {
     case TallyRange::whole_site:
     case TallyRange::floors:
+    case TallyRange::names:
       return;
     case TallyRange::positions:
       before = ui_->filterPanel->LastControl();

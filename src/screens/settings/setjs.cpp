@@ -106,7 +106,9 @@ void SETJS::closeEvent(QCloseEvent* event) {
 void SETJS::PrepareHints() {
   int widest = 0;
   for (const SettingHint& row : SettingHints()) {
-    findChild<QWidget*>(Text(row.control))->installEventFilter(this);
+    auto* control = findChild<QWidget*>(Text(row.control));
+    control->setToolTip(Text(row.hint));
+    control->installEventFilter(this);
     widest = std::max(widest, ui_->lblMsg->fontMetrics().size(0, Text(row.hint)).width());
   }
   ui_->lblMsg->setMinimumWidth(widest);  // the form keeps its width whatever it tells

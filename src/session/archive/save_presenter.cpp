@@ -132,7 +132,7 @@ void SavePresenter::Write(const std::string& name, const std::vector<SavedTally>
 
 void SavePresenter::ExportCsv() {
   if (!parts_.export_csv) return SayNotReady("CSV保存", kSaveTitle);
-  parts_.export_csv();
+  parts_.export_csv({.result = result_, .memos = memos_, .data_name = std::string(Trim(name_))});
 }
 
 }  // namespace rbt

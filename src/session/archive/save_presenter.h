@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "archive/csv/csv_subject.h"
 #include "archive/store/saved_tallies.h"
 #include "tally/tally_result.h"
 
@@ -15,7 +16,8 @@ namespace rbt {
 
 /// What the save dialog leans on.
 struct SaveParts {
-  std::function<void()> export_csv;  ///< the CSV dialog; empty: not ready, and its button says so
+  /// The CSV dialog; empty: not ready, and its button says so.
+  std::function<void(CsvOfTally)> export_csv;
 };
 
 /// All that `SaveFiles` shows.
@@ -53,6 +55,7 @@ class SavePresenter {
   /// Saves under the name, or, where it is empty, under that of the selected entry; asks first, and before
   /// one of that name is replaced.
   void Save();
+  /// Hands the tally on with the memos and the name as they stand.
   void ExportCsv();
   void Leave() { left_ = true; }
 

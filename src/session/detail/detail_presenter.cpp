@@ -76,6 +76,9 @@ DetailPresenter::DetailPresenter(TallyResult result, DetailParts parts)
 bool DetailPresenter::IsWithinReach(DetailButton button) const {
   if (busy_) return false;
   if (RowOf(button).in_print_panel) return mode_ == DetailMode::printing;
+  // A tally of registered names is of names that are marked now: it is neither kept nor brought back.
+  const bool keeps = button == DetailButton::save || button == DetailButton::load;
+  if (keeps && result_.kind == TallyKind::names) return false;
   // In the middle of a percentage its button brings back to the box.
   return mode_ == DetailMode::buttons || (mode_ == DetailMode::percent && button == DetailButton::percent);
 }

@@ -38,12 +38,11 @@ constexpr std::array<ControlHint, 27> kHints{{
     {"Opt1_1", "取付の重量で集計する"},
 }};
 
-constexpr std::array<ControlHint, 5> kFloorHints{{
+constexpr std::array<ControlHint, 4> kFloorHints{{
     {"cmdKaiJS", "入力した階を集計する"},
     {"dbgKai", "↑↓で階を移る、Ctrl+C で表を写す"},
     {"cmdCutPrint", "すべての階の明細を一つの表に印字する"},
     {"btnAllBuiPrint", "すべての階の合計表を印字する"},
-    {"btnPrintKaiBuiFuto", "階・部位・径ごとの表を印字する"},
 }};
 
 constexpr std::array<ControlHint, 4> kPartHints{{

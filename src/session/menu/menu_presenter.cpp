@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "archive/accumulation/hozon.h"
 #include "platform/fault.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
@@ -18,6 +19,7 @@
 #include "shell/context/run_state.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/selection.h"
+#include "tally/tally_grid.h"
 
 namespace rbt {
 
@@ -49,12 +51,10 @@ class MenuPresenter::OutOfSight {
 };
 
 MenuParts MenuPartsFor(const StartOptions& options, std::function<void(int status)> end_program) {
-  return {
-      .load = [options] { return LoadSite(options); },
-      .activate = [options] { return ActivateMenu(options); },
-      .write_accumulated =
-          [] { throw Fault(FaultKind::file, "\\RBK\\DATA\\hozon.MDB: no accumulation can be written yet"); },
-      .end_program = std::move(end_program)};
+  return {.load = [options] { return LoadSite(options); },
+          .activate = [options] { return ActivateMenu(options); },
+          .write_accumulated = [] { Save_Hozon(TallyGrid); },
+          .end_program = std::move(end_program)};
 }
 
 /// A step whose fault ends the program: told so to whoever asks the user to wait. Should the fault lie in a
@@ -95,7 +95,7 @@ void MenuPresenter::HandOver(const std::string& program) {
 }
 
 void MenuPresenter::Activate() {
-  if (ended_ || window_.HasOpenForm()) return;
+  if (HasEnded() || window_.HasOpenForm()) return;
   if (Selection.StartMode.PassesOn()) window_.Minimise();
   const MenuState state = Vitally(parts_.activate);
   if (state.hand_over_to) return HandOver(*state.hand_over_to);
@@ -167,6 +167,8 @@ bool MenuPresenter::RequireForm(std::string_view form, std::string_view caption)
   MsgBox(fmt::format("「{}」の画面は、まだご利用いただけません。", caption), kMenuTitle);
   return false;
 }
+
+bool MenuPresenter::HasEnded() const { return ended_ || RunState.IsEnding; }
 
 void MenuPresenter::End(int status) {
   ended_ = true;

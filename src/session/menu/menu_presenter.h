@@ -80,7 +80,7 @@ class MenuPresenter {
   void Leave();
 
   void End(int status);
-  bool HasEnded() const { return ended_; }
+  bool HasEnded() const;
 
  private:
   class OutOfSight;

@@ -36,9 +36,10 @@ inline constexpr Sibling kStockFit{"\\rbk\\", "\\rbk\\KAKOU\\rbstockfit.exe", Wi
 /// The companion that works with registered names; what it is told depends on the start mode.
 Sibling NameCompanion(const StartModeTraits& start_mode);
 
-/// False, after a message that names the program, when it is not there.
+/// False, after a message that names the program, when it is not there. The companion of registered names is
+/// this program under another name: where the root has none, the one beside this program stands in for it.
 bool RequireSibling(std::string_view command_line);
-/// Changes to the sibling's directory, starts it and returns when it has ended.
+/// Changes to the sibling's directory, starts it, or what stands in for it, and returns when it has ended.
 void RunSibling(const Sibling& sibling);
 
 }  // namespace rbt

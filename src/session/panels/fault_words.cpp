@@ -29,7 +29,7 @@ constexpr Telling kTellings[] = {
     {FaultKind::file, "no site: [", "現場が選ばれていません。", "現場を選んでから、もう一度始めて下さい。"},
     {FaultKind::file, "is no site", "現場のファイルではありません。", "現場を選び直して下さい。"},
     {FaultKind::file, "needs the newer program", "新しい形式の現場です。",
-     "メニューに戻り、新しい形式を読むプログラムで開いて下さい。"},
+     "この現場は、新しい形式を読むプログラムで集計して下さい。"},
     {FaultKind::file, "rbtally import", "変換していないデータベースです。",
      "下に示したコマンドで取り込んでから、もう一度操作して下さい。"},
     {FaultKind::file, "code page 932", "設定ファイルの文字コードが違います。",

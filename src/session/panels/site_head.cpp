@@ -2,11 +2,8 @@
 #include "session/panels/site_head.h"
 
 #include "data/reference.h"
-#include "platform/files/system_error.h"
 #include "platform/numbers/number_mask.h"
-#include "platform/system/paths.h"
 #include "session/startup/startup.h"
-#include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "tally/selection.h"
@@ -17,10 +14,7 @@ void BindChosenSite() {
   StartOptions options;
   options.start_mode = Selection.StartMode;
   // The menu has bound the site; should another be selected since, no sheet may mix the two.
-  if (!FollowSelectedSite(options)) {
-    throw FileFaultText(MapPath("\\RBK\\DATA\\" + ReadSteelIni(kSelectedDbNameKey)),
-                        "needs the newer program");
-  }
+  FollowReadableSite(options);
   if (!SiteContext.MasterDatabase) OpenMasterDatabase();
 }
 

@@ -100,6 +100,7 @@ std::unique_ptr<RangeInput> MakeRangeInput(TallyRange range) {
       return std::make_unique<ShapeInput>();
     case TallyRange::whole_site:
     case TallyRange::floors:
+    case TallyRange::names:
       break;
   }
   return nullptr;

@@ -7,7 +7,7 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<ControlHint, 32> kHints{{
+constexpr std::array<ControlHint, 26> kHints{{
     {"cmdPrint", "この集計の合計表を印字する"},
     {"cmdUSum", "ウルボンの行だけを表示する"},
     {"cmdurubon", "ウルボンの重量の割増し、または印字"},
@@ -17,6 +17,7 @@ constexpr std::array<ControlHint, 32> kHints{{
     {"cmdPGChange", "頁と行の範囲を入力し直す"},
     {"Command6", "ほかの現場の集計と足し合わせる"},
     {"cmdExit", "一つ前に戻る"},
+    {"Command1", "今の選択で集計し直す"},
     {"Command2", "集計する材料（生材・加工・切断）を選ぶ"},
     {"Command3", "集計する材質（異形・ネジ・高強度・スリット）を選ぶ"},
     {"cmdHoop", "溶接閉鎖型フープを 含む → 含まず → のみ と切り替える"},
@@ -33,13 +34,6 @@ constexpr std::array<ControlHint, 32> kHints{{
     {"txtYear", "表に印字する年"},
     {"txtMonth", "表に印字する月"},
     {"txtDay", "表に印字する日"},
-    {"btnA4Y", "Ａ４横の用紙に印字する"},
-    {"btnA4T", "Ａ４縦の用紙に印字する"},
-    {"btnB5Y", "Ｂ５横の用紙に印字する"},
-    {"chkPreview", "印字する前に画面で見る"},
-    {"btnPrinter", "印字するプリンタを選び、設定に残す"},
-    {"btnSettei", "日付・対比表などの設定を変える"},
-    {"btnReturn", "印字をやめて表に戻る"},
 }};
 
 }  // namespace

@@ -23,26 +23,36 @@ namespace rbt {
 namespace {
 
 constexpr std::string_view kAllKindsAfterReset = "異形・高強度・ネジ・スリット";
+constexpr std::string_view kSiteAlone = "加算した集計を離れ、この現場だけを集計しました。";
 
 }  // namespace
 
 ResultPresenter::ResultPresenter(const ResultScreen& screen, ResultParts parts)
     : screen_(screen), parts_(std::move(parts)), range_(MakeRangeInput(screen.Range())) {
   print_panel_.OfferPrinters(parts_.choose_printer);
+  Load();
+  FocusWork();
+}
+
+void ResultPresenter::Load() {
   SetSelectionDefaults();
   BindChosenSite();
   head_ = ReadHead();
-  filters_.kinds = screen_.kinds_at_start;
-  filters_.hoops_note = HoopsNote(ShapeFilter::with_others);
+  BeginWithDefaults();
   filters_.accumulating = screen_.offers.accumulation && RunState.AccumulateFlag != 0;
-  TellForms();
   if (range_ == nullptr) {
     FirstRun();
   } else {
     range_->FillFromSchedule(*SiteContext.WorkDatabase);
     ShowStage();
   }
-  FocusWork();
+}
+
+/// How the screen tells the selection's defaults.
+void ResultPresenter::BeginWithDefaults() {
+  filters_.kinds = screen_.kinds_at_start;
+  filters_.hoops_note = HoopsNote(ShapeFilter::with_others);
+  TellForms();
 }
 
 void ResultPresenter::FirstRun() {
@@ -61,6 +71,7 @@ void ResultPresenter::Tally(const std::function<void()>& before) {
   const ClassifiedSchedule held(Selection.StartMode);
   if (before) before();
   result_ = CountTally(screen_.kind);
+  added_sites_.clear();
   tally_ran_ = true;
 }
 
@@ -85,13 +96,16 @@ void ResultPresenter::Rerun(const std::function<void()>& change) {
   });
   const AtEnd idle([this] { busy_ = false; });
   busy_ = true;
-  notice_.clear();
+  const bool was_sum = IsSum();
+  if (!was_sum) notice_.clear();
   if (show_) show_();
   RunPendingEvents();
   Tally([&] {
     change();
     ResetMeaninglessModes(Selection);
   });
+  // A filter is of the bound site: no sum can be tallied anew.
+  if (was_sum) notice_ = kSiteAlone;
   Fill();
   // The scoped screens name the kinds after a choice of kinds alone.
   if (range_ == nullptr) TellKinds();
@@ -159,7 +173,7 @@ void ResultPresenter::CyclePlates() {
 // The Ulbon rows.
 
 void ResultPresenter::ShowUlbonView() {
-  Tally();
+  if (!IsSum()) Tally();
   ulbon_view_ = true;
   Fill();
   FocusOn(FocusTarget::grid);
@@ -201,7 +215,7 @@ void ResultPresenter::RestoreValues() {
   filters_.uplift.text.clear();
   taken_uplift_.clear();
   filters_.uplift.shown = false;
-  Tally();
+  if (!IsSum()) Tally();
   Fill();
   FocusOn(FocusTarget::grid);
 }

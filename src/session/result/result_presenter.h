@@ -72,6 +72,9 @@ class ResultPresenter {
   PrintPanelPresenter& PrintPanel() { return print_panel_; }
 
   void ShowDetail();
+  /// Keeps the tally that is shown and asks for the site to be added; the sum is shown then, or the bound
+  /// site alone where none is chosen. A fault of the other site leaves what was shown. Nothing while what is
+  /// shown cannot be added to.
   void ToggleAccumulation();
   /// One step back: from the box of the uplift, else from the Ulbon rows to the whole tally, else off the
   /// screen.
@@ -80,7 +83,15 @@ class ResultPresenter {
   void Leave();
 
  private:
+  void Load();
   void FirstRun();
+  void BeginWithDefaults();
+  void ReopenSite();
+  void Add(const AddedSite& site);
+  void ShowSum(TallyResult sum, const AddedSite& site);
+  bool MayBeAddedTo() const;
+  /// What is shown is the sum of several sites.
+  bool IsSum() const { return result_.origin == ResultOrigin::accumulated; }
   void ShowNormalView();
   void GiveUpUplift();
   void RunRange();
@@ -122,6 +133,7 @@ class ResultPresenter {
   std::vector<std::size_t> totals_;
   std::optional<RowColours> colours_;
   std::string notice_;
+  std::string added_sites_;  ///< to the bound one, in the sum that is shown
   bool ulbon_view_ = false;
   bool tally_ran_ = false;
   bool result_shown_ = true;  ///< filters and grid

@@ -31,7 +31,7 @@ void ResultPresenter::OpenPrint(SheetBody body) {
 }
 
 Papers ResultPresenter::PapersNow() const {
-  if (!tally_ran_ || !ShowsWholePicture(result_.selection)) return Papers::none;
+  if (!tally_ran_ || IsSum() || !ShowsWholePicture(result_.selection)) return Papers::none;
   return ulbon_view_ ? Papers::ulbon : Papers::all;
 }
 
@@ -102,11 +102,6 @@ void ResultPresenter::ShowDetail() {
   FocusOn(FocusTarget::grid);
 }
 
-void ResultPresenter::ToggleAccumulation() {
-  if (!parts_.toggle_accumulation) return SayNotReady("集計加算");
-  parts_.toggle_accumulation();
-}
-
 void ResultPresenter::Leave() {
   if (std::exchange(left_, true)) return;
   Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
@@ -157,14 +152,15 @@ void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   const ResultOffers& offers = screen_.offers;
   const bool idle = !busy_;
   const bool idle_result = idle && result_shown_;
-  view.print = {offers_print_, idle, PrintCaption()};
+  const bool of_this_site = !IsSum();  // sheets and saves go by the bound site
+  view.print = {offers_print_ && of_this_site, idle, PrintCaption()};
   view.show_ulbon_view = {offers.ulbon_view && !ulbon_view_};
   view.ulbon = {offers.uplift || (offers.ulbon_print && offers_print_), idle_result};
-  view.print_deformed = {offers.deformed_print && offers_print_ && !ulbon_view_, idle};
+  view.print_deformed = {offers.deformed_print && offers_print_ && of_this_site && !ulbon_view_, idle};
   view.restore_values = {offers.uplift};
-  view.show_detail = {true, idle_result};
+  view.show_detail = {of_this_site, idle_result};
   view.change_range = {offers.range_change, idle_result};
-  view.toggle_accumulation = {offers.accumulation && offers_print_ && !ulbon_view_, idle};
+  view.toggle_accumulation = {offers.accumulation && MayBeAddedTo(), idle};
   view.leave = {true, idle};
 }
 

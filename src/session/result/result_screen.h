@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "data/form_mask.h"
+#include "session/accumulation/site_choice.h"
 #include "session/panels/print_panel_presenter.h"
 #include "session/panels/views.h"
 #include "session/result/print_order.h"
@@ -40,17 +41,18 @@ struct ResultScreen {
   std::span<const ControlText> names = {};           ///< object names, likewise
 
   /// The tally runs over a range that is asked for first.
-  bool IsScoped() const { return Range() != TallyRange::whole_site; }
+  bool IsScoped() const { return Range() != TallyRange::whole_site && Range() != TallyRange::names; }
   TallyRange Range() const { return RowOf(kind).range; }
 };
 
-/// All of them.
+/// Those that the menu opens, each under a name of its own.
 std::span<const ResultScreen* const> ResultScreens();
 
 extern const ResultScreen kBulkScreen;       ///< JS
 extern const ResultScreen kPageScreen;       ///< PGJS
 extern const ResultScreen kShapeScreen;      ///< KEIJOJS
 extern const ResultScreen kPageShapeScreen;  ///< PKEIJOJS
+extern const ResultScreen kNameScreen;       ///< JS over the marked registered names; no sites are added up
 
 /// What a result screen leans on beside the tally. An empty one is not ready yet: its button says so.
 struct ResultParts {
@@ -62,7 +64,7 @@ struct ResultParts {
   PrintPanelPresenter::AskPrinter choose_printer = {};  ///< in place of one that is not there
   /// ZAIMEI in place of the form: gives the result as it is left there.
   std::function<TallyResult(TallyResult result)> open_detail;
-  std::function<void()> toggle_accumulation;  ///< of several sites
+  std::function<SiteChoice()> choose_site;  ///< BACKUP2 in place of the form
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are

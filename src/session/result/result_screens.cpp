@@ -82,6 +82,17 @@ constinit const ResultScreen kPageShapeScreen{.name = "PKEIJOJS",
                                               .captions = kPageShapeCaptions,
                                               .names = kScopedNames};
 
+constinit const ResultScreen kNameScreen{.name = "JS",
+                                         .title = "重量集計",
+                                         .kind = TallyKind::names,
+                                         .offers = {.ulbon_view = true,
+                                                    .uplift = true,
+                                                    .deformed_print = true,
+                                                    .form_choice = true,
+                                                    .stock_warning = true},
+                                         .kinds_at_start = kAllKindsAtDesign,
+                                         .form_caption = FormCaption};
+
 std::span<const ResultScreen* const> ResultScreens() {
   static constexpr std::array<const ResultScreen*, 4> kScreens{&kBulkScreen, &kPageScreen, &kShapeScreen,
                                                                &kPageShapeScreen};

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "archive/accumulation/hozon.h"
 #include "archive/check_jsyukei.h"
 #include "data/reference.h"
 #include "data/shapes.h"
@@ -35,8 +36,6 @@
 namespace rbt {
 
 namespace {
-
-constexpr std::string_view kAccumulationFile = "\\RBK\\DATA\\hozon.MDB";
 
 /// The program that reads newer sites is looked for under one name and started under another.
 constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
@@ -65,9 +64,14 @@ void RequireSteelIni() {
   if (!FamilyFileExists(kSteelIni)) throw FileFaultText(MapPath(kSteelIni), "the file does not exist");
 }
 
+/// Schedule file name of the site that is to be bound.
+std::string ChosenSite(const StartOptions& options) {
+  return options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+}
+
 void BindSite(const StartOptions& options) {
   RequireSteelIni();
-  const std::string name = options.site.empty() ? ReadSteelIni(kSelectedDbNameKey) : options.site;
+  const std::string name = ChosenSite(options);
   if (name.empty()) {
     throw FileFaultText(MapPath(kSteelIni), fmt::format("no site: [{}] {} is empty",
                                                         kSelectedDbNameKey.section, kSelectedDbNameKey.key));
@@ -143,14 +147,9 @@ void ReadGrades() { SiteContext.GradeNames = ReadGradeNames(*SiteContext.MasterD
 /// Where nothing may be written no accumulation can have begun, and none can begin.
 void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
-  if (options.command_line) return;
+  if (options.command_line || options.keep_accumulation) return;
   if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
-  if (!FamilyFileExists(kAccumulationFile)) return;
-  const std::filesystem::path file = MapPath(kAccumulationFile);
-  if (!TakesFiles(FolderOf(file))) return;
-  std::error_code error;
-  std::filesystem::remove(file, error);
-  if (error) throw FileFault(file, "cannot be deleted", error.value());
+  if (TakesFiles(FolderOf(MapPath(kHozonFile)))) Delete_Hozon();
 }
 
 void ProbeShapes() {
@@ -297,6 +296,11 @@ bool FollowSelectedSite(const StartOptions& options) {
   Step(ProbeShapes);
   site.NoteReady();
   return true;
+}
+
+void FollowReadableSite(const StartOptions& options) {
+  if (FollowSelectedSite(options)) return;
+  throw FileFaultText(MapPath("\\RBK\\DATA\\" + ChosenSite(options)), "needs the newer program");
 }
 
 MenuState ActivateMenu(const StartOptions& options) {

@@ -19,6 +19,8 @@ struct StartOptions {
   std::string site;  ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
   bool command_line = false;
+  /// A menu waits for this start: hozon.MDB and the stored flag of its accumulation stay.
+  bool keep_accumulation = false;
 };
 
 /// What the load leaves to the form.
@@ -39,6 +41,9 @@ LoadResult LoadSite(const StartOptions& options);
 /// readied whole, as the load does: archive tables, classification, names, grades, presence flags. False for
 /// one that a newer program reads.
 bool FollowSelectedSite(const StartOptions& options);
+
+/// The same, where nothing can be handed over: a site that a newer program reads is a `file` fault.
+void FollowReadableSite(const StartOptions& options);
 
 /// Every time the menu gets the focus: re-reads what may have changed, follows the selected site, refreshes
 /// the schedule, resets the selection and leaves the site database open; on the command line also held,

@@ -19,6 +19,7 @@ struct RunStateData {
   std::string RunDate;              ///< "yyyymmdd" at load
   std::string RunTime;              ///< "hhnnss" at load
   std::int32_t RunningActions = 0;  ///< of forms, also while they wait in a message box or for a sibling
+  bool IsEnding = false;            ///< a screen has ended the program: the menu comes back no more
   bool FaultEndsProgram = false;    ///< load or activation runs: its fault ends the program
   bool HasWaited = false;           ///< the running action has waited for a file that another program held
   bool GaveUpWaiting = false;       ///< ... and the user has given that up: what becomes of it is known

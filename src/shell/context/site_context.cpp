@@ -59,6 +59,7 @@ void SelectSite(std::string_view file_name) {
     SiteContext.ClassifiedAt.reset();
     SiteContext.CopiedAt.reset();
     SiteContext.ToldOfCopy = false;
+    SiteContext.NameDatabase.reset();
   }
   SiteContext.SelectedDbName = file_name;
   SiteContext.SiteNumberText = SiteNumberOf(file_name);

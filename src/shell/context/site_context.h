@@ -24,7 +24,9 @@ struct SiteContextData {
   /// The site is only read: what has to be worked out in its files is worked out on private copies.
   bool OnlyRead = false;
 
-  std::unique_ptr<Database> WorkDatabase;    ///< GENBAnnn.MDB, or a private copy of it
+  std::unique_ptr<Database> WorkDatabase;  ///< GENBAnnn.MDB, or a private copy of it
+  /// HIROInnn.mdb while registered names are worked with, or a private copy of it; null otherwise.
+  std::unique_ptr<Database> NameDatabase;
   std::unique_ptr<Database> MasterDatabase;  ///< SORANO.MDB, open for the run
   std::unique_ptr<Database> FixedStockDatabase;  ///< MTTeijyaku.mdb, open for the run when テーブル有無 is 1
   /// Its table as the current tally reads it, a private copy; null where the file has none that can be read.
@@ -45,8 +47,8 @@ std::string SiteNumberOf(std::string_view file_name);
 /// Binds the context to a schedule file by its name; the database is not opened.
 void SelectSite(std::string_view file_name);
 /// Opens `\RBK\DATA\` + `SelectedDbName` and leaves it in `SiteContext`; where it stands open there, and the
-/// name still leads to it, it stays open. A file that is no site throws `file`: it must hold 加工テーブル, and be
-/// none of the family's other databases whatever its name.
+/// name still leads to it, it stays open. A file that is no site throws `file`: it must hold 加工テーブル,
+/// and be none of the family's other databases whatever its name.
 void OpenWorkDatabase();
 /// Opens the site's companion file: for reading where the site is only read.
 Database OpenCompanionDatabase();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/output_files.h"
 
-#include <algorithm>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include "platform/files/system_error.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
+#include "platform/text/cp932.h"
 #include "store/database_file.h"
 
 namespace rbt {
@@ -21,6 +21,9 @@ namespace {
 
 constexpr std::string_view kPdfMark = "%PDF-";
 constexpr std::string_view kTraceMark = "document\t";
+/// The first line of a CSV file: it begins with the site, or goes on so behind the name of a floor.
+constexpr std::string_view kCsvSiteHead = "\"工事No\",";
+constexpr std::string_view kCsvFloorHead = "\",\"部位\",\"D10\",";
 
 /// Where a file stands or would stand, links resolved.
 fs::path Resolved(const fs::path& file) {
@@ -28,10 +31,6 @@ fs::path Resolved(const fs::path& file) {
   fs::path resolved = fs::weakly_canonical(fs::absolute(file), error);
   if (error) throw FileFault(file, "cannot be written", error.value());
   return resolved;
-}
-
-bool LiesIn(const fs::path& folder, const fs::path& file) {
-  return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
 }
 
 std::string FirstBytes(const fs::path& file) {
@@ -44,6 +43,14 @@ std::string FirstBytes(const fs::path& file) {
   return bytes;
 }
 
+bool BeginsAsCsv(std::string_view first_bytes) {
+  const std::string_view line = first_bytes.substr(0, first_bytes.find("\r\n"));
+  if (line.starts_with(ToCp932(kCsvSiteHead))) return true;
+  return line.starts_with('"') && line.find(ToCp932(kCsvFloorHead)) != std::string_view::npos;
+}
+
+bool IsText(std::string_view bytes) { return bytes.find('\0') == std::string_view::npos; }
+
 bool IsOfKind(const OutputFile& output, std::string_view first_bytes) {
   switch (output.kind) {
     case OutputKind::pdf:
@@ -51,8 +58,8 @@ bool IsOfKind(const OutputFile& output, std::string_view first_bytes) {
     case OutputKind::trace:
       return first_bytes.starts_with(kTraceMark);
     case OutputKind::csv:
-      return EqualIgnoringCase(output.path.extension().string(), ".csv") &&
-             first_bytes.find('\0') == std::string_view::npos;
+      return BeginsAsCsv(first_bytes) ||
+             (EqualIgnoringCase(output.path.extension().string(), ".csv") && IsText(first_bytes));
   }
   return false;
 }

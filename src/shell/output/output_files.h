@@ -9,8 +9,8 @@
 
 namespace rbt {
 
-/// What a file that the user names is to hold. Each kind is told by its first bytes, a CSV file by its name
-/// too.
+/// What a file that the user names is to hold. Each kind is told by its first bytes; for a CSV file any text
+/// passes under a name that ends in .csv.
 enum class OutputKind { pdf, trace, csv };
 
 struct OutputFile {

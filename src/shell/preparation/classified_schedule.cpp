@@ -10,7 +10,9 @@
 
 #include "platform/system/message.h"
 #include "shell/context/site_context.h"
+#include "shell/preparation/classification_memory.h"
 #include "shell/preparation/preparation.h"
+#include "shell/preparation/statements.h"
 #include "store/database.h"
 
 namespace rbt {
@@ -43,6 +45,28 @@ void PutCopyInPlace(const std::vector<std::string>& statements) {
   TellOfCopy();
 }
 
+/// Whether the schedule, which is held, is not classified yet. All its rows are looked at unless that was
+/// remembered of the file as it stands.
+bool WouldClassify(Database& schedule, const std::vector<std::string>& statements) {
+  const ClassificationMemory memory(schedule, statements);
+  if (memory.Holds()) return false;
+  if (schedule.WouldChangeTogether(statements)) return true;
+  memory.Note();
+  return false;
+}
+
+/// Holds the schedule for the life of the object.
+class Held {
+ public:
+  explicit Held(Database& schedule) : schedule_(schedule) { schedule.Hold(); }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+  ~Held() { schedule_.LetGo(); }
+
+ private:
+  Database& schedule_;
+};
+
 /// A private copy stands as long as its original does.
 bool IsCopyOfWhatStands() {
   if (!SiteContext.WorkDatabase->IsPrivateCopy()) return false;
@@ -56,28 +80,27 @@ void ClassifyAtLoad(const StartModeTraits& start_mode) {
   Database& schedule = *SiteContext.WorkDatabase;
   // One that may only be read is classified when it is tallied.
   if (!MayBeWritten(schedule)) return;
-  const std::vector<std::string> all = PreparationStatements(schedule, start_mode);
-  schedule.Hold();
-  // A slit bar of a threaded shape is classified to and fro: the load alone would write it each time.
-  if (schedule.WouldChangeTogether(all)) {
+  const Held held(schedule);
+  // What the activation would write is written now: otherwise most rows of a fresh file are written twice,
+  // and a slit bar of a threaded shape, which is classified to and fro, at each start.
+  if (WouldClassify(schedule, PreparationStatements(schedule, start_mode))) {
     Transaction transaction(schedule);
-    ClassifySchedule(schedule, start_mode);
+    // Another program may have given it other columns while the lock was waited for.
+    schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
     transaction.CommitAndHold();
   }
   NoteAsClassified(schedule);
-  schedule.LetGo();
 }
 
 void RefreshAtActivation(const StartModeTraits& start_mode) {
   Database& schedule = *SiteContext.WorkDatabase;
   if (!MayBeWritten(schedule)) return;
+  const Held held(schedule);
+  if (IsKnownAsClassified(schedule)) return;
   if (!schedule.WouldChangeTogether(RefreshStatements(schedule, start_mode))) return;
   Transaction transaction(schedule);
-  const bool was_classified = IsKnownAsClassified(schedule);
   RefreshSchedule(schedule, start_mode);
-  transaction.CommitAndHold();
-  if (was_classified) NoteAsClassified(schedule);
-  schedule.LetGo();
+  transaction.Commit();
 }
 
 void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
@@ -87,7 +110,7 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
   schedule.Hold();
   if (IsKnownAsClassified(schedule)) return;
   const std::vector<std::string> all = PreparationStatements(schedule, start_mode);
-  if (schedule.WouldChangeTogether(all)) {
+  if (WouldClassify(schedule, all)) {
     if (!MayBeWritten(schedule)) return PutCopyInPlace(all);
     Transaction transaction(schedule);
     // Another program may have given it other columns while the lock was waited for.
@@ -107,12 +130,24 @@ void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
     return;
   }
   if (!MayBeWritten(schedule)) return PutCopyInPlace(fills);
+  WriteAndHoldClassified(schedule, start_mode, [&] { FillFloorsAndParts(schedule); });
+}
+
+void WriteAndHoldClassified(Database& schedule, const StartModeTraits& start_mode,
+                            const std::function<void()>& write) {
   Transaction transaction(schedule);
   // The write let go of what was held: another start mode may have come in between.
   schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
-  FillFloorsAndParts(schedule);
+  write();
   transaction.CommitAndHold();
-  NoteAsClassified(schedule);
+  // What is known of a private copy is nothing of the site's file.
+  if (!schedule.IsPrivateCopy()) NoteAsClassified(schedule);
+}
+
+void JoinDimensions() {
+  Database& schedule = *SiteContext.WorkDatabase;
+  if (!schedule.IsPrivateCopy() && IsKnownAsClassified(schedule)) return;
+  schedule.Execute(kJoinDimensions);
 }
 
 ClassifiedSchedule::ClassifiedSchedule(const StartModeTraits& start_mode, FloorsAndParts lines) {

@@ -19,6 +19,23 @@ std::string SortKey(const FieldDef& field) {
   return ClassOf(field.type) == ValueClass::text ? name + " COLLATE NOCASE" : name;
 }
 
+/// How the values of a field that is grouped by compare; nothing for types that nobody groups by.
+std::optional<RowsToGroup::Key> KeyOf(const FieldDef& field) {
+  switch (field.type) {
+    case FieldType::byte:
+    case FieldType::integer16:
+    case FieldType::integer32:
+      return RowsToGroup::Key::whole;
+    case FieldType::real:
+      return RowsToGroup::Key::real;
+    case FieldType::text:
+    case FieldType::memo:
+      return RowsToGroup::Key::text;
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
 
 SelectWriter::SelectWriter(const Select& select, const Scope& scope)
@@ -97,6 +114,65 @@ std::string SelectWriter::Sql(const std::vector<std::string>& columns) const {
   std::string sql = Body(fmt::format("{}", fmt::join(columns, ", ")));
   if (!order_.empty()) sql += fmt::format(" ORDER BY {}", fmt::join(order_, ", "));
   return sql;
+}
+
+/// Each row on its own. Without an index, and without an order of the statement's own, SQLite has no other
+/// way through a table than row by row.
+std::string SelectWriter::Walked(const std::vector<std::string>& columns, std::string_view order) const {
+  const std::string source = fmt::format("FROM {}{}", QuoteName(table_.name), where_);
+  if (select_.order_by.empty() && table_.indexes.empty()) {
+    return fmt::format("SELECT {}(?1, {}) {}", kEachRow, fmt::join(columns, ", "), source);
+  }
+  std::vector<std::string> named;
+  std::vector<std::string> names;
+  for (const std::string& column : columns) {
+    names.push_back(fmt::format("\".{}\"", names.size()));
+    named.push_back(fmt::format("{} AS {}", column, names.back()));
+  }
+  return fmt::format("SELECT {}(?1, {}) FROM (SELECT {} {} ORDER BY {})", kEachRow, fmt::join(names, ", "),
+                     fmt::join(named, ", "), source, order);
+}
+
+std::string SelectWriter::WalkSql(const std::vector<std::string>& columns) const {
+  return Walked(columns, fmt::format("{}", fmt::join(order_, ", ")));
+}
+
+/// The field of whole numbers whose plain sum an item is; null for anything else.
+const FieldDef* SelectWriter::SummedField(const Expression& item) const {
+  const auto* const call = std::get_if<Call>(&item.node);
+  if (call == nullptr || !EqualIgnoringCase(call->function.text, "SUM") || call->arguments.size() != 1) {
+    return nullptr;
+  }
+  const auto* const column = std::get_if<ColumnName>(&call->arguments.front()->node);
+  if (column == nullptr) return nullptr;
+  const FieldDef& field = writer_.Field(*column);
+  return ClassOf(field.type) == ValueClass::whole ? &field : nullptr;
+}
+
+std::optional<RowsToGroup> SelectWriter::RowsOfGroups() const {
+  if (group_.empty() || !select_.order_by.empty()) return std::nullopt;
+  RowsToGroup rows;
+  std::vector<std::string> handed;
+  for (const FieldDef* const field : group_) {
+    const auto key = KeyOf(*field);
+    if (!key) return std::nullopt;
+    rows.keys.push_back(*key);
+    handed.push_back(QuoteName(field->name));
+  }
+  for (const SelectItem& item : select_.items) {
+    if (const auto* const column = std::get_if<ColumnName>(&item.value->node)) {
+      const auto found = std::ranges::find(group_, &writer_.Field(*column));
+      rows.columns.push_back(static_cast<std::size_t>(found - group_.begin()));
+    } else if (const FieldDef* const summed = SummedField(*item.value)) {
+      rows.columns.push_back(handed.size());
+      handed.push_back(QuoteName(summed->name));
+    } else {
+      return std::nullopt;
+    }
+  }
+  rows.handed = handed.size();
+  rows.sql = Walked(handed, RowNumberOf(table_));
+  return rows;
 }
 
 std::string SelectWriter::CountSql() const {

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "store/dialect/expression_writer.h"
 #include "store/dialect/scope.h"
+#include "store/dialect/translate.h"
 
 namespace rbt::dialect {
 
@@ -30,6 +33,10 @@ class SelectWriter {
 
   /// The statement with these expressions as its columns.
   std::string Sql(const std::vector<std::string>& columns) const;
+  /// The statement that hands the expressions of each row, in the order of the result, to `kEachRow`.
+  std::string WalkSql(const std::vector<std::string>& columns) const;
+  /// Nothing where the groups are more than fields and sums of whole numbers, or not in their own order.
+  std::optional<RowsToGroup> RowsOfGroups() const;
   /// The statement that gives the number of rows.
   std::string CountSql() const;
 
@@ -38,6 +45,8 @@ class SelectWriter {
   void WriteGroups();
   void WriteOrder();
   std::string Body(const std::string& columns) const;
+  std::string Walked(const std::vector<std::string>& columns, std::string_view order) const;
+  const FieldDef* SummedField(const Expression& item) const;
 
   const Select& select_;
   const Scope& scope_;

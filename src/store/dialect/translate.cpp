@@ -28,6 +28,9 @@ SelectStatement TranslateSelect(const Select& select, const Scope& scope, const 
   if (options.with_rowid && writer.IsGrouped()) {
     scope.RefuseAt(select.table.place, "grouped rows cannot be edited");
   }
+  if (options.walked && writer.IsGrouped()) {
+    scope.RefuseAt(select.table.place, "grouped rows cannot be walked");
+  }
   SelectStatement statement;
   statement.tables = {writer.Table().name};
   statement.grouped = writer.IsGrouped();
@@ -41,8 +44,9 @@ SelectStatement TranslateSelect(const Select& select, const Scope& scope, const 
   if (options.with_rowid) columns.push_back(fmt::format("{} AS rowid", RowNumberOf(writer.Table())));
   // No field is wanted that the table has: the rows count all the same.
   if (columns.empty()) columns.emplace_back("NULL");
-  statement.sql = writer.Sql(columns);
+  statement.sql = options.walked ? writer.WalkSql(columns) : writer.Sql(columns);
   statement.count_sql = writer.CountSql();
+  if (options.rows_to_group) statement.rows_to_group = writer.RowsOfGroups();
   return statement;
 }
 

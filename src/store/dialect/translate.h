@@ -20,6 +20,18 @@ class SchemaSource {
   virtual const TableDef* Find(std::string_view table) const = 0;
 };
 
+/// The rows of a grouping SELECT before they are grouped, for a hand that groups them itself. The fields that
+/// are grouped by come first, then those that are summed up.
+struct RowsToGroup {
+  enum class Key { whole, real, text };
+
+  std::string sql;         ///< walked, see `TranslateOptions`
+  std::vector<Key> keys;   ///< the fields grouped by, as listed
+  std::size_t handed = 0;  ///< the number of fields in all
+  /// Of each result column the field that it shows, or whose sum.
+  std::vector<std::size_t> columns;
+};
+
 struct SelectStatement {
   std::string sql;                  ///< SQLite's dialect
   std::vector<std::string> tables;  ///< tables read, by their names in the file
@@ -31,6 +43,9 @@ struct SelectStatement {
   std::vector<Column> columns;
   bool grouped = false;
   std::string count_sql;  ///< SELECT that gives the number of rows
+  /// Where it was asked for and the statement has nothing but fields that it groups by and sums of fields of
+  /// whole numbers.
+  std::optional<RowsToGroup> rows_to_group = std::nullopt;
 };
 
 /// INSERT, UPDATE or DELETE.
@@ -68,12 +83,20 @@ using Translated =
     std::variant<SelectStatement, ChangeStatement, CreateTableStatement, DropTableStatement,
                  AddColumnStatement, AddPrimaryKeyStatement, CreateIndexStatement, DropIndexStatement>;
 
+/// The name of the function that a row walk registers.
+inline constexpr const char* kEachRow = "jet_each_row";
+
 struct TranslateOptions {
   /// Narrows `SELECT *` to these fields, those that the table has.
   std::span<const std::string_view> fields = {};
   /// Adds the row's number as the last result column, named `rowid`, for a recordset that is edited (one
   /// plain table, no grouping).
   bool with_rowid = false;
+  /// Hands the columns of each row, in the order of the result, to the function `kEachRow` instead of giving
+  /// rows; its first argument is the statement's one parameter. Of a statement that is not grouped.
+  bool walked = false;
+  /// Asks for the rows of a grouping statement too.
+  bool rows_to_group = false;
 };
 
 /// Translates one statement of the Jet dialect. What is unknown is refused: `Fault` of kind `database` whose

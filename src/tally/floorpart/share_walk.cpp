@@ -33,16 +33,16 @@ void TakeShare(const BarRow& row, const std::optional<std::int32_t>& floor, cons
 void WalkShares(Database& site, std::string_view statement, const ShareRules& rules, ReadFloors floors,
                 const ShareTaker& take) {
   RunPendingEvents();
-  Recordset rows = site.OpenSnapshot(statement, ColumnsWith(floors));
+  RowWalk rows(site, statement, ColumnsWith(floors));
   const BarRowReader reader(rows);
   std::optional<FieldHandle> floor;
   if (floors == ReadFloors::yes) floor = rows.Field(kFloorColumn);
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const BarRow row = reader.Read(rows);
+  rows.Run([&](const WalkedRow& found) {
+    const BarRow row = reader.Read(found);
     std::optional<std::int32_t> stands_on;
-    if (floor) stands_on = At([&] { return PlaceOf(row); }, [&] { return rows.Int32(*floor); });
+    if (floor) stands_on = At([&] { return PlaceOf(row); }, [&] { return found.Int32(*floor); });
     TakeShare(row, stands_on, rules, take);
-  }
+  });
   RunPendingEvents();
 }
 

@@ -10,7 +10,7 @@ std::string PlaceOf(const BarGroup& group) {
          std::to_string(group.shape) + " 伸切寸 " + NumberText(group.cut_length_mm);
 }
 
-BarGroupReader::BarGroupReader(const Recordset& groups)
+BarGroupReader::BarGroupReader(const GroupedRows& groups)
     : diameter_(groups.Field("太さ")),
       weld_diameter_(groups.Field("圧接太さ")),
       shape_(groups.Field("形状No")),
@@ -22,7 +22,7 @@ BarGroupReader::BarGroupReader(const Recordset& groups)
       plates_(groups.Field("合計定着板数")),
       stock_length_(groups.FindField("伸定尺")) {}
 
-BarGroup BarGroupReader::Read(const Recordset& groups) const {
+BarGroup BarGroupReader::Read(const GroupedRows& groups) const {
   BarGroup group;
   group.diameter_code = groups.Int32(diameter_).value_or(0);
   group.weld_diameter_code = groups.Int32(weld_diameter_);

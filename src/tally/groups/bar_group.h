@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/numbers/currency.h"
-#include "store/recordset.h"
+#include "store/grouped_rows.h"
 
 namespace rbt {
 
@@ -31,8 +31,8 @@ std::string PlaceOf(const BarGroup& group);
 /// Reads `BarGroup`s from a grouping statement; columns are resolved once.
 class BarGroupReader {
  public:
-  explicit BarGroupReader(const Recordset& groups);
-  BarGroup Read(const Recordset& groups) const;
+  explicit BarGroupReader(const GroupedRows& groups);
+  BarGroup Read(const GroupedRows& groups) const;
 
  private:
   FieldHandle diameter_, weld_diameter_, shape_, cut_length_, dimensions_, pieces_, welds_, threads_, plates_;

@@ -85,18 +85,6 @@ std::string UlbonRange(const SelectionData& selection) {
   return fmt::format(" AND 形状No Between {} And {}", selection.ShapeStart, selection.ShapeEnd);
 }
 
-std::string_view HoopClauseByPage(ShapeFilter hoops) {
-  switch (hoops) {
-    case ShapeFilter::left_out:
-      return " AND 形状No<>87 ";
-    case ShapeFilter::alone:
-      return " AND 形状No=87 ";
-    case ShapeFilter::with_others:
-      break;
-  }
-  return "";
-}
-
 }  // namespace
 
 std::string ShapeRows(const SelectionData& selection) {
@@ -155,7 +143,7 @@ std::string PageShapeUlbonStatement(const SelectionData& selection, LineRange li
       "WHERE ( 太さ > 0 AND 合計 > 0 AND (予備2 = 2 ) AND Not IsNull(形状No)) AND 本数>0 "
       "AND 行No Between {}AND {} ",
       lines.first, lines.last);
-  statement += HoopClauseByPage(selection.HoopMode);
+  statement += HoopClause(selection.HoopMode);
   statement += kGroupByPieces;
   return statement;
 }
@@ -172,7 +160,7 @@ GroupStatements PageShapeStatementsSoFar(const SelectionData& selection, LineRan
       "FROM 加工テーブル ",
       "SELECT 太さ,圧接太さ,SUM(切断) AS 合計切断数 FROM 加工テーブル "};
   Append(statements, where);
-  Append(statements, HoopClauseByPage(selection.HoopMode));
+  Append(statements, HoopClause(selection.HoopMode));
   Append(statements, KindClauseByPage(selection.MaterialKindMask));
   return statements;
 }

@@ -17,6 +17,10 @@ void RequireNumbers(Database& site, std::span<const std::string_view> columns, s
 /// The columns that only a row shows.
 inline constexpr std::array<std::string_view, 5> kColumnsOfRows = {"頁", "行", "部位", "予備2", "切断"};
 
+/// False when nothing stands in these columns that `RequireNumbers` could fault at: one quick look instead of
+/// several.
+bool MayHoldTexts(Database& site, std::span<const std::string_view> columns, std::string_view rows);
+
 /// Adds every group of an Ulbon statement.
 void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds);
 

@@ -12,7 +12,7 @@
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
-#include "shell/preparation/statements.h"
+#include "shell/preparation/classified_schedule.h"
 #include "tally/closing_sums.h"
 #include "tally/count_cells.h"
 #include "tally/groups/group_statements.h"
@@ -42,6 +42,17 @@ GroupRules RulesOfTally(double (*bar_weight)(int d, int l)) {
   rules.choose_stock = StockChooser(rules.keep_schedule_stock);
   rules.bar_weight = bar_weight;
   return rules;
+}
+
+void RequireNumbersOfShapes(Database& site) {
+  constexpr std::string_view kRows = "WHERE 太さ > 0 AND 合計 > 0";
+  constexpr std::array<std::string_view, 6> kColumns = {"形状No",          kColumnsOfRows[0],
+                                                        kColumnsOfRows[1], kColumnsOfRows[2],
+                                                        kColumnsOfRows[3], kColumnsOfRows[4]};
+  if (!MayHoldTexts(site, kColumns, kRows)) return;
+  // A text lies in no range of shapes.
+  RequireNumbers(site, std::span(kColumns).first(1), kRows);
+  RequireNumbers(site, kColumnsOfRows, ShapeRows(Selection));
 }
 
 void ProbeShapes(Database& site) {
@@ -84,11 +95,9 @@ void Keijou_Jyuuryo_Syukei() {
   if (site.HasRows("SELECT * FROM 加工テーブル WHERE 予備2=3")) ++table.HighStrengthRowCount;
   GetStockLengthLimits();  // a limit that is no stock length faults here, even when the schedule's stock is
                            // kept
-  site.Execute(kJoinDimensions);
+  JoinDimensions();
   RunPendingEvents();
-  // A text lies in no range of shapes.
-  RequireNumbers(site, std::array<std::string_view, 1>{"形状No"}, "WHERE 太さ > 0 AND 合計 > 0");
-  RequireNumbers(site, kColumnsOfRows, ShapeRows(Selection));
+  RequireNumbersOfShapes(site);
   FoldUlbonGroups(table, site, ShapeUlbonStatement(Selection), rules.count_hoop_welds);
   RunPendingEvents();
   ProbeShapes(site);
@@ -104,7 +113,9 @@ void PKeijou_Jyuuryo_Syukei(std::int32_t startPage, std::int32_t startLine, std:
   ReadPlus();
   const GroupRules rules = RulesOfTally(WeightFromPageTable);
   const LineRange lines = LinesBetween(site, {{startPage, startLine}, {endPage, endLine}});
-  RequireNumbers(site, kColumnsOfRows, PageShapeRows(lines));
+  if (MayHoldTexts(site, kColumnsOfRows, PageShapeRows(lines))) {
+    RequireNumbers(site, kColumnsOfRows, PageShapeRows(lines));
+  }
   FoldUlbonGroups(table, site, PageShapeUlbonStatement(Selection, lines), rules.count_hoop_welds);
   RunPendingEvents();
   ProbePageShapes(site, lines);

@@ -11,6 +11,7 @@
 #include "tally/floorpart/floor_tally.h"
 #include "tally/floorpart/part_tally.h"
 #include "tally/groups/shape_tally.h"
+#include "tally/names/name_tally.h"
 #include "tally/rows/bulk_tally.h"
 #include "tally/rows/page_tally.h"
 
@@ -37,7 +38,7 @@ TallyTables CurrentGrid() { return TallyGrid; }
 TallyTables CurrentFloors() { return FloorTally; }
 TallyTables CurrentParts() { return PartTally; }
 
-constexpr std::array<TallyKindRow, 6> kTallyKinds{{
+constexpr std::array<TallyKindRow, 7> kTallyKinds{{
     {TallyKind::bulk, "bulk", "一括集計", TallyRange::whole_site, Jyuuryo_Syukei, CurrentGrid},
     {TallyKind::shape, "shape", "形状別 一括集計", TallyRange::shapes, Keijou_Jyuuryo_Syukei, CurrentGrid},
     {TallyKind::page, "page", "頁行別集計", TallyRange::positions, CountPages, CurrentGrid},
@@ -45,6 +46,7 @@ constexpr std::array<TallyKindRow, 6> kTallyKinds{{
      CurrentGrid},
     {TallyKind::floor, "floor", "階別集計", TallyRange::floors, Kai_Jyuuryo_Syukei, CurrentFloors},
     {TallyKind::part, "part", "部位別集計", TallyRange::floors, CountParts, CurrentParts},
+    {TallyKind::names, "names", "登録名集計", TallyRange::names, Touroku_Jyuuryo_Syukei, CurrentGrid},
 }};
 
 /// What the probes of the tally found: those of floors and parts leave it in their tables.
@@ -58,10 +60,8 @@ Presence PresenceOf(const TallyTable& /*tables*/) {
 Presence PresenceOf(const FloorTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
 Presence PresenceOf(const PartTables& tables) { return {tables.HoopAri, tables.TeiAri}; }
 
-/// Sites are added up, and Ulbon rows raised later, in the tables by diameter and length alone.
-ResultOrigin OriginOf(const TallyTable& /*tables*/) {
-  return RunState.AccumulateFlag != 0 ? ResultOrigin::accumulated : ResultOrigin::counted;
-}
+/// Ulbon rows are raised, and sites added up, once a table by diameter and length is counted.
+ResultOrigin OriginOf(const TallyTable& /*tables*/) { return ResultOrigin::counted; }
 ResultOrigin OriginOf(const FloorTables& /*tables*/) {
   return Selection.UwanoseRitu != 0.0 ? ResultOrigin::raised : ResultOrigin::counted;
 }

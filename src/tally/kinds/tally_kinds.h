@@ -16,6 +16,7 @@ enum class TallyRange {
   shapes,     ///< `ShapeStart` to `ShapeEnd`
   positions,  ///< `StartPage`, `StartLine` to `EndPage`, `EndLine`
   floors,     ///< `KaiStart` to `KaiEnd` and the special floors of `TokubetuMask`
+  names,      ///< the registered names that are marked in the site's companion file
 };
 
 /// A kind of tally. What comes in kinds of tallies loops over these rows: screens, menu, command line.

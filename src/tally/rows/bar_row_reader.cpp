@@ -36,15 +36,15 @@ constexpr bool MayBeAbsent(std::size_t column) {
 
 std::span<const std::string_view> BarRowReader::Columns() { return kColumns; }
 
-BarRowReader::BarRowReader(const Recordset& rows) {
+BarRowReader::BarRowReader(const RowWalk& rows) {
   for (std::size_t column = 0; column < kColumns.size(); ++column) {
     fields_[column] = MayBeAbsent(column) ? rows.FindField(kColumns[column]) : rows.Field(kColumns[column]);
   }
 }
 
-BarRow BarRowReader::Read(const Recordset& rows) const {
+BarRow BarRowReader::Read(const WalkedRow& found) const {
   const auto number = [&](Column column) {
-    return fields_[column] ? rows.Int32(*fields_[column]) : std::nullopt;
+    return fields_[column] ? found.Int32(*fields_[column]) : std::nullopt;
   };
   BarRow row;
   row.page = number(kPage);
@@ -57,7 +57,7 @@ BarRow BarRowReader::Read(const Recordset& rows) const {
        row.shape = number(kShape);
        row.pieces = number(kPieces);
        row.cut_length_mm = number(kCutLength);
-       row.stock_length_m = rows.Double(*fields_[kStockLength]);
+       row.stock_length_m = found.Double(*fields_[kStockLength]);
        row.stock_bars = number(kStockBars);
        row.welds = number(kWelds);
        row.threads = number(kThreads);

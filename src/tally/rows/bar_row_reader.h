@@ -6,23 +6,23 @@
 #include <span>
 #include <string_view>
 
-#include "store/recordset.h"
+#include "store/row_walk.h"
 #include "tally/rows/bar_row.h"
 
 namespace rbt {
 
-/// Reads `BarRow`s from a snapshot over 加工テーブル; columns are resolved once. Files of older versions may
+/// Reads `BarRow`s on a walk over 加工テーブル; columns are resolved once. Files of older versions may
 /// lack 圧接太さ, ネジ数, 定着板数 and 切断: those read as null; any other that is missing throws `field not
 /// found`.
 class BarRowReader {
  public:
-  /// The columns to narrow the snapshot to.
+  /// The columns to narrow the walk to.
   static std::span<const std::string_view> Columns();
 
-  explicit BarRowReader(const Recordset& rows);
+  explicit BarRowReader(const RowWalk& rows);
 
-  /// The current row. A fault names the row's page and line.
-  BarRow Read(const Recordset& rows) const;
+  /// A fault names the row's page and line.
+  BarRow Read(const WalkedRow& found) const;
 
  private:
   std::array<std::optional<FieldHandle>, 15> fields_;

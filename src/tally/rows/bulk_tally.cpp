@@ -4,27 +4,18 @@
 #include <utility>
 
 #include "data/shapes.h"
-#include "platform/system/accumulation.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
 #include "store/database.h"
-#include "tally/closing_sums.h"
 #include "tally/rows/bulk_statement.h"
 #include "tally/rows/row_walk.h"
 #include "tally/spiral_reader.h"
 
 namespace rbt {
 namespace {
-
-/// Nothing, or the sums of the sites that were tallied before; `TallyGrid` itself stays empty until the end.
-TallyTable StartingTable() {
-  TallyGrid = TallyTable();
-  if (RunState.AccumulateFlag != 0) LoadAccumulation();
-  return std::exchange(TallyGrid, TallyTable());
-}
 
 void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasHoopRows = false;
@@ -35,6 +26,8 @@ void ProbePresence(Database& site, const SelectionData& selection) {
   RunState.HasHoopRows = site.HasRows(so_far + " AND (形状No=87)");
 }
 
+}  // namespace
+
 RowRules BulkRowRules(const SelectionData& selection) {
   RowRules rules;
   rules.hoops = selection.HoopMode;
@@ -44,11 +37,12 @@ RowRules BulkRowRules(const SelectionData& selection) {
   return rules;
 }
 
-}  // namespace
+ClosingRules BulkClosingRules() { return {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1}; }
 
 void Jyuuryo_Syukei() {
   const RowRules rules = BulkRowRules(Selection);
-  TallyTable table = StartingTable();
+  TallyTable table;
+  TallyGrid = TallyTable();  // it stays empty until the end
   Database& site = *SiteContext.WorkDatabase;
   ProbePresence(site, Selection);
   RunPendingEvents();
@@ -58,7 +52,7 @@ void Jyuuryo_Syukei() {
     Database companion = Database::OpenReadOnly(MapPath(CompanionDatabasePath()));
     FoldSpirals(table, ReadSpirals(companion), Selection);
   }
-  CloseSums(table, {Settings.Use13mColumn == 1, Settings.CapInstalledWeight == 1});
+  CloseSums(table, BulkClosingRules());
   TallyGrid = std::move(table);
 }
 

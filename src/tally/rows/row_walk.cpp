@@ -7,9 +7,9 @@
 namespace rbt {
 
 void FoldRows(TallyTable& table, Database& site, std::string_view statement, const RowRules& rules) {
-  Recordset rows = site.OpenSnapshot(statement, BarRowReader::Columns());
+  RowWalk rows(site, statement, BarRowReader::Columns());
   const BarRowReader reader(rows);
-  for (; !rows.Eof(); rows.MoveNext()) FoldRow(table, reader.Read(rows), rules);
+  rows.Run([&](const WalkedRow& row) { FoldRow(table, reader.Read(row), rules); });
 }
 
 bool ReadCountHoopWelds() { return ReadSetting(kWeldedHoopWeldsKey) != 0; }

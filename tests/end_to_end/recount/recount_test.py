@@ -231,7 +231,7 @@ class Round:
                    "--ulbon", str(sel["ulbon"]), "--calc", str(sel["calc"]), "--hoops", str(sel["hoops"]),
                    "--plates", str(sel["plates"])]
         done = subprocess.run(command, capture_output=True, text=True, check=False,
-                              env={**os.environ, "RBK_SETTINGS": str(self.root / "settings.ini")})
+                              env=environment(self.root))
         try:
             expected = recount()
         except floors.Refused:
@@ -248,6 +248,10 @@ class Round:
         return found + [" ".join(command)] if found else []
 
 
+def environment(folder):
+    return {**os.environ, "RBK_SETTINGS": str(folder / "settings.ini"), "XDG_CACHE_HOME": str(folder / "cache")}
+
+
 def main():
     rbtally = os.path.abspath(sys.argv[1])
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 100
@@ -255,7 +259,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         root = Path(folder) / "rbk"
         subprocess.run([rbtally, "demo", str(root), "--rows", "50"], check=True, stdout=subprocess.DEVNULL,
-                       env={**os.environ, "RBK_SETTINGS": str(Path(folder) / "settings.ini")})
+                       env=environment(Path(folder)))
         shutil.copy(root / "DATA/GENBA001.MDB", root / "pristine.MDB")
         shutil.copy(root / "DATA/STEEL.INI", root / "pristine.INI")
         for number in range(rounds):

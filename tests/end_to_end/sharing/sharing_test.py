@@ -78,6 +78,7 @@ def commands(program):
     """What gives figures: (name, words without the start mode)."""
     for kind in kinds_of(program):
         yield f"tally {kind}", ["tally", kind, "--format", "json"]
+    yield "plan", ["plan", "--effort", "greedy", "--format", "json"]
     yield "report", ["report", "ulbon", "--trace", "/dev/stdout"]
     yield "stock", ["stock", "4200", "10", "19", "--format", "json"]
 

@@ -22,6 +22,14 @@ std::size_t FilesIn(const fs::path& folder) {
   return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
 
+TEST(LiesIn, GoesByWholeComponents) {
+  EXPECT_TRUE(LiesIn("/media/usb", "/media/usb"));
+  EXPECT_TRUE(LiesIn("/media/usb", "/media/usb/csv/a"));
+  EXPECT_TRUE(LiesIn("/", "/media"));
+  EXPECT_FALSE(LiesIn("/media/usb", "/media/usb2"));
+  EXPECT_FALSE(LiesIn("/media/usb", "/media"));
+}
+
 TEST(WriteFileAtomically, MakesAndReplacesAFileAndLeavesNothingBeside) {
   const TemporaryFolder folder;
   const std::string bytes("a\0b\r\n", 5);

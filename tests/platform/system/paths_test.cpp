@@ -132,16 +132,25 @@ TEST(UserFolders, AreTheConfiguredOnes) {
   std::ofstream(home / ".config" / "user-dirs.dirs")
       << "# comment\nXDG_DESKTOP_DIR=\"$HOME/デスク\\ トップ\"\nXDG_DOCUMENTS_DIR=\"/\"\n";
   EXPECT_EQ(DesktopFolder(), home / "デスク トップ");
-  EXPECT_EQ(DocumentsFolder(), "/");
+  EXPECT_EQ(DocumentsFolder(), fs::path("/"));
 }
 
-TEST(UserFolders, FallBackToTheUsualOnesAndThenToTheHomeFolder) {
+TEST(UserFolders, AreElseTheUsualOnesWhereTheyExist) {
   const TemporaryFolder home;
   const EnvironmentVariable home_variable("HOME", home.Path().string());
   const EnvironmentVariable config("XDG_CONFIG_HOME", std::nullopt);
   fs::create_directories(home / "Documents");
   EXPECT_EQ(DocumentsFolder(), home / "Documents");
-  EXPECT_EQ(DesktopFolder(), home.Path());
+  EXPECT_EQ(DesktopFolder(), std::nullopt);
+}
+
+TEST(OfferedFolder, IsThatOfTheDocumentsElseTheHomeFolder) {
+  const TemporaryFolder home;
+  const EnvironmentVariable home_variable("HOME", home.Path().string());
+  const EnvironmentVariable config("XDG_CONFIG_HOME", std::nullopt);
+  EXPECT_EQ(OfferedFolder(), home.Path());
+  fs::create_directories(home / "Documents");
+  EXPECT_EQ(OfferedFolder(), home / "Documents");
 }
 
 TEST(SettingsFile, FollowsTheEnvironment) {

@@ -87,6 +87,15 @@ void ExpectFileFaultNaming(const std::string& name, const std::function<void()>&
   }
 }
 
+TEST_F(Sibling, WithoutAFolderIsTheProgramBesideThisOne) {
+  Put("bin/own", "echo \"$0:$1\" > \"$RBK_ROOT/out\"");
+  ExpectFileFaultNaming("own", [] { RunAndWait("own 4", WindowStyle::normal); });
+  Services.ProgramFolder = root / "bin";
+  RunAndWait("own 4", WindowStyle::normal);
+  EXPECT_EQ(Written("out"), (root / "bin/own").string() + ":4\n");
+  EXPECT_FALSE(OwnProgram("other"));
+}
+
 TEST_F(Sibling, ThatDoesNotExistIsNamed) {
   ExpectFileFaultNaming("\\rbk\\kakou\\rbplatecnt.exe",
                         [] { RunAndWait("\\rbk\\kakou\\rbplatecnt.exe 1", WindowStyle::normal); });

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "platform/system/accumulation.h"
 #include "platform/system/printing.h"
 #include "support/kept_services.h"
 
@@ -18,7 +17,6 @@ TEST(Services, AreAtFirstThoseOfTheCommandLine) {
   EXPECT_THROW(WritePdf({}, "a.pdf"), Fault);
   EXPECT_EQ(ChooseColour("色選択", 255), std::nullopt);
   EXPECT_NO_THROW(RunPendingEvents());
-  EXPECT_NO_THROW(LoadAccumulation());
   EXPECT_EQ(FamilyDirectory(), std::nullopt);
 }
 
@@ -30,14 +28,11 @@ TEST(Services, AreAllBroughtBackByWhoeverKeepsThem) {
     Services.Clock = test::StandingClock({2026, 1, 1, 0, 0, 0});
     Services.Colours = [](std::string_view, std::int32_t rgb) { return std::optional(rgb + 1); };
     EXPECT_EQ(ChooseColour("色選択", 1), 2);
-    Services.Accumulation = [] { throw std::runtime_error("asked"); };
-    EXPECT_THROW(LoadAccumulation(), std::runtime_error);
     Services.Printers = PdfDeviceAlone([](const PrintedDocument&) {});
   }
   EXPECT_EQ(Services.Root, before.Root);
   EXPECT_GE(Now().year, 2026);
   EXPECT_EQ(ChooseColour("色選択", 1), std::nullopt);
-  EXPECT_NO_THROW(LoadAccumulation());
   Printers().Current().Print({"一"});
   EXPECT_ANY_THROW(Printers().Current().EndDoc()) << "the first list delivers nowhere";
 }

@@ -16,5 +16,11 @@ TEST(CsvRecord, QuotesACellThatNeedsItAndLeavesAWrittenOneAsItIs) {
   EXPECT_EQ(CsvRecord().Add("a,\"b\"").AddWritten("\"\"").AddWritten("").Text(), "\"a,\"\"b\"\"\",\"\",\r\n");
 }
 
+TEST(QuotedCsvCell, QuotesEveryText) {
+  EXPECT_EQ(QuotedCsvCell(""), "\"\"");
+  EXPECT_EQ(QuotedCsvCell("柱"), "\"柱\"");
+  EXPECT_EQ(QuotedCsvCell("a\"b,\r\n"), "\"a\"\"b,\r\n\"");
+}
+
 }  // namespace
 }  // namespace rbt

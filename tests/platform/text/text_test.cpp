@@ -41,6 +41,28 @@ TEST(Cp932, RefusesOrReplacesHalfACharacter) {
             "b");
 }
 
+TEST(Cp932, MarksWhatItLacksWhereATextIsWrittenAllTheSame) {
+  const Cp932Text text = ToCp932Lenient("柱😀a한😀～");
+  EXPECT_EQ(FromCp932(text.bytes), "柱?a??～");
+  EXPECT_EQ(text.lacking, "😀한");
+  EXPECT_EQ(FromCp932(ToCp932Lenient("a\xE6柱").bytes), "a?柱");
+  EXPECT_EQ(ToCp932Lenient("柱").lacking, "");
+  EXPECT_EQ(ToCp932Lenient("").bytes, "");
+}
+
+TEST(Cp932, ConvertsTheEdgesOfTheCodePageWhereATextIsWrittenAllTheSame) {
+  EXPECT_EQ(ToCp932Lenient("\u301C").bytes, "\x81\x60") << "the wave dash, as the full-width tilde";
+  EXPECT_EQ(ToCp932Lenient("ｱﾞ").bytes, "\xB1\xDE");
+  EXPECT_EQ(ToCp932Lenient("①㈱髙").bytes, "\x87\x40\x87\x8A\xFB\xFC");
+  EXPECT_EQ(ToCp932Lenient("\u301Cｱﾞ①㈱髙").lacking, "");
+  const Cp932Text beyond = ToCp932Lenient("𠮟る");
+  EXPECT_EQ(beyond.bytes, "?\x82\xE9") << "one character, one mark";
+  EXPECT_EQ(beyond.lacking, "𠮟");
+  const Cp932Text combined = ToCp932Lenient("か\u3099");
+  EXPECT_EQ(combined.bytes, "\x82\xA9?") << "a sound mark of its own has no code";
+  EXPECT_EQ(combined.lacking, "\u3099");
+}
+
 TEST(Cp932, CountsBytesAndNeverCutsACharacterInHalf) {
   EXPECT_EQ(Cp932Length("柱ｱa"), 4U);
   EXPECT_EQ(Cp932Prefix("柱梁", 3), "柱");

@@ -169,7 +169,7 @@ TEST_F(SaveFilesForm, AnEntryThatTheFocusOnlyPassedIsNotTaken) {
 
 TEST_F(SaveFilesForm, F2OpensTheCsvDialogAndEscLeaves) {
   int opened = 0;
-  parts_.export_csv = [&] { ++opened; };
+  parts_.export_csv = [&](const CsvOfTally&) { ++opened; };
   auto form = Open();
   form.Key(Qt::Key_F2);
   EXPECT_EQ(opened, 1);

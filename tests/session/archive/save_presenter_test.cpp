@@ -271,10 +271,14 @@ TEST_F(SaveDialog, ATallyWithoutFiguresIsTold) {
 TEST_F(SaveDialog, TheCsvButtonOpensTheCsvDialogOrSaysThatItIsNotReady) {
   Open().ExportCsv();
   EXPECT_EQ(site_.Told(), "データの保存: 「CSV保存」は、まだご利用いただけません。|");
-  int opened = 0;
-  parts_.export_csv = [&] { ++opened; };
-  Open().ExportCsv();
-  EXPECT_EQ(opened, 1);
+  CsvOfTally exported;
+  parts_.export_csv = [&](CsvOfTally tally) { exported = std::move(tally); };
+  Open(TallyKind::page, {"一", "", "三"}).TypeMemo(1, "二");
+  dialog_->TypeName(" 基礎 ");
+  dialog_->ExportCsv();
+  EXPECT_EQ(exported.result, SmallTally(TallyKind::page));
+  EXPECT_THAT(exported.memos, ElementsAre("一", "二", "三"));
+  EXPECT_EQ(exported.data_name, "基礎");
   EXPECT_FALSE(dialog_->View().left);
 }
 

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "archive/accumulation/hozon.h"
 #include "platform/fault.h"
 #include "platform/profile/ini_file.h"
 #include "platform/system/paths.h"
@@ -19,6 +20,8 @@
 #include "support/site_fixture.h"
 #include "tally/kinds/tally_kinds.h"
 #include "tally/selection.h"
+#include "tally/site_sum.h"
+#include "tally/tally_grid.h"
 
 namespace rbt::test {
 
@@ -150,7 +153,7 @@ TEST(MenuPresenter, EveryEntryStartsWhatItStandsForInEveryStartMode) {
   }
 }
 
-TEST(MenuPresenter, HasAnEntryForEveryMainButtonAndEveryKindOfTally) {
+TEST(MenuPresenter, HasAnEntryForEveryMainButtonAndEveryKindOfTallyButThatOfTheCompanion) {
   for (const std::string_view control : MenuControls()) {
     if (control == "FramCSV") continue;  // a frame, not a button
     EXPECT_EQ(FindMenuEntry(control).control, control);
@@ -159,7 +162,9 @@ TEST(MenuPresenter, HasAnEntryForEveryMainButtonAndEveryKindOfTally) {
   for (const MenuEntry& entry : MenuEntries()) {
     if (const auto* tally = std::get_if<OpensTally>(&entry.starts)) kinds.insert(tally->kind);
   }
-  EXPECT_EQ(kinds.size(), TallyKinds().size());
+  for (const TallyKindRow& row : TallyKinds()) {
+    EXPECT_EQ(kinds.contains(row.kind), row.kind != TallyKind::names) << row.word;
+  }
   EXPECT_EQ(FaultOf([] { FindMenuEntry("FramCSV"); }), FaultKind::subscript_out_of_range);
 }
 
@@ -262,6 +267,38 @@ TEST(MenuPresenter, ASiblingIsToldWhatItIsCalledForBeforeItStarts) {
   EXPECT_EQ(fitter.handed_over, "- \\rbk\\rbtally1.exe");
 }
 
+TEST(MenuPresenter, WhereTheRootHasNoCompanionForNamesTheOneBesideThisProgramStandsIn) {
+  const std::pair<std::int32_t, const char*> cases[] = {
+      {-1, "run rbtally2"}, {1, "run rbtally2 0"}, {4, "run rbtally2 4"}};
+  for (const auto& [mode, run] : cases) {
+    Menu menu(mode);
+    std::filesystem::remove(menu.site.Root().Path() / "rbtally2.exe");
+    Services.ProgramFolder = menu.site.Root().Put("bin/rbtally2", "").parent_path();
+    menu.presenter.Start("cmdTouroS");
+    EXPECT_THAT(menu.steps, ElementsAre("hide", run, "turn", "show"));
+    EXPECT_EQ(menu.handed_over, "1 -");
+    EXPECT_EQ(menu.Message(), "");
+  }
+}
+
+TEST(MenuPresenter, NothingStandsInForAnotherSibling) {
+  Menu menu;
+  std::filesystem::remove(menu.site.Root().Path() / "rballsites.exe");
+  Services.ProgramFolder = menu.site.Root().Put("bin/rballsites", "").parent_path();
+  menu.presenter.Start("cmdAllSites");
+  EXPECT_THAT(menu.steps, IsEmpty());
+  EXPECT_EQ(menu.Message(), "プログラム「\\rbk\\rballsites.exe」が見つかりません。");
+}
+
+TEST(MenuPresenter, AStartModeThatPassesOnRunsWhatStandsInForItsCompanion) {
+  Menu menu(2);
+  menu.state.pass_on_to = "\\rbk\\rbtally2.exe 2";
+  std::filesystem::remove(menu.site.Root().Path() / "rbtally2.exe");
+  Services.ProgramFolder = menu.site.Root().Put("bin/rbtally2", "").parent_path();
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, ElementsAre("minimise", "activate", "state", "run rbtally2 2", "hide", "end 0"));
+}
+
 TEST(MenuPresenter, TheCompanionForNamesIsToldTheStartMode) {
   const std::pair<std::int32_t, const char*> cases[] = {
       {-1, "run \\rbk\\rbtally2.exe"}, {1, "run \\rbk\\rbtally2.exe 0"}, {4, "run \\rbk\\rbtally2.exe 4"}};
@@ -277,6 +314,23 @@ TEST(MenuPresenter, TheExitWritesAnAccumulationThatIsOn) {
   RunState.AccumulateFlag = 1;
   menu.presenter.Leave();
   EXPECT_THAT(menu.steps, ElementsAre("hide", "write", "hide", "end 0"));
+  EXPECT_TRUE(menu.presenter.HasEnded());
+}
+
+TEST(MenuPresenter, TheExitWritesTheTallyThatStandsIntoHozon) {
+  const SiteFixture site;
+  TallyGrid.BarCount[3][5] = 10;
+  TallyGrid.StockWeight[3][5] = Currency::FromDouble(135);
+  MenuPartsFor({}, [](int) {}).write_accumulated();
+  EXPECT_EQ(Load_Hozon(), KeptForSum(TallyGrid));
+  EXPECT_EQ(Load_Hozon().BarCount[3][5], 10);
+}
+
+TEST(MenuPresenter, ComesBackNoMoreOnceAScreenHasEndedTheProgram) {
+  Menu menu;
+  RunState.IsEnding = true;
+  menu.presenter.Activate();
+  EXPECT_THAT(menu.steps, IsEmpty());
   EXPECT_TRUE(menu.presenter.HasEnded());
 }
 

@@ -37,6 +37,8 @@ TEST(FaultWords, GoByTheCauseBeforeTheKind) {
        "「STEEL.INI」\nファイルが見つかりません。"},
       {FaultKind::file, "/r/DATA/STEEL.INI: no site: [データ] 選択ＤＢ名 is empty",
        "「STEEL.INI」\n現場が選ばれていません。"},
+      {FaultKind::file, "/r/DATA/GENBA002.MDB: needs the newer program",
+       "「GENBA002.MDB」\n新しい形式の現場です。\nこの現場は、新しい形式を読むプログラムで"},
       {FaultKind::file, "/r/DATA/X.MDB: cannot be opened: File name too long",
        "「X.MDB」\nファイルの場所の名前が長すぎます。"},
       {FaultKind::file, "/r/DATA/X.MDB: cannot be opened: Too many levels of symbolic links",

@@ -28,7 +28,10 @@ class Presented {
       Call("detail", {});
       return detail ? detail(std::move(result)) : result;
     };
-    parts.toggle_accumulation = [this] { Call("accumulation", {}); };
+    parts.choose_site = [this] {
+      Call("site", {});
+      return SiteChoice();
+    };
     parts.print = [this](const PrintOrder& order) {
       orders.push_back(order);
       Call("print", {});

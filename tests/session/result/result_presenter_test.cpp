@@ -581,11 +581,11 @@ TEST(ResultPresenter, WhatIsNotReadyYetSaysSo) {
   }
 }
 
-TEST(ResultPresenter, DetailAndAccumulationAreHandedOn) {
+TEST(ResultPresenter, DetailAndTheChoiceOfASiteAreHandedOn) {
   Presented js(kBulkScreen);
   js.Open().ShowDetail();
   js.presenter->ToggleAccumulation();
-  EXPECT_THAT(js.calls, ElementsAre("detail", "accumulation"));
+  EXPECT_THAT(js.calls, ElementsAre("detail", "site"));
 }
 
 TEST(ResultPresenter, LeavingSetsTheSelectionAsTheMenuExpectsItOnce) {

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "archive/accumulation/hozon.h"
 #include "archive/check_jsyukei.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
@@ -256,6 +257,31 @@ TEST_F(Load, EndsAnAccumulationThatWasUnderWay) {
   EXPECT_EQ(RunState.AccumulateFlag, 0);
   EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "0");
   EXPECT_FALSE(std::filesystem::exists(site_.Data("hozon.MDB")));
+}
+
+TEST_F(Load, DropsTheSumOfAnAddingStepThatWasKilledWithItsJournal) {
+  TallyTable sum;
+  sum.BarCount[3][5] = 10;
+  Save_Hozon(sum);
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  site_.PutProgram("DATA/hozon.MDB-journal");
+  Run();
+  EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "0");
+  EXPECT_FALSE(std::filesystem::exists(site_.Data("hozon.MDB")));
+  EXPECT_FALSE(std::filesystem::exists(site_.Data("hozon.MDB-journal")));
+  EXPECT_EQ(Load_Hozon(), TallyTable());
+}
+
+TEST_F(Load, ForWhichAMenuWaitsLeavesItsAccumulationAloneAndIsElseThatOfAMenu) {
+  SetRegistryText("Kakou", "集計保存", "フラグ", "1");
+  site_.PutProgram("DATA/hozon.MDB");
+  options_.keep_accumulation = true;
+  Run();
+  EXPECT_EQ(RunState.AccumulateFlag, 0);
+  EXPECT_EQ(RegistryText("Kakou", "集計保存", "フラグ"), "1");
+  EXPECT_TRUE(std::filesystem::exists(site_.Data("hozon.MDB")));
+  SetVersion("6.1");
+  EXPECT_EQ(Run().hand_over_to, "\\rbk\\rbtally1S.exe");
 }
 
 TEST_F(Load, OfTheCommandLineLeavesAnAccumulationAlone) {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "platform/text/cp932.h"
 #include "store/database.h"
 #include "support/root_folder.h"
 
@@ -75,6 +76,17 @@ TEST_F(Outputs, TellFilesOfAnotherKindFromTheirOwn) {
   EXPECT_FALSE(Replaces("old.CSV", "1,2,3", OutputKind::csv));
   EXPECT_TRUE(Replaces("letter.txt", "1,2,3", OutputKind::csv));
   EXPECT_TRUE(Replaces("picture.csv", std::string("\x89PNG\0", 5), OutputKind::csv));
+}
+
+TEST_F(Outputs, KnowACsvFileOfTheirOwnUnderAnyName) {
+  const auto replaces = [&](const std::string& line) {
+    return Replaces("tally.txt", ToCp932(line), OutputKind::csv);
+  };
+  EXPECT_FALSE(replaces("\"工事No\",1,\"工事名\",\"甲\"\r\n"));
+  EXPECT_FALSE(replaces("\"2Ｂ階\",\"部位\",\"D10\",\"D13\"\r\n"));
+  EXPECT_TRUE(replaces("工事No 1\r\n"));
+  EXPECT_TRUE(replaces("甲\",\"部位\",\"D10\",\r\n"));
+  EXPECT_TRUE(replaces("\"甲\",1\r\n\"2Ｂ階\",\"部位\",\"D10\",\"D13\"\r\n")) << "in another line";
 }
 
 TEST_F(Outputs, AreOneFileByWhateverNames) {

@@ -168,6 +168,32 @@ TEST_F(ClassifiedSchedules, WithFloorsAreHeldToo) {
   EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
 }
 
+TEST_F(ClassifiedSchedules, ThatAreWrittenAreClassifiedAgainFirstAndHeldAfterwards) {
+  HoldClassifiedSchedule(kUsual);
+  SiteContext.WorkDatabase->LetGo();
+  StartElsewhere(kOther);
+  Database& schedule = *SiteContext.WorkDatabase;
+  WriteAndHoldClassified(schedule, kUsual, [&] {
+    EXPECT_EQ(Ours(), "1/6");
+    schedule.Execute("UPDATE 加工テーブル SET 階 = 3");
+  });
+  EXPECT_EQ(schedule.State(), SiteContext.ClassifiedAt);
+  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
+  schedule.LetGo();
+  EXPECT_EQ(OfTheFile(), "1/6");
+  EXPECT_THAT(site_.Column("階"), ElementsAre("3"));
+}
+
+TEST_F(ClassifiedSchedules, ThatAreNotWrittenInTheEndStayAsTheyWere) {
+  StartElsewhere(kOther);
+  EXPECT_EQ(FaultOf([&] {
+              WriteAndHoldClassified(*SiteContext.WorkDatabase, kUsual,
+                                     [] { throw Fault(FaultKind::overflow, "a write"); });
+            }),
+            FaultKind::overflow);
+  EXPECT_EQ(OfTheFile(), "2/0");
+}
+
 TEST_F(ClassifiedSchedules, WithFloorsOfASiteThatIsOnlyReadAreThoseOfACopy) {
   for (const StartModeTraits& before : {kOther, kUsual}) {
     StartElsewhere(before);

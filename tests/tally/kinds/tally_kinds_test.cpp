@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "archive/accumulation/hozon.h"
 #include "platform/fault.h"
 #include "shell/context/run_state.h"
 #include "support/schedule_site.h"
@@ -23,6 +24,7 @@ TEST(TallyKinds, KeepTheNumbersOfSavedTallies) {
   EXPECT_EQ(static_cast<int>(TallyKind::page_shape), 3);
   EXPECT_EQ(static_cast<int>(TallyKind::floor), 4);
   EXPECT_EQ(static_cast<int>(TallyKind::part), 5);
+  EXPECT_EQ(static_cast<int>(TallyKind::names), 6);
 }
 
 TEST(TallyKinds, EachHasItsOwnWord) {
@@ -44,8 +46,9 @@ void SelectAll(ScheduleSite& site) {
   Selection.EndPage = 1;
   Selection.EndLine = 2;
   Selection.KaiStart = Selection.KaiEnd = Selection.BuiStart = 1;
-  site.AddRow({{"階", Number(1)}});
-  site.AddRow({{"階", Number(1)}});
+  site.AddName(Number(1), "一工区", Number(1));
+  site.AddRow({{"階", Number(1)}, {"登録名", Number(1)}});
+  site.AddRow({{"階", Number(1)}, {"登録名", Number(1)}});
 }
 
 std::int32_t BarsOf6mD19(const TallyTable& tables) { return tables.BarCount[3][5]; }
@@ -123,12 +126,22 @@ TEST(CountTally, IsNotReachedByWhatIsTalliedLater) {
   EXPECT_EQ(TallyGrid.BarCount[3][5], 4);
 }
 
-TEST(CountTally, OnTopOfOtherSitesIsAnAccumulation) {
-  ScheduleSite site;
-  site.AddRow();
-  RunState.AccumulateFlag = 1;
-  EXPECT_EQ(CountTally(TallyKind::bulk).origin, ResultOrigin::accumulated);
-  RunState.AccumulateFlag = 0;
+TEST(CountTally, OfAnyKindIsOfItsSiteAloneWhileSitesAreBeingAddedUp) {
+  for (const TallyKindRow& row : TallyKinds()) {
+    if (row.count == nullptr) continue;
+    ScheduleSite site;
+    SelectAll(site);
+    const TallyResult alone = CountTally(row.kind);
+    TallyTable sum;
+    sum.BarCount[3][5] = 100;
+    sum.StockWeight[3][5] = Currency::FromDouble(1000);
+    sum.WeldCount[3] = 7;
+    Save_Hozon(sum);
+    RunState.AccumulateFlag = 1;
+    EXPECT_EQ(CountTally(row.kind), alone) << row.word;
+    EXPECT_EQ(Load_Hozon(), sum) << row.word;
+    RunState.AccumulateFlag = 0;
+  }
 }
 
 TEST(CountTally, APageBeyondSixteenBitsIsAnOverflowOfThePageTallyAlone) {

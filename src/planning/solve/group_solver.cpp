@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "planning/solve/group_solver.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "planning/solve/columns.h"
+#include "planning/solve/dive.h"
+#include "planning/solve/greedy.h"
+
+namespace rbt::planning {
+namespace {
+
+CuttingTask TaskOfAnyMix(const Problem& problem, const Group& group) {
+  CuttingTask task = MakeTask(problem, group);
+  task.mix = 0;
+  return task;
+}
+
+/// The better of a bound already proven and one that prices would prove.
+void TakeBetter(PriceProof& proof, const CuttingTask& task, const std::vector<double>& prices) {
+  if (prices.empty()) return;
+  PriceProof other = ProveBound(task, prices);
+  if (other.bound > proof.bound) proof = std::move(other);
+}
+
+}  // namespace
+
+GroupSolver::GroupSolver(const Problem& problem, const Group& group)
+    : problem_(problem),
+      group_(group),
+      supply_(problem.supplies[group.supply]),
+      promises_(PromisesOf(problem, group)),
+      best_(PerRowCandidate(problem, group, AllLengths(supply_))),
+      proof_(ProveMaterialBound(MakeTask(problem, group))) {
+  if (auto schedule = ScheduleCandidate(problem, group)) {
+    planning::TakeBetter(best_, std::move(*schedule), promises_);
+  }
+}
+
+void GroupSolver::MakeQuickPlan(const RestCounts& rests, Pace& pace) {
+  if (pace.Stopped()) return;
+  const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
+  const Cutting cutting = CutGreedily(task, DemandOf(task));
+  planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+}
+
+void GroupSolver::Improve(const RestCounts& rests, Pace& pace) {
+  if (pace.Stopped() || (best_.cost <= proof_.bound && promises_.KeptBy(best_))) return;
+  if (problem_.options.effort == Effort::greedy || !LinearProgramsAreSolved()) {
+    proof_ = BestBound(problem_, group_, pace);
+    return;
+  }
+  const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
+  const ColumnsResult result = CutByColumns(task, CutGreedily(task, DemandOf(task)), pace);
+  if (!result.cutting.empty()) {
+    planning::TakeBetter(best_, MakeCandidate(supply_, Method::columns, task, result.cutting), promises_);
+  }
+  MindTableWeight(rests, pace);
+  if (pace.Stopped()) return;
+  if (task.mix == 0) {
+    TakeBetter(proof_, TaskOfAnyMix(problem_, group_), result.prices);
+  } else {
+    proof_ = BestBound(problem_, group_, pace);
+  }
+}
+
+void GroupSolver::MindTableWeight(const RestCounts& rests, Pace& pace) {
+  if (promises_.KeptBy(best_) || pace.Stopped()) return;
+  CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
+  for (Bar& bar : task.bars) bar.cost = bar.rest ? 0 : bar.table_weight;
+  const Cutting greedy = CutGreedily(task, DemandOf(task));
+  planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, greedy), promises_);
+  const ColumnsResult result = CutByColumns(task, greedy, pace);
+  if (result.cutting.empty()) return;
+  planning::TakeBetter(best_, MakeCandidate(supply_, Method::columns, task, result.cutting), promises_);
+}
+
+RestCounts RestsUsed(const Supply& supply, const Candidate& candidate) {
+  RestCounts used(supply.rests.size(), 0);
+  for (const Pattern& pattern : candidate.patterns) {
+    if (!pattern.rest) continue;
+    const auto at = std::ranges::lower_bound(supply.rests, pattern.stock_mm, {}, &RestBar::mm);
+    used[static_cast<std::size_t>(at - supply.rests.begin())] += pattern.bars;
+  }
+  return used;
+}
+
+PriceProof BestBound(const Problem& problem, const Group& group, Pace& pace) {
+  const CuttingTask task = TaskOfAnyMix(problem, group);
+  PriceProof proof = ProveMaterialBound(task);
+  if (pace.Stopped()) return proof;
+  if (problem.options.effort == Effort::greedy || !LinearProgramsAreSolved()) {
+    TakeBetter(proof, task, MaterialPrices(task));
+    return proof;
+  }
+  Columns columns(task, pace);
+  columns.Offer(CutGreedily(task, DemandOf(task)));
+  columns.ConvergeToBound();
+  if (!pace.Stopped()) TakeBetter(proof, task, columns.BoundPrices());
+  return proof;
+}
+
+}  // namespace rbt::planning

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+#include "planning/solve/length_search.h"
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <memory>
+
+#include "planning/problem/bar_rule.h"
+#include "planning/solve/columns.h"
+#include "planning/solve/greedy.h"
+
+namespace rbt::planning {
+namespace {
+
+constexpr double kImpossible = std::numeric_limits<double>::infinity();
+/// Of the sets that are compared so many are judged by the linear program, the best guesses first: of those
+/// that grow nearly all, of those that exchange a length, which are many, fewer.
+constexpr std::size_t kJudgedOfGrown = 24;
+constexpr std::size_t kJudgedOfExchanged = 8;
+/// Rounds of the linear program after which a set is judged.
+constexpr int kRounds = 4;
+constexpr double kGain = 1e-9;
+constexpr int kExchanges = 3;  // rounds of exchanging
+
+/// What a group costs from a set of lengths.
+class GroupJudge {
+ public:
+  GroupJudge(const Problem& problem, const Group& group, Pace& pace)
+      : problem_(problem), group_(group), task_(MakeTask(problem, group)) {
+    if (problem.options.effort == Effort::full && LinearProgramsAreSolved()) {
+      columns_ = std::make_unique<Columns>(task_, pace);
+    }
+  }
+
+  /// Of the greedy plan.
+  double Guess(const LengthSet& lengths) const {
+    CuttingTask task = MakeTask(problem_, group_, lengths, AllRests(problem_.supplies[group_.supply]));
+    return static_cast<double>(CostOf(task, CutGreedily(task, DemandOf(task))));
+  }
+
+  bool CanTellMore() const { return columns_ != nullptr; }
+  /// By the linear program, which begins with the greedy plan.
+  double Cost(const LengthSet& lengths) {
+    ByIndex<bool> allowed;
+    std::size_t length = 0;
+    for (const Bar& bar : task_.bars) {
+      allowed.push_back(bar.rest || std::ranges::binary_search(lengths, length));
+      if (!bar.rest) ++length;
+    }
+    CuttingTask task = task_;
+    for (std::size_t b = 0; b < allowed.size(); ++b) {
+      if (!allowed[b]) task.bars[b].capacity = 0;
+    }
+    columns_->Offer(CutGreedily(task, DemandOf(task)));
+    columns_->AllowBars(allowed);
+    return columns_->Estimate(kRounds) ? columns_->Cost() : kImpossible;
+  }
+
+ private:
+  const Problem& problem_;
+  const Group& group_;
+  CuttingTask task_;
+  std::unique_ptr<Columns> columns_;
+};
+
+/// Bars in parts are a judge of large groups; of small ones, where sets cost alike, whole bars tell more.
+struct JudgedSet {
+  LengthSet lengths;
+  double cost = kImpossible;   ///< of the linear program, where it is solved
+  double guess = kImpossible;  ///< of the greedy plans
+};
+
+bool Gains(double cost, double over) { return cost < over * (1.0 - kGain); }
+
+bool IsCheaper(const JudgedSet& a, const JudgedSet& b) {
+  if (Gains(a.cost, b.cost)) return true;
+  return !Gains(b.cost, a.cost) && a.guess < b.guess;
+}
+
+/// What all groups of a supply cost from a set of lengths.
+class Judge {
+ public:
+  Judge(const Problem& problem, std::vector<std::size_t> groups, Pace& pace)
+      : problem_(problem), groups_(std::move(groups)), pace_(pace) {
+    for (const std::size_t g : groups_) {
+      judges_.push_back(std::make_unique<GroupJudge>(problem, problem.groups[g], pace));
+    }
+  }
+
+  /// The cheapest of several sets: all are guessed, the best guesses judged.
+  JudgedSet Cheapest(std::vector<LengthSet> sets, std::size_t most) {
+    std::vector<JudgedSet> judged;
+    for (LengthSet& set : sets) {
+      if (pace_.Stopped()) return {};
+      if (!HoldsAll(problem_, groups_, set)) continue;
+      judged.push_back({std::move(set), 0.0, 0.0});
+      for (const auto& judge : judges_) judged.back().guess += judge->Guess(judged.back().lengths);
+    }
+    std::ranges::stable_sort(judged, {}, &JudgedSet::guess);
+    if (judged.size() > most) judged.resize(most);
+    for (JudgedSet& set : judged) set.cost = Cost(set);
+    JudgedSet best;
+    for (JudgedSet& set : judged) {
+      if (best.lengths.empty() || IsCheaper(set, best)) best = std::move(set);
+    }
+    return pace_.Stopped() ? JudgedSet{} : best;
+  }
+
+ private:
+  double Cost(const JudgedSet& guessed) {
+    if (!judges_.front()->CanTellMore()) return guessed.guess;
+    double cost = 0.0;
+    for (const auto& judge : judges_) cost += pace_.Stopped() ? kImpossible : judge->Cost(guessed.lengths);
+    return cost;
+  }
+
+  const Problem& problem_;
+  std::vector<std::size_t> groups_;
+  Pace& pace_;
+  std::vector<std::unique_ptr<GroupJudge>> judges_;  ///< parallel to the groups
+};
+
+LengthSet With(LengthSet lengths, std::size_t length) {
+  lengths.insert(std::ranges::lower_bound(lengths, length), length);
+  return lengths;
+}
+
+LengthSet Without(LengthSet lengths, std::size_t length) {
+  std::erase(lengths, length);
+  return lengths;
+}
+
+/// The best of the sets that are made from `base` by one length more.
+JudgedSet BestWithOneMore(Judge& judge, const LengthSet& base, const LengthSet& all, std::size_t judged) {
+  std::vector<LengthSet> sets;
+  for (const std::size_t length : all) {
+    if (!std::ranges::binary_search(base, length)) sets.push_back(With(base, length));
+  }
+  return judge.Cheapest(std::move(sets), judged);
+}
+
+/// Exchanges one length for another as long as that gains.
+void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all) {
+  bool gained = set.lengths.size() > 1;
+  for (int round = 0; round < kExchanges && gained; ++round) {
+    gained = false;
+    for (const std::size_t length : LengthSet(set.lengths)) {
+      JudgedSet other = BestWithOneMore(judge, Without(set.lengths, length), all, kJudgedOfExchanged);
+      if (other.lengths.empty() || !IsCheaper(other, set)) continue;
+      set = std::move(other);
+      gained = true;
+    }
+  }
+}
+
+}  // namespace
+
+LengthSet Cover(const Problem& problem, std::span<const std::size_t> groups) {
+  const LengthSet all = AllLengths(problem.supplies[problem.groups[groups.front()].supply]);
+  const auto held = [&](std::size_t length, const LengthSet& by) {
+    std::size_t more = 0;
+    for (const std::size_t g : groups) {
+      const Supply& supply = problem.supplies[problem.groups[g].supply];
+      for (const Cut& cut : problem.groups[g].cuts) {
+        const auto holds = [&](std::size_t l) {
+          return PiecesPerBar(problem.options.bar, supply.lengths[l].mm, cut.mm) > 0;
+        };
+        if (holds(length) && std::ranges::none_of(by, holds)) ++more;
+      }
+    }
+    return more;
+  };
+  LengthSet cover;
+  while (!HoldsAll(problem, groups, cover)) {
+    std::size_t best = 0;
+    for (const std::size_t length : all) {
+      if (held(length, cover) >= held(best, cover)) best = length;
+    }
+    cover = With(cover, best);
+  }
+  return cover;
+}
+
+std::vector<std::size_t> GroupsOf(const Problem& problem, std::size_t supply) {
+  std::vector<std::size_t> groups;
+  for (std::size_t g = 0; g < problem.groups.size(); ++g) {
+    if (problem.groups[g].supply == supply) groups.push_back(g);
+  }
+  return groups;
+}
+
+bool HoldsAll(const Problem& problem, std::span<const std::size_t> groups, const LengthSet& lengths) {
+  return std::ranges::all_of(groups, [&](std::size_t g) {
+    const Group& group = problem.groups[g];
+    const Supply& supply = problem.supplies[group.supply];
+    return std::ranges::all_of(group.cuts, [&](const Cut& cut) {
+      return std::ranges::any_of(lengths, [&](std::size_t l) {
+        return PiecesPerBar(problem.options.bar, supply.lengths[l].mm, cut.mm) > 0;
+      });
+    });
+  });
+}
+
+std::vector<LengthSet> SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most,
+                                        Pace& pace) {
+  const LengthSet all = AllLengths(problem.supplies[supply]);
+  const std::vector<std::size_t> groups = GroupsOf(problem, supply);
+  Judge judge(problem, groups, pace);
+  std::vector<LengthSet> sets;
+  JudgedSet last;
+  while (last.lengths.size() < std::min(most, all.size())) {
+    JudgedSet next = BestWithOneMore(judge, last.lengths, all, kJudgedOfGrown);
+    if (sets.empty() && next.lengths.empty()) {
+      next = judge.Cheapest({Cover(problem, groups)}, 1);
+    }
+    if (next.lengths.empty()) break;
+    Exchange(judge, next, all);
+    if (next.lengths.size() > most || (!sets.empty() && !IsCheaper(next, last))) break;
+    last = next;
+    sets.push_back(std::move(next.lengths));
+  }
+  return sets;
+}
+
+}  // namespace rbt::planning

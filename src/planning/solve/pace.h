@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "planning/problem/stop_signal.h"
+
+namespace rbt::planning {
+
+/// How far the work has come: whether it is to end, and how many steps it took. A step is about a nanosecond
+/// of computing; how much is done depends on steps alone, never on a clock.
+class Pace {
+ public:
+  explicit Pace(StopSignal signal) : signal_(std::move(signal)) {}
+
+  /// True when the work is to end with what it has.
+  bool Stopped() {
+    if (stopped_ == planning::Stopped::no && signal_) stopped_ = signal_();
+    return stopped_ != planning::Stopped::no;
+  }
+  /// Why, if it was.
+  planning::Stopped Why() const { return stopped_; }
+
+  void Spend(std::int64_t steps) { spent_ += steps; }
+  std::int64_t Spent() const { return spent_; }
+
+ private:
+  StopSignal signal_;
+  planning::Stopped stopped_ = planning::Stopped::no;
+  std::int64_t spent_ = 0;
+};
+
+}  // namespace rbt::planning

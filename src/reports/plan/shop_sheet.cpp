@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "reports/plan/shop_sheet.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "planning/outcome/pattern_shares.h"
+#include "planning/outcome/plan_text.h"
+#include "platform/print/printer_surface.h"
+#include "reports/frame/letter_spacing.h"
+#include "reports/frame/page_flow.h"
+
+namespace rbt {
+namespace {
+
+using planning::BarRule;
+using planning::CutShares;
+using planning::Outcome;
+using planning::OutcomeGroup;
+using planning::OutcomePattern;
+
+constexpr std::string_view kTitle = "鉄 筋 切 断 指 示 書";
+constexpr float kTextSize = 9;
+constexpr float kSheetWidth = kPlanSheetRight - kPlanSheetLeft;
+constexpr int kBarLines = 2;  ///< a bar is drawn as high as so many lines
+constexpr float kBarDrop = 40;
+constexpr float kBarHeight = 300;
+constexpr float kHatchStep = 90;
+
+/// Words one behind the other on as many lines as they need.
+std::vector<std::string> Wrapped(std::string_view label, const std::vector<std::string>& words) {
+  std::vector<std::string> lines(1, std::string(label));
+  bool begins = true;
+  for (const std::string& word : words) {
+    const std::string longer = lines.back() + (begins ? "" : " ") + word;
+    if (!begins && TextWidthAt(kTextSize, longer) > kSheetWidth) {
+      lines.push_back("        " + word);
+    } else {
+      lines.back() = longer;
+    }
+    begins = false;
+  }
+  return lines;
+}
+
+std::string Place(const planning::OutcomeShare& share) {
+  const auto number = [](const std::optional<int>& of) { return of ? std::to_string(*of) : "-"; };
+  // A line of a file has no page.
+  std::string place =
+      share.page == 0 ? number(share.line) + "行" : number(share.page) + "頁" + number(share.line) + "行";
+  if (!share.mark.empty()) place += "[" + share.mark + "]";
+  return place + "x" + std::to_string(share.pieces);
+}
+
+std::vector<std::string> PlaceWords(const std::vector<CutShares>& shares) {
+  std::vector<std::string> words;
+  for (const CutShares& cut : shares) {
+    std::string label = std::to_string(cut.cut_mm) + ":";
+    for (const planning::OutcomeShare& share : cut.rows) {
+      words.push_back(label + Place(share));
+      label.clear();
+    }
+  }
+  return words;
+}
+
+/// One pattern, or a line of text that stands by itself.
+struct SheetBlock {
+  std::vector<std::string> above;
+  const OutcomePattern* bar = nullptr;  ///< drawn to scale below the first texts
+  std::vector<std::string> below;
+
+  int Lines() const {
+    return static_cast<int>(above.size() + below.size()) + (bar != nullptr ? kBarLines : 0) + 1;
+  }
+};
+
+std::string SteelText(const planning::BarSteel& steel) {
+  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
+         (steel.hoop ? " 溶接フープ" : "");
+}
+
+SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
+                   const std::vector<CutShares>& shares) {
+  std::string head = fmt::format("{:>4}  {}{} mm  x {} 本   {}   残 {} mm   切断 {}", number,
+                                 of.pattern.rest ? "残材 " : "定尺 ", of.pattern.stock_mm, of.pattern.bars,
+                                 planning::PiecesText(of.pattern), of.left_mm, of.cuts);
+  std::vector<std::string> marks;
+  for (const std::int64_t mark : planning::MarksOf(rule, of.pattern)) marks.push_back(std::to_string(mark));
+  SheetBlock block{Wrapped(head, {}), &of, Wrapped("  墨 ", marks)};
+  for (std::string& line : Wrapped("  行 ", PlaceWords(shares))) block.below.push_back(std::move(line));
+  return block;
+}
+
+std::vector<SheetBlock> BlocksOf(const Outcome& outcome) {
+  std::vector<SheetBlock> blocks;
+  for (const OutcomeGroup& group : outcome.groups) {
+    blocks.push_back({{"■ " + SteelText(group.steel) + (group.scope == "site" ? "" : "   階 " + group.scope)},
+                      nullptr,
+                      {}});
+    const auto shares = planning::SharesOf(group);
+    for (std::size_t p = 0; p < group.patterns.size(); ++p) {
+      blocks.push_back(BlockOf(group.patterns[p], static_cast<int>(p) + 1, outcome.options.bar, shares[p]));
+    }
+  }
+  if (outcome.rests.empty()) return blocks;
+  std::vector<std::string> words;
+  for (const planning::UsableRest& rest : outcome.rests) {
+    words.push_back(fmt::format("{} {}mm x{}", SteelText(rest.steel), rest.mm, rest.count));
+  }
+  for (const std::string& line : Wrapped("使える残材  ", words)) blocks.push_back({{line}, nullptr, {}});
+  return blocks;
+}
+
+class ShopSheets {
+ public:
+  ShopSheets(ReportPen& pen, const PlanSheetHead& head, const Outcome& outcome)
+      : pen_(pen), head_(head), rule_(outcome.options.bar), blocks_(BlocksOf(outcome)) {
+    for (const OutcomeGroup& group : outcome.groups) {
+      for (const OutcomePattern& of : group.patterns) longest_ = std::max(longest_, of.pattern.stock_mm);
+    }
+  }
+
+  void Draw() {
+    std::vector<FlowBlock> flow;
+    flow.reserve(blocks_.size());
+    for (const SheetBlock& block : blocks_) flow.push_back({block.Lines()});
+    DrawPages(pen_, Paginate(flow, {kPlanSheetLines, kPlanSheetLines}),
+              {.head = [this](ReportPen&, const PageOfBlocks&) { DrawPlanHead(pen_, kTitle, head_); },
+               .block = [this](ReportPen&, const PlacedBlock& at) { Block(at.row, blocks_[at.block]); },
+               .foot = nullptr});
+  }
+
+ private:
+  void Block(int row, const SheetBlock& block) {
+    SetReportFont(pen_.Printer, kTextSize);
+    const auto y = [&] { return kPlanSheetTop + static_cast<float>(row) * kPlanSheetLine; };
+    const auto print = [&](const std::string& line) {
+      PrintAt(pen_.Printer, kPlanSheetLeft, y(), {line});
+      ++row;
+    };
+    for (const std::string& line : block.above) print(line);
+    if (block.bar != nullptr) {
+      Bar(y() + kBarDrop, *block.bar);
+      row += kBarLines;
+    }
+    SetReportFont(pen_.Printer, kTextSize);
+    for (const std::string& line : block.below) print(line);
+  }
+
+  float X(std::int64_t mm) const {
+    return kPlanSheetLeft + kSheetWidth * static_cast<float>(mm) / static_cast<float>(longest_);
+  }
+
+  /// The bar to scale: a rule at each mark, the length in each piece that has room for it, the rest hatched.
+  void Bar(float y, const OutcomePattern& of) {
+    PrinterSurface& Printer = pen_.Printer;
+    const float right = X(of.pattern.stock_mm);
+    Printer.DrawWidth = 3;
+    Printer.Line(kPlanSheetLeft, y, right, y);
+    Printer.Line(kPlanSheetLeft, y + kBarHeight, right, y + kBarHeight);
+    Printer.Line(kPlanSheetLeft, y, kPlanSheetLeft, y + kBarHeight);
+    Printer.Line(right, y, right, y + kBarHeight);
+    Printer.DrawWidth = 2;
+    const std::vector<std::int64_t> marks = planning::MarksOf(rule_, of.pattern);
+    std::size_t mark = 0;
+    for (const auto& [cut, pieces] : of.pattern.pieces) {
+      for (int piece = 0; piece < pieces; ++piece, ++mark) {
+        const float end = std::min(right, X(marks[mark]));
+        Printer.Line(end, y, end, y + kBarHeight);
+        Length(y, X(marks[mark] - cut), end, cut);
+      }
+    }
+    if (of.left_mm > 0) Hatch(y, X(of.pattern.stock_mm - of.left_mm), right);
+  }
+
+  void Length(float y, float from, float to, int cut) {
+    const std::string text = std::to_string(cut);
+    const float width = pen_.Printer.TextWidth(text);
+    if (width + 40.0F > to - from) return;
+    PrintAt(pen_.Printer, (from + to - width) / 2.0F, y + (kBarHeight - LineHeight(kTextSize)) / 2.0F,
+            {text});
+  }
+
+  void Hatch(float y, float from, float to) {
+    pen_.Printer.DrawWidth = 1;
+    for (float x = from; x < to; x += kHatchStep) {
+      const float end = std::min(to, x + kBarHeight);
+      pen_.Printer.Line(x, y + kBarHeight, end, y + kBarHeight - (end - x));
+    }
+  }
+
+  ReportPen& pen_;
+  const PlanSheetHead& head_;
+  BarRule rule_;
+  std::vector<SheetBlock> blocks_;
+  int longest_ = 1;
+};
+
+}  // namespace
+
+void DrawShopSheet(PrinterSurface& Printer, const PlanSheetHead& head, const Outcome& outcome) {
+  ReportPen pen(Printer);
+  ShopSheets(pen, head, outcome).Draw();
+}
+
+}  // namespace rbt

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "planning/make_plan.h"
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "planning/outcome/outcome.h"
+#include "planning/outcome/plan_json.h"
+#include "planning/problem/refusal.h"
+#include "planning/problem_samples.h"
+#include "planning/solve/brute_force.h"
+#include "planning/solve/cover_lp.h"
+#include "planning/verify/verify.h"
+
+namespace rbt::planning {
+namespace {
+
+using test::RandomKind;
+using test::RandomProblem;
+using ::testing::IsEmpty;
+
+const StopSignal kGoOn = nullptr;
+
+Micros CostOf(const Problem& problem, const Group& group, const GroupPlan& plan) {
+  Micros cost = 0;
+  for (const Pattern& pattern : plan.patterns) {
+    for (const StockLength& length : problem.supplies[group.supply].lengths) {
+      if (!pattern.rest && length.mm == pattern.stock_mm) cost += length.cost * pattern.bars;
+    }
+  }
+  return cost;
+}
+
+/// Stops a plan when it has been asked so often.
+StopSignal StopAtQuestion(int number) {
+  return [left = number]() mutable { return --left < 0 ? Stopped::cancel : Stopped::no; };
+}
+
+TEST(MakePlan, KeepsEveryPromiseOverRandomProblems) {
+  for (std::uint64_t seed = 1; seed <= 150; ++seed) {
+    const Problem problem = RandomProblem(seed);
+    const Plan plan = SolvePlan(problem, kGoOn, nullptr);
+    EXPECT_THAT(FindFaults(problem, plan), IsEmpty()) << seed;
+  }
+}
+
+TEST(MakePlan, KeepsLimitsOfLengthsAndLotsOrIsRefused) {
+  int planned = 0;
+  for (std::uint64_t seed = 1; seed <= 80; ++seed) {
+    RandomKind kind;
+    kind.limits = true;
+    const Problem problem = RandomProblem(seed, kind);
+    try {
+      EXPECT_THAT(FindFaults(problem, SolvePlan(problem, kGoOn, nullptr)), IsEmpty()) << seed;
+      ++planned;
+    } catch (const Refusal&) {
+      continue;
+    }
+  }
+  EXPECT_GT(planned, 40);
+}
+
+TEST(MakePlan, KeepsEveryPromiseWithGreedyEffort) {
+  for (std::uint64_t seed = 200; seed <= 280; ++seed) {
+    Problem problem = RandomProblem(seed);
+    problem.options.effort = Effort::greedy;
+    EXPECT_THAT(FindFaults(problem, SolvePlan(problem, kGoOn, nullptr)), IsEmpty()) << seed;
+  }
+}
+
+TEST(MakePlan, IsNoFurtherFromTheLeastCostThanItsBoundSaysOnTinyProblems) {
+  int best = 0;
+  int all = 0;
+  for (std::uint64_t seed = 1; seed <= 120; ++seed) {
+    RandomKind kind;
+    kind.most_cuts = 3;
+    kind.supplies = 1;
+    kind.scopes = 1;
+    kind.schedule = false;
+    Problem problem = RandomProblem(seed, kind);
+    if (problem.groups.empty()) continue;
+    for (Cut& cut : problem.groups[0].cuts) {
+      cut.count = 1 + cut.count % 3;
+      cut.rows.resize(1);
+      cut.rows[0].pieces = cut.count;
+    }
+    const Micros least = test::BruteForce(problem, problem.groups[0]).LeastCost();
+    const Plan plan = SolvePlan(problem, kGoOn, nullptr);
+    const Micros cost = CostOf(problem, problem.groups[0], plan.groups[0]);
+    EXPECT_LE(plan.groups[0].bound, least) << seed;
+    EXPECT_GE(cost, least) << seed;
+    ++all;
+    if (cost == least) ++best;
+  }
+  if (LinearProgramsAreSolved()) {
+    EXPECT_GE(best * 100, all * 95) << best << " of " << all;
+  }
+}
+
+TEST(MakePlan, GivesTheSameBytesAgainAlsoBesideOthers) {
+  RandomKind kind;
+  kind.most_cuts = 30;
+  const Problem problem = RandomProblem(7, kind);
+  const std::string alone = PlanJson(Describe(problem, MakePlan(problem, kGoOn)));
+  std::vector<std::string> beside(4);
+  std::vector<std::thread> threads;
+  threads.reserve(beside.size());
+  for (std::string& text : beside) {
+    threads.emplace_back([&] { text = PlanJson(Describe(problem, MakePlan(problem, kGoOn))); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_THAT(beside, ::testing::Each(alone));
+}
+
+TEST(MakePlan, HasAnAnswerAtEveryMoment) {
+  RandomKind kind;
+  kind.limits = true;
+  Problem problem = RandomProblem(11, kind);
+  problem.options.advise = 2;
+  Stopped last = Stopped::cancel;
+  for (int question = 0; last != Stopped::no && question < 4000; question += 1 + question / 4) {
+    const Plan plan = MakePlan(problem, StopAtQuestion(question));
+    EXPECT_THAT(FindFaults(problem, plan), IsEmpty()) << question;
+    last = plan.stopped;
+  }
+  EXPECT_EQ(last, Stopped::no);
+}
+
+TEST(MakePlan, BecomesNoWorseFromOneTellingToTheNext) {
+  const Problem problem = RandomProblem(3);
+  std::vector<Micros> costs;
+  const auto listen = [&](const Plan& plan, std::size_t done, std::size_t of) {
+    EXPECT_LE(done, of);
+    Micros cost = 0;
+    for (std::size_t g = 0; g < problem.groups.size(); ++g)
+      cost += CostOf(problem, problem.groups[g], plan.groups[g]);
+    costs.push_back(cost);
+  };
+  MakePlan(problem, kGoOn, listen);
+  ASSERT_GE(costs.size(), 2u);
+  EXPECT_TRUE(std::is_sorted(costs.rbegin(), costs.rend()));
+}
+
+TEST(MakePlan, AdvisesALengthMoreWhereWholeBarsGainByIt) {
+  Problem problem = test::OneGroup({{5200, 7}, {2340, 50}, {1200, 33}}, {6000, 12000});
+  problem.options.advise = 2;
+  const Plan plan = MakePlan(problem, kGoOn);
+  ASSERT_EQ(plan.advice.size(), 1u);
+  ASSERT_EQ(plan.advice[0].curve.size(), 2u);
+  EXPECT_EQ(plan.advice[0].curve[0].lengths, std::vector<int>{12000});
+  EXPECT_LT(plan.advice[0].curve[1].bought_mm, plan.advice[0].curve[0].bought_mm);
+}
+
+TEST(StopAfter, SaysTimeWhenItIsUpAndCancelWhenAsked) {
+  EXPECT_EQ(StopAfter(0.0)(), Stopped::time);
+  EXPECT_EQ(StopAfter(1000.0)(), Stopped::no);
+  std::atomic<bool> cancelled = false;
+  const StopSignal stop = StopAfter(1000.0, [&] { return cancelled.load(); });
+  EXPECT_EQ(stop(), Stopped::no);
+  cancelled = true;
+  EXPECT_EQ(stop(), Stopped::cancel);
+}
+
+}  // namespace
+}  // namespace rbt::planning

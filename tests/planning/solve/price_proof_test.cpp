@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "planning/solve/price_proof.h"
+
+#include <gtest/gtest.h>
+
+#include "planning/problem_samples.h"
+#include "planning/solve/brute_force.h"
+
+namespace rbt::planning {
+namespace {
+
+using test::BruteForce;
+using test::OneGroup;
+
+constexpr Micros kMm = 1'000'000;
+
+TEST(RoundUpBound, GoesToAMultipleOfWhatAllCostsAreMultiplesOf) {
+  const Problem problem = OneGroup({{2000, 1}}, {5500, 6000, 12000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(RoundUpBound(task, 0), 0);
+  EXPECT_EQ(RoundUpBound(task, 1), 500 * kMm);
+  EXPECT_EQ(RoundUpBound(task, 500 * kMm), 500 * kMm);
+  EXPECT_EQ(RoundUpBound(task, 500 * kMm + 1), 1000 * kMm);
+}
+
+TEST(RoundUpBound, LeavesItWhereCostsAreNotWhole) {
+  Problem problem = OneGroup({{2000, 1}}, {5500, 6000});
+  problem.supplies[0].lengths[0].cost = 858'500'000;  // 858.5 yen
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(RoundUpBound(task, 1), 1);
+}
+
+TEST(ProveMaterialBound, IsTheMaterialRoundedUp) {
+  const Problem problem = OneGroup({{2340, 5}, {1200, 3}}, {6000, 12000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(ProveMaterialBound(task).bound, 18000 * kMm);  // 15300 mm in steps of 6000
+}
+
+TEST(ProveMaterialBound, TakesWhatRestBarsCarryAway) {
+  Problem problem = OneGroup({{2340, 5}, {1200, 3}}, {6000, 12000});
+  problem.supplies[0].rests = {{5000, 2}};
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(ProveMaterialBound(task).bound, 6000 * kMm);  // 5300 mm
+}
+
+TEST(ProveBound, LowersPricesUntilNoContentIsWorthMoreThanItsBar) {
+  const Problem problem = OneGroup({{4000, 6}}, {6000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  const PriceProof proof = ProveBound(task, std::vector<double>{60000.0});
+  EXPECT_EQ(proof.prices, std::vector<Micros>{6000 * kMm});
+  EXPECT_EQ(proof.bound, 36000 * kMm);
+}
+
+TEST(ProveBound, RaisesPricesThatAreTooLow) {
+  const Problem problem = OneGroup({{4000, 6}}, {6000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(ProveBound(task, std::vector<double>{1.0}).bound, 36000 * kMm);
+}
+
+TEST(ProveBound, CountsNoPieceMoreOftenThanItIsToBeCut) {
+  // Two of 2000 fit, but there is only one: it may be worth the whole bar.
+  const Problem problem = OneGroup({{2000, 1}}, {5000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(ProveBound(task, MaterialPrices(task)).bound, 5000 * kMm);
+}
+
+TEST(ProveBound, NeverPassesTheLeastCost) {
+  for (std::uint64_t seed = 1; seed <= 150; ++seed) {
+    test::RandomKind kind;
+    kind.most_cuts = 3;
+    kind.supplies = 1;
+    kind.scopes = 1;
+    Problem problem = test::RandomProblem(seed, kind);
+    if (problem.groups.empty()) continue;
+    for (Cut& cut : problem.groups[0].cuts) cut.count = 1 + cut.count % 3;
+    const CuttingTask task = MakeTask(problem, problem.groups[0]);
+    const Micros least = BruteForce(problem, problem.groups[0]).LeastCost();
+    EXPECT_LE(ProveMaterialBound(task).bound, least) << seed;
+    EXPECT_LE(ProveBound(task, MaterialPrices(task)).bound, least) << seed;
+    std::vector<double> prices;
+    test::Random random(seed);
+    for (std::size_t i = 0; i < task.items.size(); ++i) prices.push_back(random.Between(0, 12000));
+    EXPECT_LE(ProveBound(task, prices).bound, least) << seed;
+  }
+}
+
+}  // namespace
+}  // namespace rbt::planning
