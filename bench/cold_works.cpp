@@ -20,12 +20,17 @@ struct Program {
   }
 };
 
-/// A command on the site as it stands after one that has prepared it.
+/// A command on the site as it stands when it has been prepared and the command has run before.
 Work Prepared(std::string_view name, const Program& program, const std::vector<std::string>& words) {
   const Command command = program.OnSite(words);
   const Command prepare = program.OnSite({"prepare"});
   return {.name = name,
-          .begin = [prepare] { CostOf({prepare}); },
+          .begin =
+              [prepare, command, site = program.site] {
+                CostOf({prepare});
+                site.AwaitSettled();
+                CostOf({command});
+              },
           .run = [command] { return CostOf({command}); },
           .counted = command};
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "demo_site.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <thread>
 
 #include "cost.h"
 #include "platform/system/services.h"
@@ -50,8 +52,13 @@ void CloseSite() { SiteContext = SiteContextData(); }
 
 }  // namespace
 
-DemoSite::DemoSite(std::int64_t rows) : rows_(rows), root_(Folder() / std::to_string(rows)) {
+void DemoSite::UseOwnFolders() const {
   setenv("RBK_SETTINGS", (root_ / "settings.ini").c_str(), 1);
+  setenv("XDG_CACHE_HOME", (root_ / "cache").c_str(), 1);
+}
+
+DemoSite::DemoSite(std::int64_t rows) : rows_(rows), root_(Folder() / std::to_string(rows)) {
+  UseOwnFolders();
   CostOf({Command{RBTALLY_PROGRAM, "demo", root_, "--sites", "1", "--rows", std::to_string(rows)}});
   fs::copy_file(Schedule(), Kept(root_));
 }
@@ -61,9 +68,14 @@ void DemoSite::MakeFresh() const {
   fs::copy_file(Kept(root_), Schedule(), fs::copy_options::overwrite_existing);
 }
 
+void DemoSite::AwaitSettled() const {
+  constexpr std::chrono::milliseconds kSettlingTime{2'500};
+  std::this_thread::sleep_until(fs::last_write_time(Schedule()) + kSettlingTime);
+}
+
 void DemoSite::Bind() const {
   CloseSite();
-  setenv("RBK_SETTINGS", (root_ / "settings.ini").c_str(), 1);
+  UseOwnFolders();
   Services.Root = root_;
   Selection = SelectionData();
 }

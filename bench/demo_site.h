@@ -17,6 +17,9 @@ class DemoSite {
   std::filesystem::path Schedule() const { return root_ / "DATA" / "GENBA001.MDB"; }
   /// The schedule as it was entered; none of a program's own connections may be open to it.
   void MakeFresh() const;
+  /// Waits until the schedule's time says for sure that nobody has changed it since: what a program remembers
+  /// of a file leans on it.
+  void AwaitSettled() const;
 
   /// Makes it the site of this program, with settings of its own; nothing is read yet.
   void Bind() const;
@@ -24,6 +27,9 @@ class DemoSite {
   void Open() const;
 
  private:
+  /// Of the user's folders, in place of this user's own.
+  void UseOwnFolders() const;
+
   std::int64_t rows_;
   std::filesystem::path root_;
 };

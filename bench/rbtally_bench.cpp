@@ -17,7 +17,7 @@
 
 #include <fmt/format.h>
 
-#include "limits.h"
+#include "speed_limits.h"
 
 namespace rbt::bench {
 

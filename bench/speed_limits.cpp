@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "limits.h"
+#include "speed_limits.h"
 
 namespace rbt::bench {
 
@@ -14,7 +14,7 @@ constexpr Limit kLimits[] = {
     {"bulk tally, cold", kSite, Figure::x_bare, 4.2, 0.9},
     {"bulk tally, cold", kSite, Figure::syncs, 0, 0},
     {"bulk tally, cold", kLargest, Figure::x_bare, 4.0, 0.5},
-    {"bulk tally, cold", kLargest, Figure::peak_mb, 88, 60},
+    {"bulk tally, cold", kLargest, Figure::peak_mb, 60, 60},
     {"shape tally, cold", kSite, Figure::x_bare, 8.0, 2.2},
     {"shape tally, cold", kSite, Figure::syncs, 0, 0},
     {"fresh site prepared, cold", kSite, Figure::x_bare, 5.2, 3.0},
