@@ -7,6 +7,7 @@
 #include "showroom/detail_forms.h"
 #include "showroom/floorpart_forms.h"
 #include "showroom/menu_forms.h"
+#include "showroom/planning_forms.h"
 #include "showroom/preview_forms.h"
 #include "showroom/result_forms.h"
 #include "showroom/selection_forms.h"
@@ -16,8 +17,9 @@ namespace rbt {
 
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
-  for (std::vector<FormEntry> forms : {MenuForms(), SettingsForms(), ResultForms(), DetailForms(),
-                                       FloorPartForms(), ArchiveForms(), SelectionForms(), PreviewForms()}) {
+  for (std::vector<FormEntry> forms :
+       {MenuForms(), SettingsForms(), ResultForms(), DetailForms(), PlanningForms(), FloorPartForms(),
+        ArchiveForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

@@ -11,12 +11,10 @@
 #include "planning/problem/plan.h"
 #include "planning/problem/problem.h"
 #include "session/planning/plan_request.h"
+#include "session/planning/plan_sheets.h"
 #include "session/planning/plan_view.h"
 
 namespace rbt {
-
-/// The sheets of a plan.
-enum class PlanSheet { purchase, shop };
 
 /// What the plan screen leans on.
 struct PlanParts {

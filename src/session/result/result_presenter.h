@@ -73,6 +73,7 @@ class ResultPresenter {
 
   void ShowDetail();
   void ToggleAccumulation();
+  void ShowPlan();
   /// One step back: from the box of the uplift, else from the Ulbon rows to the whole tally, else off the
   /// screen.
   void TurnBack();

@@ -107,6 +107,12 @@ void ResultPresenter::ToggleAccumulation() {
   parts_.toggle_accumulation();
 }
 
+void ResultPresenter::ShowPlan() {
+  if (!parts_.open_plan) return SayNotReady("切断計画");
+  parts_.open_plan();
+  FocusOn(FocusTarget::grid);
+}
+
 void ResultPresenter::Leave() {
   if (std::exchange(left_, true)) return;
   Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
@@ -165,6 +171,8 @@ void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   view.show_detail = {true, idle_result};
   view.change_range = {offers.range_change, idle_result};
   view.toggle_accumulation = {offers.accumulation && offers_print_ && !ulbon_view_, idle};
+  // A plan is of one site.
+  view.show_plan = {offers.plan && !ulbon_view_ && RunState.AccumulateFlag == 0, idle_result};
   view.leave = {true, idle};
 }
 
