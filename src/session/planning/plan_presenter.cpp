@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "planning/make_plan.h"
 #include "planning/outcome/outcome.h"
 #include "session/panels/print_or_show.h"
@@ -95,8 +97,7 @@ void PlanPresenter::TakeNews() {
   }
   outcome_ = planning::Describe(problem_, found->plan);
   if (!found->ended) {
-    progress_ =
-        "計画を改善しています: " + planning::ProgressText(problem_, found->plan, found->done, found->of);
+    progress_ = fmt::format("計画を改善しています  {} / {}", found->done, found->of);
   } else {
     progress_ = outcome_.stopped == planning::Stopped::no ? "計画ができました" : "途中までの最良の計画です";
   }
