@@ -9,6 +9,7 @@
 #include "showroom/floorpart_forms.h"
 #include "showroom/menu_forms.h"
 #include "showroom/names_forms.h"
+#include "showroom/planning_forms.h"
 #include "showroom/preview_forms.h"
 #include "showroom/result_forms.h"
 #include "showroom/selection_forms.h"
@@ -19,8 +20,8 @@ namespace rbt {
 std::vector<FormEntry> AllForms() {
   std::vector<FormEntry> all;
   for (std::vector<FormEntry> forms :
-       {MenuForms(), SettingsForms(), ResultForms(), DetailForms(), FloorPartForms(), ArchiveForms(),
-        NamesForms(), AccumulationForms(), SelectionForms(), PreviewForms()}) {
+       {MenuForms(), SettingsForms(), ResultForms(), DetailForms(), PlanningForms(), FloorPartForms(),
+        ArchiveForms(), NamesForms(), AccumulationForms(), SelectionForms(), PreviewForms()}) {
     std::move(forms.begin(), forms.end(), std::back_inserter(all));
   }
   return all;

@@ -15,16 +15,9 @@
 #include "planning/outcome/plan_text.h"
 #include "platform/files/files.h"
 #include "platform/print/diverted_deliveries.h"
-#include "platform/system/clock.h"
 #include "platform/system/interrupt.h"
-#include "platform/system/message.h"
 #include "platform/system/printing.h"
-#include "reports/frame/cut_figure_message.h"
-#include "reports/frame/print_frame.h"
-#include "reports/frame/report_head.h"
-#include "reports/frame/report_site.h"
-#include "reports/plan/purchase_sheet.h"
-#include "reports/plan/shop_sheet.h"
+#include "session/planning/plan_sheets.h"
 
 namespace rbt {
 
@@ -52,36 +45,18 @@ planning::PlanListener ListenerOf(const planning::Problem& problem, bool progres
   };
 }
 
-/// What the sheets have at their head; a plan of a file has no site.
-PlanSheetHead HeadOf(const PlanCommandOptions& options) {
-  PlanSheetHead head;
-  ReportDate date;
-  if (options.pieces_file.empty()) {
-    const ReportSite site = ReadReportSite();
-    head.project = site.long_name.empty() ? site.short_name : site.long_name;
-    head.client = site.client;
-    date.western = site.western_dates;
-  }
-  const DateTexts today = DefaultDateTexts(Now());
-  date = {date.western, today.year, today.month, today.day};
-  head.date = DateText(date);
-  return head;
-}
-
-void WriteSheet(const std::string& file, const std::function<void(PrinterSurface& Printer)>& sheet) {
+void WriteSheet(const std::string& file, PlanSheet sheet, const PlanSheetHead& head,
+                const planning::Outcome& outcome) {
   if (file.empty()) return;
   DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
-  PrintReport(kPortrait, kPaperKindA4, sheet);
+  PrintPlanSheet(sheet, head, outcome);
   WritePdf(diverted.Take(), file);
 }
 
 void WriteSheets(const PlanCommandOptions& options, const planning::Outcome& outcome) {
-  const PlanSheetHead head = HeadOf(options);
-  WriteSheet(options.shop_sheet, [&](PrinterSurface& Printer) { DrawShopSheet(Printer, head, outcome); });
-  WriteSheet(options.purchase_sheet, [&](PrinterSurface& Printer) {
-    const CutFigures cut = DrawPurchaseSheet(Printer, head, outcome);
-    if (!cut.empty()) MsgBox(CutFigureMessage(cut));
-  });
+  const PlanSheetHead head = options.pieces_file.empty() ? PlanHeadOfSite() : PlanHeadOfFile();
+  WriteSheet(options.shop_sheet, PlanSheet::shop, head, outcome);
+  WriteSheet(options.purchase_sheet, PlanSheet::purchase, head, outcome);
 }
 
 void RunPlan(const PlanCommandOptions& options) {

@@ -109,6 +109,7 @@ std::vector<RestBar> RestsOf(const BarOffer& offer, const BarSteel& steel) {
     if (of_steel && rest.count > 0) counts[rest.length] += rest.count;
   }
   std::vector<RestBar> rests;
+  rests.reserve(counts.size());
   for (const auto& [mm, count] : counts) rests.push_back({mm, count});
   return rests;
 }

@@ -66,7 +66,7 @@ class ProblemBuilder {
       row.table_weight = TableMilligrams(row.steel.diameter, row.stock_mm);
       row.price = PriceOf(offer_, row.steel.diameter, row.stock_mm);
     }
-    problem_.kept.push_back(std::move(row));
+    problem_.kept.push_back(row);
   }
 
   Problem Build() {

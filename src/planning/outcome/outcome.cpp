@@ -67,6 +67,7 @@ std::vector<OutcomeShort> ShortRows(const Problem& problem) {
     }
   }
   std::vector<OutcomeShort> rows;
+  rows.reserve(by_place.size());
   for (const auto& [place, row] : by_place) rows.push_back(row);
   return rows;
 }
@@ -102,6 +103,7 @@ std::vector<PurchaseLine> PurchaseOf(const Problem& problem, const Plan& plan) {
     }
   }
   std::vector<PurchaseLine> purchase;
+  purchase.reserve(lines.size());
   for (const auto& [key, line] : lines) purchase.push_back(line);
   return purchase;
 }
@@ -115,6 +117,7 @@ std::vector<UsableRest> RestsOf(const std::vector<OutcomeGroup>& groups, int usa
     }
   }
   std::vector<UsableRest> rests;
+  rests.reserve(counts.size());
   for (const auto& [key, count] : counts) rests.push_back({key.first, key.second, count});
   return rests;
 }

@@ -24,7 +24,8 @@ double WholeCost(const CuttingTask& task) {
   Micros common = 0;
   for (const Bar& bar : task.bars) common = std::gcd(common, bar.cost);
   const Micros unit = static_cast<Micros>(kUnit);
-  return common % unit == 0 ? static_cast<double>(common / unit) : 0.0;
+  const Micros units = common / unit;
+  return units * unit == common ? static_cast<double>(units) : 0.0;
 }
 
 std::vector<double> CostsOf(const CuttingTask& task) {

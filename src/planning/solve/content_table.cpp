@@ -131,7 +131,8 @@ class AnyItems : public ContentTable {
 
   void TakeOrLeave(std::size_t bundle) {
     const auto [item, pieces] = bundles_[bundle];
-    const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight * pieces);
+    const std::size_t weight =
+        static_cast<std::size_t>(task_.items[item].weight) * static_cast<std::size_t>(pieces);
     const WholePrices::Worth worth = prices_.Of(item) * pieces;
     std::uint8_t* taken = taken_.data() + bundle * size_;
     const WholePrices::Worth* before = worth_.data();
@@ -206,7 +207,8 @@ class FewItems : public ContentTable {
     const WholePrices::Worth* fewer = worth_[kinds - 1].data();
     WholePrices::Worth* row = worth_[kinds].data();
     for (int pieces = 1; pieces <= most; ++pieces) {
-      const std::size_t weight = static_cast<std::size_t>(task_.items[item].weight * pieces);
+      const std::size_t weight =
+          static_cast<std::size_t>(task_.items[item].weight) * static_cast<std::size_t>(pieces);
       const WholePrices::Worth worth = prices_.Of(item) * pieces;
       for (std::size_t c = weight; c < size_; ++c) {
         const WholePrices::Worth with = fewer[c - weight] + worth;

@@ -2,6 +2,7 @@
 #include "reports/plan/shop_sheet.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -88,8 +89,10 @@ SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
   std::string head = fmt::format("{:>4}  {}{} mm  x {} 本   {}   残 {} mm   切断 {}", number,
                                  of.pattern.rest ? "残材 " : "定尺 ", of.pattern.stock_mm, of.pattern.bars,
                                  planning::PiecesText(of.pattern), of.left_mm, of.cuts);
+  const std::vector<std::int64_t> at = planning::MarksOf(rule, of.pattern);
   std::vector<std::string> marks;
-  for (const std::int64_t mark : planning::MarksOf(rule, of.pattern)) marks.push_back(std::to_string(mark));
+  marks.reserve(at.size());
+  for (const std::int64_t mark : at) marks.push_back(std::to_string(mark));
   SheetBlock block{Wrapped(head, {}), &of, Wrapped("  墨 ", marks)};
   for (std::string& line : Wrapped("  行 ", PlaceWords(shares))) block.below.push_back(std::move(line));
   return block;
@@ -108,6 +111,7 @@ std::vector<SheetBlock> BlocksOf(const Outcome& outcome) {
   }
   if (outcome.rests.empty()) return blocks;
   std::vector<std::string> words;
+  words.reserve(outcome.rests.size());
   for (const planning::UsableRest& rest : outcome.rests) {
     words.push_back(fmt::format("{} {}mm x{}", SteelText(rest.steel), rest.mm, rest.count));
   }
@@ -187,7 +191,9 @@ class ShopSheets {
 
   void Hatch(float y, float from, float to) {
     pen_.Printer.DrawWidth = 1;
-    for (float x = from; x < to; x += kHatchStep) {
+    const int strokes = static_cast<int>(std::ceil((to - from) / kHatchStep));
+    for (int stroke = 0; stroke < strokes; ++stroke) {
+      const float x = from + static_cast<float>(stroke) * kHatchStep;
       const float end = std::min(to, x + kBarHeight);
       pen_.Printer.Line(x, y + kBarHeight, end, y + kBarHeight - (end - x));
     }

@@ -36,6 +36,7 @@ const std::vector<ResultForm::Action>& ResultForm::Actions() {
       {"cmdMeisai", Qt::Key_F5, &P::ShowDetail, nullptr, &V::show_detail},
       {"cmdPGChange", Qt::Key_F7, &P::AskForRange, &O::range_change, &V::change_range},
       {"Command6", Qt::Key_F6, &P::ToggleAccumulation, &O::accumulation, &V::toggle_accumulation},
+      {"cmdPlan", Qt::Key_F8, &P::ShowPlan, &O::plan, &V::show_plan},
       {"cmdExit", Qt::Key_Escape, &P::TurnBack, nullptr, &V::leave},
       {"Command1", 0, &P::Recalculate},
       {"Command2", 0, &P::ChooseForms, &O::form_choice},

@@ -7,7 +7,7 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<ControlHint, 26> kHints{{
+constexpr std::array<ControlHint, 27> kHints{{
     {"cmdPrint", "この集計の合計表を印字する"},
     {"cmdUSum", "ウルボンの行だけを表示する"},
     {"cmdurubon", "ウルボンの重量の割増し、または印字"},
@@ -16,6 +16,7 @@ constexpr std::array<ControlHint, 26> kHints{{
     {"cmdMeisai", "材料の明細を表示する"},
     {"cmdPGChange", "頁と行の範囲を入力し直す"},
     {"Command6", "ほかの現場の集計と足し合わせる"},
+    {"cmdPlan", "現場全体の切断と購買の計画を立てる"},
     {"cmdExit", "一つ前に戻る"},
     {"Command1", "今の選択で集計し直す"},
     {"Command2", "集計する材料（生材・加工・切断）を選ぶ"},

@@ -76,6 +76,7 @@ class ResultPresenter {
   /// site alone where none is chosen. A fault of the other site leaves what was shown. Nothing while what is
   /// shown cannot be added to.
   void ToggleAccumulation();
+  void ShowPlan();
   /// One step back: from the box of the uplift, else from the Ulbon rows to the whole tally, else off the
   /// screen.
   void TurnBack();

@@ -102,6 +102,12 @@ void ResultPresenter::ShowDetail() {
   FocusOn(FocusTarget::grid);
 }
 
+void ResultPresenter::ShowPlan() {
+  if (!parts_.open_plan) return SayNotReady("切断計画");
+  parts_.open_plan();
+  FocusOn(FocusTarget::grid);
+}
+
 void ResultPresenter::Leave() {
   if (std::exchange(left_, true)) return;
   Selection.MaterialCalcChoice = CalcChoice::without_high_strength;
@@ -161,6 +167,8 @@ void ResultPresenter::SetMainButtons(ResultScreenView& view) const {
   view.show_detail = {of_this_site, idle_result};
   view.change_range = {offers.range_change, idle_result};
   view.toggle_accumulation = {offers.accumulation && MayBeAddedTo(), idle};
+  // A plan is of one site.
+  view.show_plan = {offers.plan && of_this_site && !ulbon_view_, idle_result};
   view.leave = {true, idle};
 }
 

@@ -23,6 +23,7 @@ struct ResultOffers {
   bool ulbon_print = false;     ///< the Ulbon report of today by one button
   bool deformed_print = false;  ///< the report without Ulbon
   bool accumulation = false;    ///< of several sites
+  bool plan = false;            ///< the cutting plan of the whole site
   bool range_change = false;
   bool form_choice = false;
   bool stock_warning = false;  ///< tells of a row whose stock length has no column
@@ -65,6 +66,7 @@ struct ResultParts {
   /// ZAIMEI in place of the form: gives the result as it is left there.
   std::function<TallyResult(TallyResult result)> open_detail;
   std::function<SiteChoice()> choose_site;  ///< BACKUP2 in place of the form
+  std::function<void()> open_plan;          ///< in place of the form
 };
 
 /// The selection as a result screen begins: everything included, `MaterialCalcChoice` kept while sites are

@@ -33,6 +33,7 @@ struct ResultScreenView {
   ButtonView show_detail;
   ButtonView change_range;
   ButtonView toggle_accumulation;
+  ButtonView show_plan;
   ButtonView leave;
 
   PrintPanelView print_panel;

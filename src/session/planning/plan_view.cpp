@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "session/planning/plan_view.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+
+#include <fmt/format.h>
+
+#include "data/bar_tables.h"
+#include "planning/outcome/pattern_shares.h"
+#include "planning/outcome/plan_text.h"
+#include "platform/numbers/number_mask.h"
+
+namespace rbt {
+namespace {
+
+using planning::BarSteel;
+using planning::Outcome;
+using planning::OutcomeGroup;
+using planning::PurchaseLine;
+
+constexpr std::size_t kFirstLength = 1;
+constexpr double kUnit = 1e6;
+
+std::string Count(std::int64_t number) { return FormatNumber(number, "#,###"); }
+std::string Kilograms(planning::Milligrams weight) {
+  return FormatNumber(static_cast<double>(weight) / kUnit, "#,##0");
+}
+std::string Percent(double percent) { return FormatNumber(percent, "0.000") + " %"; }
+
+std::string SteelText(const BarSteel& steel) {
+  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
+         (steel.hoop ? " フープ" : "");
+}
+
+/// The column of a stock length; nothing for one that the tally has no column for.
+std::optional<std::size_t> ColumnOf(int mm) {
+  const int column = StockIndex(mm / 1000.0);
+  if (column < 0) return std::nullopt;
+  return kFirstLength + static_cast<std::size_t>(column);
+}
+
+/// The steels that bars are bought of, in the order of the rows.
+std::vector<BarSteel> SteelsOf(const Outcome& outcome) {
+  std::set<BarSteel> steels;
+  for (const PurchaseLine& line : outcome.purchase) steels.insert(line.steel);
+  return {steels.begin(), steels.end()};
+}
+
+struct SumRow {
+  std::vector<std::int64_t> bars = std::vector<std::int64_t>(kStockColumns, 0);
+  std::int64_t all = 0;
+  planning::Milligrams weight = 0;
+
+  void Add(const PurchaseLine& line) {
+    if (const auto column = ColumnOf(line.stock_mm)) bars[*column - kFirstLength] += line.Bars();
+    all += line.Bars();
+    weight += line.table_weight;
+  }
+  std::vector<std::string> Texts(std::string name) const {
+    std::vector<std::string> texts{std::move(name)};
+    texts.reserve(bars.size() + 3);
+    for (const std::int64_t count : bars) texts.push_back(Count(count));
+    texts.push_back(Count(all));
+    texts.push_back(Kilograms(weight));
+    return texts;
+  }
+};
+
+std::string RowsText(const std::vector<planning::CutShares>& shares) {
+  std::string text;
+  const auto number = [](const std::optional<int>& of) { return of ? std::to_string(*of) : "-"; };
+  for (const planning::CutShares& cut : shares) {
+    text += fmt::format("{}{}:", text.empty() ? "" : "  ", cut.cut_mm);
+    for (const planning::OutcomeShare& share : cut.rows) {
+      text += fmt::format(" {}頁{}行x{}", number(share.page), number(share.line), share.pieces);
+    }
+  }
+  return text;
+}
+
+PlanBarView BarOf(const planning::OutcomePattern& of, const planning::BarRule& rule,
+                  const std::vector<planning::CutShares>& shares) {
+  PlanBarView bar;
+  bar.stock_mm = of.pattern.stock_mm;
+  bar.marks = planning::MarksOf(rule, of.pattern);
+  bar.cuts.reserve(bar.marks.size());
+  for (const auto& [cut, pieces] : of.pattern.pieces) {
+    for (int piece = 0; piece < pieces; ++piece) bar.cuts.push_back(cut);
+  }
+  bar.left_mm = of.left_mm;
+  bar.head = fmt::format("{} x {} 本   {}   残 {} mm", of.pattern.stock_mm, of.pattern.bars,
+                         planning::PiecesText(of.pattern), of.left_mm);
+  bar.rows = RowsText(shares);
+  return bar;
+}
+
+/// What a cell stands for: a steel and a stock length.
+struct CellBars {
+  BarSteel steel;
+  std::size_t column;
+};
+std::optional<CellBars> CellOf(const Outcome& outcome, std::size_t row, std::size_t column) {
+  const std::vector<BarSteel> steels = SteelsOf(outcome);
+  if (row >= steels.size() || column < kFirstLength || column >= kFirstLength + kStockColumns) {
+    return std::nullopt;
+  }
+  return CellBars{steels[row], column};
+}
+
+constexpr std::array<ControlHint, 4> kHints{{
+    {"dbgPlan", "矢印で移る、Enter でその定尺の切断パターンを見る"},
+    {"cmdPurchase", "購買計画表を印字する"},
+    {"cmdShop", "切断指示書を印字する"},
+    {"cmdExit", "探すのをやめて今の計画を残す、次に一つ前に戻る"},
+}};
+
+}  // namespace
+
+std::vector<std::string> PlanCaptions() {
+  std::vector<std::string> captions{"鋼材"};
+  captions.reserve(kStockColumns + 3);
+  for (int column = 0; column < kStockColumns; ++column) {
+    captions.push_back(FormatNumber(StockMetres(column), "0.0"));
+  }
+  captions.insert(captions.end(), {"本数", "㎏"});
+  return captions;
+}
+
+GridRows PlanRows(const Outcome& outcome) {
+  std::map<BarSteel, SumRow> sums;
+  SumRow total;
+  for (const PurchaseLine& line : outcome.purchase) {
+    sums[line.steel].Add(line);
+    total.Add(line);
+  }
+  GridRows rows;
+  rows.reserve(sums.size() + 1);
+  for (const auto& [steel, sum] : sums) rows.push_back(sum.Texts(SteelText(steel)));
+  rows.push_back(total.Texts("合計"));
+  return rows;
+}
+
+std::vector<PlanBarView> BarsOfCell(const Outcome& outcome, std::size_t row, std::size_t column) {
+  std::vector<PlanBarView> bars;
+  const std::optional<CellBars> cell = CellOf(outcome, row, column);
+  for (const OutcomeGroup& group : cell ? outcome.groups : std::vector<OutcomeGroup>()) {
+    if (group.steel != cell->steel) continue;
+    const auto shares = planning::SharesOf(group);
+    for (std::size_t p = 0; p < group.patterns.size(); ++p) {
+      const planning::OutcomePattern& of = group.patterns[p];
+      if (of.pattern.rest || ColumnOf(of.pattern.stock_mm) != cell->column) continue;
+      bars.push_back(BarOf(of, outcome.options.bar, shares[p]));
+    }
+  }
+  return bars;
+}
+
+std::string NameOfCell(const Outcome& outcome, std::size_t row, std::size_t column) {
+  const std::optional<CellBars> cell = CellOf(outcome, row, column);
+  if (!cell) return "";
+  return SteelText(cell->steel) + " " + PlanCaptions()[column] + " m";
+}
+
+std::vector<std::string> LossTexts(const Outcome& outcome) {
+  std::vector<std::string> texts;
+  if (outcome.schedule) texts.push_back("加工帳 " + Percent(outcome.schedule->loss_percent));
+  texts.push_back("行ごと " + Percent(outcome.per_row.loss_percent));
+  texts.push_back("計画 " + Percent(outcome.plan.common.loss_percent));
+  return texts;
+}
+
+std::string BoundText(const Outcome& outcome) {
+  std::string text;
+  if (outcome.bound.loss_percent) text = "下限 " + Percent(*outcome.bound.loss_percent);
+  if (outcome.bound.gap_percent)
+    text += (text.empty() ? "" : "   ") + ("差 " + Percent(*outcome.bound.gap_percent));
+  return text;
+}
+
+std::string CountsText(const Outcome& outcome) {
+  return fmt::format("切断 {}   パターン {}   定尺 {} 種類", FormatNumber(outcome.plan.common.cuts, "#,##0"),
+                     FormatNumber(outcome.plan.patterns, "#,##0"), outcome.plan.lengths);
+}
+
+std::span<const ControlHint> PlanHints() { return kHints; }
+
+}  // namespace rbt

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "screens/planning/plan_form.h"
+
+#include <thread>
+
+#include <QLabel>
+#include <QPushButton>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "desktop/grid_control.h"
+#include "screens/planning/plan_picture.h"
+#include "screens/result/result_form.h"
+#include "session/result/result_screen.h"
+#include "support/desktop/key_press.h"
+#include "support/schedule_site.h"
+#include "support/site_fixture.h"
+
+namespace rbt {
+namespace {
+
+using test::Number;
+using test::ScheduleSite;
+using test::Settle;
+using ::testing::ElementsAre;
+using ::testing::StartsWith;
+
+/// Two pieces of 4.0 m and two of 2.0 m of D16 out of bars of 6.0 m, planned in a window.
+class PlanWindow : public ::testing::Test {
+ protected:
+  PlanWindow() {
+    for (const auto& [cut, bars] : {std::pair{4000, 2}, std::pair{2000, 1}}) {
+      site_.AddRow({{"太さ", Number(16)},
+                    {"伸定尺", Value{6.0}},
+                    {"伸切寸", Number(cut)},
+                    {"合計", Number(2)},
+                    {"伸総計", Number(bars)}});
+    }
+    PlanParts parts;
+    parts.request.offer.lengths = {{6000, 12000}};
+    parts.print = [this](PlanSheet sheet, const planning::Outcome&) {
+      sheets_.push_back(sheet);
+      return std::string();
+    };
+    form_ = std::make_unique<PlanForm>(std::move(parts));
+    form_->show();
+    form_->activateWindow();
+    WaitForEnd();
+  }
+
+  /// Until the search has ended, whose news come as events.
+  void WaitForEnd() {
+    for (int wait = 0; wait < 10'000 && Text("lblProgress") != "計画ができました"; ++wait) {
+      Settle();
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    ASSERT_EQ(Text("lblProgress"), "計画ができました");
+  }
+
+  void Key(int key) {
+    test::Press(*form_, key);
+    Settle();
+  }
+  std::string Text(const char* label) const { return form_->findChild<QLabel*>(label)->text().toStdString(); }
+  GridControl& Grid() const { return *form_->findChild<GridControl*>("dbgPlan"); }
+  bool ShowsPatterns() const { return form_->findChild<PlanPicture*>("picture")->isVisible(); }
+
+  ScheduleSite site_;
+  std::vector<PlanSheet> sheets_;
+  std::unique_ptr<PlanForm> form_;
+};
+
+TEST_F(PlanWindow, ShowsBarsToBuyLossesAndBound) {
+  EXPECT_EQ(Grid().Cell(0, 0), "D16 異形");
+  EXPECT_EQ(Grid().Cell(0, 6), "2");
+  EXPECT_EQ(Grid().Cell(1, 0), "合計");
+  EXPECT_EQ(Text("lblLosses"), "ロス　加工帳 50.000 %　→　行ごと 50.000 %　→　計画 0.000 %");
+  EXPECT_THAT(Text("lblBound"), StartsWith("下限 0.000 %"));
+  EXPECT_THAT(Text("lblCounts"), StartsWith("切断 2"));
+}
+
+TEST_F(PlanWindow, EnterOnACellShowsItsPatternsAndEscPutsThemAway) {
+  EXPECT_FALSE(ShowsPatterns());
+  Grid().setCurrentIndex(Grid().model()->index(0, 6));
+  Key(Qt::Key_Return);
+  EXPECT_TRUE(ShowsPatterns());
+  EXPECT_EQ(Text("lblPatterns"), "D16 異形 6.0 m");
+  form_->grab();  // the picture is painted
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(ShowsPatterns());
+  EXPECT_TRUE(form_->isVisible());
+}
+
+TEST_F(PlanWindow, EnterOnAnEmptyCellShowsNothing) {
+  Grid().setCurrentIndex(Grid().model()->index(0, 5));
+  Key(Qt::Key_Enter);
+  EXPECT_FALSE(ShowsPatterns());
+}
+
+TEST_F(PlanWindow, PrintsItsSheetsByTheirKeys) {
+  Key(Qt::Key_F1);
+  Key(Qt::Key_F3);
+  EXPECT_THAT(sheets_, ElementsAre(PlanSheet::purchase, PlanSheet::shop));
+}
+
+TEST_F(PlanWindow, EscLeavesWhenTheSearchIsOver) {
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(form_->isVisible());
+}
+
+TEST(BulkScreen, OpensThePlanByF8) {
+  const test::SiteFixture site;
+  int opened = 0;
+  ResultParts parts;
+  parts.open_plan = [&] { ++opened; };
+  ResultForm form(kBulkScreen, std::move(parts));
+  form.show();
+  form.activateWindow();
+  Settle();
+  EXPECT_TRUE(form.findChild<QPushButton*>("cmdPlan")->isVisible());
+  test::Press(form, Qt::Key_F8);
+  EXPECT_EQ(opened, 1);
+}
+
+TEST(PageScreen, HasNoPlan) {
+  const test::SiteFixture site;
+  ResultForm form(kPageScreen, {});
+  form.show();
+  Settle();
+  EXPECT_FALSE(form.findChild<QPushButton*>("cmdPlan")->isVisible());
+}
+
+}  // namespace
+}  // namespace rbt

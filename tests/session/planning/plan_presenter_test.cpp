@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "session/planning/plan_presenter.h"
+
+#include <condition_variable>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "planning/problem/refusal.h"
+#include "support/schedule_site.h"
+
+namespace rbt {
+namespace {
+
+using test::Fields;
+using test::Number;
+using test::ScheduleSite;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+/// Two pieces of 4.0 m and two of 2.0 m of D16, each row from bars of 6.0 m of its own.
+class PlanScreen : public ::testing::Test {
+ protected:
+  PlanScreen() {
+    site_.AddRow(Row(4000, 2));
+    site_.AddRow(Row(2000, 1));
+  }
+
+  static Fields Row(int cut, int bars) {
+    return {{"太さ", Number(16)},
+            {"伸定尺", Value{6.0}},
+            {"伸切寸", Number(cut)},
+            {"合計", Number(2)},
+            {"伸総計", Number(bars)}};
+  }
+
+  static PlanParts Parts() {
+    PlanParts parts;
+    parts.request.offer.lengths = {{6000, 12000}};
+    return parts;
+  }
+
+  /// Until the search has ended.
+  static void WaitForEnd(PlanPresenter& screen) {
+    while (screen.View().improving) {
+      screen.TakeNews();
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+  }
+
+  ScheduleSite site_;
+};
+
+TEST_F(PlanScreen, ShowsTheGreedyPlanAtOnce) {
+  const PlanPresenter screen(Parts());
+  const PlanScreenView view = screen.View();
+  ASSERT_THAT(view.rows, SizeIs(2));
+  EXPECT_EQ(view.rows[0][0], "D16 異形");
+  EXPECT_EQ(view.rows[0][6], "2");  // 6.0 m
+  EXPECT_EQ(view.rows[0][20], "2");
+  EXPECT_EQ(view.rows[0][21], "19");
+  EXPECT_EQ(view.rows[1][0], "合計");
+  EXPECT_THAT(view.totals, ElementsAre(1));
+  EXPECT_THAT(view.losses, ElementsAre("加工帳 50.000 %", "行ごと 50.000 %", "計画 0.000 %"));
+  EXPECT_EQ(view.bound, "下限 0.000 %   差 0.000 %");
+  EXPECT_EQ(view.counts, "切断 2   パターン 1   定尺 1 種類");
+  EXPECT_FALSE(view.improving);
+}
+
+TEST_F(PlanScreen, HasACaptionForEveryColumnOfItsRows) {
+  const PlanPresenter screen(Parts());
+  EXPECT_EQ(PlanCaptions().size(), screen.View().rows[0].size());
+  EXPECT_EQ(PlanCaptions()[6], "6.0");
+}
+
+TEST_F(PlanScreen, ImprovesUntilItIsDoneAndTellsTheNews) {
+  PlanPresenter screen(Parts());
+  std::atomic<int> news = 0;
+  screen.Improve([&] { ++news; });
+  EXPECT_TRUE(screen.View().improving);
+  WaitForEnd(screen);
+  EXPECT_GE(news, 1);
+  EXPECT_EQ(screen.View().progress, "計画ができました");
+  EXPECT_EQ(screen.Outcome().stopped, planning::Stopped::no);
+}
+
+TEST_F(PlanScreen, StopsTheSearchBeforeItIsLeft) {
+  for (int pieces = 301; pieces < 420; ++pieces) site_.AddRow(Row(pieces * 13 % 5000 + 300, 900));
+  PlanPresenter screen(Parts());
+  screen.Improve([] {});
+  screen.TurnBack();
+  EXPECT_FALSE(screen.View().left);
+  WaitForEnd(screen);
+  screen.TurnBack();
+  EXPECT_TRUE(screen.View().left);
+}
+
+TEST_F(PlanScreen, IsLeftInTheMidstOfASearchThatThenEnds) {
+  PlanPresenter screen(Parts());
+  screen.Improve([] {});
+}
+
+TEST_F(PlanScreen, OpensThePatternsOfACellAndTurnsBackFromThem) {
+  PlanPresenter screen(Parts());
+  screen.OpenCell(0, 6);
+  PlanScreenView view = screen.View();
+  EXPECT_EQ(view.patterns_of, "D16 異形 6.0 m");
+  ASSERT_THAT(view.bars, SizeIs(1));
+  EXPECT_THAT(view.bars[0].marks, ElementsAre(4000, 6000));
+  EXPECT_THAT(view.bars[0].cuts, ElementsAre(4000, 2000));
+  EXPECT_THAT(view.bars[0].head, HasSubstr("6000 x 2 本   4000x1+2000x1"));
+  EXPECT_THAT(view.bars[0].rows, HasSubstr("4000: 1頁1行x2  2000: 1頁2行x2"));
+  EXPECT_EQ(view.longest_mm, 6000);
+  screen.TurnBack();
+  view = screen.View();
+  EXPECT_EQ(view.patterns_of, "");
+  EXPECT_FALSE(view.left);
+}
+
+TEST_F(PlanScreen, OpensNothingWhereNoBarsStand) {
+  PlanPresenter screen(Parts());
+  for (const auto& [row, column] :
+       {std::pair<std::size_t, std::size_t>{0, 5}, {0, 0}, {0, 20}, {1, 6}, {9, 6}}) {
+    screen.OpenCell(row, column);
+    EXPECT_THAT(screen.View().bars, IsEmpty()) << row << " " << column;
+  }
+}
+
+TEST_F(PlanScreen, PrintsWhatItShowsAndTellsThePrinter) {
+  PlanParts parts = Parts();
+  std::vector<PlanSheet> sheets;
+  parts.print = [&](PlanSheet sheet, const planning::Outcome& outcome) {
+    sheets.push_back(sheet);
+    EXPECT_EQ(outcome.plan.common.bars, 2);
+    return std::string("LP-1");
+  };
+  PlanPresenter screen(std::move(parts));
+  screen.Print(PlanSheet::shop);
+  screen.Print(PlanSheet::purchase);
+  EXPECT_THAT(sheets, ElementsAre(PlanSheet::shop, PlanSheet::purchase));
+  EXPECT_EQ(screen.View().notice, "「LP-1」に送りました。");
+}
+
+TEST_F(PlanScreen, HasASumAloneWhereNothingIsToPlan) {
+  ScheduleSite empty;
+  PlanPresenter screen(Parts());
+  screen.Improve([] {});
+  EXPECT_FALSE(screen.View().improving);
+  ASSERT_THAT(screen.View().rows, SizeIs(1));
+}
+
+TEST_F(PlanScreen, CannotBeOpenedWhereNoPlanCanBeMade) {
+  PlanParts parts = Parts();
+  parts.request.offer.lengths = {{5250}};
+  EXPECT_THROW(PlanPresenter(std::move(parts)), planning::Refusal);
+}
+
+}  // namespace
+}  // namespace rbt
