@@ -138,8 +138,8 @@ std::uint32_t GroupTable::GroupOfRow() {
 
 std::uint32_t GroupTable::AppendRow() {
   const auto group = static_cast<std::uint32_t>(nulls_.size());
-  cells_.resize(cells_.size() + width_);
-  Cell* const cells = &cells_[group * width_];
+  if (group % kGroupsOfBlock == 0) blocks_.emplace_back(kGroupsOfBlock * width_);
+  Cell* const cells = CellsOf(group);
   for (std::size_t key = 0; key < keys_.size(); ++key) {
     const bool is_text = keys_[key] == Key::text && (row_.nulls >> key & 1U) == 0;
     if (!is_text) {
@@ -171,7 +171,7 @@ bool GroupTable::AddSums(std::uint32_t group, sqlite3_value** values) {
     const int type = sqlite3_value_type(values[value]);
     if (type == SQLITE_NULL) continue;
     if (type != SQLITE_INTEGER) return false;
-    Cell& sum = cells_[group * width_ + value];
+    Cell& sum = CellsOf(group)[value];
     if (__builtin_add_overflow(sum, sqlite3_value_int64(values[value]), &sum)) return false;
     nulls_[group] &= ~(1U << value);
   }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <sqlite3.h>
@@ -44,6 +45,7 @@ class GroupTable {
   static constexpr std::size_t kMostValues = 32;
 
  private:
+  static constexpr std::uint32_t kGroupsOfBlock = 1024;
   /// A value in 64 bits: a whole number, the bits of a real, or where a text stands in `texts_`.
   using Cell = std::int64_t;
   struct Row {
@@ -62,13 +64,18 @@ class GroupTable {
   /// Below, at, or above 0.
   int Compare(std::uint32_t a, std::uint32_t b) const;
 
-  Cell CellAt(std::uint32_t group, std::size_t value) const { return cells_[group * width_ + value]; }
+  Cell CellAt(std::uint32_t group, std::size_t value) const { return CellsOf(group)[value]; }
+  const Cell* CellsOf(std::uint32_t group) const {
+    return &blocks_[group / kGroupsOfBlock][group % kGroupsOfBlock * width_];
+  }
+  Cell* CellsOf(std::uint32_t group) { return const_cast<Cell*>(std::as_const(*this).CellsOf(group)); }
   bool NullAt(std::uint32_t group, std::size_t value) const { return (nulls_[group] >> value & 1U) != 0; }
   std::string_view TextOf(Cell cell) const;
 
   std::vector<Key> keys_;
   std::size_t width_;
-  std::vector<Cell> cells_;            ///< of each group its keys and sums
+  /// Of each group its keys and sums, in blocks that stay where they are: many groups are not moved.
+  std::vector<std::vector<Cell>> blocks_;
   std::vector<std::uint32_t> nulls_;   ///< of each group a bit for each value
   std::vector<std::uint64_t> hashes_;  ///< of each group
   std::string texts_;

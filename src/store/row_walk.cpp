@@ -58,11 +58,19 @@ class RowWalk::Impl {
 };
 
 std::optional<std::int32_t> WalkedRow::Int32(FieldHandle field) const {
-  return ReadInt32(values_[field.index], walk_.impl_->PlaceOf(field));
+  sqlite3_value* const value = values_[field.index];
+  if (sqlite3_value_type(value) == SQLITE_INTEGER) {
+    const std::int64_t whole = sqlite3_value_int64(value);
+    const auto narrow = static_cast<std::int32_t>(whole);
+    if (narrow == whole) return narrow;  // nearly always; the rest is for faults to name its place
+  }
+  return ReadInt32(value, walk_.impl_->PlaceOf(field));
 }
 
 std::optional<double> WalkedRow::Double(FieldHandle field) const {
-  return ReadDouble(values_[field.index], walk_.impl_->PlaceOf(field));
+  sqlite3_value* const value = values_[field.index];
+  if (sqlite3_value_type(value) == SQLITE_FLOAT) return sqlite3_value_double(value);
+  return ReadDouble(value, walk_.impl_->PlaceOf(field));
 }
 
 bool WalkedRow::IsPlain(FieldHandle field) const {

@@ -25,11 +25,22 @@ void Include(std::vector<const FieldDef*>& fields, const FieldDef* field) {
   if (!Contains(fields, field)) fields.push_back(field);
 }
 
+/// Whether working a value out can end the statement: only functions of our own can, and not all of them.
+bool MayFault(std::string_view sql) {
+  constexpr std::string_view kOwn = "jet_";
+  constexpr std::string_view kHarmless = "jet_concatenate(";
+  for (std::size_t at = sql.find(kOwn); at != std::string_view::npos; at = sql.find(kOwn, at + 1)) {
+    if (!sql.substr(at).starts_with(kHarmless)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string UpdateFusion::Share(const FieldDef& field, const std::string& test) {
   if (Contains(targets_, &field)) return test;
   Include(layers_.front().reads, &field);
+  Include(tested_, &field);
   const auto found = std::ranges::find(tests_, test);
   const auto index = static_cast<std::size_t>(found - tests_.begin());
   if (found == tests_.end()) tests_.push_back(test);
@@ -64,9 +75,10 @@ void UpdateFusion::Append(const Update& update, const Scope& scope) {
     Include(targets_, assignment.field);
     Setting& setting = layer.settings[assignment.field];
     if (written.where.empty()) {
-      setting = {.cases = "", .otherwise = assignment.value.sql};
+      setting = {.cases = "", .otherwise = assignment.value.sql, .reads = written.fields_read};
     } else {
       setting.cases = fmt::format(" WHEN {} THEN {}{}", written.where, assignment.value.sql, setting.cases);
+      for (const FieldDef* const field : written.fields_read) Include(setting.reads, field);
     }
   }
 }
@@ -87,14 +99,16 @@ std::vector<UpdateFusion::Fields> UpdateFusion::NeededByLayer() const {
   return needed;
 }
 
+/// `name`: the field below.
+std::string UpdateFusion::SqlOf(const Setting& setting, const std::string& name) {
+  const std::string& last = setting.otherwise.empty() ? name : setting.otherwise;
+  return setting.cases.empty() ? last : fmt::format("CASE{} ELSE {} END", setting.cases, last);
+}
+
 std::string UpdateFusion::ColumnSql(const Layer& layer, const FieldDef& field) const {
-  std::string name = QuoteName(field.name);
+  const std::string name = QuoteName(field.name);
   const auto found = layer.settings.find(&field);
-  if (found == layer.settings.end()) return name;
-  const auto& [cases, otherwise] = found->second;
-  const std::string& last = otherwise.empty() ? name : otherwise;
-  return cases.empty() ? fmt::format("{} AS {}", last, name)
-                       : fmt::format("CASE{} ELSE {} END AS {}", cases, last, name);
+  return found == layer.settings.end() ? name : fmt::format("{} AS {}", SqlOf(found->second, name), name);
 }
 
 /// The layers as named queries, the bottom one first. A query with a limit is not folded into the one that
@@ -123,6 +137,10 @@ std::string UpdateFusion::LayersSql() const {
 }
 
 ChangeStatement UpdateFusion::Statement() const {
+  return IsSeparable() ? SeparateStatement() : LayeredStatement();
+}
+
+ChangeStatement UpdateFusion::LayeredStatement() const {
   std::vector<std::string> settings;
   std::vector<std::string> differences;
   for (const FieldDef* const field : targets_) {
@@ -137,6 +155,70 @@ ChangeStatement UpdateFusion::Statement() const {
   return {fmt::format("{} UPDATE {} SET {} FROM {} WHERE {}.{} = {}.{}", changed, table,
                       fmt::join(settings, ", "), kChanged, table, RowNumberOf(table_), kChanged, kRow),
           table_.name, fmt::format("{} SELECT 1 FROM {}", changed, kChanged)};
+}
+
+bool UpdateFusion::IsSetBelow(const FieldDef* field, std::size_t layer) const {
+  for (std::size_t below = 0; below < layer; ++below) {
+    if (layers_[below].settings.contains(field)) return true;
+  }
+  return false;
+}
+
+/// True where every field's layers read, beside the field itself, the row as it was.
+bool UpdateFusion::IsSeparable() const {
+  // Layers of a field stand within each other: SQLite does not read them at any depth.
+  constexpr std::size_t kDeepest = 8;
+  if (layers_.size() > kDeepest) return false;
+  if (std::ranges::any_of(tested_, [&](const FieldDef* field) { return Contains(targets_, field); }))
+    return false;
+  for (std::size_t i = 0; i < layers_.size(); ++i) {
+    for (const auto& [target, setting] : layers_[i].settings) {
+      const auto is_other = [&, own = target](const FieldDef* read) {
+        return read != own && IsSetBelow(read, i);
+      };
+      if (std::ranges::any_of(setting.reads, is_other)) return false;
+    }
+  }
+  // Of two that can fault in one row the second would come too late, behind other rows.
+  return std::ranges::count_if(targets_, [&](const FieldDef* field) { return MayFault(ValueOf(*field)); }) <=
+         1;
+}
+
+/// A field's value when all statements have run, of the row as it was. A query with a limit is not folded
+/// into the one that reads it.
+std::string UpdateFusion::ValueOf(const FieldDef& field) const {
+  const std::string name = QuoteName(field.name);
+  std::string value = name;
+  for (const Layer& layer : layers_) {
+    const auto found = layer.settings.find(&field);
+    if (found == layer.settings.end()) continue;
+    const std::string sql = SqlOf(found->second, name);
+    std::string below;
+    if (value != name) below = fmt::format("{} AS {}", value, name);
+    for (std::size_t test = 0; test < tests_.size(); ++test) {
+      if (sql.find(TestName(test)) == std::string::npos) continue;
+      below += fmt::format("{}{} AS {}", below.empty() ? "" : ", ", tests_[test], TestName(test));
+    }
+    value = below.empty() ? sql : fmt::format("(SELECT {} FROM (SELECT {} LIMIT -1))", sql, below);
+  }
+  return value;
+}
+
+ChangeStatement UpdateFusion::SeparateStatement() const {
+  std::vector<std::string> settings;
+  std::string differences;
+  for (const FieldDef* const field : targets_) {
+    const std::string value = ValueOf(*field);
+    const std::string name = QuoteName(field->name);
+    settings.push_back(fmt::format("{} = {}", name, value));
+    const std::string difference = fmt::format(" WHEN {} IS NOT {} THEN 1", name, value);
+    // What can fault is worked out for every row in turn, also for one that changes anyway.
+    differences.insert(MayFault(value) ? 0 : differences.size(), difference);
+  }
+  const std::string table = QuoteName(table_.name);
+  const std::string guard = fmt::format("CASE{} ELSE 0 END", differences);
+  return {fmt::format("UPDATE {} SET {} WHERE {}", table, fmt::join(settings, ", "), guard), table_.name,
+          fmt::format("SELECT 1 FROM {} WHERE {}", table, guard)};
 }
 
 }  // namespace rbt::dialect

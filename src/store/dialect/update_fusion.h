@@ -21,6 +21,12 @@ namespace rbt::dialect {
 /// bottom layer, each once. So no expression is worked out twice for a row, and the query grows only as the
 /// statements do. Only rows whose values come out different are written. A value that a later statement of
 /// its layer replaces is not worked out, and so cannot fault.
+///
+/// Where no field's new value takes part in another's, each field has layers of its own instead, which carry
+/// nothing but that field:
+///
+///     UPDATE table SET field = (SELECT CASE ... END FROM (SELECT value below AS field)), ...
+///     WHERE field IS NOT that value OR ...
 class UpdateFusion {
  public:
   /// `table` must outlive the fusion.
@@ -36,20 +42,29 @@ class UpdateFusion {
   struct Setting {
     std::string cases;      ///< " WHEN condition THEN value", the last statement first
     std::string otherwise;  ///< the value when none holds; empty: the field stays
+    Fields reads;
   };
   struct Layer {
     Fields reads;
     std::map<const FieldDef*, Setting> settings;
   };
 
+  static std::string SqlOf(const Setting& setting, const std::string& name);
   std::string Share(const FieldDef& field, const std::string& test);
   Layer& LayerFor(const WrittenUpdate& update, bool has_shared_test);
   std::vector<Fields> NeededByLayer() const;
   std::string ColumnSql(const Layer& layer, const FieldDef& field) const;
   std::string LayersSql() const;
+  ChangeStatement LayeredStatement() const;
+
+  bool IsSetBelow(const FieldDef* field, std::size_t layer) const;
+  bool IsSeparable() const;
+  std::string ValueOf(const FieldDef& field) const;
+  ChangeStatement SeparateStatement() const;
 
   const TableDef& table_;
   std::vector<std::string> tests_;  ///< the shared list tests
+  Fields tested_;                   ///< the fields that they test
   std::vector<Layer> layers_;       ///< from the bottom
   Fields targets_;                  ///< the fields set, in the order of their first appearance
 };
