@@ -9,6 +9,7 @@
 
 #include <fmt/format.h>
 
+#include "bench_folder.h"
 #include "platform/system/services.h"
 #include "session/startup/startup.h"
 #include "shell/context/site_context.h"
@@ -17,16 +18,6 @@
 namespace rbt::bench {
 
 namespace fs = std::filesystem;
-
-const fs::path& Folder() {
-  static const fs::path folder = [] {
-    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    std::atexit([] { fs::remove_all(Folder()); });
-    return fs::path(pattern);
-  }();
-  return folder;
-}
 
 fs::path MakeDemoRoot(const fs::path& root, std::int64_t rows, int sites) {
   const std::string command =

@@ -6,9 +6,6 @@
 
 namespace rbt::bench {
 
-/// A folder that goes with the program.
-const std::filesystem::path& Folder();
-
 /// Makes a demonstration root of so many sites of so many rows below the folder. Throws `std::runtime_error`.
 std::filesystem::path MakeDemoRoot(const std::filesystem::path& root, std::int64_t rows, int sites);
 

@@ -3,11 +3,10 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <stdexcept>
 #include <string>
-#include <system_error>
 #include <thread>
 
+#include "bench_folder.h"
 #include "cost.h"
 #include "platform/system/services.h"
 #include "session/startup/startup.h"
@@ -19,32 +18,6 @@ namespace rbt::bench {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Goes with the program.
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (fs::temp_directory_path() / "rbtally-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = pattern;
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
-
-const fs::path& Folder() {
-  static const TemporaryFolder folder;
-  return folder.Path();
-}
 
 fs::path Kept(const fs::path& root) { return root / "fresh.MDB"; }
 

@@ -2,7 +2,7 @@
 // Times what a user waits for, each in turn with yardsticks over the same file.
 // usage: rbtally_bench [--check] [--rows N,N,...] [--turns N] [--program RBTALLY] [WORDS]
 // Shows the works whose names hold WORDS; "cold" are those of the command line, of this build or another.
-// With --check only those that have a limit; one that is missed ends it with exit status 1.
+// With --check only those that have a limit; one that is missed twice ends it with exit status 1.
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
@@ -134,9 +134,14 @@ bool Run(const Order& order) {
   for (const std::int64_t rows : order.rows) {
     const DemoSite site(rows);
     for (const Work& work : WorksOf(order, site)) {
-      const Figures figures = Measure(work, site, order.turns);
+      Figures figures = Measure(work, site, order.turns);
       Show(site, work, figures);
-      if (order.check) kept = Keeps(site, work, figures) && kept;
+      if (!order.check || Keeps(site, work, figures)) continue;
+      // Other programs disturb: a miss counts when more turns show it too.
+      constexpr int kMoreTurns = 4;
+      figures = Measure(work, site, order.turns * kMoreTurns);
+      Show(site, work, figures);
+      kept = Keeps(site, work, figures) && kept;
     }
   }
   return kept;
