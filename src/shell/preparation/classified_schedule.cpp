@@ -45,9 +45,9 @@ void PutCopyInPlace(const std::vector<std::string>& statements) {
   TellOfCopy();
 }
 
-/// Whether the schedule, which is held, is not classified yet. All its rows are looked at unless that was
-/// remembered of the file as it stands.
-bool WouldClassify(Database& schedule, const std::vector<std::string>& statements) {
+/// Whether statements would change the schedule, which is held. All its rows are looked at unless it is
+/// remembered of the file as it stands that they would not.
+bool WouldChange(Database& schedule, const std::vector<std::string>& statements) {
   const ClassificationMemory memory(schedule, statements);
   if (memory.Holds()) return false;
   if (schedule.WouldChangeTogether(statements)) return true;
@@ -83,7 +83,7 @@ void ClassifyAtLoad(const StartModeTraits& start_mode) {
   const Held held(schedule);
   // What the activation would write is written now: otherwise most rows of a fresh file are written twice,
   // and a slit bar of a threaded shape, which is classified to and fro, at each start.
-  if (WouldClassify(schedule, PreparationStatements(schedule, start_mode))) {
+  if (WouldChange(schedule, PreparationStatements(schedule, start_mode))) {
     Transaction transaction(schedule);
     // Another program may have given it other columns while the lock was waited for.
     schedule.ExecuteTogether(PreparationStatements(schedule, start_mode));
@@ -110,7 +110,7 @@ void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
   schedule.Hold();
   if (IsKnownAsClassified(schedule)) return;
   const std::vector<std::string> all = PreparationStatements(schedule, start_mode);
-  if (WouldClassify(schedule, all)) {
+  if (WouldChange(schedule, all)) {
     if (!MayBeWritten(schedule)) return PutCopyInPlace(all);
     Transaction transaction(schedule);
     // Another program may have given it other columns while the lock was waited for.
@@ -124,7 +124,7 @@ void HoldScheduleWithFloors(const StartModeTraits& start_mode) {
   HoldClassifiedSchedule(start_mode);
   Database& schedule = *SiteContext.WorkDatabase;
   const std::vector<std::string> fills = FillStatements();
-  if (!schedule.WouldChangeTogether(fills)) return;
+  if (!WouldChange(schedule, fills)) return;
   if (schedule.IsPrivateCopy()) {
     FillFloorsAndParts(schedule);
     return;

@@ -160,6 +160,17 @@ TEST_F(Memories, SpareALookAtEachRow) {
   EXPECT_NE(ReadFileBytes(File()), bytes);
 }
 
+TEST_F(Memories, OfFloorsAndPartsAreOfTheirOwn) {
+  SelectSite(kScheduleFile);
+  OpenWorkDatabase();
+  HoldScheduleWithFloors(kUsual);
+  SiteContext.WorkDatabase->LetGo();
+  site_.AddRow({{"太さ", 19}});
+  Note();
+  HoldScheduleWithFloors(kUsual);
+  EXPECT_EQ(site_.Column("階"), (std::vector<std::string>{"78", "78"}));
+}
+
 TEST_F(Memories, AreMadeByTheStartThatChangesNothing) {
   SelectSite(kScheduleFile);
   OpenWorkDatabase();
