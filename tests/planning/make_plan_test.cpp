@@ -130,6 +130,16 @@ TEST(MakePlan, HasAnAnswerAtEveryMoment) {
   EXPECT_EQ(last, Stopped::no);
 }
 
+TEST(MakePlan, CutsGreedilyWhereBarsAreTooLongForTables) {
+  test::Random random(1);
+  std::vector<std::pair<int, std::int64_t>> pieces;
+  pieces.reserve(400);
+  for (int n = 0; n < 400; ++n) pieces.emplace_back(random.Between(100'000, 400'000), 1);
+  const Problem problem = test::OneGroup(pieces, {1'000'000});
+  const Plan plan = MakePlan(problem, kGoOn);
+  EXPECT_EQ(plan.groups[0].method, Method::greedy);
+}
+
 TEST(MakePlan, BecomesNoWorseFromOneTellingToTheNext) {
   const Problem problem = RandomProblem(3);
   std::vector<Micros> costs;

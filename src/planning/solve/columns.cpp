@@ -55,6 +55,12 @@ std::vector<double> NeedsOf(const CuttingTask& task) {
 
 }  // namespace
 
+bool HasRoomForColumns(const CuttingTask& task) {
+  constexpr std::int64_t kMostCells = 150'000'000;
+  const auto items = static_cast<std::int64_t>(task.items.size());
+  return items * (task.LargestCapacity() + 1) <= kMostCells / std::max(1, task.mix - 1);
+}
+
 Columns::Columns(const CuttingTask& task, Pace& pace)
     : task_(task),
       pace_(pace),

@@ -15,6 +15,10 @@
 
 namespace rbt::planning {
 
+/// False where the tables of contents would be too large: very long bars with very many lengths to cut. Such
+/// tasks are cut greedily.
+bool HasRoomForColumns(const CuttingTask& task);
+
 /// The linear program of a task: how many bars of every content cover what is left of each item at the least
 /// cost, when bars may be bought in parts. Contents are found as they are needed, by their price.
 class Columns {

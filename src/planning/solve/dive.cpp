@@ -186,6 +186,7 @@ class Diver {
 }  // namespace
 
 ColumnsResult CutByColumns(const CuttingTask& task, const Cutting& start, Pace& pace) {
+  if (!HasRoomForColumns(task)) return {};
   return Diver(task, start, pace).Run();
 }
 

@@ -89,7 +89,7 @@ RestCounts RestsUsed(const Supply& supply, const Candidate& candidate) {
 PriceProof BestBound(const Problem& problem, const Group& group, Pace& pace) {
   const CuttingTask task = TaskOfAnyMix(problem, group);
   PriceProof proof = ProveMaterialBound(task);
-  if (pace.Stopped()) return proof;
+  if (pace.Stopped() || !HasRoomForColumns(task)) return proof;
   if (problem.options.effort == Effort::greedy || !LinearProgramsAreSolved()) {
     TakeBetter(proof, task, MaterialPrices(task));
     return proof;

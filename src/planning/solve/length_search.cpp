@@ -28,7 +28,7 @@ class GroupJudge {
  public:
   GroupJudge(const Problem& problem, const Group& group, Pace& pace)
       : problem_(problem), group_(group), task_(MakeTask(problem, group)) {
-    if (problem.options.effort == Effort::full && LinearProgramsAreSolved()) {
+    if (problem.options.effort == Effort::full && LinearProgramsAreSolved() && HasRoomForColumns(task_)) {
       columns_ = std::make_unique<Columns>(task_, pace);
     }
   }
