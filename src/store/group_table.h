@@ -42,7 +42,7 @@ class GroupTable {
   Key KindOf(std::size_t value) const { return value < keys_.size() ? keys_[value] : Key::whole; }
 
   /// Rows of so many values can be grouped at all.
-  static constexpr std::size_t kMostValues = 32;
+  static constexpr std::size_t kMostValues = 31;
 
  private:
   static constexpr std::uint32_t kGroupsOfBlock = 1024;
