@@ -56,6 +56,12 @@ class TourokuForm : public testing::Test {
   std::unique_ptr<DialogDriver<Touroku>> form_;
 };
 
+TEST_F(TourokuForm, ShowsBothWeightsWithoutScrolling) {
+  const auto* grid = form_->dialog->findChild<NamesGrid*>("tourokumei");
+  const int last = grid->model()->columnCount() - 1;
+  EXPECT_LE(grid->columnViewportPosition(last) + grid->columnWidth(last), grid->viewport()->width());
+}
+
 TEST_F(TourokuForm, MarksTheLineOfTheGridByEnterAndListsIt) {
   EXPECT_EQ(form_->Focused(), "tourokumei");
   form_->Key(Qt::Key_Down);
