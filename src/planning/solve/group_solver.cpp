@@ -42,8 +42,10 @@ GroupSolver::GroupSolver(const Problem& problem, const Group& group)
 void GroupSolver::MakeQuickPlan(const RestCounts& rests, Pace& pace) {
   if (!pace.Stopped()) {
     const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
-    const Cutting cutting = CutGreedily(task, DemandOf(task));
-    planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+    for (const Ties ties : {Ties::shorter, Ties::fuller}) {
+      const Cutting cutting = CutGreedily(task, DemandOf(task), ties);
+      planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+    }
   }
   if (!promises_.KeptBy(best_)) {
     planning::TakeBetter(best_, LightRowsCandidate(problem_, group_), promises_);
