@@ -29,7 +29,7 @@ struct SearchWidth {
 };
 /// For a plan that depends on the set, and for a curve of many sets.
 inline constexpr SearchWidth kThoroughSearch{24, 8, 3};
-inline constexpr SearchWidth kQuickSearch{6, 2, 1};
+inline constexpr SearchWidth kQuickSearch{12, 0, 0};
 
 /// The best sets found of at most 1, 2, ..., `most` lengths from which all groups of a supply can be cut;
 /// fewer when more lengths gain nothing or when it was stopped. A set is judged by the linear program where
