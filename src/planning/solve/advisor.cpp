@@ -30,6 +30,7 @@ BoughtSet SetOf(const Problem& problem, std::size_t supply, const std::vector<Ca
 
 AdvicePoint PointOf(const Supply& supply, int count, const BoughtSet& set) {
   AdvicePoint point{count, {}, set.bought_mm};
+  point.lengths.reserve(set.lengths.size());
   for (const std::size_t l : set.lengths) point.lengths.push_back(supply.lengths[l].mm);
   return point;
 }

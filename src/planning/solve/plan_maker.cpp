@@ -112,8 +112,10 @@ class PlanMaker {
   }
 
   void AdviseOn(std::size_t supply) {
+    const std::vector<std::size_t> groups = GroupsOf(problem_, supply);
     std::vector<Candidate> plans;
-    for (const std::size_t g : GroupsOf(problem_, supply)) plans.push_back(BestOf(g));
+    plans.reserve(groups.size());
+    for (const std::size_t g : groups) plans.push_back(BestOf(g));
     advice_.push_back(Advise(problem_, supply, plans, pace_));
   }
 
