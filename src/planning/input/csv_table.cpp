@@ -48,6 +48,12 @@ std::vector<std::string> CellsOf(std::string_view line, int number) {
   return cells;
 }
 
+/// True when something stands behind so many cells; commas alone do not count.
+bool HasMoreThan(const std::vector<std::string>& cells, std::size_t width) {
+  return cells.size() > width && !std::all_of(cells.begin() + static_cast<std::ptrdiff_t>(width), cells.end(),
+                                              [](const std::string& cell) { return Stripped(cell).empty(); });
+}
+
 std::string HeaderText(std::span<const std::string_view> columns, std::size_t required) {
   std::string text;
   for (std::size_t c = 0; c < columns.size(); ++c) {
@@ -106,8 +112,9 @@ std::vector<CsvLine> ReadCsvTable(std::string_view text, std::span<const std::st
     text.remove_prefix(std::min(end + 1, text.size()));
     if (cells.empty()) continue;
     if (width == 0) {
+      while (cells.size() > required && Stripped(cells.back()).empty()) cells.pop_back();
       width = ColumnsOf(cells, columns, required, number);
-    } else if (cells.size() > width) {
+    } else if (HasMoreThan(cells, width)) {
       RefuseLine(number, "more cells than the header has");
     } else {
       lines.emplace_back(number, std::move(cells), columns);

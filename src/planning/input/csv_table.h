@@ -34,8 +34,9 @@ class CsvLine {
 };
 
 /// The lines of a CSV text behind its header, comments and empty lines left out. The header names the columns
-/// in their order, at least the first `required` of them; lines have no more cells than the header. Cells in
-/// double quotes may hold commas, doubled quotes and `#`. Refuses what is otherwise.
+/// in their order, at least the first `required` of them; lines have no more cells than the header, empty
+/// ones of trailing commas aside. Cells in double quotes may hold commas, doubled quotes and `#`. Refuses
+/// what is otherwise.
 std::vector<CsvLine> ReadCsvTable(std::string_view text, std::span<const std::string_view> columns,
                                   std::size_t required);
 

@@ -88,21 +88,28 @@ class ProblemBuilder {
  private:
   using Cuts = std::map<int, Cut, std::greater<>>;
 
-  /// Even a bar for every piece must leave costs and weights within 64 bits.
-  void CheckSize(const Group& group) const {
-    constexpr double kMost = static_cast<double>(std::numeric_limits<std::int64_t>::max()) / 4.0;
-    double pieces = 0.0;
-    for (const Cut& cut : group.cuts) pieces += static_cast<double>(cut.count);
-    for (const StockLength& length : problem_.supplies[group.supply].lengths) {
-      const auto dearest = static_cast<double>(std::max(length.cost, length.table_weight));
-      if (pieces * dearest > kMost) throw Fault(FaultKind::overflow, "pieces of a plan");
+  /// Even every cut by itself, from the length that is dearest for it, must leave the costs and weights of
+  /// all groups within 64 bits.
+  void CheckSize(const Group& group) {
+    constexpr double kMost = static_cast<double>(std::numeric_limits<std::int64_t>::max()) / 2.0;
+    for (const Cut& cut : group.cuts) {
+      double dearest = 0.0;
+      for (const StockLength& length : problem_.supplies[group.supply].lengths) {
+        const int per_bar = PiecesPerBar(Options().bar, length.mm, cut.mm);
+        if (per_bar == 0) continue;
+        const double bars = std::ceil(static_cast<double>(cut.count) / per_bar);
+        dearest = std::max(dearest, bars * static_cast<double>(std::max(length.cost, length.table_weight)));
+      }
+      dearest_ += dearest;
     }
+    if (dearest_ > kMost) throw Fault(FaultKind::overflow, "pieces of a plan");
   }
 
   const BarOffer& offer_;
   const SiteLengths* site_;
   Problem problem_;
   std::size_t rows_ = 0;
+  double dearest_ = 0.0;  ///< what all cuts cost or weigh by themselves
   std::map<int, std::vector<StockLength>> lengths_;
   std::map<int, std::string> names_;
   std::map<std::pair<int, BarSteel>, Cuts> groups_;  ///< by the scope's place and the steel
@@ -152,11 +159,9 @@ void TakeBarsOut(TallyTable& table, const SteelRow& row) {
   table.StockWeight[d][l] -= Currency::FromDouble(BarWeight(d, l) * row.stock_bars);
 }
 
-[[noreturn]] void RefusePiece(const PieceLine& piece, int longest, const BarRule& rule) {
-  std::string text = "line " + std::to_string(piece.line) + ": piece " + std::to_string(piece.length) +
-                     " is longer than the longest bar " + std::to_string(longest);
-  if (piece.length <= longest) text += " less the trim of " + std::to_string(rule.trim);
-  throw Refusal(text);
+[[noreturn]] void RefusePiece(const PieceLine& piece, int longest) {
+  throw Refusal("line " + std::to_string(piece.line) + ": piece " + std::to_string(piece.length) +
+                " is longer than the longest bar " + std::to_string(longest));
 }
 
 }  // namespace
@@ -182,7 +187,7 @@ Problem MakeProblem(const std::vector<PieceLine>& pieces, const BarOffer& offer,
   for (const PieceLine& piece : pieces) {
     if (piece.count == 0) continue;
     const std::vector<StockLength>& lengths = builder.LengthsOf(piece.diameter);
-    if (!FitsOne(options.bar, lengths, piece.length)) RefusePiece(piece, lengths.back().mm, options.bar);
+    if (!FitsOne(options.bar, lengths, piece.length)) RefusePiece(piece, lengths.back().mm);
     builder.Plan(site, {piece.diameter, piece.kind, false}, piece.length,
                  {0, piece.line, piece.count, 0, 0, piece.mark, 0});
   }

@@ -12,6 +12,18 @@ namespace {
 constexpr double kMilligramsPerKilogram = 1e6;
 constexpr double kMmPerMetre = 1000.0;
 constexpr Milligrams kUnitWithoutDiameter = 1000;
+constexpr Milligrams kFourFigures = 1000;
+
+/// Halves to the even figure. In whole numbers, because near halves a product of doubles falls to either
+/// side.
+Milligrams ToThreeFigures(Milligrams weight) {
+  Milligrams figure = 1;
+  while (weight / figure >= kFourFigures) figure *= 10;
+  const Milligrams figures = weight / figure;
+  const Milligrams twice_rest = weight % figure * 2;
+  const bool up = twice_rest > figure || (twice_rest == figure && figures % 2 == 1);
+  return (figures + (up ? 1 : 0)) * figure;
+}
 
 }  // namespace
 
@@ -24,7 +36,7 @@ Milligrams UnitMilligrams(int diameter) {
 
 Milligrams TableMilligrams(int diameter, int mm) {
   if (diameter == 0) return kUnitWithoutDiameter * mm;
-  return std::llround(BarWeightOf(DiameterIndex(diameter), mm / kMmPerMetre) * kMilligramsPerKilogram);
+  return ToThreeFigures(UnitMilligrams(diameter) * mm);
 }
 
 }  // namespace rbt::planning

@@ -2,62 +2,59 @@
 #include "planning/solve/advisor.h"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
-#include "planning/solve/dive.h"
-#include "planning/solve/greedy.h"
-#include "planning/solve/group_solver.h"
 #include "planning/solve/length_search.h"
+#include "planning/solve/limited_supply.h"
 
 namespace rbt::planning {
 namespace {
 
-/// What all groups of a supply buy from a set of lengths.
-std::int64_t BoughtMm(const Problem& problem, std::span<const std::size_t> groups, const LengthSet& lengths,
-                      Pace& pace) {
-  std::int64_t bought = 0;
-  const Supply& supply = problem.supplies[problem.groups[groups.front()].supply];
-  RestCounts rests = AllRests(supply);
-  for (const std::size_t g : groups) {
-    const Group& group = problem.groups[g];
-    const CuttingTask task = MakeTask(problem, group, lengths, rests);
-    Cutting cutting = CutGreedily(task, DemandOf(task));
-    if (problem.options.effort == Effort::full) {
-      Cutting columns = CutByColumns(task, cutting, pace).cutting;
-      if (!columns.empty()) cutting = std::move(columns);
-    }
-    const Candidate plan = MakeCandidate(supply, Method::columns, task, cutting);
-    const RestCounts used = RestsUsed(supply, plan);
-    for (std::size_t r = 0; r < rests.size(); ++r) rests[r] -= used[r];
-    bought += plan.bought_mm;
-  }
-  return bought;
+struct BoughtSet {
+  LengthSet lengths;
+  std::int64_t bought_mm = 0;
+};
+
+/// What plans buy, with the lengths that they need, those included that pieces on rest bars fit.
+BoughtSet SetOf(const Problem& problem, std::size_t supply, const std::vector<Candidate>& plans) {
+  const std::vector<std::size_t> groups = GroupsOf(problem, supply);
+  BoughtSet set{UsedLengths(problem.supplies[supply], plans)};
+  for (const Candidate& plan : plans) set.bought_mm += plan.bought_mm;
+  if (HoldsAll(problem, groups, set.lengths)) return set;
+  LengthSet all;
+  std::ranges::set_union(set.lengths, Cover(problem, groups), std::back_inserter(all));
+  set.lengths = all;
+  return set;
+}
+
+AdvicePoint PointOf(const Supply& supply, int count, const BoughtSet& set) {
+  AdvicePoint point{count, {}, set.bought_mm};
+  point.lengths.reserve(set.lengths.size());
+  for (const std::size_t l : set.lengths) point.lengths.push_back(supply.lengths[l].mm);
+  return point;
 }
 
 }  // namespace
 
-Advice Advise(const Problem& problem, std::size_t supply, Pace& pace) {
+Advice Advise(const Problem& problem, std::size_t supply, const std::vector<Candidate>& plans, Pace& pace) {
   const Supply& of = problem.supplies[supply];
-  const std::vector<std::size_t> groups = GroupsOf(problem, supply);
-  const auto most = std::min(static_cast<std::size_t>(problem.options.advise), of.lengths.size());
-  const std::vector<LengthSet> sets = SearchLengthSets(problem, supply, most, pace);
+  const LimitedSupply limits(problem, supply);
+  const auto most = static_cast<std::size_t>(problem.options.advise);
+  std::vector<BoughtSet> sets{SetOf(problem, supply, plans)};
+  for (LengthSet& lengths : SearchLengthSets(problem, supply, most, kQuickSearch, pace)) {
+    const std::optional<std::int64_t> bought = limits.BoughtMm(lengths, pace);
+    if (bought) sets.push_back({std::move(lengths), *bought});
+  }
   Advice advice{of.steel, {}};
-  auto set = sets.begin();
   for (std::size_t count = 1; count <= most && !pace.Stopped(); ++count) {
-    AdvicePoint point{static_cast<int>(count), {}, 0};
-    if (!advice.curve.empty()) {
-      point.lengths = advice.curve.back().lengths;
-      point.bought_mm = advice.curve.back().bought_mm;
+    const BoughtSet* best = nullptr;
+    for (const BoughtSet& set : sets) {
+      const bool is_better = best == nullptr || set.bought_mm < best->bought_mm ||
+                             (set.bought_mm == best->bought_mm && set.lengths.size() < best->lengths.size());
+      if (set.lengths.size() <= count && is_better) best = &set;
     }
-    if (set != sets.end() && set->size() <= count) {
-      const std::int64_t bought = BoughtMm(problem, groups, *set, pace);
-      if (point.lengths.empty() || bought < point.bought_mm) {
-        point.bought_mm = bought;
-        point.lengths.clear();
-        for (const std::size_t l : *set) point.lengths.push_back(of.lengths[l].mm);
-      }
-      ++set;
-    }
-    if (!point.lengths.empty()) advice.curve.push_back(std::move(point));
+    if (best != nullptr) advice.curve.push_back(PointOf(of, static_cast<int>(count), *best));
   }
   return advice;
 }

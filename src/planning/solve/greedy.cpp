@@ -12,8 +12,8 @@ namespace {
 
 class Greedy {
  public:
-  Greedy(const CuttingTask& task, ByIndex<std::int64_t> left)
-      : task_(task), left_(std::move(left)), sums_(task, left_) {
+  Greedy(const CuttingTask& task, ByIndex<std::int64_t> left, Ties ties)
+      : task_(task), left_(std::move(left)), ties_(ties), sums_(task, left_) {
     for (const Bar& bar : task.bars) available_.push_back(bar.rest ? bar.available : kNoEnd);
   }
 
@@ -39,7 +39,8 @@ class Greedy {
     if (of_a.rest != of_b.rest) return of_a.rest;
     const Micros price_a = of_a.rest ? of_a.capacity : of_a.cost;
     const Micros price_b = of_b.rest ? of_b.capacity : of_b.cost;
-    return RatioIsLess(price_a, a.sum, price_b, b.sum);
+    if (RatioIsLess(price_a, a.sum, price_b, b.sum)) return true;
+    return ties_ == Ties::fuller && a.sum > b.sum && !RatioIsLess(price_b, b.sum, price_a, a.sum);
   }
 
   Choice BestBar(int lead) const {
@@ -69,6 +70,7 @@ class Greedy {
 
   const CuttingTask& task_;
   ByIndex<std::int64_t> left_;
+  Ties ties_;
   ByIndex<std::int64_t> available_;
   ReachableSums sums_;
   Cutting cutting_;
@@ -76,8 +78,8 @@ class Greedy {
 
 }  // namespace
 
-Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left) {
-  return Greedy(task, std::move(left)).Cut();
+Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left, Ties ties) {
+  return Greedy(task, std::move(left), ties).Cut();
 }
 
 std::int64_t GreedySteps(const CuttingTask& task, const Cutting& cutting) {

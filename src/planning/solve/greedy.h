@@ -8,10 +8,14 @@
 
 namespace rbt::planning {
 
+/// Of bars that cost equally little for what they carry, as all do that are full: the shortest, or that which
+/// carries most. Neither is better for all pieces.
+enum class Ties { shorter, fuller };
+
 /// Cuts what is left of each item: bar by bar, the longest piece left with those that fill the rest of a bar
 /// best, from the bar that costs least for what it carries; rest bars before any that is bought. Every item
 /// must fit a bar that can be bought.
-Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left);
+Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left, Ties ties = Ties::shorter);
 
 /// What such a cutting took, in steps of about a nanosecond.
 std::int64_t GreedySteps(const CuttingTask& task, const Cutting& cutting);

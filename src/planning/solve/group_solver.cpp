@@ -7,6 +7,7 @@
 #include "planning/solve/columns.h"
 #include "planning/solve/dive.h"
 #include "planning/solve/greedy.h"
+#include "planning/solve/light_plans.h"
 
 namespace rbt::planning {
 namespace {
@@ -39,15 +40,22 @@ GroupSolver::GroupSolver(const Problem& problem, const Group& group)
 }
 
 void GroupSolver::MakeQuickPlan(const RestCounts& rests, Pace& pace) {
-  if (pace.Stopped()) return;
-  const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
-  const Cutting cutting = CutGreedily(task, DemandOf(task));
-  planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+  if (!pace.Stopped()) {
+    const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
+    for (const Ties ties : {Ties::shorter, Ties::fuller}) {
+      const Cutting cutting = CutGreedily(task, DemandOf(task), ties);
+      planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+    }
+  }
+  if (!promises_.KeptBy(best_)) {
+    planning::TakeBetter(best_, LightRowsCandidate(problem_, group_), promises_);
+  }
 }
 
 void GroupSolver::Improve(const RestCounts& rests, Pace& pace) {
   if (pace.Stopped() || (best_.cost <= proof_.bound && promises_.KeptBy(best_))) return;
   if (problem_.options.effort == Effort::greedy || !LinearProgramsAreSolved()) {
+    LookForLightPlan(problem_, group_, rests, promises_, best_, pace);
     proof_ = BestBound(problem_, group_, pace);
     return;
   }
@@ -56,24 +64,13 @@ void GroupSolver::Improve(const RestCounts& rests, Pace& pace) {
   if (!result.cutting.empty()) {
     planning::TakeBetter(best_, MakeCandidate(supply_, Method::columns, task, result.cutting), promises_);
   }
-  MindTableWeight(rests, pace);
+  LookForLightPlan(problem_, group_, rests, promises_, best_, pace);
   if (pace.Stopped()) return;
   if (task.mix == 0) {
     TakeBetter(proof_, TaskOfAnyMix(problem_, group_), result.prices);
   } else {
     proof_ = BestBound(problem_, group_, pace);
   }
-}
-
-void GroupSolver::MindTableWeight(const RestCounts& rests, Pace& pace) {
-  if (promises_.KeptBy(best_) || pace.Stopped()) return;
-  CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
-  for (Bar& bar : task.bars) bar.cost = bar.rest ? 0 : bar.table_weight;
-  const Cutting greedy = CutGreedily(task, DemandOf(task));
-  planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, greedy), promises_);
-  const ColumnsResult result = CutByColumns(task, greedy, pace);
-  if (result.cutting.empty()) return;
-  planning::TakeBetter(best_, MakeCandidate(supply_, Method::columns, task, result.cutting), promises_);
 }
 
 RestCounts RestsUsed(const Supply& supply, const Candidate& candidate) {

@@ -13,7 +13,8 @@ class GroupSolver {
  public:
   GroupSolver(const Problem& problem, const Group& group);
 
-  /// The schedule, the per-row rule and, unless it was stopped before, the greedy plan.
+  /// The schedule, the per-row rule and, unless it was stopped before, the greedy plan; where none of them
+  /// keeps the promises, also the rows alone from two lengths.
   void MakeQuickPlan(const RestCounts& rests, Pace& pace);
   /// Columns on top of it where the effort is full and linear programs are solved, and the best bound.
   void Improve(const RestCounts& rests, Pace& pace);
@@ -22,10 +23,6 @@ class GroupSolver {
   const PriceProof& Proof() const { return proof_; }
 
  private:
-  /// Where the best plan buys more of the tally's table weight than the schedule: a plan that buys least of
-  /// it.
-  void MindTableWeight(const RestCounts& rests, Pace& pace);
-
   const Problem& problem_;
   const Group& group_;
   const Supply& supply_;

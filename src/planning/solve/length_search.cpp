@@ -14,14 +14,9 @@ namespace rbt::planning {
 namespace {
 
 constexpr double kImpossible = std::numeric_limits<double>::infinity();
-/// Of the sets that are compared so many are judged by the linear program, the best guesses first: of those
-/// that grow nearly all, of those that exchange a length, which are many, fewer.
-constexpr std::size_t kJudgedOfGrown = 24;
-constexpr std::size_t kJudgedOfExchanged = 8;
 /// Rounds of the linear program after which a set is judged.
 constexpr int kRounds = 4;
 constexpr double kGain = 1e-9;
-constexpr int kExchanges = 3;  // rounds of exchanging
 
 /// What a group costs from a set of lengths.
 class GroupJudge {
@@ -141,12 +136,12 @@ JudgedSet BestWithOneMore(Judge& judge, const LengthSet& base, const LengthSet& 
 }
 
 /// Exchanges one length for another as long as that gains.
-void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all) {
+void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all, const SearchWidth& width) {
   bool gained = set.lengths.size() > 1;
-  for (int round = 0; round < kExchanges && gained; ++round) {
+  for (int round = 0; round < width.exchanges && gained; ++round) {
     gained = false;
     for (const std::size_t length : LengthSet(set.lengths)) {
-      JudgedSet other = BestWithOneMore(judge, Without(set.lengths, length), all, kJudgedOfExchanged);
+      JudgedSet other = BestWithOneMore(judge, Without(set.lengths, length), all, width.judged_of_exchanged);
       if (other.lengths.empty() || !IsCheaper(other, set)) continue;
       set = std::move(other);
       gained = true;
@@ -203,19 +198,19 @@ bool HoldsAll(const Problem& problem, std::span<const std::size_t> groups, const
 }
 
 std::vector<LengthSet> SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most,
-                                        Pace& pace) {
+                                        const SearchWidth& width, Pace& pace) {
   const LengthSet all = AllLengths(problem.supplies[supply]);
   const std::vector<std::size_t> groups = GroupsOf(problem, supply);
   Judge judge(problem, groups, pace);
   std::vector<LengthSet> sets;
   JudgedSet last;
   while (last.lengths.size() < std::min(most, all.size())) {
-    JudgedSet next = BestWithOneMore(judge, last.lengths, all, kJudgedOfGrown);
+    JudgedSet next = BestWithOneMore(judge, last.lengths, all, width.judged_of_grown);
     if (sets.empty() && next.lengths.empty()) {
       next = judge.Cheapest({Cover(problem, groups)}, 1);
     }
     if (next.lengths.empty()) break;
-    Exchange(judge, next, all);
+    Exchange(judge, next, all, width);
     if (next.lengths.size() > most || (!sets.empty() && !IsCheaper(next, last))) break;
     last = next;
     sets.push_back(std::move(next.lengths));

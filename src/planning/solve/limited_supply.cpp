@@ -23,6 +23,13 @@ Micros CostOf(const std::vector<Candidate>& plans) {
   return cost;
 }
 
+}  // namespace
+
+bool IsLimited(const Problem& problem, const Supply& supply) {
+  const auto has_lot = [](const StockLength& length) { return length.least_lot > 0; };
+  return problem.options.max_lengths > 0 || std::ranges::any_of(supply.lengths, has_lot);
+}
+
 LengthSet UsedLengths(const Supply& supply, const std::vector<Candidate>& plans) {
   std::set<std::size_t> used;
   for (const Candidate& plan : plans) {
@@ -32,13 +39,6 @@ LengthSet UsedLengths(const Supply& supply, const std::vector<Candidate>& plans)
     }
   }
   return {used.begin(), used.end()};
-}
-
-}  // namespace
-
-bool IsLimited(const Problem& problem, const Supply& supply) {
-  const auto has_lot = [](const StockLength& length) { return length.least_lot > 0; };
-  return problem.options.max_lengths > 0 || std::ranges::any_of(supply.lengths, has_lot);
 }
 
 LimitedSupply::LimitedSupply(const Problem& problem, std::size_t supply)
@@ -88,7 +88,7 @@ void LimitedSupply::Improve(Pace& pace) {
   const bool has_lots =
       std::ranges::any_of(supply_.lengths, [](const auto& length) { return length.least_lot > 0; });
   const std::size_t most = problem_.options.max_lengths > 0 ? MostLengths() : kSetsForLots;
-  const std::vector<LengthSet> sets = SearchLengthSets(problem_, index_, most, pace);
+  const std::vector<LengthSet> sets = SearchLengthSets(problem_, index_, most, kThoroughSearch, pace);
   for (const LengthSet& set : sets) {
     // A smaller set fills its lots more easily.
     if (has_lots || &set == &sets.back()) ConsiderWithFullLots(set, by_columns, pace);
@@ -160,15 +160,29 @@ std::vector<Milligrams> LimitedSupply::LotsOf(const Plans& plans) const {
   return lots;
 }
 
-bool LimitedSupply::KeepsLimits(const Plans& plans) const {
+bool LimitedSupply::FillsLots(const Plans& plans) const {
   const std::vector<Milligrams> lots = LotsOf(plans);
-  std::size_t bought = 0;
   for (std::size_t l = 0; l < lots.size(); ++l) {
-    if (lots[l] == 0) continue;
-    if (lots[l] < supply_.lengths[l].least_lot) return false;
-    ++bought;
+    if (lots[l] > 0 && lots[l] < supply_.lengths[l].least_lot) return false;
   }
-  return bought <= MostLengths();
+  return true;
+}
+
+bool LimitedSupply::KeepsLimits(const Plans& plans) const {
+  return UsedLengths(supply_, plans).size() <= MostLengths() && FillsLots(plans);
+}
+
+std::optional<std::int64_t> LimitedSupply::BoughtMm(const LengthSet& lengths, Pace& pace) const {
+  std::optional<std::int64_t> least;
+  for (const Method method : {Method::per_row, Method::greedy, Method::columns}) {
+    if (method == Method::columns && problem_.options.effort == Effort::greedy) break;
+    const Plans plans = MakePlans(lengths, method, pace);
+    if (!FillsLots(plans)) continue;
+    std::int64_t bought = 0;
+    for (const Candidate& plan : plans) bought += plan.bought_mm;
+    least = std::min(least.value_or(bought), bought);
+  }
+  return least;
 }
 
 std::optional<std::size_t> LimitedSupply::EmptiestLot(const Plans& plans, const LengthSet& lengths) const {

@@ -14,6 +14,9 @@ namespace rbt::planning {
 /// True when the lengths bought of a supply are limited in number or have a least lot.
 bool IsLimited(const Problem& problem, const Supply& supply);
 
+/// The lengths that plans of a supply's groups buy.
+LengthSet UsedLengths(const Supply& supply, const std::vector<Candidate>& plans);
+
 /// The groups of a supply whose lengths are limited. They share the limits: a purchase line is one for all
 /// scopes.
 class LimitedSupply {
@@ -25,6 +28,10 @@ class LimitedSupply {
   void MakeQuickPlan(Pace& pace);
   /// Looks for better sets of lengths.
   void Improve(Pace& pace);
+
+  /// What the groups buy from a set of lengths that holds every piece, whatever its number; nothing where no
+  /// plan from it fills the least lots.
+  std::optional<std::int64_t> BoughtMm(const LengthSet& lengths, Pace& pace) const;
 
   /// Indices of the problem's groups, and the plan of each.
   const std::vector<std::size_t>& Groups() const { return groups_; }
@@ -43,6 +50,7 @@ class LimitedSupply {
 
   /// Table weight that is bought of each length, rows that stay as scheduled included where bars are planned.
   std::vector<Milligrams> LotsOf(const Plans& plans) const;
+  bool FillsLots(const Plans& plans) const;
   bool KeepsLimits(const Plans& plans) const;
   /// The length that lacks the largest share of its lot and without which the others hold every piece.
   std::optional<std::size_t> EmptiestLot(const Plans& plans, const LengthSet& lengths) const;

@@ -96,7 +96,7 @@ class PlanMaker {
       parts.push_back(std::move(part));
     }
     for (std::size_t s = 0; problem_.options.advise > 0 && s < problem_.supplies.size(); ++s) {
-      parts.push_back({-1.0, [this, s] { advice_.push_back(Advise(problem_, s, pace_)); }});
+      parts.push_back({-1.0, [this, s] { AdviseOn(s); }});
     }
     return parts;
   }
@@ -111,6 +111,22 @@ class PlanMaker {
     for (const std::size_t g : limited.Groups()) proofs_[g] = BestBound(problem_, problem_.groups[g], pace_);
   }
 
+  void AdviseOn(std::size_t supply) {
+    const std::vector<std::size_t> groups = GroupsOf(problem_, supply);
+    std::vector<Candidate> plans;
+    plans.reserve(groups.size());
+    for (const std::size_t g : groups) plans.push_back(BestOf(g));
+    advice_.push_back(Advise(problem_, supply, plans, pace_));
+  }
+
+  const Candidate& BestOf(std::size_t group) const {
+    if (solvers_[group]) return solvers_[group]->Best();
+    const auto has = [&](const auto& limited) { return std::ranges::count(limited->Groups(), group) > 0; };
+    const LimitedSupply& limited = **std::ranges::find_if(limited_, has);
+    const auto at = std::ranges::find(limited.Groups(), group) - limited.Groups().begin();
+    return limited.Best()[static_cast<std::size_t>(at)];
+  }
+
   void Tell(std::size_t done, std::size_t of) const {
     if (listener_) listener_(SoFar(), done, of);
   }
@@ -118,15 +134,7 @@ class PlanMaker {
   Plan SoFar() const {
     Plan plan;
     plan.groups.resize(problem_.groups.size());
-    for (std::size_t g = 0; g < solvers_.size(); ++g) {
-      if (solvers_[g]) plan.groups[g] = GroupPlanOf(g, solvers_[g]->Best());
-    }
-    for (const auto& limited : limited_) {
-      for (std::size_t i = 0; i < limited->Groups().size(); ++i) {
-        const std::size_t g = limited->Groups()[i];
-        plan.groups[g] = GroupPlanOf(g, limited->Best()[i]);
-      }
-    }
+    for (std::size_t g = 0; g < solvers_.size(); ++g) plan.groups[g] = GroupPlanOf(g, BestOf(g));
     return plan;
   }
 

@@ -34,9 +34,16 @@ class GroupCheck {
     std::int64_t bars = 0;
     bool fits = false;
   };
+  /// How many pieces of a length a bar of another carries.
+  std::int64_t PiecesOn(int stock, int cut) const;
   Alone CutAlone(int stock, int cut, std::int64_t pieces) const;
   const StockLength* Length(int mm) const;
-  std::int64_t PerRowCost() const;
+  /// The cost of a cut by the per-row rule.
+  std::int64_t PerRowCost(const Cut& cut) const;
+  /// The least table weight of a cut from bars of two lengths that cost no more than `most`.
+  std::int64_t LightestOfTwo(const Cut& cut, std::int64_t most) const;
+  /// True when the rows alone, from two lengths at most, keep the per-row rule's cost and weigh no more.
+  bool RowsCanWeigh(std::int64_t table) const;
 
   const Problem& problem_;
   const Group& group_;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "planning/problem/refusal.h"
+#include "support/fault_of.h"
 #include "tally/closing_sums.h"
 
 namespace rbt::planning {
@@ -182,9 +183,19 @@ TEST(MakeProblem, RefusesAPieceOfAFileThatNoBarHolds) {
   EXPECT_EQ(refusal({}, 12500), "line 7: piece 12500 is longer than the longest bar 12000");
   PlanOptions trim;
   trim.bar.trim = 20;
-  EXPECT_EQ(refusal(trim, 11990),
-            "line 7: piece 11990 is longer than the longest bar 12000 less the trim of 20");
+  EXPECT_EQ(refusal(trim, 11990), "line 7: piece 11990 is longer than the longest bar 12000");
   EXPECT_EQ(refusal(trim, 12000), "");
+}
+
+TEST(MakeProblem, TakesCountsWhoseBarsCanBeReckoned) {
+  BarOffer offer;
+  offer.lengths = {{9000, 12000}};
+  const auto problem_of = [&](int length, std::int64_t count) {
+    return MakeProblem({PieceLine{2, length, count, 16, 1, ""}}, offer, {});
+  };
+  EXPECT_EQ(problem_of(100, 1'000'000'000).groups[0].cuts[0].count, 1'000'000'000);
+  EXPECT_EQ(problem_of(2340, 900'000'000).groups[0].cuts[0].count, 900'000'000);
+  EXPECT_EQ(rbt::test::FaultOf([&] { problem_of(11000, 1'000'000'000); }), FaultKind::overflow);
 }
 
 }  // namespace

@@ -43,6 +43,12 @@ TEST(ParsePieces, TakesAMarkInQuotes) {
             "a,\"b\" #");
 }
 
+TEST(ParsePieces, LeavesEmptyCellsBehindTheLastColumnOut) {
+  EXPECT_THAT(ParsePieces("length,count,,\n2340,5,, \n1200,7,\n"),
+              ElementsAre(PieceLine{2, 2340, 5, 0, 1, ""}, PieceLine{3, 1200, 7, 0, 1, ""}));
+  EXPECT_EQ(RefusalOfPieces("length,count\n5,1,,16\n"), "line 2: more cells than the header has");
+}
+
 TEST(ParsePieces, TakesAKindBelow1For1) {
   EXPECT_EQ(ParsePieces("length,count,diameter,kind\n1,1,10,0\n").front().kind, 1);
 }

@@ -36,6 +36,14 @@ TEST(TableMilligrams, HaveThreeFiguresForAnyLength) {
   EXPECT_EQ(TableMilligrams(51, 8765), 139'000'000);  // 139.3635
 }
 
+TEST(TableMilligrams, RoundHalvesToTheEvenFigureForAnyLength) {
+  EXPECT_EQ(TableMilligrams(10, 2259), 1'270'000);   // 1.26504
+  EXPECT_EQ(TableMilligrams(51, 4695), 74'700'000);  // 74.6505
+  EXPECT_EQ(TableMilligrams(19, 1780), 4'000'000);   // 4.005
+  EXPECT_EQ(TableMilligrams(19, 1820), 4'100'000);   // 4.095
+  EXPECT_EQ(TableMilligrams(19, 4444), 10'000'000);  // 9.999
+}
+
 TEST(TableMilligrams, AreNotRoundedWithoutADiameter) { EXPECT_EQ(TableMilligrams(0, 12345), 12'345'000); }
 
 }  // namespace

@@ -39,6 +39,19 @@ TEST(CutGreedily, RepeatsABarAsOftenAsThePiecesLast) {
   EXPECT_THAT(cutting[1].content, ElementsAre(Pair(0, 1)));
 }
 
+TEST(CutGreedily, TakesOfFullBarsTheShortestOrThatWhichCarriesMost) {
+  const Problem problem = OneGroup({{3000, 2}}, {3000, 6000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  const Cutting shorter = CutGreedily(task, DemandOf(task), Ties::shorter);
+  ASSERT_THAT(shorter, SizeIs(1));
+  EXPECT_EQ(shorter[0].bar, 0);
+  EXPECT_EQ(shorter[0].count, 2);
+  const Cutting fuller = CutGreedily(task, DemandOf(task), Ties::fuller);
+  ASSERT_THAT(fuller, SizeIs(1));
+  EXPECT_EQ(fuller[0].bar, 1);
+  EXPECT_THAT(fuller[0].content, ElementsAre(Pair(0, 2)));
+}
+
 TEST(CutGreedily, TakesRestBarsFirst) {
   Problem problem = OneGroup({{3000, 4}}, {12000});
   problem.supplies[0].rests = {{3100, 1}, {6100, 1}};

@@ -155,6 +155,43 @@ TEST_F(SpoiltPlan, BuysMoreThanTheSchedule) {
   ExpectFault("it buys more steel than the schedule");
 }
 
+/// 1700 pieces of 500 from 100 bars of 8500 or, as scheduled, 131 of 6500: the schedule costs more, but
+/// weighs less at the table.
+class PlanBesideALighterSchedule : public ::testing::Test {
+ protected:
+  PlanBesideALighterSchedule() {
+    problem_ = test::OneGroup({{500, 1700}}, {6500, 8500});
+    PlannedRow& row = problem_.groups[0].cuts[0].rows[0];
+    row.own_mm = 6500;
+    row.own_bars = 131;
+    plan_ = SolvePlan(problem_, nullptr, nullptr);
+  }
+
+  Problem problem_;
+  Plan plan_;
+};
+
+TEST_F(PlanBesideALighterSchedule, IsSoundFromBothLengths) {
+  EXPECT_THAT(FindFaults(problem_, plan_), IsEmpty());
+}
+
+TEST_F(PlanBesideALighterSchedule, WeighsMoreThoughTwoLengthsWouldWeighLess) {
+  plan_.groups[0].patterns = {{8500, false, 100, {{500, 17}}}};
+  EXPECT_THAT(FindFaults(problem_, plan_), Contains(HasSubstr("it weighs more than the schedule")));
+}
+
+TEST_F(PlanBesideALighterSchedule, MayWeighMoreWhereNoTwoLengthsWeighLess) {
+  for (Cut& cut : problem_.groups[0].cuts) {
+    cut.count = 17;
+    cut.rows[0].pieces = 17;
+    cut.rows[0].own_bars = 2;
+  }
+  problem_.supplies[0].lengths[0].table_weight = 6'600'000;
+  plan_ = SolvePlan(problem_, nullptr, nullptr);
+  EXPECT_EQ(plan_.groups[0].patterns, (std::vector<Pattern>{{8500, false, 1, {{500, 17}}}}));
+  EXPECT_THAT(FindFaults(problem_, plan_), IsEmpty());
+}
+
 TEST_F(SpoiltPlan, LacksAPrice) {
   Of().prices.pop_back();
   ExpectFault("it has 2 prices for 3 cuts");
