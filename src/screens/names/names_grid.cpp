@@ -14,7 +14,7 @@ namespace rbt {
 namespace {
 
 /// Half-width characters that a column shows.
-constexpr std::array<int, kNameCaptions.size()> kColumnCharacters{6, 32, 6, 12, 12};
+constexpr std::array<int, kNameCaptions.size()> kColumnCharacters{6, 30, 6, 12, 12};
 constexpr std::size_t kNameColumn = 1;
 
 }  // namespace

@@ -37,7 +37,7 @@ class PlanWindow : public ::testing::Test {
                     {"伸総計", Number(bars)}});
     }
     PlanParts parts;
-    parts.request.offer.lengths = {{6000, 12000}};
+    parts.request.offer.lengths = {{6000, 11000}};
     parts.print = [this](PlanSheet sheet, const planning::Outcome&) {
       sheets_.push_back(sheet);
       return std::string();
@@ -74,7 +74,7 @@ TEST_F(PlanWindow, ShowsBarsToBuyLossesAndBound) {
   EXPECT_EQ(Grid().Cell(0, 0), "D16 異形");
   EXPECT_EQ(Grid().Cell(0, 6), "2");
   EXPECT_EQ(Grid().Cell(1, 0), "合計");
-  EXPECT_EQ(Text("lblLosses"), "ロス　加工帳 50.000 %　→　行ごと 50.000 %　→　計画 0.000 %");
+  EXPECT_EQ(Text("lblLosses"), "ロス　加工帳 50.000 %　→　行ごと 41.667 %　→　計画 0.000 %");
   EXPECT_THAT(Text("lblBound"), StartsWith("下限 0.000 %"));
   EXPECT_THAT(Text("lblCounts"), StartsWith("切断 2"));
 }
