@@ -21,7 +21,10 @@ class WholePrices {
     const double most = dearest * std::max(1, task.LargestCapacity());
     scale_ = most > 0.0 ? kLargest / most : 1.0;
     whole_.resize(prices.size());
-    for (std::size_t i = 0; i < prices.size(); ++i) whole_[i] = static_cast<Worth>(prices[i] * scale_);
+    // An item that fits no bar may be worth more: it is in no content.
+    for (std::size_t i = 0; i < prices.size(); ++i) {
+      whole_[i] = static_cast<Worth>(std::min(prices[i] * scale_, kLargest));
+    }
   }
   Worth Of(int item) const { return whole_[item]; }
   double Back(Worth worth) const { return worth / scale_; }
