@@ -29,12 +29,16 @@ constexpr std::string_view kCreateTables[] = {
 };
 
 /// Rows by name, diameter and stock length: deformed bars and the like, then Ulbon.
+constexpr std::string_view kFillDeformed =
+    "INSERT into WorkTable(登録AN,太さ,S伸切寸,S伸定_本,伸定尺) SELECT 登録名,太さ,sum(伸切寸 * 合計),"
+    "sum(伸総計),伸定尺 from 加工テーブル where 予備2<>2 group by 登録名,太さ,伸定尺";
+constexpr std::string_view kFillUlbon =
+    "INSERT into WorkTable(登録AN,太さ,S伸切寸,S伸定_本,伸定尺) SELECT 登録名,太さ,sum(伸切寸 * 合計),"
+    "sum(伸総計),伸定尺 from 加工テーブル where 予備2=2 group by 登録名,太さ,伸定尺";
 constexpr std::string_view kFillWorkTable[] = {
-    "INSERT into WorkTable(登録AN,太さ,S伸切寸,S伸定_本,伸定尺) SELECT 登録名,太さ,sum(伸切寸 * 合計),"
-    "sum(伸総計),伸定尺 from 加工テーブル where 予備2<>2 group by 登録名,太さ,伸定尺",
+    kFillDeformed,
     "UPDATE WorkTAble SET 材質=1",
-    "INSERT into WorkTable(登録AN,太さ,S伸切寸,S伸定_本,伸定尺) SELECT 登録名,太さ,sum(伸切寸 * 合計),"
-    "sum(伸総計),伸定尺 from 加工テーブル where 予備2=2 group by 登録名,太さ,伸定尺",
+    kFillUlbon,
     "UPDATE WorkTAble SET 材質=2 WHERE isnull(材質)",
     "DELETE 登録AN FROM WorkTable WHERE 登録AN Is Null",
     "DELETE 登録AN FROM WorkTable WHERE 登録AN =0",
