@@ -8,11 +8,11 @@ namespace {
 constexpr std::int64_t kSite = 50'000;        ///< a large site
 constexpr std::int64_t kLargest = 1'000'000;  ///< growth stays linear
 
-/// A miss has to be a step backwards, whatever machine it shows on: the limits stand half as high again as
-/// what is measured. Filters: 40, 50 and 120 ms where the bare aggregation takes 50.
+/// A miss has to be a step backwards, whatever machine it shows on: the limits stand half as high again, or
+/// twice, as what is measured. Filters: 40, 50 and 120 ms where the bare aggregation takes 50.
 constexpr Limit kLimits[] = {
     {"start and end, cold", kSite, Figure::x_bare, 0.3, 0.07},
-    {"bulk tally, cold", kSite, Figure::x_bare, 1.4, 0.9},
+    {"bulk tally, cold", kSite, Figure::x_bare, 2.0, 0.9},
     {"bulk tally, cold", kSite, Figure::syncs, 0, 0},
     {"bulk tally, cold", kLargest, Figure::x_bare, 1.0, 0.5},
     {"bulk tally, cold", kLargest, Figure::peak_mb, 60, 60},
