@@ -2,14 +2,15 @@
 #include "bench_site.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
-#include <stdexcept>
 #include <string>
 
 #include <fmt/format.h>
 
 #include "bench_folder.h"
+#include "cost.h"
 #include "platform/system/services.h"
 #include "session/startup/startup.h"
 #include "shell/context/site_context.h"
@@ -19,22 +20,29 @@ namespace rbt::bench {
 
 namespace fs = std::filesystem;
 
-fs::path MakeDemoRoot(const fs::path& root, std::int64_t rows, int sites) {
-  const std::string command =
-      fmt::format("{} demo {} --sites {} --rows {}", RBTALLY_PROGRAM, root.string(), sites, rows);
-  if (std::system((command + " >/dev/null").c_str()) != 0) throw std::runtime_error("failed: " + command);
-  return root;
+namespace {
+
+/// The settings and the caches of whoever measures are left alone.
+void UseFoldersOf(const fs::path& root) {
+  setenv("RBK_SETTINGS", (root / "settings.ini").c_str(), 1);
+  setenv("XDG_CACHE_HOME", (root / "cache").c_str(), 1);
 }
+
+}  // namespace
 
 void BindSite(std::int64_t rows, int site) {
   static std::map<std::int64_t, fs::path> roots;
   fs::path& root = roots[rows];
   if (root.empty()) {
-    root = MakeDemoRoot(Folder() / ("plan-" + std::to_string(rows)), rows, rows > 10000 ? 1 : 3);
+    const fs::path made = Folder() / ("plan-" + std::to_string(rows));
+    UseFoldersOf(made);
+    CostOf({Command{RBTALLY_PROGRAM, "demo", made, "--sites", rows > 10000 ? "1" : "3", "--rows",
+                    std::to_string(rows)}});
+    root = made;
     std::ofstream(root / "settings.ini") << "[Jyuryo\\定尺]\n定尺13有無=1\n";
   }
   SiteContext = SiteContextData();
-  setenv("RBK_SETTINGS", (root / "settings.ini").c_str(), 1);
+  UseFoldersOf(root);
   Services.Root = root;
   Selection = SelectionData();
   StartOptions options;

@@ -103,6 +103,7 @@ Counts CountsOf(const Command& command, const std::filesystem::path& scratch) {
   setenv("RBTALLY_BENCH_COUNTS", scratch.c_str(), 1);
   const pid_t child = Start(command);
   unsetenv("LD_PRELOAD");
+  unsetenv("RBTALLY_BENCH_COUNTS");
   Await(child, command);
   Counts counts;
   double peak_kb = 0.0;

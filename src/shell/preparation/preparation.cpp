@@ -59,10 +59,6 @@ std::vector<std::string> ClassificationStatements(const StartModeTraits& start_m
   return statements;
 }
 
-void ClassifySchedule(Database& schedule, const StartModeTraits& start_mode) {
-  schedule.ExecuteTogether(ClassificationStatements(start_mode));
-}
-
 std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode, bool has_plate_counts) {
   std::vector<std::string> statements{
       "UPDATE 加工テーブル SET 予備2 = 1 WHERE 予備2 = 2 AND 太さ <> 16",

@@ -9,15 +9,13 @@
 
 namespace rbt {
 
-/// The statements that classify the schedule at load, in their order: material form (`予備3`), dimension
+/// The statements that classify the schedule, in their order: material form (`予備3`), dimension
 /// string (`予備5`), material kind (`予備2`), weld diameter (`圧接太さ`). The form statements read `予備2` as
 /// the last start left it: a threaded shape above 200 of a new schedule takes its form from the next start
 /// on.
 std::vector<std::string> ClassificationStatements(const StartModeTraits& start_mode);
-/// Runs them as one. Rows that do not change are not written.
-void ClassifySchedule(Database& schedule, const StartModeTraits& start_mode);
 
-/// The statements of each return to the menu: thin bars are Ulbon, others that were Ulbon become deformed
+/// The statements of the activation: thin bars are Ulbon, others that were Ulbon become deformed
 /// (of 16 both are possible, and a null `太さ` keeps its kind), anchor plates are counted (none in a start
 /// mode that knows none), slit bars are marked, in this order. Files of old layouts have no `定着板数`.
 std::vector<std::string> ActivationStatements(const StartModeTraits& start_mode, bool has_plate_counts);

@@ -24,7 +24,7 @@ class Classification : public testing::Test {
  protected:
   void Classify(std::int32_t start_mode = kNoStartMode) {
     Database schedule = Database::Open(site_.Data(kScheduleFile));
-    ClassifySchedule(schedule, TraitsOfStartMode(start_mode));
+    schedule.ExecuteTogether(ClassificationStatements(TraitsOfStartMode(start_mode)));
   }
   /// A bar by what its form depends on.
   void AddBar(const Value& shape, const Value& cut_mm, const Value& pieces_per_bar, const Value& kind = {}) {
@@ -176,7 +176,7 @@ TEST_F(Classification, GivesEveryRowWhatTheStatementsInTurnGiveIt) {
     Database in_turn = Database::Open(site.Data("GENBA002.MDB"));
     // Twice: the second start reads the kinds that the first one wrote.
     for (int start = 1; start <= 2; ++start) {
-      ClassifySchedule(together, TraitsOfStartMode(mode));
+      together.ExecuteTogether(ClassificationStatements(TraitsOfStartMode(mode)));
       Transaction transaction(in_turn);
       for (const std::string& statement : ClassificationStatements(TraitsOfStartMode(mode)))
         in_turn.Execute(statement);
