@@ -42,7 +42,9 @@ void Summarize(Database& schedule, Database& names) {
     WriteNameWeights(schedule, names);
   } catch (const Fault&) {
     // Should they not go either, it is the first fault that is told.
-    PassOverFaults([&] { DropWhatTheSummaryLeaves(schedule); });
+    if (const auto second = PassOverFaults([&] { DropWhatTheSummaryLeaves(schedule); })) {
+      LogFailure(second->what());
+    }
     throw;
   }
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "platform/failure_log.h"
 #include "platform/numbers/number_words.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
@@ -74,8 +75,8 @@ void NamesPresenter::BeginWork() {
   names_.clear();
   selected_.clear();
   const ClassifiedSchedule held(Selection.StartMode);
-  // A summary that fails is not told: no weight is shown then, rather than one of former rows.
-  PassOverFaultsOfContent([] { OpenNameWork(); });
+  // A summary that fails is not told on the screen: no weight is shown then, rather than one of former rows.
+  if (const auto fault = PassOverFaultsOfContent([] { OpenNameWork(); })) LogFailure(fault->what());
   if (!SiteContext.NameDatabase) OpenNameWorkWithoutWeights();
   ReadList();
   to_first_row_ = true;
@@ -212,7 +213,7 @@ void NamesPresenter::SendToTally(TallyOfNames tally) {
     OpenTally(open);
   } catch (const Fault&) {
     // The list goes on as far as it can; the first fault is the one that is told.
-    PassOverFaults([this] { ResumeWork(); });
+    if (const auto second = PassOverFaults([this] { ResumeWork(); })) LogFailure(second->what());
     throw;
   }
   ResumeWork();

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/failure_log.h"
 #include "platform/fault.h"
 #include "platform/profile/registry.h"
 #include "session/names/name_site.h"
@@ -159,22 +160,28 @@ TEST_F(WorkWithNames, LeavesNoWorkTableWhereTheWeightsCannotBeWritten) {
 
 TEST_F(WorkWithNames, EndsWithItsObjectWhereAFaultComesFirst) {
   Load();
+  bool opened = false;
   try {
     const NameWork work;
-    EXPECT_TRUE(LeavesWorkTables());
+    opened = LeavesWorkTables();
     throw Fault(FaultKind::overflow, "a tally");
   } catch (const Fault&) {
     EXPECT_FALSE(LeavesWorkTables());
   }
+  EXPECT_TRUE(opened);
   EXPECT_EQ(SiteContext.NameDatabase, nullptr);
 }
 
 TEST_F(WorkWithNames, EndsOnceWhereItIsClosed) {
   Load();
-  NameWork work;
-  work.Close();
-  EXPECT_FALSE(LeavesWorkTables());
-  EXPECT_EQ(SiteContext.NameDatabase, nullptr);
+  const auto logged = LoggedFailures();
+  {
+    NameWork work;
+    work.Close();
+    EXPECT_FALSE(LeavesWorkTables());
+    EXPECT_EQ(SiteContext.NameDatabase, nullptr);
+  }
+  EXPECT_EQ(LoggedFailures(), logged);
 }
 
 TEST_F(WorkWithNames, EndsInAScheduleThatHasBeenClosedMeanwhile) {
