@@ -65,6 +65,10 @@ void CheckColumn(int mm, bool use_13m) {
   if (!HasColumn(mm, use_13m)) throw Refusal("length " + std::to_string(mm) + " has no column");
 }
 
+[[noreturn]] void RefuseDiameter(int diameter) {
+  throw Refusal("no stock length is allowed for " + DiameterName(diameter));
+}
+
 }  // namespace
 
 std::string DiameterName(int diameter) { return "D" + std::to_string(diameter); }
@@ -98,7 +102,19 @@ std::vector<StockLength> AllowedLengths(const BarOffer& offer, const SiteLengths
     }
     lengths.push_back(length);
   }
-  if (lengths.empty()) throw Refusal("no stock length is allowed for " + DiameterName(diameter));
+  if (lengths.empty()) RefuseDiameter(diameter);
+  return lengths;
+}
+
+std::vector<StockLength> LengthsOfSteel(const BarOffer& offer, const SiteLengths* site, const BarSteel& steel,
+                                        Aim aim) {
+  std::vector<StockLength> lengths = AllowedLengths(offer, site, steel.diameter, aim);
+  const auto set = offer.sets.find(steel);
+  if (set == offer.sets.end()) return lengths;
+  const std::vector<int>& taken = set->second;
+  std::erase_if(
+      lengths, [&](const StockLength& length) { return std::ranges::find(taken, length.mm) == taken.end(); });
+  if (lengths.empty()) RefuseDiameter(steel.diameter);
   return lengths;
 }
 

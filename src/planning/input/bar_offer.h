@@ -17,6 +17,8 @@ struct BarOffer {
   std::optional<std::vector<int>> lengths;              ///< mm that may be bought, of every diameter
   std::optional<std::vector<LengthLine>> length_lines;  ///< with `lengths` these say only prices and lots
   std::vector<RestLine> rests;
+  /// Of a steel only these, in mm, out of those that may be bought without them.
+  std::map<BarSteel, std::vector<int>> sets = {};
 };
 
 /// What a site adds: without an offer the lengths are those of the settings and those that its rows have.
@@ -33,6 +35,10 @@ void CheckColumns(const BarOffer& offer, bool use_13m);
 /// The lengths of a diameter that may be bought, rising, with what they cost by the aim. Refusals: "no stock
 /// length is allowed for D16", "no price for D16 6500".
 std::vector<StockLength> AllowedLengths(const BarOffer& offer, const SiteLengths* site, int diameter,
+                                        Aim aim);
+
+/// Those of them that a steel may take. Refusals: also that of a set without any of them.
+std::vector<StockLength> LengthsOfSteel(const BarOffer& offer, const SiteLengths* site, const BarSteel& steel,
                                         Aim aim);
 
 /// The price of a length; nothing where none is offered.

@@ -45,11 +45,11 @@ class ProblemBuilder {
 
   const PlanOptions& Options() const { return problem_.options; }
 
-  /// The lengths that the pieces of a diameter may be cut from.
-  const std::vector<StockLength>& LengthsOf(int diameter) {
-    const auto known = lengths_.find(diameter);
+  /// The lengths that the pieces of a steel may be cut from.
+  const std::vector<StockLength>& LengthsOf(const BarSteel& steel) {
+    const auto known = lengths_.find(steel);
     if (known != lengths_.end()) return known->second;
-    return lengths_[diameter] = AllowedLengths(offer_, site_, diameter, Options().aim);
+    return lengths_[steel] = LengthsOfSteel(offer_, site_, steel, Options().aim);
   }
 
   void Plan(const Scopes::Scope& scope, const BarSteel& steel, int cut_mm, PlannedRow row) {
@@ -74,7 +74,7 @@ class ProblemBuilder {
     for (const auto& [key, cuts] : groups_) supplies[key.second] = 0;
     for (auto& [steel, index] : supplies) {
       index = problem_.supplies.size();
-      problem_.supplies.push_back({steel, LengthsOf(steel.diameter), RestsOf(offer_, steel)});
+      problem_.supplies.push_back({steel, LengthsOf(steel), RestsOf(offer_, steel)});
     }
     for (auto& [key, cuts] : groups_) {
       Group group{names_[key.first], supplies[key.second], {}};
@@ -110,7 +110,7 @@ class ProblemBuilder {
   Problem problem_;
   std::size_t rows_ = 0;
   double dearest_ = 0.0;  ///< what all cuts cost or weigh by themselves
-  std::map<int, std::vector<StockLength>> lengths_;
+  std::map<BarSteel, std::vector<StockLength>> lengths_;
   std::map<int, std::string> names_;
   std::map<std::pair<int, BarSteel>, Cuts> groups_;  ///< by the scope's place and the steel
 };
@@ -125,7 +125,7 @@ class SiteRows {
   bool Take(const SteelRow& row) {
     const BarSteel steel{row.diameter, row.kind, row.hoop};
     const std::optional<Scopes::Scope> scope = scopes_.ScopeOf(row.floor);
-    if (const auto reason = ReasonToKeep(row, scope.has_value())) {
+    if (const auto reason = ReasonToKeep(row, steel, scope.has_value())) {
       builder_.Keep({row.page, row.line, *reason, steel, std::max(0, MmOf(row.stock_m)), BarsOf(row)});
       return false;
     }
@@ -135,14 +135,14 @@ class SiteRows {
   }
 
  private:
-  std::optional<KeptReason> ReasonToKeep(const SteelRow& row, bool in_scope) {
+  std::optional<KeptReason> ReasonToKeep(const SteelRow& row, const BarSteel& steel, bool in_scope) {
     const PlanOptions& options = builder_.Options();
     if (!IsInSums(row.stock_m, closing_)) return KeptReason::column;
     if (row.pieces.value_or(0) < 1 || row.cut_length_mm.value_or(0) < 1) return KeptReason::empty;
     if (*row.cut_length_mm > MmOf(row.stock_m) + options.bar.plus) return KeptReason::joined;
     if (options.keep_welded && row.welded) return KeptReason::welded;
     if (!in_scope) return KeptReason::scope;
-    const std::vector<StockLength>& lengths = builder_.LengthsOf(row.diameter);
+    const std::vector<StockLength>& lengths = builder_.LengthsOf(steel);
     if (!FitsOne(options.bar, lengths, *row.cut_length_mm)) return KeptReason::too_long;
     return std::nullopt;
   }
@@ -186,10 +186,10 @@ Problem MakeProblem(const std::vector<PieceLine>& pieces, const BarOffer& offer,
   const Scopes::Scope site{0, "site"};
   for (const PieceLine& piece : pieces) {
     if (piece.count == 0) continue;
-    const std::vector<StockLength>& lengths = builder.LengthsOf(piece.diameter);
+    const BarSteel steel{piece.diameter, piece.kind, false};
+    const std::vector<StockLength>& lengths = builder.LengthsOf(steel);
     if (!FitsOne(options.bar, lengths, piece.length)) RefusePiece(piece, lengths.back().mm);
-    builder.Plan(site, {piece.diameter, piece.kind, false}, piece.length,
-                 {0, piece.line, piece.count, 0, 0, piece.mark, 0});
+    builder.Plan(site, steel, piece.length, {0, piece.line, piece.count, 0, 0, piece.mark, 0});
   }
   return builder.Build();
 }

@@ -67,6 +67,19 @@ TEST(AllowedLengths, AreRefusedWhereThereAreNoneOrAPriceIsMissing) {
   EXPECT_EQ(RefusalOf([&] { AllowedLengths(offer, nullptr, 13, Aim::money); }), "no price for D13 6500");
 }
 
+TEST(LengthsOfSteel, AreThoseOfItsSetWhereOneWasTaken) {
+  BarOffer offer;
+  offer.lengths = {{6000, 9000, 12000}};
+  offer.sets[{16, 1, false}] = {5000, 9000, 12000};
+  EXPECT_THAT(Mm(LengthsOfSteel(offer, nullptr, {16, 1, false}, Aim::steel)), ElementsAre(9000, 12000));
+  EXPECT_THAT(Mm(LengthsOfSteel(offer, nullptr, {16, 1, true}, Aim::steel)), ElementsAre(6000, 9000, 12000));
+  offer.sets[{16, 1, false}] = {5000};
+  EXPECT_EQ(RefusalOf([&] {
+              LengthsOfSteel(offer, nullptr, {16, 1, false}, Aim::steel);
+            }),
+            "no stock length is allowed for D16");
+}
+
 TEST(CheckColumns, RefusesALengthThatTheTallyHasNoColumnFor) {
   BarOffer offer;
   offer.lengths = {{6000, 5250}};

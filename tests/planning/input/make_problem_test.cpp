@@ -70,6 +70,26 @@ TEST(MakeProblem, PlansARow) {
   EXPECT_EQ(problem.groups[0].cuts[0].rows[0].own_bars, 5);
 }
 
+TEST(MakeProblem, KeepsARowThatTheSetOfItsSteelDoesNotHold) {
+  SiteLengths lengths;
+  lengths.limits.Set(16, 3500, 12000);
+  SteelRow hoop = Row();
+  hoop.hoop = true;
+  SteelRow longer = Row();
+  longer.stock_m = 9.0;
+  longer.cut_length_mm = 8800;
+  BarOffer offer;
+  offer.sets[{16, 1, false}] = {6000};
+  const Problem problem =
+      MakeProblem(Schedule({Row(), longer, hoop}), lengths, offer, Scopes::Of("site").value(), {});
+  ASSERT_THAT(problem.kept, SizeIs(1));
+  EXPECT_EQ(problem.kept[0].reason, KeptReason::too_long);
+  EXPECT_EQ(problem.kept[0].stock_mm, 9000);
+  ASSERT_THAT(problem.supplies, SizeIs(2));
+  EXPECT_THAT(problem.supplies[0].lengths, SizeIs(1));
+  EXPECT_GT(problem.supplies[1].lengths.size(), 1u) << "the set is that of bars, not of hoops";
+}
+
 TEST(MakeProblem, KeepsARowWithoutAColumn) {
   SteelRow row = Row();
   row.stock_m = 12.5;
