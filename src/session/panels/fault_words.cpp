@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "planning/problem/refusal.h"
 #include "platform/fault.h"
 
 namespace rbt {
@@ -81,6 +82,38 @@ constexpr Telling kTellings[] = {
      "下の行に示した設定またはデータを直して下さい。"},
 };
 
+/// The same of a plan that is refused, by its text alone. What lies in a line of a file goes before what a
+/// plan lacks.
+struct Refused {
+  std::string_view mark;
+  std::string_view wrong;
+  std::string_view remedy;
+};
+constexpr Refused kRefusals[] = {
+    {"the plan failed its check", "計画の検算が合いません。",
+     "この計画は使えません。条件を変えて計画し直し、下の行をプログラムの担当者に伝えて下さい。"},
+    {"is longer than the longest bar", "どの定尺よりも長い部材があります。",
+     "長い定尺を加えるか、部材を確かめて下さい。"},
+    {"line ", "表の行が読めません。", "下の行に示した所を直し、UTF-8 で保存し直して下さい。"},
+    {"no stock length is allowed for ", "使える定尺がありません。",
+     "計画の条件の定尺、または設定の最小値と最大値を確かめて下さい。"},
+    {"has no column", "集計表に無い定尺です。",
+     "3500 から 12000 までの 500 きざみ（13000 は設定による）の定尺を入れて下さい。"},
+    {"no price for ", "単価の無い定尺があります。",
+     "定尺の表に単価を入れるか、「金額を最小にする」を外して下さい。"},
+    {"do not hold every piece", "定尺の種類が少なすぎて、全ての部材を取れません。",
+     "定尺の種類を増やすか、0（制限なし）にして下さい。"},
+    {"no length can fill its least lot", "最小の注文量に届く定尺がありません。",
+     "定尺の表の最小の注文量を確かめて下さい。"},
+    {"", "計画ができません。", "計画の条件を変えて下さい。"},
+};
+
+const Refused& Find(const planning::Refusal& refusal) {
+  const std::string_view text = refusal.what();
+  return *std::find_if(std::begin(kRefusals), std::end(kRefusals),
+                       [&](const Refused& each) { return text.find(each.mark) != std::string_view::npos; });
+}
+
 const Telling* Find(const Fault& fault) {
   const auto* const telling =
       std::find_if(std::begin(kTellings), std::end(kTellings), [&](const Telling& each) {
@@ -99,15 +132,25 @@ std::string FileNamedIn(std::string_view text) {
   return std::filesystem::path(path).filename().string();
 }
 
+/// `where` names the file, if there is one.
+std::string WordsOf(const std::exception& fault, std::string_view where, std::string_view wrong,
+                    std::string_view remedy) {
+  const std::string file = FileNamedIn(where);
+  const std::string named = file.empty() ? "" : fmt::format("「{}」\n", file);
+  return fmt::format("{}{}\n{}\n\n{}", named, wrong, remedy, fault.what());
+}
+
 }  // namespace
 
 std::string FaultWords(const std::exception& fault) {
+  if (const auto* const refusal = dynamic_cast<const planning::Refusal*>(&fault)) {
+    const Refused& refused = Find(*refusal);
+    return WordsOf(fault, refusal->what(), refused.wrong, refused.remedy);
+  }
   const auto* const ours = dynamic_cast<const Fault*>(&fault);
   const Telling* const telling = ours == nullptr ? nullptr : Find(*ours);
   if (telling == nullptr) return fmt::format("続けられない誤りが起きました。\n\n{}", fault.what());
-  const std::string file = FileNamedIn(ours->Where());
-  const std::string named = file.empty() ? "" : fmt::format("「{}」\n", file);
-  return fmt::format("{}{}\n{}\n\n{}", named, telling->wrong, telling->remedy, fault.what());
+  return WordsOf(fault, ours->Where(), telling->wrong, telling->remedy);
 }
 
 bool IsOfLock(const std::exception& fault) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "planning/problem/refusal.h"
 #include "platform/fault.h"
 #include "platform/files/system_error.h"
 
@@ -80,6 +81,29 @@ TEST(FaultWords, TellEveryKindInJapaneseWithItsTechnicalLine) {
     const std::string told = FaultWords(fault);
     EXPECT_EQ(told.substr(told.find("\n\n")), std::string("\n\n") + fault.what());
     EXPECT_EQ(told.find("続けられない"), std::string::npos) << told;
+  }
+}
+
+TEST(FaultWords, TellWhyNoPlanCanBeMadeInJapaneseAboveTheRefusalsOwnText) {
+  struct Case {
+    const char* refusal;
+    const char* begin;
+  };
+  const Case cases[] = {
+      {"no stock length is allowed for D16", "使える定尺がありません。\n計画の条件の定尺、"},
+      {"length 5250 has no column", "集計表に無い定尺です。"},
+      {"no price for D16 6500", "単価の無い定尺があります。"},
+      {"D16: no length can fill its least lot", "最小の注文量に届く定尺がありません。"},
+      {"D16: 2 lengths do not hold every piece", "定尺の種類が少なすぎて、"},
+      {"line 7: piece 12500 is longer than the longest bar 12000", "どの定尺よりも長い部材があります。"},
+      {"/home/u/rests.csv: line 3: not a whole number: 12x", "「rests.csv」\n表の行が読めません。"},
+      {"the plan failed its check: D16: a piece is cut twice", "計画の検算が合いません。"},
+      {"something else", "計画ができません。"},
+  };
+  for (const Case& row : cases) {
+    const std::string told = FaultWords(planning::Refusal(row.refusal));
+    EXPECT_EQ(told.rfind(row.begin, 0), 0U) << told;
+    EXPECT_NE(told.find(std::string("\n\n") + row.refusal), std::string::npos) << told;
   }
 }
 
