@@ -65,7 +65,7 @@ void PlanForm::LayOutGrid() {
   columns.reserve(captions.size());
   for (std::size_t c = 0; c < captions.size(); ++c) {
     GridColumn column{.caption = captions[c]};
-    const bool sums = c + 2 >= captions.size();
+    const bool sums = c + 3 >= captions.size() && c + 1 < captions.size();
     column.characters = c == 0 ? kSteelCharacters : sums ? kSumCharacters : kLengthCharacters;
     if (c == 0) column.alignment = Qt::AlignLeft;
     columns.push_back(std::move(column));

@@ -22,6 +22,7 @@ using planning::OutcomeGroup;
 using planning::PurchaseLine;
 
 constexpr std::size_t kFirstLength = 1;
+constexpr std::size_t kRests = kFirstLength + kStockColumns + 2;  // behind number and weight
 constexpr double kUnit = 1e6;
 
 std::string Count(std::int64_t number) { return FormatNumber(number, "#,###"); }
@@ -30,11 +31,6 @@ std::string Kilograms(planning::Milligrams weight) {
 }
 std::string Percent(double percent) { return FormatNumber(percent, "0.000") + " %"; }
 
-std::string SteelText(const BarSteel& steel) {
-  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
-         (steel.hoop ? " フープ" : "");
-}
-
 /// The column of a stock length; nothing for one that the tally has no column for.
 std::optional<std::size_t> ColumnOf(int mm) {
   const int column = StockIndex(mm / 1000.0);
@@ -42,10 +38,11 @@ std::optional<std::size_t> ColumnOf(int mm) {
   return kFirstLength + static_cast<std::size_t>(column);
 }
 
-/// The steels that bars are bought of, in the order of the rows.
+/// The steels that bars are bought or cut of, in the order of the rows.
 std::vector<BarSteel> SteelsOf(const Outcome& outcome) {
   std::set<BarSteel> steels;
   for (const PurchaseLine& line : outcome.purchase) steels.insert(line.steel);
+  for (const OutcomeGroup& group : outcome.groups) steels.insert(group.steel);
   return {steels.begin(), steels.end()};
 }
 
@@ -53,6 +50,7 @@ struct SumRow {
   std::vector<std::int64_t> bars = std::vector<std::int64_t>(kStockColumns, 0);
   std::int64_t all = 0;
   planning::Milligrams weight = 0;
+  std::int64_t rests = 0;
 
   void Add(const PurchaseLine& line) {
     if (const auto column = ColumnOf(line.stock_mm)) bars[*column - kFirstLength] += line.Bars();
@@ -61,13 +59,20 @@ struct SumRow {
   }
   std::vector<std::string> Texts(std::string name) const {
     std::vector<std::string> texts{std::move(name)};
-    texts.reserve(bars.size() + 3);
+    texts.reserve(bars.size() + 4);
     for (const std::int64_t count : bars) texts.push_back(Count(count));
     texts.push_back(Count(all));
     texts.push_back(Kilograms(weight));
+    texts.push_back(Count(rests));
     return texts;
   }
 };
+
+std::int64_t RestBars(const OutcomeGroup& group) {
+  std::int64_t bars = 0;
+  for (const planning::OutcomePattern& of : group.patterns) bars += of.pattern.rest ? of.pattern.bars : 0;
+  return bars;
+}
 
 std::string RowsText(const std::vector<planning::CutShares>& shares) {
   std::string text;
@@ -104,10 +109,13 @@ struct CellBars {
 };
 std::optional<CellBars> CellOf(const Outcome& outcome, std::size_t row, std::size_t column) {
   const std::vector<BarSteel> steels = SteelsOf(outcome);
-  if (row >= steels.size() || column < kFirstLength || column >= kFirstLength + kStockColumns) {
-    return std::nullopt;
-  }
+  const bool of_length = column >= kFirstLength && column < kFirstLength + kStockColumns;
+  if (row >= steels.size() || (!of_length && column != kRests)) return std::nullopt;
   return CellBars{steels[row], column};
+}
+
+bool IsOf(const planning::Pattern& pattern, std::size_t column) {
+  return pattern.rest ? column == kRests : ColumnOf(pattern.stock_mm) == column;
 }
 
 constexpr std::array<ControlHint, 4> kHints{{
@@ -119,13 +127,18 @@ constexpr std::array<ControlHint, 4> kHints{{
 
 }  // namespace
 
+std::string SteelText(const BarSteel& steel) {
+  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
+         (steel.hoop ? " フープ" : "");
+}
+
 std::vector<std::string> PlanCaptions() {
   std::vector<std::string> captions{"鋼材"};
-  captions.reserve(kStockColumns + 3);
+  captions.reserve(kStockColumns + 4);
   for (int column = 0; column < kStockColumns; ++column) {
     captions.push_back(FormatNumber(StockMetres(column), "0.0"));
   }
-  captions.insert(captions.end(), {"本数", "㎏"});
+  captions.insert(captions.end(), {"本数", "㎏", "残材"});
   return captions;
 }
 
@@ -135,6 +148,11 @@ GridRows PlanRows(const Outcome& outcome) {
   for (const PurchaseLine& line : outcome.purchase) {
     sums[line.steel].Add(line);
     total.Add(line);
+  }
+  for (const OutcomeGroup& group : outcome.groups) {
+    const std::int64_t rests = RestBars(group);
+    sums[group.steel].rests += rests;
+    total.rests += rests;
   }
   GridRows rows;
   rows.reserve(sums.size() + 1);
@@ -151,7 +169,7 @@ std::vector<PlanBarView> BarsOfCell(const Outcome& outcome, std::size_t row, std
     const auto shares = planning::SharesOf(group);
     for (std::size_t p = 0; p < group.patterns.size(); ++p) {
       const planning::OutcomePattern& of = group.patterns[p];
-      if (of.pattern.rest || ColumnOf(of.pattern.stock_mm) != cell->column) continue;
+      if (!IsOf(of.pattern, cell->column)) continue;
       bars.push_back(BarOf(of, outcome.options.bar, shares[p]));
     }
   }
@@ -161,7 +179,7 @@ std::vector<PlanBarView> BarsOfCell(const Outcome& outcome, std::size_t row, std
 std::string NameOfCell(const Outcome& outcome, std::size_t row, std::size_t column) {
   const std::optional<CellBars> cell = CellOf(outcome, row, column);
   if (!cell) return "";
-  return SteelText(cell->steel) + " " + PlanCaptions()[column] + " m";
+  return SteelText(cell->steel) + " " + PlanCaptions()[column] + (column == kRests ? "" : " m");
 }
 
 std::vector<std::string> LossTexts(const Outcome& outcome) {
@@ -181,8 +199,12 @@ std::string BoundText(const Outcome& outcome) {
 }
 
 std::string CountsText(const Outcome& outcome) {
-  return fmt::format("切断 {}   パターン {}   定尺 {} 種類", FormatNumber(outcome.plan.common.cuts, "#,##0"),
-                     FormatNumber(outcome.plan.patterns, "#,##0"), outcome.plan.lengths);
+  std::string text =
+      fmt::format("切断 {}   パターン {}   定尺 {} 種類", FormatNumber(outcome.plan.common.cuts, "#,##0"),
+                  FormatNumber(outcome.plan.patterns, "#,##0"), outcome.plan.lengths);
+  if (outcome.plan.usable_weight > 0)
+    text += "   使える残材 " + Kilograms(outcome.plan.usable_weight) + " ㎏";
+  return text;
 }
 
 std::span<const ControlHint> PlanHints() { return kHints; }

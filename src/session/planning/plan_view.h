@@ -30,7 +30,8 @@ struct PlanScreenView {
   std::vector<std::size_t> totals;  ///< rows that are sums of others
   std::vector<std::string> losses;  ///< of the schedule, of the rows alone, of the plan
   std::string bound;                ///< and how far the plan is from it
-  std::string counts;               ///< cuts, patterns, lengths
+  std::string counts;               ///< cuts, patterns, lengths, usable rests
+  std::string choices;              ///< where they are not the usual ones
   std::string progress;             ///< of the search, or how it ended
   bool improving = false;           ///< a thread is at work
   std::string patterns_of;          ///< the cell whose patterns are shown; empty: none
@@ -40,15 +41,18 @@ struct PlanScreenView {
   bool left = false;                ///< the screen is to be closed
 };
 
-/// The captions of the grid: the steel, a column for each stock length, number and weight.
+/// "D16 異形".
+std::string SteelText(const planning::BarSteel& steel);
+
+/// The captions of the grid: the steel, a column for each stock length, number and weight, rest bars.
 std::vector<std::string> PlanCaptions();
 
-/// The bars to buy of a plan: the cells of lengths hold numbers of bars, empty for none; the last row is the
-/// sum.
+/// The bars to buy of a plan, and the rest bars that it cuts: the cells hold numbers of bars, empty for none;
+/// the last row is the sum.
 GridRows PlanRows(const planning::Outcome& outcome);
 
-/// The patterns that cut a steel's bars of one stock length, in all groups; `row` and `column` are those of
-/// `PlanRows`. Empty for any other cell.
+/// The patterns that cut a steel's bars of one stock length, or its rest bars, in all groups; `row` and
+/// `column` are those of `PlanRows`. Empty for any other cell.
 std::vector<PlanBarView> BarsOfCell(const planning::Outcome& outcome, std::size_t row, std::size_t column);
 /// "D16 異形 12.0 m"; empty for a cell that names no bars.
 std::string NameOfCell(const planning::Outcome& outcome, std::size_t row, std::size_t column);
