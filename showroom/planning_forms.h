@@ -7,7 +7,7 @@
 
 namespace rbt {
 
-/// The cutting plan.
+/// The cutting plan and its options.
 std::vector<FormEntry> PlanningForms();
 
 }  // namespace rbt

@@ -32,6 +32,7 @@ struct PlanForm::Action {
 
 std::vector<PlanForm::Action> PlanForm::Actions() {
   return {{"cmdPurchase", Qt::Key_F1, [](PlanPresenter& screen) { screen.Print(PlanSheet::purchase); }},
+          {"cmdOptions", Qt::Key_F2, &PlanPresenter::ChangeChoices},
           {"cmdShop", Qt::Key_F3, [](PlanPresenter& screen) { screen.Print(PlanSheet::shop); }},
           {"cmdExit", Qt::Key_Escape, &PlanPresenter::TurnBack}};
 }
@@ -42,7 +43,8 @@ std::vector<int> PlanForm::Keys() {
   return keys;
 }
 
-PlanForm::PlanForm(PlanParts parts) : ui_(std::make_unique<Ui::PlanForm>()), presenter_(std::move(parts)) {
+PlanForm::PlanForm(PlanParts parts, SitePlan plan)
+    : ui_(std::make_unique<Ui::PlanForm>()), presenter_(std::move(parts), std::move(plan)) {
   ui_->setupUi(this);
   PrepareForm(*this);
   LayOutGrid();
@@ -115,6 +117,9 @@ void PlanForm::Show() {
   ui_->lblLosses->setText("ロス　" + losses.join("　→　"));
   ui_->lblBound->setText(Text(view.bound));
   ui_->lblCounts->setText(Text(view.counts));
+  ui_->lblChoices->setText(Text(view.choices));
+  ui_->lblChoices->setToolTip(Text(view.choices));
+  ui_->lblChoices->setVisible(!view.choices.empty());
   ui_->lblProgress->setText(Text(view.progress));
   ui_->lblPatterns->setText(Text(view.patterns_of));
   ui_->lblPatterns->setVisible(!view.patterns_of.empty());

@@ -19,8 +19,8 @@ namespace rbt {
 /// search runs while it is open.
 class PlanForm : public QWidget {
  public:
-  /// Plans, and begins the search. Throws what keeps it from that.
-  explicit PlanForm(PlanParts parts);
+  /// Shows the plan, and begins the search.
+  PlanForm(PlanParts parts, SitePlan plan);
   ~PlanForm() override;
 
   /// Every key of its table, of the Qt::Key enumeration.

@@ -1,21 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "screens/planning/plan_forms.h"
 
+#include <utility>
+
 #include "desktop/form.h"
 #include "desktop/preview_form.h"
 #include "screens/planning/plan_form.h"
+#include "screens/planning/plan_options_form.h"
 
 namespace rbt {
 
-std::unique_ptr<QWidget> MakePlanForm() {
+namespace {
+
+/// Shows a window over the active one; gives what was taken there.
+template <typename Form>
+std::optional<PlanChoices> Ask(const PlanChoices& choices) {
+  Form form(choices);
+  ShowModally(form);
+  return form.Taken();
+}
+
+PlanParts Parts() {
   PlanParts parts;
-  parts.request.options.bar.plus = DefaultPlus();
+  parts.ask_choices = Ask<PlanOptionsForm>;
   parts.print = [](PlanSheet sheet, const planning::Outcome& outcome) {
     return ShowPlanSheet(sheet, outcome, ShowPreview);
   };
-  return std::make_unique<PlanForm>(std::move(parts));
+  return parts;
 }
 
-void OpenPlan() { ShowInPlace(*MakePlanForm()); }
+}  // namespace
+
+std::unique_ptr<QWidget> MakePlanForm() {
+  std::optional<SitePlan> plan = OpenSitePlan(Ask<PlanOptionsForm>);
+  if (!plan) return nullptr;
+  return std::make_unique<PlanForm>(Parts(), std::move(*plan));
+}
+
+std::unique_ptr<QWidget> MakePlanOptionsForm() {
+  return std::make_unique<PlanOptionsForm>(RememberedChoices().choices);
+}
+
+void OpenPlan() {
+  if (const std::unique_ptr<QWidget> form = MakePlanForm()) ShowInPlace(*form);
+}
 
 }  // namespace rbt

@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <exception>
 #include <functional>
-#include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
+#include <utility>
 
-#include "planning/problem/plan.h"
-#include "planning/problem/problem.h"
-#include "session/planning/plan_request.h"
+#include "session/planning/plan_search.h"
 #include "session/planning/plan_sheets.h"
 #include "session/planning/plan_view.h"
+#include "session/planning/site_plan.h"
 
 namespace rbt {
 
 /// What the plan screen leans on.
 struct PlanParts {
-  PlanRequest request = {};
-  double time_limit = 60.0;  ///< seconds that the search may take
+  AskChoices ask_choices;  ///< shows the choices and lets the user change them
   /// Prints a sheet, or shows it first; gives the printer that took it, empty for none.
   std::function<std::string(PlanSheet sheet, const planning::Outcome& outcome)> print;
 };
@@ -29,9 +25,7 @@ struct PlanParts {
 /// stop.
 class PlanPresenter {
  public:
-  /// Reads the bound site as the bulk tally does and plans it greedily. Throws what the tally throws, and
-  /// `planning::Refusal` where no plan can be made.
-  explicit PlanPresenter(PlanParts parts);
+  PlanPresenter(PlanParts parts, SitePlan plan);
   PlanPresenter(const PlanPresenter&) = delete;
   PlanPresenter& operator=(const PlanPresenter&) = delete;
   /// Stops the search and waits for its end.
@@ -39,11 +33,14 @@ class PlanPresenter {
 
   PlanScreenView View() const;
 
-  /// Begins the search, once. `news` is called by its thread whenever there is something to take.
+  /// Begins the search, once, and again with every other plan. `news` is called by its thread whenever there
+  /// is something to take.
   void Improve(std::function<void()> news);
   /// Takes what the search has found. Throws what has ended it.
   void TakeNews();
 
+  /// Asks for other choices and plans by them. Throws what the tally throws; the plan stays as it is then.
+  void ChangeChoices();
   /// The patterns of a cell of the grid.
   void OpenCell(std::size_t row, std::size_t column);
   void Print(PlanSheet sheet);
@@ -51,32 +48,21 @@ class PlanPresenter {
   /// screen.
   void TurnBack();
 
-  const planning::Outcome& Outcome() const { return outcome_; }
+  const planning::Outcome& Outcome() const { return plan_.outcome; }
+  const PlanChoices& Choices() const { return plan_.choices; }
 
  private:
-  struct News {
-    planning::Plan plan;
-    std::size_t done = 0;
-    std::size_t of = 0;
-    bool ended = false;
-    std::exception_ptr fault;
-  };
-
-  void Search(const std::stop_token& stop, const std::function<void()>& news);
-  void Put(News found);
+  void PlanAnew(const AskChoices& ask);
+  void Begin();
 
   PlanParts parts_;
-  planning::Problem problem_;
-  planning::Outcome outcome_;
+  SitePlan plan_;
   std::string progress_;
   std::string notice_;
   std::optional<std::pair<std::size_t, std::size_t>> cell_;  ///< whose patterns are shown
   bool left_ = false;
-
-  std::mutex mutex_;
-  std::optional<News> found_;  ///< by the thread, not taken yet
-  bool improving_ = false;     ///< of the screen's own thread alone
-  std::jthread search_;        ///< goes first
+  std::function<void()> news_;
+  PlanSearch search_;  ///< goes first: it works on the problem
 };
 
 }  // namespace rbt

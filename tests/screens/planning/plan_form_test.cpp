@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/planning/plan_form.h"
 
+#include <optional>
 #include <thread>
 
 #include <QLabel>
@@ -37,12 +38,14 @@ class PlanWindow : public ::testing::Test {
                     {"伸総計", Number(bars)}});
     }
     PlanParts parts;
-    parts.request.offer.lengths = {{6000, 11000}};
+    parts.ask_choices = [this](const PlanChoices& choices) { return Answer("options", choices); };
     parts.print = [this](PlanSheet sheet, const planning::Outcome&) {
       sheets_.push_back(sheet);
       return std::string();
     };
-    form_ = std::make_unique<PlanForm>(std::move(parts));
+    PlanChoices choices;
+    choices.lengths = {6000, 11000};
+    form_ = std::make_unique<PlanForm>(std::move(parts), PlanSite(choices));
     form_->show();
     form_->activateWindow();
     WaitForEnd();
@@ -57,6 +60,12 @@ class PlanWindow : public ::testing::Test {
     ASSERT_EQ(Text("lblProgress"), "計画ができました");
   }
 
+  std::optional<PlanChoices> Answer(const char* window, PlanChoices choices) {
+    asked_.emplace_back(window);
+    choices.lengths = {12000};
+    return choices;
+  }
+
   void Key(int key) {
     test::Press(*form_, key);
     Settle();
@@ -67,6 +76,7 @@ class PlanWindow : public ::testing::Test {
 
   ScheduleSite site_;
   std::vector<PlanSheet> sheets_;
+  std::vector<std::string> asked_;
   std::unique_ptr<PlanForm> form_;
 };
 
@@ -101,6 +111,15 @@ TEST_F(PlanWindow, PrintsItsSheetsByTheirKeys) {
   Key(Qt::Key_F1);
   Key(Qt::Key_F3);
   EXPECT_THAT(sheets_, ElementsAre(PlanSheet::purchase, PlanSheet::shop));
+}
+
+TEST_F(PlanWindow, OpensItsOptionsByTheirKeyAndPlansByTheirAnswer) {
+  EXPECT_FALSE(form_->findChild<QLabel*>("lblChoices")->text().isEmpty()) << "the lengths are chosen ones";
+  Key(Qt::Key_F2);
+  EXPECT_THAT(asked_, ElementsAre("options"));
+  EXPECT_EQ(Text("lblChoices"), "定尺 12000");
+  WaitForEnd();
+  EXPECT_EQ(Grid().Cell(0, 18), "1");
 }
 
 TEST_F(PlanWindow, EscLeavesWhenTheSearchIsOver) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "session/planning/plan_presenter.h"
 
-#include <condition_variable>
+#include <atomic>
+#include <thread>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "planning/problem/refusal.h"
 #include "support/schedule_site.h"
 
 namespace rbt {
@@ -36,11 +36,13 @@ class PlanScreen : public ::testing::Test {
             {"伸総計", Number(bars)}};
   }
 
-  static PlanParts Parts() {
-    PlanParts parts;
-    parts.request.offer.lengths = {{6000, 11000}};
-    return parts;
+  static PlanChoices Choices() {
+    PlanChoices choices;
+    choices.lengths = {6000, 11000};
+    return choices;
   }
+  /// The screen as it opens.
+  static PlanPresenter Screen(PlanParts parts = {}) { return {std::move(parts), PlanSite(Choices())}; }
 
   /// Until the search has ended.
   static void WaitForEnd(PlanPresenter& screen) {
@@ -54,7 +56,7 @@ class PlanScreen : public ::testing::Test {
 };
 
 TEST_F(PlanScreen, ShowsTheGreedyPlanAtOnce) {
-  const PlanPresenter screen(Parts());
+  const PlanPresenter screen = Screen();
   const PlanScreenView view = screen.View();
   ASSERT_THAT(view.rows, SizeIs(2));
   EXPECT_EQ(view.rows[0][0], "D16 異形");
@@ -70,13 +72,13 @@ TEST_F(PlanScreen, ShowsTheGreedyPlanAtOnce) {
 }
 
 TEST_F(PlanScreen, HasACaptionForEveryColumnOfItsRows) {
-  const PlanPresenter screen(Parts());
+  const PlanPresenter screen = Screen();
   EXPECT_EQ(PlanCaptions().size(), screen.View().rows[0].size());
   EXPECT_EQ(PlanCaptions()[6], "6.0");
 }
 
 TEST_F(PlanScreen, ImprovesUntilItIsDoneAndTellsTheNews) {
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   std::atomic<int> news = 0;
   screen.Improve([&] { ++news; });
   EXPECT_TRUE(screen.View().improving);
@@ -88,7 +90,7 @@ TEST_F(PlanScreen, ImprovesUntilItIsDoneAndTellsTheNews) {
 
 TEST_F(PlanScreen, StopsTheSearchBeforeItIsLeft) {
   for (int pieces = 301; pieces < 420; ++pieces) site_.AddRow(Row(pieces * 13 % 5000 + 300, 900));
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   screen.Improve([] {});
   screen.TurnBack();
   EXPECT_FALSE(screen.View().left);
@@ -98,12 +100,12 @@ TEST_F(PlanScreen, StopsTheSearchBeforeItIsLeft) {
 }
 
 TEST_F(PlanScreen, IsLeftInTheMidstOfASearchThatThenEnds) {
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   screen.Improve([] {});
 }
 
 TEST_F(PlanScreen, OpensThePatternsOfACellAndTurnsBackFromThem) {
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   screen.OpenCell(0, 6);
   PlanScreenView view = screen.View();
   EXPECT_EQ(view.patterns_of, "D16 異形 6.0 m");
@@ -120,7 +122,7 @@ TEST_F(PlanScreen, OpensThePatternsOfACellAndTurnsBackFromThem) {
 }
 
 TEST_F(PlanScreen, OpensNothingWhereNoBarsStand) {
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   for (const auto& [row, column] :
        {std::pair<std::size_t, std::size_t>{0, 5}, {0, 0}, {0, 20}, {1, 6}, {9, 6}}) {
     screen.OpenCell(row, column);
@@ -129,14 +131,14 @@ TEST_F(PlanScreen, OpensNothingWhereNoBarsStand) {
 }
 
 TEST_F(PlanScreen, PrintsWhatItShowsAndTellsThePrinter) {
-  PlanParts parts = Parts();
+  PlanParts parts;
   std::vector<PlanSheet> sheets;
   parts.print = [&](PlanSheet sheet, const planning::Outcome& outcome) {
     sheets.push_back(sheet);
     EXPECT_EQ(outcome.plan.common.bars, 2);
     return std::string("LP-1");
   };
-  PlanPresenter screen(std::move(parts));
+  PlanPresenter screen = Screen(std::move(parts));
   screen.Print(PlanSheet::shop);
   screen.Print(PlanSheet::purchase);
   EXPECT_THAT(sheets, ElementsAre(PlanSheet::shop, PlanSheet::purchase));
@@ -145,16 +147,57 @@ TEST_F(PlanScreen, PrintsWhatItShowsAndTellsThePrinter) {
 
 TEST_F(PlanScreen, HasASumAloneWhereNothingIsToPlan) {
   ScheduleSite empty;
-  PlanPresenter screen(Parts());
+  PlanPresenter screen = Screen();
   screen.Improve([] {});
   EXPECT_FALSE(screen.View().improving);
   ASSERT_THAT(screen.View().rows, SizeIs(1));
 }
 
-TEST_F(PlanScreen, CannotBeOpenedWhereNoPlanCanBeMade) {
-  PlanParts parts = Parts();
-  parts.request.offer.lengths = {{5250}};
-  EXPECT_THROW(PlanPresenter(std::move(parts)), planning::Refusal);
+TEST_F(PlanScreen, PlansAnewByOtherChoicesAndRemembersThem) {
+  PlanParts parts;
+  parts.ask_choices = [](const PlanChoices& choices) {
+    PlanChoices other = choices;
+    other.lengths = {12000};
+    return std::optional(other);
+  };
+  PlanPresenter screen = Screen(std::move(parts));
+  screen.Improve([] {});
+  screen.OpenCell(0, 6);
+  screen.ChangeChoices();
+  const PlanScreenView view = screen.View();
+  EXPECT_EQ(view.rows[0][6], "");
+  EXPECT_EQ(view.rows[0][18], "1");  // 12.0 m
+  EXPECT_EQ(view.choices, "定尺 12000");
+  EXPECT_EQ(view.patterns_of, "");
+  EXPECT_TRUE(view.improving) << "the search has begun again";
+  WaitForEnd(screen);
+  EXPECT_EQ(screen.View().rows[0][18], "1");
+  EXPECT_EQ(RememberedChoices().choices.lengths, std::vector<int>{12000});
+}
+
+TEST_F(PlanScreen, StaysAsItIsWhenNothingElseIsChosen) {
+  PlanParts parts;
+  parts.ask_choices = [](const PlanChoices&) { return std::nullopt; };
+  PlanPresenter screen = Screen(std::move(parts));
+  screen.ChangeChoices();
+  EXPECT_EQ(screen.View().rows[0][6], "2");
+  EXPECT_EQ(screen.Choices(), Choices());
+}
+
+TEST_F(PlanScreen, CutsRestBarsFirstAndShowsTheirPatterns) {
+  site_.Folder().Put("rests.csv", "diameter,kind,length,count\n16,1,6100,1\n");
+  PlanChoices choices = Choices();
+  choices.rests_file = (site_.Folder() / "rests.csv").string();
+  PlanPresenter screen({}, PlanSite(choices));
+  PlanScreenView view = screen.View();
+  EXPECT_EQ(view.rows[0][6], "1");
+  EXPECT_EQ(view.rows[0][22], "1");
+  screen.OpenCell(0, 22);
+  view = screen.View();
+  EXPECT_EQ(view.patterns_of, "D16 異形 残材");
+  ASSERT_THAT(view.bars, SizeIs(1));
+  EXPECT_EQ(view.bars[0].stock_mm, 6100);
+  EXPECT_EQ(view.bars[0].left_mm, 100);
 }
 
 }  // namespace

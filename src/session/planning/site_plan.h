@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "planning/outcome/outcome.h"
+#include "planning/problem/problem.h"
+#include "session/planning/plan_choices.h"
+
+namespace rbt {
+
+/// A plan of the bound site to begin with: the greedy one.
+struct SitePlan {
+  PlanChoices choices;
+  planning::Problem problem;
+  planning::Outcome outcome;
+};
+
+/// The problem of the bound site as the bulk tally reads it, under the selection. Throws what the tally
+/// throws; refusals: see `SiteProblem`.
+planning::Problem TalliedProblem(const PlanRequest& request);
+
+/// Plans the site by the choices. Throws what `RequestOf` and `TalliedProblem` throw, and
+/// `planning::Refusal` where no plan can be made.
+SitePlan PlanSite(const PlanChoices& choices);
+
+/// Lets the user change choices; nothing when they are left as they are.
+using AskChoices = std::function<std::optional<PlanChoices>(const PlanChoices& choices)>;
+
+/// The plan by the choices that are asked for: as often as they are refused, which is told, others are asked
+/// for. They are remembered. Nothing when the user leaves it at that.
+std::optional<SitePlan> ChangeSitePlan(const AskChoices& ask, const PlanChoices& choices);
+
+/// The plan by the choices that are remembered for the site; where these are refused or cannot be read,
+/// others are asked for.
+std::optional<SitePlan> OpenSitePlan(const AskChoices& ask);
+
+}  // namespace rbt
