@@ -3,10 +3,14 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
+#include <QThread>
 
 #include "desktop/grid_control.h"
+#include "screens/planning/plan_advice_form.h"
 #include "screens/planning/plan_form.h"
 #include "screens/planning/plan_forms.h"
 #include "screens/planning/plan_options_form.h"
@@ -46,6 +50,17 @@ void FillIn(QWidget& form) {
   form.findChild<QCheckBox*>("chkKeepWelded")->click();
 }
 
+/// Until the curves stand, whose search ends as an event.
+void AwaitCurves(QWidget& form) {
+  constexpr qint64 kPatience = 60'000;
+  QElapsedTimer waited;
+  waited.start();
+  while (static_cast<const PlanAdviceForm&>(form).Searching() && waited.elapsed() < kPatience) {
+    QApplication::processEvents();
+    QThread::msleep(1);
+  }
+}
+
 }  // namespace
 
 std::vector<FormEntry> PlanningForms() {
@@ -58,7 +73,12 @@ std::vector<FormEntry> PlanningForms() {
            .make = MakeOnSite<MakePlanOptionsForm>,
            .first_focus = "txtKerf",
            .keys = PlanOptionsForm::Keys(),
-           .states = {{"options", [](QWidget&) {}}, {"filled-in", FillIn}}}};
+           .states = {{"options", [](QWidget&) {}}, {"filled-in", FillIn}}},
+          {.name = "PlanAdviceForm",
+           .make = MakeOnSite<MakePlanAdviceForm>,
+           .first_focus = "dbgAdvice",
+           .keys = PlanAdviceForm::Keys(),
+           .states = {{"curves", AwaitCurves}, {"searching", [](QWidget&) {}}}}};
 }
 
 }  // namespace rbt

@@ -7,7 +7,7 @@
 
 namespace rbt {
 
-/// The cutting plan and its options.
+/// The cutting plan, its options, and the advice which lengths to buy.
 std::vector<FormEntry> PlanningForms();
 
 }  // namespace rbt

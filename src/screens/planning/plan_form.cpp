@@ -34,6 +34,7 @@ std::vector<PlanForm::Action> PlanForm::Actions() {
   return {{"cmdPurchase", Qt::Key_F1, [](PlanPresenter& screen) { screen.Print(PlanSheet::purchase); }},
           {"cmdOptions", Qt::Key_F2, &PlanPresenter::ChangeChoices},
           {"cmdShop", Qt::Key_F3, [](PlanPresenter& screen) { screen.Print(PlanSheet::shop); }},
+          {"cmdAdvice", Qt::Key_F5, &PlanPresenter::Advise},
           {"cmdExit", Qt::Key_Escape, &PlanPresenter::TurnBack}};
 }
 

@@ -5,6 +5,7 @@
 
 #include "desktop/form.h"
 #include "desktop/preview_form.h"
+#include "screens/planning/plan_advice_form.h"
 #include "screens/planning/plan_form.h"
 #include "screens/planning/plan_options_form.h"
 
@@ -12,7 +13,7 @@ namespace rbt {
 
 namespace {
 
-/// Shows a window over the active one; gives what was taken there.
+/// Shows one of the two windows over the active one; gives what was taken there.
 template <typename Form>
 std::optional<PlanChoices> Ask(const PlanChoices& choices) {
   Form form(choices);
@@ -23,6 +24,7 @@ std::optional<PlanChoices> Ask(const PlanChoices& choices) {
 PlanParts Parts() {
   PlanParts parts;
   parts.ask_choices = Ask<PlanOptionsForm>;
+  parts.advise = Ask<PlanAdviceForm>;
   parts.print = [](PlanSheet sheet, const planning::Outcome& outcome) {
     return ShowPlanSheet(sheet, outcome, ShowPreview);
   };
@@ -39,6 +41,10 @@ std::unique_ptr<QWidget> MakePlanForm() {
 
 std::unique_ptr<QWidget> MakePlanOptionsForm() {
   return std::make_unique<PlanOptionsForm>(RememberedChoices().choices);
+}
+
+std::unique_ptr<QWidget> MakePlanAdviceForm() {
+  return std::make_unique<PlanAdviceForm>(RememberedChoices().choices);
 }
 
 void OpenPlan() {

@@ -12,8 +12,9 @@ namespace rbt {
 /// gives none. Throws what the tally throws.
 std::unique_ptr<QWidget> MakePlanForm();
 
-/// The options of that plan, made and loaded.
+/// The options and the advice of that plan, made and loaded.
 std::unique_ptr<QWidget> MakePlanOptionsForm();
+std::unique_ptr<QWidget> MakePlanAdviceForm();
 
 /// Shows the plan in place of the active window and returns when it is left.
 void OpenPlan();

@@ -78,6 +78,8 @@ void PlanPresenter::PlanAnew(const AskChoices& ask) {
 
 void PlanPresenter::ChangeChoices() { PlanAnew(parts_.ask_choices); }
 
+void PlanPresenter::Advise() { PlanAnew(parts_.advise); }
+
 void PlanPresenter::OpenCell(std::size_t row, std::size_t column) {
   cell_.reset();
   if (!BarsOfCell(plan_.outcome, row, column).empty()) cell_ = {row, column};

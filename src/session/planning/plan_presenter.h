@@ -16,6 +16,7 @@ namespace rbt {
 /// What the plan screen leans on.
 struct PlanParts {
   AskChoices ask_choices;  ///< shows the choices and lets the user change them
+  AskChoices advise;  ///< shows what fewer lengths would lose; gives the choices with the set that was taken
   /// Prints a sheet, or shows it first; gives the printer that took it, empty for none.
   std::function<std::string(PlanSheet sheet, const planning::Outcome& outcome)> print;
 };
@@ -41,6 +42,8 @@ class PlanPresenter {
 
   /// Asks for other choices and plans by them. Throws what the tally throws; the plan stays as it is then.
   void ChangeChoices();
+  /// The same with a set of lengths out of the advice.
+  void Advise();
   /// The patterns of a cell of the grid.
   void OpenCell(std::size_t row, std::size_t column);
   void Print(PlanSheet sheet);

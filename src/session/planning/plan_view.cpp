@@ -118,11 +118,12 @@ bool IsOf(const planning::Pattern& pattern, std::size_t column) {
   return pattern.rest ? column == kRests : ColumnOf(pattern.stock_mm) == column;
 }
 
-constexpr std::array<ControlHint, 5> kHints{{
+constexpr std::array<ControlHint, 6> kHints{{
     {"dbgPlan", "矢印で移る、Enter でその定尺の切断パターンを見る"},
     {"cmdPurchase", "購買計画表を印字する"},
     {"cmdOptions", "切断しろ・定尺・残材など、計画の条件を変える"},
     {"cmdShop", "切断指示書を印字する"},
+    {"cmdAdvice", "買う定尺の種類を減らしたときのロスを比べて選ぶ"},
     {"cmdExit", "探すのをやめて今の計画を残す、次に一つ前に戻る"},
 }};
 

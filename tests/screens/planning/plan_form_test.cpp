@@ -39,6 +39,7 @@ class PlanWindow : public ::testing::Test {
     }
     PlanParts parts;
     parts.ask_choices = [this](const PlanChoices& choices) { return Answer("options", choices); };
+    parts.advise = [this](const PlanChoices& choices) { return Answer("advice", choices); };
     parts.print = [this](PlanSheet sheet, const planning::Outcome&) {
       sheets_.push_back(sheet);
       return std::string();
@@ -113,13 +114,16 @@ TEST_F(PlanWindow, PrintsItsSheetsByTheirKeys) {
   EXPECT_THAT(sheets_, ElementsAre(PlanSheet::purchase, PlanSheet::shop));
 }
 
-TEST_F(PlanWindow, OpensItsOptionsByTheirKeyAndPlansByTheirAnswer) {
+TEST_F(PlanWindow, OpensOptionsAndAdviceByTheirKeysAndPlansByTheirAnswers) {
   EXPECT_FALSE(form_->findChild<QLabel*>("lblChoices")->text().isEmpty()) << "the lengths are chosen ones";
   Key(Qt::Key_F2);
   EXPECT_THAT(asked_, ElementsAre("options"));
   EXPECT_EQ(Text("lblChoices"), "定尺 12000");
   WaitForEnd();
   EXPECT_EQ(Grid().Cell(0, 18), "1");
+  Key(Qt::Key_F5);
+  EXPECT_THAT(asked_, ElementsAre("options", "advice"));
+  WaitForEnd();
 }
 
 TEST_F(PlanWindow, EscLeavesWhenTheSearchIsOver) {

@@ -184,6 +184,19 @@ TEST_F(PlanScreen, StaysAsItIsWhenNothingElseIsChosen) {
   EXPECT_EQ(screen.Choices(), Choices());
 }
 
+TEST_F(PlanScreen, BuysTheSetThatWasTakenFromTheAdvice) {
+  PlanParts parts;
+  parts.advise = [](const PlanChoices& choices) {
+    PlanChoices other = choices;
+    other.sets[{16, 1, false}] = {11000};
+    return std::optional(other);
+  };
+  PlanPresenter screen = Screen(std::move(parts));
+  screen.Advise();
+  EXPECT_EQ(screen.View().rows[0][16], "2");  // 11.0 m
+  EXPECT_EQ(screen.View().choices, "定尺 6000,11000   助言の定尺 D16 異形 11000");
+}
+
 TEST_F(PlanScreen, CutsRestBarsFirstAndShowsTheirPatterns) {
   site_.Folder().Put("rests.csv", "diameter,kind,length,count\n16,1,6100,1\n");
   PlanChoices choices = Choices();
