@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 namespace rbt {
@@ -131,6 +132,22 @@ class GridControl::Model : public QAbstractTableModel {
   QColor fore_;
 };
 
+/// Lies on the lower edge of the rows. A click there leads to the last row.
+class GridControl::Foot : public QWidget {
+ public:
+  explicit Foot(GridControl& grid) : QWidget(&grid), grid_(grid) { setObjectName("lastRow"); }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    grid_.PaintLastRow(painter, height());
+  }
+  void mousePressEvent(QMouseEvent* /*event*/) override { grid_.scrollToBottom(); }
+
+ private:
+  GridControl& grid_;
+};
+
 GridControl::GridControl(QWidget* parent) : QTableView(parent), model_(new Model(this)), painter_(nullptr) {
   setModel(model_);
   SetPainter(new GridCellPainter(this));
@@ -194,6 +211,7 @@ void GridControl::FillFrame() {
     spare -= share;
     needed -= natural;
   }
+  PlaceFoot();
 }
 
 void GridControl::MeasureUnits() {
@@ -217,6 +235,7 @@ void GridControl::SetRows(std::vector<std::vector<std::string>> rows) {
   MeasureUnits();
   if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
   verticalScrollBar()->setValue(scrolled);
+  PlaceFoot();
 }
 
 int GridControl::RowCount() const { return model_->rowCount(); }
@@ -230,6 +249,52 @@ void GridControl::SetCell(int row, int column, std::string text) {
 void GridControl::SetTotals(const std::vector<std::size_t>& rows) {
   painter_->SetTotals({rows.begin(), rows.end()});
   viewport()->update();
+}
+
+void GridControl::KeepLastRowInSight() {
+  if (foot_ == nullptr) foot_ = new Foot(*this);
+  PlaceFoot();
+}
+
+void GridControl::PlaceFoot() {
+  if (foot_ == nullptr) return;
+  const int last = model_->rowCount() - 1;
+  const QRect rows = viewport()->geometry();
+  const int height = last < 0 ? 0 : rowHeight(last);
+  foot_->setVisible(last >= 0 && rowViewportPosition(last) + height > rows.height());
+  foot_->setGeometry(rows.left(), rows.bottom() + 1 - height, rows.width(), height);
+  foot_->update();
+}
+
+void GridControl::PaintLastRow(QPainter& painter, int height) {
+  painter.fillRect(0, 0, width(), height, palette().color(QPalette::Base));
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.state.setFlag(QStyle::State_Selected, false);
+  option.state.setFlag(QStyle::State_HasFocus, false);
+  const QColor line =
+      QColor::fromRgba(static_cast<QRgb>(style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this)));
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    if (isColumnHidden(column)) continue;
+    option.rect = QRect(columnViewportPosition(column), 0, columnWidth(column) - 1, height - 1);
+    painter_->paint(&painter, option, model_->index(model_->rowCount() - 1, column));
+    painter.setPen(line);
+    painter.drawLine(option.rect.right() + 1, 0, option.rect.right() + 1, height - 1);
+  }
+  painter.drawLine(0, height - 1, width(), height - 1);
+}
+
+/// The current cell does not stay under the last row.
+void GridControl::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  QTableView::scrollTo(index, hint);
+  if (foot_ == nullptr || !foot_->isVisible()) return;
+  const int top = foot_->geometry().top() - viewport()->geometry().top();
+  if (visualRect(index).bottom() >= top) verticalScrollBar()->setValue(verticalScrollBar()->value() + 1);
+}
+
+void GridControl::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  PlaceFoot();
 }
 
 void GridControl::SetAlternateColours(const QColor& back, const QColor& fore) {

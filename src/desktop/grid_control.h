@@ -47,6 +47,9 @@ class GridControl : public QTableView {
   /// Rows that are sums of others, in rising order: set off by a rule and by bold letters.
   void SetTotals(const std::vector<std::size_t>& rows);
 
+  /// The last row, which is their sum, shows at the lower edge as long as it is scrolled out of sight.
+  void KeepLastRowInSight();
+
   /// Every second row in these colours; two invalid colours turn it off.
   void SetAlternateColours(const QColor& back, const QColor& fore);
 
@@ -59,11 +62,13 @@ class GridControl : public QTableView {
   QString SelectedText() const;
 
   QSize sizeHint() const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   /// What a column is wider than its texts, in pixels; before the columns are set.
   void SetPadding(int padding) { padding_ = padding; }
 
@@ -72,12 +77,16 @@ class GridControl : public QTableView {
 
  private:
   class Model;
+  class Foot;
   void LayOutColumns();
   void FillFrame();
   void MeasureUnits();
+  void PlaceFoot();
+  void PaintLastRow(QPainter& painter, int height);
 
   Model* model_;
   GridCellPainter* painter_;
+  Foot* foot_ = nullptr;             ///< the last row, where it is kept in sight
   std::vector<int> natural_widths_;  ///< of the columns that are seen; 0 of the others
   int padding_ = 14;
 };

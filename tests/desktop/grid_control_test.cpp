@@ -125,6 +125,40 @@ TEST(GridControl, ColumnsFillTheFrame) {
   EXPECT_GT(grid.columnWidth(0) + grid.columnWidth(1), grid.viewport()->width()) << "texts are not cut";
 }
 
+TEST(GridControl, KeepsItsLastRowInSightAndTheCurrentCellClearOfIt) {
+  Grid grid;
+  grid.KeepLastRowInSight();
+  Settle();
+  const QWidget& foot = *grid.findChild<QWidget*>("lastRow");
+  const int below = grid.viewport()->geometry().top();
+  int kept = 0;
+  for (int row = 0; row < 49; ++row) {
+    grid.setCurrentIndex(grid.model()->index(row, 1));
+    const QRect cell = grid.visualRect(grid.currentIndex());
+    EXPECT_GE(cell.top(), 0) << row;
+    if (foot.isVisible()) ++kept;
+    EXPECT_TRUE(!foot.isVisible() || cell.bottom() + below < foot.geometry().top()) << row;
+  }
+  EXPECT_GT(kept, 40);
+  grid.setCurrentIndex(grid.model()->index(49, 1));
+  EXPECT_FALSE(foot.isVisible()) << "the row itself can be seen";
+  grid.verticalScrollBar()->setValue(0);
+  EXPECT_TRUE(foot.isVisible());
+}
+
+TEST(GridControl, ShowsTheLastRowAsItIsWhereItStands) {
+  Grid grid;
+  grid.SetTotals({49});
+  grid.KeepLastRowInSight();
+  Settle();
+  const QImage kept = grid.findChild<QWidget*>("lastRow")->grab().toImage();
+  grid.scrollToBottom();
+  Settle();
+  const QRect row = grid.visualRect(grid.model()->index(49, 0)) | grid.visualRect(grid.model()->index(49, 1));
+  const QImage itself = grid.viewport()->grab(row).toImage();
+  EXPECT_EQ(kept.copy(0, 0, row.width(), row.height()), itself);
+}
+
 TEST(GridControl, ShowsWhetherItHasTheFocus) {
   QWidget form;
   QVBoxLayout layout(&form);
