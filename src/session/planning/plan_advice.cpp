@@ -114,7 +114,7 @@ void PlanAdvicePresenter::TakeNews() {
     progress_ = fmt::format("定尺を比べています  {} / {}", found->done, found->of);
     return;
   }
-  planning::Outcome outcome = planning::Describe(problem_, found->plan);
+  planning::Outcome outcome = planning::Describe(problem_, found->plan.value());
   advice_ = std::move(outcome.advice);
   for (OutcomeAdvice& of : advice_) LeaveRepeatsOut(of);
   progress_ = outcome.stopped == planning::Stopped::no ? "定尺を比べました" : "途中まで比べました";

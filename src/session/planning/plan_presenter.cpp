@@ -11,7 +11,7 @@
 namespace rbt {
 
 PlanPresenter::PlanPresenter(PlanParts parts, SitePlan plan)
-    : parts_(std::move(parts)), plan_(std::move(plan)) {}
+    : parts_(std::move(parts)), plan_(std::move(plan)), search_(parts_.make_plan) {}
 
 PlanPresenter::~PlanPresenter() = default;
 
@@ -52,17 +52,15 @@ void PlanPresenter::Begin() {
 void PlanPresenter::TakeNews() {
   const std::optional<PlanSearch::News> found = search_.Take();
   if (!found) return;
-  if (found->fault) {
-    progress_.clear();
-    std::rethrow_exception(found->fault);
-  }
   planning::Outcome& outcome = plan_.outcome;
-  outcome = planning::Describe(plan_.problem, found->plan);
+  if (found->plan) outcome = planning::Describe(plan_.problem, *found->plan);
   if (!found->ended) {
     progress_ = fmt::format("計画を改善しています  {} / {}", found->done, found->of);
-  } else {
-    progress_ = outcome.stopped == planning::Stopped::no ? "計画ができました" : "途中までの最良の計画です";
+    return;
   }
+  const bool done = !found->fault && outcome.stopped == planning::Stopped::no;
+  progress_ = done ? "計画ができました" : "途中までの最良の計画です";
+  if (found->fault) std::rethrow_exception(found->fault);
 }
 
 void PlanPresenter::PlanAnew(const AskChoices& ask) {

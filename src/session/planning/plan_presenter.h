@@ -17,6 +17,7 @@ namespace rbt {
 struct PlanParts {
   AskChoices ask_choices;  ///< shows the choices and lets the user change them
   AskChoices advise;  ///< shows what fewer lengths would lose; gives the choices with the set that was taken
+  PlanSearch::Work make_plan = planning::MakePlan;
   /// Prints a sheet, or shows it first; gives the printer that took it, empty for none.
   std::function<std::string(PlanSheet sheet, const planning::Outcome& outcome)> print;
 };
@@ -37,7 +38,7 @@ class PlanPresenter {
   /// Begins the search, once, and again with every other plan. `news` is called by its thread whenever there
   /// is something to take.
   void Improve(std::function<void()> news);
-  /// Takes what the search has found. Throws what has ended it.
+  /// Takes what the search has found. Throws what has ended it; the best plan so far stands.
   void TakeNews();
 
   /// Asks for other choices and plans by them. Throws what the tally throws; the plan stays as it is then.

@@ -3,9 +3,9 @@
 
 #include <utility>
 
-#include "planning/make_plan.h"
-
 namespace rbt {
+
+PlanSearch::PlanSearch(Work work) : work_(std::move(work)) {}
 
 void PlanSearch::Begin(const planning::Problem& problem, double seconds, std::function<void()> news) {
   End();
@@ -20,12 +20,11 @@ void PlanSearch::Run(const std::stop_token& stop, const planning::Problem& probl
   News last;
   last.ended = true;
   try {
-    last.plan =
-        planning::MakePlan(problem, planning::StopAfter(seconds, [&stop] { return stop.stop_requested(); }),
-                           [&](const planning::Plan& plan, std::size_t done, std::size_t of) {
-                             Put({.plan = plan, .done = done, .of = of, .ended = false, .fault = nullptr});
-                             news();
-                           });
+    last.plan = work_(problem, planning::StopAfter(seconds, [&stop] { return stop.stop_requested(); }),
+                      [&](const planning::Plan& plan, std::size_t done, std::size_t of) {
+                        Put({.plan = plan, .done = done, .of = of, .ended = false, .fault = nullptr});
+                        news();
+                      });
   } catch (...) {  // told on the caller's own thread
     last.fault = std::current_exception();
   }
@@ -35,6 +34,8 @@ void PlanSearch::Run(const std::stop_token& stop, const planning::Problem& probl
 
 void PlanSearch::Put(News found) {
   const std::lock_guard lock(mutex_);
+  // A fault does not take away the plan that was found before it and not taken yet.
+  if (!found.plan && found_) found.plan = std::move(found_->plan);
   found_ = std::move(found);
 }
 

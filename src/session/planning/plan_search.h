@@ -9,24 +9,28 @@
 #include <stop_token>
 #include <thread>
 
-#include "planning/problem/plan.h"
-#include "planning/problem/problem.h"
+#include "planning/make_plan.h"
 
 namespace rbt {
 
 /// A search for the best plan, in a thread of its own. Every call comes from the thread that made it.
 class PlanSearch {
  public:
+  /// Makes the plan: what `planning::MakePlan` is.
+  using Work =
+      std::function<planning::Plan(const planning::Problem& problem, const planning::StopSignal& signal,
+                                   const planning::PlanListener& listener)>;
+
   /// What it has found.
   struct News {
-    planning::Plan plan;
-    std::size_t done = 0;  ///< parts of the work
+    std::optional<planning::Plan> plan;  ///< the best so far; nothing when it has ended before there was one
+    std::size_t done = 0;                ///< parts of the work
     std::size_t of = 0;
     bool ended = false;
-    std::exception_ptr fault;  ///< what has ended it, if that is no plan
+    std::exception_ptr fault;  ///< what has ended it before its time
   };
 
-  PlanSearch() = default;
+  explicit PlanSearch(Work work = planning::MakePlan);
   PlanSearch(const PlanSearch&) = delete;
   PlanSearch& operator=(const PlanSearch&) = delete;
   /// As `End`.
@@ -49,6 +53,7 @@ class PlanSearch {
            const std::function<void()>& news);
   void Put(News found);
 
+  Work work_;
   std::mutex mutex_;
   std::optional<News> found_;  ///< by the thread, not taken yet
   bool running_ = false;       ///< of the caller's thread alone

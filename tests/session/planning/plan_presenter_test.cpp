@@ -2,6 +2,8 @@
 #include "session/planning/plan_presenter.h"
 
 #include <atomic>
+#include <latch>
+#include <stdexcept>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -97,6 +99,43 @@ TEST_F(PlanScreen, StopsTheSearchBeforeItIsLeft) {
   WaitForEnd(screen);
   screen.TurnBack();
   EXPECT_TRUE(screen.View().left);
+}
+
+TEST_F(PlanScreen, KeepsTheBetterPlanThatWasFoundBeforeAFaultAndTellsTheFault) {
+  PlanParts parts;
+  parts.make_plan = [](const planning::Problem& problem, const planning::StopSignal& signal,
+                       const planning::PlanListener& listener) -> planning::Plan {
+    planning::Plan better = planning::MakePlan(problem, signal);
+    // The two rows from a bar of 11.0 m each, so that it can be told from the plan that stands at once.
+    better.groups[0].patterns = {{11000, false, 1, {{4000, 2}, {2000, 1}}}, {11000, false, 1, {{2000, 1}}}};
+    listener(better, 1, 2);
+    throw std::runtime_error("out of memory");
+  };
+  PlanPresenter screen = Screen(std::move(parts));
+  std::latch both(2);
+  screen.Improve([&] { both.count_down(); });
+  both.wait();  // the plan is not taken when the fault comes
+  EXPECT_THROW(screen.TakeNews(), std::runtime_error);
+  const PlanScreenView view = screen.View();
+  EXPECT_EQ(view.rows[0][16], "2");  // 11.0 m
+  EXPECT_EQ(view.rows[0][6], "");
+  EXPECT_FALSE(view.improving);
+  EXPECT_EQ(view.progress, "途中までの最良の計画です");
+}
+
+TEST_F(PlanScreen, KeepsThePlanThatStoodAtOnceWhereAFaultComesFirst) {
+  PlanParts parts;
+  parts.make_plan = [](const planning::Problem&, const planning::StopSignal&,
+                       const planning::PlanListener&) -> planning::Plan {
+    throw std::runtime_error("out of memory");
+  };
+  PlanPresenter screen = Screen(std::move(parts));
+  std::latch one(1);
+  screen.Improve([&] { one.count_down(); });
+  one.wait();
+  EXPECT_THROW(screen.TakeNews(), std::runtime_error);
+  EXPECT_EQ(screen.View().rows[0][6], "2");
+  EXPECT_FALSE(screen.View().improving);
 }
 
 TEST_F(PlanScreen, IsLeftInTheMidstOfASearchThatThenEnds) {
