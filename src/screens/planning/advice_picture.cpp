@@ -68,7 +68,9 @@ void AdvicePicture::PaintMark(QPainter& painter, std::size_t index) const {
   const bool current = index == curve_.current;
   painter.setBrush(palette().color(current ? QPalette::Text : QPalette::Base));
   painter.drawEllipse(at, kRadius, kRadius);
-  painter.drawText(QRect(at.x() - half, at.y() - kRadius - line, 2 * half, line), Qt::AlignCenter, loss);
+  const QRect above(at.x() - half, at.y() - kRadius - line, 2 * half, line);
+  painter.fillRect(above, palette().color(QPalette::Base));  // the line does not strike through it
+  painter.drawText(above, Qt::AlignCenter, loss);
   painter.drawText(QRect(at.x() - half, PlotRect().bottom() + kRadius, 2 * half, line), Qt::AlignCenter,
                    QString::number(mark.count));
 }

@@ -23,7 +23,7 @@ namespace {
 constexpr int kTakeKey = Qt::Key_F1;
 constexpr int kLeaveKey = Qt::Key_Escape;
 /// Widths of the columns of `AdviceCaptions`, in half-width characters.
-constexpr int kCharacters[] = {4, 16, 4, 10, 8, 40};
+constexpr int kCharacters[] = {4, 15, 4, 9, 7, 30};
 
 }  // namespace
 
@@ -58,6 +58,7 @@ void PlanAdviceForm::LayOutGrid() {
   columns[1].alignment = Qt::AlignLeft;
   columns.back().alignment = Qt::AlignLeft;
   ui_->dbgAdvice->SetColumns(std::move(columns));
+  ui_->dbgAdvice->setSelectionBehavior(QAbstractItemView::SelectRows);
   connect(ui_->dbgAdvice->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { ShowCurve(); });
 }

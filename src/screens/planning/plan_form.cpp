@@ -16,14 +16,6 @@
 
 namespace rbt {
 
-namespace {
-
-constexpr int kSteelCharacters = 16;
-constexpr int kLengthCharacters = 5;
-constexpr int kSumCharacters = 10;
-
-}  // namespace
-
 struct PlanForm::Action {
   const char* control;
   int key;
@@ -48,7 +40,6 @@ PlanForm::PlanForm(PlanParts parts, SitePlan plan)
     : ui_(std::make_unique<Ui::PlanForm>()), presenter_(std::move(parts), std::move(plan)) {
   ui_->setupUi(this);
   PrepareForm(*this);
-  LayOutGrid();
   ConnectActions();
   new HintLine(*this, *ui_->lblHelp, PlanHints());
   Show();
@@ -61,20 +52,6 @@ PlanForm::PlanForm(PlanParts parts, SitePlan plan)
 }
 
 PlanForm::~PlanForm() = default;
-
-void PlanForm::LayOutGrid() {
-  std::vector<GridColumn> columns;
-  const std::vector<std::string> captions = PlanCaptions();
-  columns.reserve(captions.size());
-  for (std::size_t c = 0; c < captions.size(); ++c) {
-    GridColumn column{.caption = captions[c]};
-    const bool sums = c + 3 >= captions.size() && c + 1 < captions.size();
-    column.characters = c == 0 ? kSteelCharacters : sums ? kSumCharacters : kLengthCharacters;
-    if (c == 0) column.alignment = Qt::AlignLeft;
-    columns.push_back(std::move(column));
-  }
-  ui_->dbgPlan->SetColumns(std::move(columns));
-}
 
 void PlanForm::ConnectActions() {
   std::vector<FormAction> actions;
@@ -111,8 +88,7 @@ void PlanForm::Show() {
     close();
     return;
   }
-  ui_->dbgPlan->SetRows(view.rows);
-  ui_->dbgPlan->SetTotals(view.totals);
+  ui_->dbgPlan->Show(view);
   QStringList losses;
   for (const std::string& loss : view.losses) losses << Text(loss);
   ui_->lblLosses->setText("ロス　" + losses.join("　→　"));

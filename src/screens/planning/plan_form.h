@@ -33,7 +33,6 @@ class PlanForm : public QWidget {
   struct Action;
   static std::vector<Action> Actions();
 
-  void LayOutGrid();
   void ConnectActions();
   /// Passes an intent on and shows what has become of it, whatever ends it.
   void Do(const std::function<void(PlanPresenter&)>& intent);

@@ -10,7 +10,8 @@
 namespace rbt {
 
 /// Bars drawn to scale, one below the other: a rule at each mark, the length in each piece that has room for
-/// it, the rest hatched, page and line of the pieces beneath. The arrow keys scroll.
+/// it, the rest hatched, page and line of the pieces beneath, on as many lines as they need. The arrow keys
+/// scroll.
 class PlanPicture : public QAbstractScrollArea {
  public:
   explicit PlanPicture(QWidget* parent = nullptr);
@@ -26,11 +27,17 @@ class PlanPicture : public QAbstractScrollArea {
 
  private:
   int BarHeight() const;
-  int BlockHeight() const;
-  void SetRange();
+  int Width() const;
+  /// With so many lines of places.
+  int BlockHeight(int places) const;
+  void LayOut();
   void PaintBar(QPainter& painter, const PlanBarView& bar, int top) const;
+  /// Marks, lengths and the rest of a bar whose outline is `whole`.
+  void PaintPieces(QPainter& painter, const PlanBarView& bar, const QRect& whole) const;
+  int X(std::int64_t mm) const;
 
   std::vector<PlanBarView> bars_;
+  std::vector<int> tops_;  ///< of the bars, and one more: the end
   int longest_mm_ = 1;
 };
 
