@@ -75,8 +75,7 @@ SheetRow RowOf(const PurchaseLine& line) {
           line.yen};
 }
 
-/// A line for each length, one with the sum of each diameter, and one of all. A sum lacks the yen where one
-/// of its lines does.
+/// A line for each length, and one with their sum, which lacks the yen where one of the lines does.
 std::vector<SheetRow> RowsOf(const Outcome& outcome) {
   std::vector<SheetRow> rows;
   rows.reserve(outcome.purchase.size() + 1);

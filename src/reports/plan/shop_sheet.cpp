@@ -68,11 +68,14 @@ std::vector<std::string> PlaceWords(const std::vector<CutShares>& shares) {
   return words;
 }
 
-/// One pattern, or a line of text that stands by itself.
+/// One pattern, below the heading of its group where it is the first one; or a line of text that stands by
+/// itself.
 struct SheetBlock {
-  std::vector<std::string> above;
+  std::string heading = {};  ///< of the pattern's group
+  bool begins = false;       ///< the heading stands above
+  std::vector<std::string> above = {};
   const OutcomePattern* bar = nullptr;  ///< drawn to scale below the first texts
-  std::vector<std::string> below;
+  std::vector<std::string> below = {};
 
   int Lines() const {
     return static_cast<int>(above.size() + below.size()) + (bar != nullptr ? kBarLines : 0) + 1;
@@ -84,6 +87,10 @@ std::string SteelText(const planning::BarSteel& steel) {
          (steel.hoop ? " 溶接フープ" : "");
 }
 
+std::string HeadingOf(const OutcomeGroup& group) {
+  return "■ " + SteelText(group.steel) + (group.scope == "site" ? "" : "   階 " + group.scope);
+}
+
 SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
                    const std::vector<CutShares>& shares) {
   std::string head = fmt::format("{:>4}  {}{} mm  x {} 本   {}   残 {} mm   切断 {}", number,
@@ -93,7 +100,10 @@ SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
   std::vector<std::string> marks;
   marks.reserve(at.size());
   for (const std::int64_t mark : at) marks.push_back(std::to_string(mark));
-  SheetBlock block{Wrapped(head, {}), &of, Wrapped("  墨 ", marks)};
+  SheetBlock block;
+  block.above = Wrapped(head, {});
+  block.bar = &of;
+  block.below = Wrapped("  墨 ", marks);
   for (std::string& line : Wrapped("  行 ", PlaceWords(shares))) block.below.push_back(std::move(line));
   return block;
 }
@@ -101,12 +111,14 @@ SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
 std::vector<SheetBlock> BlocksOf(const Outcome& outcome) {
   std::vector<SheetBlock> blocks;
   for (const OutcomeGroup& group : outcome.groups) {
-    blocks.push_back({{"■ " + SteelText(group.steel) + (group.scope == "site" ? "" : "   階 " + group.scope)},
-                      nullptr,
-                      {}});
     const auto shares = planning::SharesOf(group);
     for (std::size_t p = 0; p < group.patterns.size(); ++p) {
-      blocks.push_back(BlockOf(group.patterns[p], static_cast<int>(p) + 1, outcome.options.bar, shares[p]));
+      SheetBlock& block = blocks.emplace_back(
+          BlockOf(group.patterns[p], static_cast<int>(p) + 1, outcome.options.bar, shares[p]));
+      block.heading = HeadingOf(group);
+      if (p > 0) continue;
+      block.begins = true;
+      block.above.insert(block.above.begin(), {block.heading, ""});
     }
   }
   if (outcome.rests.empty()) return blocks;
@@ -115,7 +127,7 @@ std::vector<SheetBlock> BlocksOf(const Outcome& outcome) {
   for (const planning::UsableRest& rest : outcome.rests) {
     words.push_back(fmt::format("{} {}mm x{}", SteelText(rest.steel), rest.mm, rest.count));
   }
-  for (const std::string& line : Wrapped("使える残材  ", words)) blocks.push_back({{line}, nullptr, {}});
+  for (std::string& line : Wrapped("使える残材  ", words)) blocks.emplace_back().above = {std::move(line)};
   return blocks;
 }
 
@@ -133,12 +145,23 @@ class ShopSheets {
     flow.reserve(blocks_.size());
     for (const SheetBlock& block : blocks_) flow.push_back({block.Lines()});
     DrawPages(pen_, Paginate(flow, {kPlanSheetLines, kPlanSheetLines}),
-              {.head = [this](ReportPen&, const PageOfBlocks&) { DrawPlanHead(pen_, kTitle, head_); },
+              {.head = [this](ReportPen&, const PageOfBlocks& page) { Top(page); },
                .block = [this](ReportPen&, const PlacedBlock& at) { Block(at.row, blocks_[at.block]); },
                .foot = nullptr});
   }
 
  private:
+  /// A page that goes on with a group says which.
+  void Top(const PageOfBlocks& page) {
+    DrawPlanHead(pen_, kTitle, head_);
+    if (page.empty()) return;
+    const SheetBlock& first = blocks_[page.front().block];
+    if (first.begins || first.heading.empty()) return;
+    SetReportFont(pen_.Printer, kTextSize);
+    PrintAt(pen_.Printer, kPlanSheetLeft, kPlanSheetTop - 1.5F * kPlanSheetLine,
+            {first.heading + "（続き）"});
+  }
+
   void Block(int row, const SheetBlock& block) {
     SetReportFont(pen_.Printer, kTextSize);
     const auto y = [&] { return kPlanSheetTop + static_cast<float>(row) * kPlanSheetLine; };

@@ -77,6 +77,8 @@ TEST(DrawShopSheet, CarriesPatternsOverToTheNextPage) {
   const std::string trace = ShopTrace(outcome);
   EXPECT_THAT(trace, HasSubstr("page\t3\n"));
   EXPECT_THAT(trace, HasSubstr("\t3 頁\n"));
+  EXPECT_EQ(CountOf(trace, "■ D16 異形\n"), 1);
+  EXPECT_EQ(CountOf(trace, "■ D16 異形（続き）\n"), 2) << "the other pages say what they go on with";
 }
 
 TEST(DrawPurchaseSheet, TellsEachLineItsSumAndWhatThePlanLoses) {
