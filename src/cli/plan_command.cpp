@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "cli/asked_tally.h"
 #include "cli/command_line.h"
@@ -15,6 +17,7 @@
 #include "planning/outcome/plan_text.h"
 #include "platform/files/files.h"
 #include "platform/print/diverted_deliveries.h"
+#include "platform/print/print_trace.h"
 #include "platform/system/interrupt.h"
 #include "platform/system/printing.h"
 #include "session/planning/plan_sheets.h"
@@ -45,32 +48,52 @@ planning::PlanListener ListenerOf(const planning::Problem& problem, bool progres
   };
 }
 
-void WriteSheet(const std::string& file, PlanSheet sheet, const PlanSheetHead& head,
-                const planning::Outcome& outcome) {
-  if (file.empty()) return;
+/// Returns what the sheet drew.
+std::string WriteSheet(const std::string& file, PlanSheet sheet, const PlanSheetHead& head,
+                       const planning::Outcome& outcome) {
   DivertedDeliveries diverted(Printers(), DivertedDeliveries::From::every_device);
   PrintPlanSheet(sheet, head, outcome);
-  WritePdf(diverted.Take(), file);
+  const std::vector<PrintedDocument> documents = diverted.Take();
+  WritePdf(documents, file);
+  std::string trace;
+  for (const PrintedDocument& document : documents) trace += TraceText(document);
+  return trace;
+}
+
+bool HasSheets(const PlanCommandOptions& options) {
+  return !options.shop_sheet.empty() || !options.purchase_sheet.empty();
+}
+
+void RequireFiles(const PlanCommandOptions& options) {
+  if (!options.trace.empty() && !HasSheets(options)) {
+    throw UsageError("--trace: --shop-sheet or --purchase-sheet says which sheet");
+  }
+  RequireOutputs({{"--shop-sheet", {options.shop_sheet, OutputKind::pdf}},
+                  {"--purchase-sheet", {options.purchase_sheet, OutputKind::pdf}},
+                  {"--trace", {options.trace, OutputKind::trace}}},
+                 options.force);
 }
 
 void WriteSheets(const PlanCommandOptions& options, const planning::Outcome& outcome) {
   const PlanSheetHead head = options.pieces_file.empty() ? PlanHeadOfSite() : PlanHeadOfFile();
-  WriteSheet(options.shop_sheet, PlanSheet::shop, head, outcome);
-  WriteSheet(options.purchase_sheet, PlanSheet::purchase, head, outcome);
+  std::string trace;
+  for (const auto& [file, sheet] : {std::pair{options.shop_sheet, PlanSheet::shop},
+                                    std::pair{options.purchase_sheet, PlanSheet::purchase}}) {
+    if (!file.empty()) trace += WriteSheet(file, sheet, head, outcome);
+  }
+  if (!options.trace.empty()) WriteFileAtomically(options.trace, trace);
 }
 
 void RunPlan(const PlanCommandOptions& options) {
   InterruptWatch interrupt;
-  RequireOutputs({{"--shop-sheet", {options.shop_sheet, OutputKind::pdf}},
-                  {"--purchase-sheet", {options.purchase_sheet, OutputKind::pdf}}},
-                 options.force);
+  RequireFiles(options);
   const PlanRequest request = PlanRequestOf(options);
   const planning::Problem problem = ProblemOf(options, request);
   const planning::StopSignal stop =
       planning::StopAfter(options.time_limit, [&interrupt] { return interrupt.Requested(); });
   const planning::Plan plan = planning::MakePlan(problem, stop, ListenerOf(problem, options.progress));
   const planning::Outcome outcome = planning::Describe(problem, plan);
-  if (!options.shop_sheet.empty() || !options.purchase_sheet.empty()) WriteSheets(options, outcome);
+  if (HasSheets(options)) WriteSheets(options, outcome);
   WriteResult(TextOf(outcome, options.format));
 }
 

@@ -93,6 +93,7 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
                     "what the best 1 to so many lengths would lose");
   line.TextOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
   line.TextOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
+  line.TextOption("--trace", "FILE", options.trace, "writes what the sheets drew, one operation a line");
   AddForceOption(line, options.force);
   line.Flag("--progress", options.progress, "tell on standard error how far the plan is");
 }

@@ -35,6 +35,7 @@ struct PlanCommandOptions {
   double time_limit = 10.0;  ///< seconds
   bool progress = false;
   std::string shop_sheet;      ///< PDF file; empty: none
+  std::string trace;           ///< file for what the sheets drew; empty: none
   std::string purchase_sheet;  ///< likewise
   bool force = false;
   std::string format = "table";
