@@ -6,9 +6,9 @@ usage: golden.py check RBTALLY [SITE]     fails at any difference, at a missing 
        golden.py accept RBTALLY [SITE]    shows each difference, then asks whether to take it (--yes: takes all)
 
 A site is a file of sites/: the words of a scenario (tests/end_to_end/FORMAT.md) that set it up, then a line
-`report OPTIONS`, `list OPTIONS`, `floors OPTIONS` or `parts OPTIONS`: the options that each form of that family is drawn
-with (comparison and Ulbon, purchase lists, floors, parts). A line `only FORM...` leaves the other forms of the family
-out. A trace is SITE.FORM.trace.
+`report OPTIONS`, `list OPTIONS`, `floors OPTIONS`, `parts OPTIONS` or `plan OPTIONS`: the options that each form of that
+family is drawn with (comparison and Ulbon, purchase lists, floors, parts, sheets of the cutting plan). A line
+`only FORM...` leaves the other forms of the family out. A trace is SITE.FORM.trace.
 """
 import difflib
 import pathlib
@@ -22,7 +22,10 @@ sys.path.insert(0, str(HERE.parent / "end_to_end"))
 import scenario  # noqa: E402
 
 # The forms that a site's options are for, by the beginning of their names; the names are the program's own.
-FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",), "floors": ("kai-",), "parts": ("bui-",)}
+FAMILIES = {"report": ("taihi-", "ulbon"), "list": ("meisai-",), "floors": ("kai-",), "parts": ("bui-",),
+            "plan": ("plan-",)}
+# The sheets of the cutting plan, by the options that ask for them.
+SHEETS = {"plan-purchase": "--purchase-sheet", "plan-shop": "--shop-sheet"}
 
 
 class Site:
@@ -42,7 +45,8 @@ class Site:
                 scenario.DIRECTIVES[words[0]](self.world, words[1:])
 
     def all_forms(self):
-        return re.search(r"NAME TEXT:\{([^}]*)\}", self.run("report", "--help")).group(1).split(",")
+        reports = re.search(r"NAME TEXT:\{([^}]*)\}", self.run("report", "--help")).group(1).split(",")
+        return [*reports, *SHEETS]
 
     def family_forms(self):
         return [form for form in self.all_forms() if form.startswith(FAMILIES[self.family])]
@@ -61,7 +65,11 @@ class Site:
 
     def trace(self, form):
         file = self.world.folder / f"{form}.trace"
-        self.run("report", form, *self.options, "--trace", str(file))
+        if form in SHEETS:
+            sheet = str(self.world.folder / f"{form}.pdf")
+            self.run("plan", *self.options, SHEETS[form], sheet, "--trace", str(file))
+        else:
+            self.run("report", form, *self.options, "--trace", str(file))
         return file.read_text(encoding="utf-8")
 
 

@@ -151,6 +151,49 @@ def check_list(form, trace, tally, options, settings):
         yield "総重量", total_weight(rows_of(page)), whole(tally["TotalStockWeight"])
 
 
+def check_purchase(trace, plan):
+    """The lines of the sheet, and their sum at its end; every page tells what is lost."""
+    cells = [texts for page in pages_of(trace) for texts in rows_of(page).values()]
+    lines = [texts for texts in cells if re.fullmatch(r"D\d\d", texts[0])]
+    expected = [[f"D{line['diameter']}", line["stock"], line["planned"], line["kept"], line["bars"]]
+                for line in plan["purchase"]]
+    yield "lines", [[texts[0], *figures(texts[2:6])] for texts in lines], expected
+    for line, texts in zip(plan["purchase"], lines):
+        yield f"weight of {texts[0]}", texts[6].strip(), f"{line['tableKg']:,.1f}"
+        yield f"yen of {texts[0]}", figures(texts[7:]), [] if line["yen"] is None else [whole(line["yen"])]
+    total = next(texts for texts in cells if texts[0] == "合計")
+    sums = [sum(line[word] for line in plan["purchase"]) for word in ("planned", "kept", "bars")]
+    yield "sum", figures([text for text in total[1:] if text.strip()][:3]), sums
+    losses = [texts[0].split()[-2] for texts in cells if "ロス" in texts[0]]
+    told = [f"{plan['figures'][word]['lossPercent']:.3f}" for word in ("schedule", "perRow", "plan")]
+    yield "losses", losses, told * len(pages_of(trace))
+
+
+def check_shop(trace, plan):
+    """Every pattern with its repetitions, contents, rest and cuts, in order; the marks are the ends of the pieces."""
+    texts = [text for page in pages_of(trace) for row in rows_of(page).values() for text in row]
+    head = r"\s*\d+\s+(残材|定尺)\s+(\d+) mm\s+x (\d+) 本\s+(\S+)\s+残 (\d+) mm\s+切断 (\d+)"
+    printed = [match.groups() for match in map(re.compile(head).fullmatch, texts) if match]
+    patterns = [pattern for group in plan["groups"] for pattern in group["patterns"]]
+    yield "patterns", printed, [
+        ("残材" if of["rest"] else "定尺", str(of["stock"]), str(of["bars"]),
+         "+".join(f"{cut}x{count}" for cut, count in of["pieces"]), str(of["left"]), str(of["cuts"]))
+        for of in patterns]
+    marks = [[int(mark) for mark in text.split()[1:]] for text in texts if text.startswith("  墨")]
+    yield "marks", marks, [marks_of(of, plan["options"]) for of in patterns]
+
+
+def marks_of(pattern, options):
+    """From the bar's end, whose trim is cut off first; but not of a bar that is used whole."""
+    whole_bar = pattern["pieces"] == [[pattern["stock"], 1]]
+    marks, at = [], 0 if whole_bar else options["trim"]
+    for cut in [cut for cut, count in pattern["pieces"] for _ in range(count)]:
+        at += cut
+        marks.append(at)
+        at += options["kerf"]
+    return marks
+
+
 def tally_of(site, options):
     """What the forms of the site are drawn from."""
     if site.family == "list":
@@ -161,6 +204,8 @@ def tally_of(site, options):
         given = [word for name, value in options.items() for word in (name, value)
                  if name in ("--floors", "--special", "--kinds", "--uplift")]
         return json.loads(site.run("tally", site.family.removesuffix("s"), "--format", "json", *given))
+    if site.family == "plan":
+        return json.loads(site.run("plan", *site.options, "--format", "json"))
     start_mode = ["--start-mode", options["--start-mode"]] if "--start-mode" in options else []
     return json.loads(site.run("tally", "bulk", "--format", "json", *start_mode))
 
@@ -169,6 +214,8 @@ def checks_of(site, form, trace, tally, options):
     text = site.world.settings.read_text(encoding="utf-8") if site.world.settings.exists() else ""
     if site.family in ("floors", "parts"):
         return floorpart_totals.checks_of(form, trace, tally, options, "定尺13有無=1" in text)
+    if site.family == "plan":
+        return check_shop(trace, tally) if form == "plan-shop" else check_purchase(trace, tally)
     if site.family == "list":
         settings = {"13m": "定尺13有無=1" in text, "empty": "重量の無い太さの印字=1" in text}
         return check_list(form, trace, tally, options, settings)
