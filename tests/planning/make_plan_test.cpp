@@ -72,22 +72,73 @@ TEST(MakePlan, KeepsEveryPromiseWithGreedyEffort) {
   }
 }
 
-TEST(MakePlan, IsNoFurtherFromTheLeastCostThanItsBoundSaysOnTinyProblems) {
-  int best = 0;
-  int all = 0;
-  for (std::uint64_t seed = 1; seed <= 120; ++seed) {
-    RandomKind kind;
-    kind.most_cuts = 3;
-    kind.supplies = 1;
-    kind.scopes = 1;
-    kind.schedule = false;
-    Problem problem = RandomProblem(seed, kind);
-    if (problem.groups.empty()) continue;
-    for (Cut& cut : problem.groups[0].cuts) {
+/// One group of few pieces.
+Problem TinyProblem(std::uint64_t seed, bool limits) {
+  RandomKind kind;
+  kind.most_cuts = 3;
+  kind.supplies = 1;
+  kind.scopes = 1;
+  kind.schedule = false;
+  kind.limits = limits;
+  Problem problem = RandomProblem(seed, kind);
+  for (Group& group : problem.groups) {
+    for (Cut& cut : group.cuts) {
       cut.count = 1 + cut.count % 3;
       cut.rows.resize(1);
       cut.rows[0].pieces = cut.count;
     }
+  }
+  return problem;
+}
+
+/// What the plan of the only group costs; `kNever` where it is refused.
+Micros CostOrRefusal(const Problem& problem, const StopSignal& signal) {
+  try {
+    return CostOf(problem, problem.groups[0], MakePlan(problem, signal).groups[0]);
+  } catch (const Refusal&) {
+    return test::BruteForce::kNever;
+  }
+}
+
+TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNone) {
+  int refused = 0;
+  for (std::uint64_t seed = 1; seed <= 250; ++seed) {
+    Problem problem = TinyProblem(seed, true);
+    if (problem.groups.empty()) continue;
+    const Micros least = test::BruteForce(problem, problem.groups[0]).LeastCost();
+    if (problem.options.max_lengths > 0 ||
+        std::ranges::any_of(problem.supplies[0].lengths, [](const auto& l) { return l.least_lot > 0; })) {
+      EXPECT_EQ(CostOrRefusal(problem, kGoOn), least) << seed;
+    }
+    problem.options.effort = Effort::greedy;
+    const bool impossible = least == test::BruteForce::kNever;
+    EXPECT_EQ(CostOrRefusal(problem, StopAtQuestion(0)) == test::BruteForce::kNever, impossible)
+        << seed << ": nor for want of time";
+    if (impossible) ++refused;
+  }
+  EXPECT_GE(refused, 3);
+}
+
+TEST(MakePlan, IsNotRefusedWhereOtherLengthsThanTheCheapestFillTheirLots) {
+  // Forty pieces of 3.9 m: three on a bar of 12.0 m make 14 bars, one on a bar of 4.0 m 40, two on one of
+  // 8.0 m 20.
+  Problem problem = test::OneGroup({{3900, 40}}, {4000, 8000, 12000});
+  std::vector<StockLength>& lengths = problem.supplies[0].lengths;
+  lengths[0].least_lot = 41 * lengths[0].table_weight;
+  lengths[1].least_lot = 20 * lengths[1].table_weight;
+  lengths[2].least_lot = 15 * lengths[2].table_weight;
+  EXPECT_EQ(CostOrRefusal(problem, kGoOn), 20 * lengths[1].cost);
+  lengths[1].least_lot = 21 * lengths[1].table_weight;
+  EXPECT_EQ(CostOrRefusal(problem, kGoOn), test::BruteForce::kNever)
+      << "no bars are bought just to fill a lot";
+}
+
+TEST(MakePlan, IsNoFurtherFromTheLeastCostThanItsBoundSaysOnTinyProblems) {
+  int best = 0;
+  int all = 0;
+  for (std::uint64_t seed = 1; seed <= 120; ++seed) {
+    const Problem problem = TinyProblem(seed, false);
+    if (problem.groups.empty()) continue;
     const Micros least = test::BruteForce(problem, problem.groups[0]).LeastCost();
     const Plan plan = SolvePlan(problem, kGoOn, nullptr);
     const Micros cost = CostOf(problem, problem.groups[0], plan.groups[0]);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "planning/problem/refusal.h"
 #include "planning/solve/dive.h"
@@ -16,6 +17,9 @@ namespace {
 
 /// Sets of so few lengths are tried besides the lengths that a plan without limits buys.
 constexpr std::size_t kSetsForLots = 3;
+/// Sets from which greedy plans are made to fill the lots, and how many of them are tried by columns.
+constexpr int kGreedySets = 40;
+constexpr std::size_t kBestSets = 3;
 
 Micros CostOf(const std::vector<Candidate>& plans) {
   Micros cost = 0;
@@ -69,6 +73,13 @@ void LimitedSupply::MakeQuickPlan(Pace& pace) {
     if (!pace.Stopped()) ConsiderWithFullLots(UsedLengths(supply_, *best_), false, pace);
     return;
   }
+  // A refusal is no answer for want of time; none of this takes long.
+  Pace patience(nullptr);
+  if (!ConsiderEveryPlan()) SearchFullLots(false, patience);
+  if (!best_) Refuse();
+}
+
+void LimitedSupply::Refuse() const {
   const std::string label = "D" + std::to_string(supply_.steel.diameter);
   const LengthSet cover = Cover(problem_, groups_);
   if (cover.size() > MostLengths()) {
@@ -82,7 +93,7 @@ void LimitedSupply::Improve(Pace& pace) {
   const bool by_columns = problem_.options.effort == Effort::full;
   // The plan from all lengths is the best where it happens to keep the limits.
   const Plans free = Consider(AllLengths(supply_), by_columns, pace);
-  if (KeepsLimits(free)) return;
+  if (ConsiderEveryPlan() || KeepsLimits(free)) return;
   const LengthSet used = UsedLengths(supply_, free);
   if (used.size() <= MostLengths()) ConsiderWithFullLots(used, by_columns, pace);
   const bool has_lots =
@@ -92,6 +103,42 @@ void LimitedSupply::Improve(Pace& pace) {
   for (const LengthSet& set : sets) {
     // A smaller set fills its lots more easily.
     if (has_lots || &set == &sets.back()) ConsiderWithFullLots(set, by_columns, pace);
+  }
+  if (has_lots) SearchFullLots(by_columns, pace);
+}
+
+bool LimitedSupply::ConsiderEveryPlan() {
+  PurchaseLimits limits{MostLengths(), {}};
+  for (std::size_t l = 0; l < supply_.lengths.size(); ++l) {
+    const StockLength& length = supply_.lengths[l];
+    const Milligrams lot = length.least_lot - kept_[l] + length.table_weight - 1;
+    limits.least_bars.push_back(std::max<std::int64_t>(1, lot / length.table_weight));
+  }
+  const EveryPlan every = TryEveryPlan(problem_, groups_, limits);
+  if (every.cheapest) Keep(*every.cheapest);
+  return every.finished;
+}
+
+void LimitedSupply::SearchFullLots(bool by_columns, Pace& pace) {
+  std::vector<LengthSet> open{AllLengths(supply_)};
+  std::set<LengthSet> seen(open.begin(), open.end());
+  std::vector<std::pair<Micros, LengthSet>> full;
+  for (int tried = 0; tried < kGreedySets && !open.empty() && !pace.Stopped(); ++tried) {
+    const LengthSet lengths = std::move(open.back());
+    open.pop_back();
+    const Plans plans = Consider(lengths, false, pace);
+    if (KeepsLimits(plans)) full.emplace_back(CostOf(plans), lengths);
+    const LengthSet emptiest = EmptiestLots(plans, lengths);
+    // The emptiest is left out first.
+    for (auto length = emptiest.rbegin(); length != emptiest.rend(); ++length) {
+      LengthSet others = lengths;
+      std::erase(others, *length);
+      if (seen.insert(others).second) open.push_back(std::move(others));
+    }
+  }
+  std::ranges::sort(full);
+  for (std::size_t set = 0; by_columns && set < std::min(kBestSets, full.size()); ++set) {
+    if (!pace.Stopped()) Consider(full[set].second, true, pace);
   }
 }
 
@@ -134,10 +181,10 @@ void LimitedSupply::ConsiderWithFullLots(LengthSet lengths, bool by_columns, Pac
     const Plans plans = Consider(lengths, by_columns, pace);
     if (KeepsLimits(plans)) return;
     const LengthSet used = UsedLengths(supply_, plans);
-    const std::optional<std::size_t> emptiest = EmptiestLot(plans, used);
-    if (!emptiest) return;
+    const LengthSet emptiest = EmptiestLots(plans, used);
+    if (emptiest.empty()) return;
     lengths = used;
-    std::erase(lengths, *emptiest);
+    std::erase(lengths, emptiest.front());
   }
 }
 
@@ -185,21 +232,21 @@ std::optional<std::int64_t> LimitedSupply::BoughtMm(const LengthSet& lengths, Pa
   return least;
 }
 
-std::optional<std::size_t> LimitedSupply::EmptiestLot(const Plans& plans, const LengthSet& lengths) const {
+LengthSet LimitedSupply::EmptiestLots(const Plans& plans, const LengthSet& lengths) const {
   const std::vector<Milligrams> lots = LotsOf(plans);
-  std::optional<std::size_t> emptiest;
-  double least = 1.0;
+  std::vector<std::pair<double, std::size_t>> shares;
   for (const std::size_t l : lengths) {
     const Milligrams lot = supply_.lengths[l].least_lot;
-    if (lots[l] >= lot) continue;
-    const double share = static_cast<double>(lots[l]) / static_cast<double>(lot);
+    if (lots[l] == 0 || lots[l] >= lot) continue;
     LengthSet others = lengths;
     std::erase(others, l);
-    if (share < least && HoldsAll(problem_, groups_, others)) {
-      emptiest = l;
-      least = share;
-    }
+    if (!HoldsAll(problem_, groups_, others)) continue;
+    shares.emplace_back(static_cast<double>(lots[l]) / static_cast<double>(lot), l);
   }
+  std::ranges::sort(shares);
+  LengthSet emptiest;
+  emptiest.reserve(shares.size());
+  for (const auto& [share, length] : shares) emptiest.push_back(length);
   return emptiest;
 }
 

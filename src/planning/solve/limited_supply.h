@@ -6,6 +6,7 @@
 
 #include "planning/problem/problem.h"
 #include "planning/solve/candidate.h"
+#include "planning/solve/every_plan.h"
 #include "planning/solve/length_search.h"
 #include "planning/solve/pace.h"
 
@@ -23,10 +24,10 @@ class LimitedSupply {
  public:
   LimitedSupply(const Problem& problem, std::size_t supply);
 
-  /// A plan that keeps the limits, from one length where one is enough. Faults: `refused` when no plan was
-  /// found.
+  /// A plan that keeps the limits, from one length where one is enough. Throws `Refusal` where none was
+  /// found: of few pieces every plan was looked at then.
   void MakeQuickPlan(Pace& pace);
-  /// Looks for better sets of lengths.
+  /// Looks for better sets of lengths; of few pieces it finds the cheapest plan.
   void Improve(Pace& pace);
 
   /// What the groups buy from a set of lengths that holds every piece, whatever its number; nothing where no
@@ -46,14 +47,21 @@ class LimitedSupply {
   Plans MakePlans(const LengthSet& lengths, Method method, Pace& pace) const;
   /// As `Consider`; as long as a least lot is not filled, without the length that lacks most of its lot.
   void ConsiderWithFullLots(LengthSet lengths, bool by_columns, Pace& pace);
+  /// Greedy plans from ever smaller sets: where lots are not filled, each time without one of their lengths.
+  /// Then the best of the sets by columns.
+  void SearchFullLots(bool by_columns, Pace& pace);
+  /// Every plan, if there are few; false where there are too many.
+  bool ConsiderEveryPlan();
+  void Refuse() const;
   void Keep(const Plans& plans);
 
   /// Table weight that is bought of each length, rows that stay as scheduled included where bars are planned.
   std::vector<Milligrams> LotsOf(const Plans& plans) const;
   bool FillsLots(const Plans& plans) const;
   bool KeepsLimits(const Plans& plans) const;
-  /// The length that lacks the largest share of its lot and without which the others hold every piece.
-  std::optional<std::size_t> EmptiestLot(const Plans& plans, const LengthSet& lengths) const;
+  /// The lengths that do not fill their lots and without which the others hold every piece, that which lacks
+  /// the largest share first.
+  LengthSet EmptiestLots(const Plans& plans, const LengthSet& lengths) const;
   std::size_t MostLengths() const;
 
   const Problem& problem_;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <tuple>
 #include <vector>
 
 #include "planning/problem/problem.h"
@@ -12,9 +13,13 @@
 namespace rbt::planning::test {
 
 /// The least cost of a small group, all ways tried: the longest piece left goes on some bar with every set of
-/// other pieces that fits.
+/// other pieces that fits. Least lots and the number of lengths are kept to; rows that stay as scheduled are
+/// not looked at.
 class BruteForce {
  public:
+  /// Of a group that no plan can cut.
+  static constexpr Micros kNever = std::numeric_limits<Micros>::max();
+
   BruteForce(const Problem& problem, const Group& group)
       : problem_(problem), supply_(problem.supplies[group.supply]) {
     for (const Cut& cut : group.cuts) {
@@ -22,17 +27,32 @@ class BruteForce {
       left_.push_back(static_cast<int>(cut.count));
     }
     for (const RestBar& rest : supply_.rests) rests_.push_back(static_cast<int>(rest.count));
+    const auto has_lot = [](const StockLength& length) { return length.least_lot > 0; };
+    limited_ = problem.options.max_lengths > 0 || std::ranges::any_of(supply_.lengths, has_lot);
+    bought_.assign(supply_.lengths.size(), 0);
+    for (const StockLength& length : supply_.lengths) {
+      int bars = 1;
+      while (bars * length.table_weight < length.least_lot) ++bars;
+      least_bars_.push_back(bars);
+    }
   }
 
   Micros LeastCost() {
-    const std::pair state{left_, rests_};
+    const std::tuple state{left_, rests_, bought_};
     if (const auto known = known_.find(state); known != known_.end()) return known->second;
     const auto lead = std::ranges::find_if(left_, [](int left) { return left > 0; });
-    if (lead == left_.end()) return 0;
-    Micros best = std::numeric_limits<Micros>::max();
+    if (lead == left_.end()) return KeepsLimits() ? 0 : kNever;
+    Micros best = kNever;
     const auto first = static_cast<std::size_t>(lead - left_.begin());
-    for (const StockLength& length : supply_.lengths) {
-      TryContents(length.mm, first, [&] { best = std::min(best, length.cost + LeastCost()); });
+    for (std::size_t l = 0; l < supply_.lengths.size(); ++l) {
+      const StockLength& length = supply_.lengths[l];
+      const int before = bought_[l];
+      if (limited_) bought_[l] = std::min(before + 1, least_bars_[l]);
+      TryContents(length.mm, first, [&] {
+        const Micros others = LeastCost();
+        if (others != kNever) best = std::min(best, length.cost + others);
+      });
+      bought_[l] = before;
     }
     for (std::size_t r = 0; r < rests_.size(); ++r) {
       if (rests_[r] == 0) continue;
@@ -45,6 +65,16 @@ class BruteForce {
   }
 
  private:
+  bool KeepsLimits() const {
+    int used = 0;
+    for (std::size_t l = 0; l < bought_.size(); ++l) {
+      if (bought_[l] == 0) continue;
+      ++used;
+      if (bought_[l] < least_bars_[l]) return false;
+    }
+    return problem_.options.max_lengths == 0 || used <= problem_.options.max_lengths;
+  }
+
   /// With at least one piece of the first cut that is left.
   void TryContents(int mm, std::size_t first, const std::function<void()>& use) {
     const BarRule& rule = problem_.options.bar;
@@ -77,7 +107,10 @@ class BruteForce {
   std::vector<int> cuts_;
   std::vector<int> left_;
   std::vector<int> rests_;
-  std::map<std::pair<std::vector<int>, std::vector<int>>, Micros> known_;
+  bool limited_ = false;
+  std::vector<int> least_bars_;  ///< that fill the lot of each length
+  std::vector<int> bought_;      ///< of each length, no more than fill its lot; none where nothing is limited
+  std::map<std::tuple<std::vector<int>, std::vector<int>, std::vector<int>>, Micros> known_;
 };
 
 }  // namespace rbt::planning::test
