@@ -37,6 +37,11 @@ void PlanGrid::Show(const PlanScreenView& view) {
   SetTotals(view.totals);
 }
 
+void PlanGrid::resizeEvent(QResizeEvent* event) {
+  GridControl::resizeEvent(event);
+  if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
 void PlanGrid::FitColumns(const GridRows& rows) {
   std::vector<int> needed = characters_;
   for (const std::vector<std::string>& row : rows) {

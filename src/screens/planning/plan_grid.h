@@ -17,6 +17,10 @@ class PlanGrid : public GridControl {
 
   void Show(const PlanScreenView& view);
 
+ protected:
+  /// The cell whose patterns take room from the grid stays in sight.
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void FitColumns(const GridRows& rows);
 
