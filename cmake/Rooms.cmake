@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # The house: each folder of sources is one room, a library of its own that stands on one floor.
 
+include(${CMAKE_CURRENT_LIST_DIR}/Joined.cmake)
+
 # The floors, by the folder below src/ that a room lies in; showroom/ and demo/ stand beside the product.
 set(RBTALLY_FLOORS
   "platform 0" "store 1" "jet 2" "data 2" "shell 3" "tally 4" "planning 5" "archive 5" "reports 5" "session 6"
