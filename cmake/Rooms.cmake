@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # The house: each folder of sources is one room, a library of its own that stands on one floor.
 
+include(${CMAKE_CURRENT_LIST_DIR}/Joined.cmake)
+
 # The floors, by the folder below src/ that a room lies in; showroom/ and demo/ stand beside the product.
 set(RBTALLY_FLOORS
   "platform 0" "store 1" "jet 2" "data 2" "shell 3" "tally 4" "planning 5" "archive 5" "reports 5" "session 6"
@@ -19,16 +21,18 @@ function(rbtally_floor_of room out)
   message(FATAL_ERROR "${room}: its folder has no floor in cmake/Rooms.cmake")
 endfunction()
 
-# rbtally_room([QT] [PIC] SOURCES file... USES room... [LIBRARIES library...]): the folder as a library. A room uses
-# rooms of its own floor or of lower ones, and those stand before it in src/CMakeLists.txt; its files include from those
-# alone, and Qt where it says so. What PIC says it of can also stand in a library that is loaded at run time.
+# rbtally_room([QT] [PIC] SOURCES file... [ALONE file...] USES room... [LIBRARIES library...]): the folder as a library.
+# A room uses rooms of its own floor or of lower ones, and those stand before it in src/CMakeLists.txt; its files include
+# from those alone, and Qt where it says so. What PIC says it of can also stand in a library that is loaded at run time.
+# A file that stands ALONE is never compiled together with others.
 function(rbtally_room)
-  cmake_parse_arguments(ARG "QT;PIC" "" "SOURCES;USES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "QT;PIC" "" "SOURCES;ALONE;USES;LIBRARIES" ${ARGN})
   file(RELATIVE_PATH room ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
   string(REGEX REPLACE "^\\.\\./" "" room "${room}")
   rbtally_floor_of(${room} floor)
   string(REPLACE "/" "_" name "rbtally_${room}")
-  add_library(${name} STATIC ${ARG_SOURCES})
+  rbtally_join(sources ${name} ${ARG_SOURCES})
+  add_library(${name} STATIC ${sources} ${ARG_ALONE})
   add_dependencies(${name} check_rooms)
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   if(CMAKE_CURRENT_SOURCE_DIR STREQUAL "${CMAKE_SOURCE_DIR}/${room}")

@@ -2,20 +2,18 @@
 #include "showroom/detail_forms.h"
 
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "screens/detail/detail_form.h"
 #include "screens/detail/detail_forms.h"
 #include "screens/result/result_forms.h"
 #include "session/result/result_screen.h"
 #include "shell/config/settings.h"
+#include "showroom/click.h"
 #include "tally/kinds/tally_kinds.h"
 
 namespace rbt {
 
 namespace {
-
-void Click(QWidget& form, const char* button) { form.findChild<QPushButton*>(button)->click(); }
 
 std::unique_ptr<QWidget> Make(bool with_weights) {
   Settings.DetailShowsWeight = with_weights ? 1 : 0;

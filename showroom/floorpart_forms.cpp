@@ -2,16 +2,14 @@
 #include "showroom/floorpart_forms.h"
 
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "screens/floorpart/floorpart_form.h"
 #include "screens/floorpart/floorpart_forms.h"
+#include "showroom/click.h"
 
 namespace rbt {
 
 namespace {
-
-void Click(QWidget& form, const char* button) { form.findChild<QPushButton*>(button)->click(); }
 
 /// Questions are answered by their default: yes.
 void RunAllFloors(QWidget& form) {

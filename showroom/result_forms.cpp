@@ -2,16 +2,14 @@
 #include "showroom/result_forms.h"
 
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "screens/result/result_form.h"
 #include "screens/result/result_forms.h"
+#include "showroom/click.h"
 
 namespace rbt {
 
 namespace {
-
-void Click(QWidget& form, const char* button) { form.findChild<QPushButton*>(button)->click(); }
 
 std::vector<FormState> BulkStates() {
   return {{"normal", [](QWidget&) {}},

@@ -5,7 +5,8 @@
 usage: tidy.py BUILD [--all] [--since REVISION] [--tool PROGRAM]
 
 BUILD is a tree of Ninja that is built: what a source reads is known from there, and read it is without precompiled
-headers, so that an include which only they bring is found missing.
+headers, so that an include which only they bring is found missing. What is compiled together is read source by source
+all the same: each must stand by itself.
 
 A source that passed is not read again before something changes that it is made of: its text and that of every file
 it includes, its compile command, the checks, the tool. The digest of all that is its key; keys of sources that passed
@@ -21,6 +22,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -31,6 +33,10 @@ COMMITS_OF_A_LANDING = 30
 DAYS_A_KEY_IS_KEPT = 90
 # They decide how each source is compiled or checked.
 OPTIONS_OF_ALL = {"CMakeLists.txt", "CMakePresets.json", "cmake/Options.cmake", "tools/tidy.py"}
+
+# Only where sources are compiled together is that said, or is it of no weight to what is read.
+COMPILING = {"-Winvalid-pch", "-fpch-preprocess", "-Werror", "-Wno-subobject-linkage"}
+INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*["<]([^">]+)[">]', re.MULTILINE)
 
 ROOT = pathlib.Path(os.getcwd())
 
@@ -79,13 +85,13 @@ def relative(name):
 
 
 def as_read(command):
-    """The command without precompiled headers; a warning of the compiler that is no check is no finding."""
+    """The command without precompiled headers and object; a warning of the compiler that is no check is no finding."""
     kept = []
     words = iter(command)
     for word in words:
-        if word == "-include":
+        if word in ("-include", "-o"):
             next(words)
-        elif word not in ("-Winvalid-pch", "-fpch-preprocess", "-Werror"):
+        elif word not in COMPILING:
             kept.append(word)
     return kept
 
@@ -104,18 +110,63 @@ def dependencies(build):
     return reads
 
 
+def compiled_by(file):
+    """The sources that an entry of the compile commands stands for: what a file of cmake/Joined.cmake holds together."""
+    if file.parent.name != "joined":
+        return [file]
+    return [pathlib.Path(os.path.normpath(file.parent / name)) for name in INCLUDE.findall(file.read_text())]
+
+
+class Included:
+    """The names that files include, as they write them."""
+
+    def __init__(self):
+        self.known = {}
+
+    def by(self, name):
+        if name not in self.known:
+            self.known[name] = INCLUDE.findall((ROOT / name).read_text(errors="replace"))
+        return self.known[name]
+
+
+def share_of(name, reads, build, included):
+    """What a source reads of that which several read together: of the project what it includes, of libraries all."""
+    ours = {}
+    libraries = set()
+    for file in reads:
+        if os.path.isabs(file) and not file.startswith(f"{build}/"):
+            libraries.add(file)
+        else:
+            ours.setdefault(os.path.basename(file), []).append(file)
+    share, pending = set(), [name]
+    while pending:
+        file = pending.pop()
+        if file not in share:
+            share.add(file)
+            for written in included.by(file):
+                # Where it is found the include paths decide: all that it could mean count.
+                end = "/" + written.lstrip("./")
+                pending += [other for other in ours.get(os.path.basename(written), []) if f"/{other}".endswith(end)]
+    return share | libraries
+
+
 def sources_of(build):
     reads = dependencies(build)
+    included = Included()
     tracked = git_lists("ls-files", "-co", "--exclude-standard", "*.cpp")
     found = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        name = relative(entry["file"])
-        if name in tracked and name not in found:
-            command = shlex.split(entry["command"])
-            target = command[command.index("-o") + 1]
-            if target not in reads:
-                sys.exit(f"{name}: {relative(str(build))} is not built")
-            found[name] = Source(name, command, entry["directory"], reads[target])
+        command = shlex.split(entry["command"])
+        target = command[command.index("-o") + 1]
+        files = compiled_by(pathlib.Path(entry["file"]))
+        for file in files:
+            name = relative(str(file))
+            if name in tracked and name not in found:
+                if target not in reads:
+                    sys.exit(f"{name}: {relative(str(build))} is not built")
+                alone = [str(file) if word == entry["file"] else word for word in command]
+                share = share_of(name, reads[target], build, included) if len(files) > 1 else reads[target]
+                found[name] = Source(name, alone, entry["directory"], share)
     missing = sorted(name for name in tracked - found.keys() if (ROOT / name).exists())
     if missing:
         sys.exit("no compile command for: " + " ".join(missing))

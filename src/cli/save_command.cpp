@@ -60,19 +60,15 @@ void RequireWholeSite(const TallyResult& result) {
 
 constexpr std::string_view kWriteFailed = "書き込みに失敗しました。終了します。";
 
-void Require(const std::optional<NameRefusal>& refusal) {
-  if (refusal) throw Fault(FaultKind::database, refusal->text);
-}
-
 /// The name as it is kept.
 std::string NameToSave(const SaveOptions& options, const std::vector<SavedTally>& list,
                        const TallyResult& result, const DateTime& now) {
   const std::string name = options.name.value_or(ProposedName(result, now, Trim(options.memos[0])));
-  Require(RefusedLength(name));
-  Require(RefusedEmptiness(name));
+  RequireName(RefusedLength(name));
+  RequireName(RefusedEmptiness(name));
   const bool is_listed = FindSaved(list, name) != nullptr;
   if (is_listed && !options.replace) throw Fault(FaultKind::database, "同じ名前があります");
-  if (options.name && !is_listed) Require(RefusedCharacter(name));
+  if (options.name && !is_listed) RequireName(RefusedCharacter(name));
   return std::string(Trim(name));
 }
 

@@ -101,17 +101,13 @@ void RunList(const SavedOptions& options) {
 
 // rename
 
-void Require(const std::optional<NameRefusal>& refusal) {
-  if (refusal) throw Fault(FaultKind::database, refusal->text);
-}
-
 void RunRename(const SavedOptions& options) {
   OpenSiteOf(options);
   const std::vector<SavedTally> list = ListOfWord(options.kind);
   const SavedTally& saved = RequireSaved(list, options.names.front());
-  Require(RefusedLength(options.new_name));
-  Require(RefusedEmptiness(options.new_name));
-  Require(RefusedCharacter(options.new_name));
+  RequireName(RefusedLength(options.new_name));
+  RequireName(RefusedEmptiness(options.new_name));
+  RequireName(RefusedCharacter(options.new_name));
   if (FindSaved(list, options.new_name) != nullptr) throw Fault(FaultKind::database, "同じ名前があります");
   const SiteFile site;
   RenameTally(*site, saved, Trim(options.new_name));

@@ -39,6 +39,10 @@ const SavedTally& RequireSaved(const std::vector<SavedTally>& list, const std::s
   return *saved;
 }
 
+void RequireName(const std::optional<NameRefusal>& refusal) {
+  if (refusal) throw Fault(FaultKind::database, refusal->text);
+}
+
 LoadedTally LoadNamed(const std::string& word, const std::string& name) {
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   const std::vector<SavedTally> list = ListOfWord(word);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "archive/store/load_tally.h"
+#include "archive/store/saved_name.h"
 
 namespace rbt {
 
@@ -21,6 +23,9 @@ std::vector<SavedTally> ListOfWord(const std::string& word);
 
 /// The newest of a list by its name; one that is not there throws `database`.
 const SavedTally& RequireSaved(const std::vector<SavedTally>& list, const std::string& name);
+
+/// A name that is refused throws `database` with the words of the refusal.
+void RequireName(const std::optional<NameRefusal>& refusal);
 
 /// Loads the newest of a kind by its name, once the site is open, which is let go. One that is not there, or
 /// is without rows, throws `database`.

@@ -12,8 +12,8 @@ namespace rbt {
 namespace {
 
 /// Between the edge of a cell and its text, and between a number and its unit.
-constexpr int kMargin = 6;
-constexpr int kGap = 4;
+constexpr int kCellMargin = 6;
+constexpr int kCellGap = 4;
 
 QRegularExpressionMatch NumberIn(const QString& text) {
   static const QRegularExpression number(
@@ -45,8 +45,8 @@ bool GridCellPainter::IsTotal(int row) const {
 
 int GridCellPainter::DigitsEnd(const QRect& rect, int column) const {
   const auto at = static_cast<std::size_t>(column);
-  const int room = at < unit_rooms_.size() && unit_rooms_[at] > 0 ? unit_rooms_[at] + kGap : 0;
-  return rect.right() - kMargin - room;
+  const int room = at < unit_rooms_.size() && unit_rooms_[at] > 0 ? unit_rooms_[at] + kCellGap : 0;
+  return rect.right() - kCellMargin - room;
 }
 
 void GridCellPainter::DrawParts(QPainter& painter, const QStyleOptionViewItem& option,
@@ -60,7 +60,8 @@ void GridCellPainter::DrawParts(QPainter& painter, const QStyleOptionViewItem& o
   const int end = DigitsEnd(option.rect, index.column());
   const QRect digits(option.rect.left(), option.rect.top(), end - option.rect.left(), option.rect.height());
   painter.drawText(digits, Qt::AlignRight | Qt::AlignVCenter, parts.number);
-  const QRect unit(end + kGap, option.rect.top(), option.rect.right() - end - kGap, option.rect.height());
+  const QRect unit(end + kCellGap, option.rect.top(), option.rect.right() - end - kCellGap,
+                   option.rect.height());
   painter.drawText(unit, Qt::AlignLeft | Qt::AlignVCenter, parts.unit);
 }
 

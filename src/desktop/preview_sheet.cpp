@@ -21,7 +21,7 @@ constexpr std::array kZoomSteps = {25.0,  33.0,  50.0,  67.0,  75.0,  90.0,
 /// A zoom this close to a step stands on it.
 constexpr double kSameStep = 0.5;
 constexpr double kSmallestPercent = 5.0;
-constexpr int kMargin = 16;
+constexpr int kSheetMargin = 16;
 constexpr int kShadow = 4;
 constexpr int kScrollStep = 40;
 constexpr int kWheelStep = QWheelEvent::DefaultDeltasPerStep;
@@ -55,7 +55,7 @@ PreviewSheet::PreviewSheet(QWidget* parent) : QAbstractScrollArea(parent) {
   for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) bar->setSingleStep(kScrollStep);
 }
 
-int PreviewSheet::Margin() { return kMargin; }
+int PreviewSheet::Margin() { return kSheetMargin; }
 
 double PreviewSheet::ScaleAt(double percent) const {
   return logicalDpiX() / static_cast<double>(kTwipsPerInch) * percent / kWholePercent;
@@ -104,7 +104,7 @@ void PreviewSheet::Rescale(double percent, const QPointF& anchor) {
 double PreviewSheet::FittingPercent() const {
   const double unit = ScaleAt(kWholePercent);
   // The room without scroll bars, lest one that comes or goes changes the zoom that it came from.
-  const QSize room = maximumViewportSize() - QSize(2 * kMargin, 2 * kMargin);
+  const QSize room = maximumViewportSize() - QSize(2 * kSheetMargin, 2 * kSheetMargin);
   const double high = room.height() / (sheet_.height * unit);
   double wide = room.width() / (sheet_.width * unit);
   if (fit_ == Fit::width && wide > high) {
@@ -117,8 +117,8 @@ double PreviewSheet::FittingPercent() const {
 void PreviewSheet::LayOut() {
   if (page_ == nullptr) return;
   if (fit_ != Fit::none) percent_ = FittingPercent();
-  const int across = static_cast<int>(sheet_.width * Scale()) + 2 * kMargin;
-  const int down = static_cast<int>(sheet_.height * Scale()) + 2 * kMargin;
+  const int across = static_cast<int>(sheet_.width * Scale()) + 2 * kSheetMargin;
+  const int down = static_cast<int>(sheet_.height * Scale()) + 2 * kSheetMargin;
   // Whether a bar shows takes room from the other one; two rounds settle it.
   for (int round = 0; round < 2; ++round) {
     const QSize room = viewport()->size();
@@ -135,8 +135,8 @@ QRectF PreviewSheet::SheetPlace() const {
   const double width = sheet_.width * Scale();
   const double height = sheet_.height * Scale();
   const QSize room = viewport()->size();
-  double x = kMargin - horizontalScrollBar()->value();
-  double y = kMargin - verticalScrollBar()->value();
+  double x = kSheetMargin - horizontalScrollBar()->value();
+  double y = kSheetMargin - verticalScrollBar()->value();
   if (horizontalScrollBar()->maximum() == 0) x = (room.width() - width) / 2;
   if (verticalScrollBar()->maximum() == 0) y = (room.height() - height) / 2;
   const double ratio = devicePixelRatioF();

@@ -19,10 +19,6 @@ namespace {
 constexpr std::uint32_t kLongValueOwner = 0x4C41564C;  // "LVAL"
 constexpr std::size_t kMostDamages = 200;
 
-bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
-  return std::binary_search(ascending.begin(), ascending.end(), page);
-}
-
 class Checker {
  public:
   explicit Checker(JetFile& file)

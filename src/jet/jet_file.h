@@ -18,6 +18,9 @@ namespace rbt::jet {
 
 enum class JetVersion { jet3, jet4 };
 
+/// The page of the catalog's definition.
+inline constexpr std::uint32_t kCatalogPage = 2;
+
 /// Byte 0 of a page.
 enum class PageType : std::uint8_t {
   header = 0,

@@ -7,15 +7,14 @@ namespace rbt::jet {
 
 namespace {
 
-constexpr std::uint32_t kCatalogPage = 2;
-constexpr std::uint16_t kNames = 0x80;
+constexpr std::uint16_t kNameBlock = 0x80;
 constexpr std::size_t kBlockHead = 6;  // length and sort
 
 /// Reads the blocks of a property field: first one with all names, then one a table or column with its
 /// values, which name their property by its place among the names.
-class Reader {
+class PropertyReader {
  public:
-  Reader(const JetFile& file, const PageView& bytes) : file_(file), bytes_(bytes) {}
+  PropertyReader(const JetFile& file, const PageView& bytes) : file_(file), bytes_(bytes) {}
 
   std::vector<PropertyMap> Read() {
     const std::string mark(bytes_.Part(0, 4).Bytes().begin(), bytes_.Part(0, 4).Bytes().end());
@@ -26,7 +25,7 @@ class Reader {
       const std::size_t length = bytes_.U32(at);
       if (length < kBlockHead) bytes_.Damaged("a block of properties has no length");
       const PageView block = bytes_.Part(at, length);
-      if (block.U16(4) == kNames) {
+      if (block.U16(4) == kNameBlock) {
         ReadNames(block);
       } else {
         ReadValues(block);
@@ -83,7 +82,7 @@ const Property* PropertyMap::Find(std::string_view name) const {
 
 std::vector<PropertyMap> ReadProperties(const JetFile& file, const Bytes& bytes) {
   if (bytes.empty()) return {};
-  return Reader(file, PageView(bytes, &file.Name(), kCatalogPage)).Read();
+  return PropertyReader(file, PageView(bytes, &file.Name(), kCatalogPage)).Read();
 }
 
 std::string PropertyText(const JetFile& file, const PropertyMap& map, std::string_view name) {

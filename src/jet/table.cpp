@@ -17,7 +17,6 @@ namespace rbt::jet {
 
 namespace {
 
-constexpr std::uint32_t kCatalogPage = 2;
 constexpr std::uint32_t kSystemFlags = 0x80000002;
 
 CatalogEntry::Kind KindOf(std::int64_t type) {
@@ -42,10 +41,6 @@ CatalogEntry::Kind KindOf(std::int64_t type) {
     default:
       return CatalogEntry::Kind::other;
   }
-}
-
-bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
-  return std::binary_search(ascending.begin(), ascending.end(), page);
 }
 
 /// The pages of a usage map, none when it cannot be read.

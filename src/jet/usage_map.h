@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -17,6 +18,11 @@ inline constexpr RowPointer kFreePages{1, 0};
 /// list of bitmap pages. Damage throws `Fault` of kind `file`, and so does a page behind the end of the file,
 /// except in the map of free pages, where such pages are left out.
 std::vector<std::uint32_t> PagesOfUsageMap(JetFile& file, RowPointer map);
+
+/// Whether page numbers in ascending order, as a usage map names them, hold a page.
+inline bool Lists(const std::vector<std::uint32_t>& ascending, std::uint32_t page) {
+  return std::binary_search(ascending.begin(), ascending.end(), page);
+}
 
 /// The bitmap pages that a usage map of the second sort keeps, for the check of who owns which page.
 std::vector<std::uint32_t> BitmapPagesOfUsageMap(JetFile& file, RowPointer map);

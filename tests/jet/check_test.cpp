@@ -11,24 +11,18 @@
 #include "jet/index.h"
 #include "jet/table.h"
 #include "platform/fault.h"
+#include "support/field.h"
 #include "support/jet_writer.h"
 
 namespace rbt::jet {
 namespace {
 
+using test::Field;
 using test::JetTable;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-FieldDef Field(std::string name, FieldType type, int size = 0) {
-  FieldDef field;
-  field.name = std::move(name);
-  field.type = type;
-  field.size = size;
-  return field;
-}
 
 /// A Jet 4 file of one table with a key: page 1 holds the usage maps (slot 0 the free pages, slot 1 the pages
 /// of the table, slot 3 those of its index), page 2 the definition of the catalog, 3 that of the table, 4 its

@@ -10,6 +10,7 @@
 #include "jet/data_page.h"
 #include "jet/samples.h"
 #include "jet/table.h"
+#include "jet/table_values.h"
 #include "platform/fault.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
@@ -17,20 +18,13 @@
 namespace rbt::jet {
 namespace {
 
+using test::RowsOf;
 using test::Sample;
+using test::Whole;
+using test::Words;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-std::vector<std::vector<Value>> RowsOf(JetFile& file, const std::string& name) {
-  std::vector<std::vector<Value>> rows;
-  ScanTable(file, FindTable(file, name),
-            [&](RowPointer, std::vector<Value>& fields) { rows.push_back(fields); });
-  return rows;
-}
-
-Value Words(std::string text) { return Value{std::move(text)}; }
-Value Whole(std::int64_t number) { return Value{number}; }
 
 /// The message of the fault that an action ends with.
 std::string FaultOf(const std::function<void()>& action) {

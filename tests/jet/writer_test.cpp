@@ -10,34 +10,21 @@
 #include "jet/independent_readers.h"
 #include "jet/properties.h"
 #include "jet/table.h"
+#include "jet/table_values.h"
+#include "support/field.h"
 #include "support/jet_writer.h"
 #include "support/temporary_folder.h"
 
 namespace rbt::jet {
 namespace {
 
+using test::Field;
 using test::JetTable;
+using test::RowsOf;
+using test::Whole;
+using test::Words;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-FieldDef Field(std::string name, FieldType type, int size = 0, int scale = 0) {
-  FieldDef field;
-  field.name = std::move(name);
-  field.type = type;
-  field.size = size;
-  field.scale = scale;
-  return field;
-}
-
-Value Words(std::string text) { return Value{std::move(text)}; }
-Value Whole(std::int64_t number) { return Value{number}; }
-
-std::vector<std::vector<Value>> RowsOf(JetFile& file, const std::string& name) {
-  std::vector<std::vector<Value>> rows;
-  ScanTable(file, FindTable(file, name),
-            [&](RowPointer, std::vector<Value>& fields) { rows.push_back(fields); });
-  return rows;
-}
 
 class WrittenFile : public ::testing::TestWithParam<JetVersion> {
  protected:

@@ -18,6 +18,9 @@
 
 namespace rbt::planning::test {
 
+/// What a bar costs for each millimetre.
+inline constexpr Micros kMm = 1'000'000;
+
 /// Lengths that may be bought for steel, without lots.
 inline std::vector<StockLength> Lengths(int diameter, const std::vector<int>& mm) {
   std::vector<StockLength> lengths;
@@ -25,7 +28,7 @@ inline std::vector<StockLength> Lengths(int diameter, const std::vector<int>& mm
     StockLength& added = lengths.emplace_back();
     added.mm = length;
     added.table_weight = TableMilligrams(diameter, length);
-    added.cost = std::int64_t{length} * 1'000'000;
+    added.cost = std::int64_t{length} * kMm;
   }
   return lengths;
 }

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "store/plain_file.h"
+#include "support/field.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -14,13 +15,7 @@ namespace {
 
 using testing::HasSubstr;
 
-FieldDef Field(const std::string& name, FieldType type, int size = 0) {
-  FieldDef field;
-  field.name = name;
-  field.type = type;
-  field.size = size;
-  return field;
-}
+using test::Field;
 
 /// 登録AN counts and is the key.
 TableDef Counted() {

@@ -4,6 +4,7 @@
 #include "platform/system/paths.h"
 #include "store/database.h"
 #include "store/plain_file.h"
+#include "support/field.h"
 #include "support/temporary_folder.h"
 
 namespace rbt {
@@ -24,13 +25,7 @@ class Tables : public ::testing::Test {
   std::filesystem::path file_ = folder_ / "GENBA001.MDB";
 };
 
-FieldDef Field(const std::string& name, FieldType type, int size = 0) {
-  FieldDef field;
-  field.name = name;
-  field.type = type;
-  field.size = size;
-  return field;
-}
+using test::Field;
 
 TableDef EveryType() {
   TableDef table{"全部", {}, {}};

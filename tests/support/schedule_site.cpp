@@ -11,7 +11,7 @@
 namespace rbt::test {
 namespace {
 
-bool IsOneOf(const std::vector<std::string>& names, const std::string& name) {
+bool IsAmong(const std::vector<std::string>& names, const std::string& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
@@ -32,7 +32,7 @@ void Insert(Database& database, const std::string& table, const Fields& fields) 
 ScheduleSite::ScheduleSite(const std::vector<std::string>& absent) : absent_(absent) {
   SiteFixture::ResetGlobalState();
   TableDef schedule = TableOf(ScheduleFileTables(), "加工テーブル");
-  std::erase_if(schedule.fields, [&](const FieldDef& field) { return IsOneOf(absent, field.name); });
+  std::erase_if(schedule.fields, [&](const FieldDef& field) { return IsAmong(absent, field.name); });
   Database::CreateDatabase(folder_.Data("GENBA001.MDB")).CreateTable(schedule);
   Database::CreateDatabase(folder_.Data("HIROI001.mdb"));
   SiteContext.SelectedDbName = "GENBA001.MDB";
@@ -52,7 +52,7 @@ void ScheduleSite::AddRow(const Fields& fields) {
                 {"伸切寸", Number(3000)}, {"伸定尺", Value{6.0}}, {"伸本定", Number(2)},
                 {"伸総計", Number(2)},    {"予備2", Number(1)},   {"予備3", Number(3)}};
   row.insert(row.end(), fields.begin(), fields.end());
-  std::erase_if(row, [this](const auto& field) { return IsOneOf(absent_, field.first); });
+  std::erase_if(row, [this](const auto& field) { return IsAmong(absent_, field.first); });
   Insert(Work(), "加工テーブル", row);
 }
 

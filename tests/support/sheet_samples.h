@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "reports/comparison/comparison_head.h"
 
 namespace rbt::test {
@@ -38,6 +41,13 @@ inline ReportArguments SampleArguments() { return {"", "2026", "1", "2", 1, 0}; 
 /// A sheet of that table with its Ulbon sums: 10.6 kg are 11.
 inline ComparisonSheet SampleSheet(const TallyTable& table) {
   return {SampleSite(), SampleArguments(), table, {"SD295A"}, 11, 7, false};
+}
+
+/// A text so many times, for one that is too long for its place.
+inline std::string Repeated(std::string_view text, int count) {
+  std::string repeated;
+  for (int i = 0; i < count; ++i) repeated += text;
+  return repeated;
 }
 
 }  // namespace rbt::test

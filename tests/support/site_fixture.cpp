@@ -30,7 +30,7 @@ const TableDef& TableNamed(const std::vector<TableDef>& tables, std::string_view
                        [&](const TableDef& table) { return table.name == name; });
 }
 
-void Append(Recordset& rows, const Cells& cells) {
+void AppendRow(Recordset& rows, const Cells& cells) {
   rows.AddNew();
   for (const auto& [field, value] : cells) rows.Set(field, value);
   rows.Update();
@@ -51,22 +51,22 @@ void FillMaster(const std::filesystem::path& file) {
   Database database = Database::Open(file);
   Transaction transaction(database);
   Recordset sites = OpenTable(database, "工事テーブル");
-  Append(sites, {{"番号", Whole(1)},
-                 {"工事名", "試験工事"},
-                 {"データパス", kScheduleFile},
-                 {"取引先コード", Whole(1)},
-                 {"支給形態", Whole(0)}});
+  AppendRow(sites, {{"番号", Whole(1)},
+                    {"工事名", "試験工事"},
+                    {"データパス", kScheduleFile},
+                    {"取引先コード", Whole(1)},
+                    {"支給形態", Whole(0)}});
   Recordset clients = OpenTable(database, "T_取引先");
-  Append(clients, {{"会社コード", Whole(1)}, {"会社名", "試験商店"}});
+  AppendRow(clients, {{"会社コード", Whole(1)}, {"会社名", "試験商店"}});
   Recordset grades = OpenTable(database, "T_SD");
   for (std::int64_t code = 1; code <= 10; ++code) {
-    Append(grades, {{"SDコード", Whole(code)}, {"SD名", "SD" + std::to_string(code)}});
+    AppendRow(grades, {{"SDコード", Whole(code)}, {"SD名", "SD" + std::to_string(code)}});
   }
   Recordset parts = OpenTable(database, "部位名テーブル");
   Recordset second = OpenTable(database, "部位名２テーブル");
   for (std::int64_t part = 1; part <= 11; ++part) {
-    Append(parts, {{"番号", Whole(part)}, {"部位名", "部位" + std::to_string(part)}});
-    Append(second, {{"番号", Whole(part)}, {"部位名", "別名" + std::to_string(part)}});
+    AppendRow(parts, {{"番号", Whole(part)}, {"部位名", "部位" + std::to_string(part)}});
+    AppendRow(second, {{"番号", Whole(part)}, {"部位名", "別名" + std::to_string(part)}});
   }
   transaction.Commit();
 }
@@ -128,14 +128,14 @@ void SiteFixture::AddRows(const std::vector<Cells>& rows) {
   Database database = Database::Open(Data(kScheduleFile));
   Transaction transaction(database);
   Recordset schedule = OpenTable(database, kSchedule);
-  for (const Cells& cells : rows) Append(schedule, Completed(cells, next_row_++));
+  for (const Cells& cells : rows) AppendRow(schedule, Completed(cells, next_row_++));
   transaction.Commit();
 }
 
 void SiteFixture::Add(const std::string& file, std::string_view table, const Cells& cells) {
   Database database = Database::Open(Data(file));
   Recordset rows = OpenTable(database, table);
-  Append(rows, cells);
+  AppendRow(rows, cells);
 }
 
 void SiteFixture::LeaveOutColumns(std::initializer_list<std::string_view> columns) {

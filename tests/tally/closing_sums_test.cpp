@@ -6,11 +6,12 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/kilograms.h"
 
 namespace rbt {
 namespace {
 
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+using test::Kg;
 
 TallyTable Closed(TallyTable table, const ClosingRules& rules = {}) {
   CloseSums(table, rules);

@@ -6,13 +6,14 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/kilograms.h"
 #include "tally/random_rows.h"
 #include "tally/rows/row_fold.h"
 
 namespace rbt {
 namespace {
 
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+using test::Kg;
 
 /// One cell of D19 by 6.0 m with welds, and metres of U 9.
 TallyTable SmallSite() {

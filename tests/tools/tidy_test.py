@@ -12,7 +12,8 @@ import sys
 import tempfile
 import unittest
 
-TOOL = pathlib.Path(__file__).parents[2] / "tools" / "tidy.py"
+REPOSITORY = pathlib.Path(__file__).parents[2]
+TOOL = REPOSITORY / "tools" / "tidy.py"
 
 CLANG_TIDY = """#!/bin/sh
 if [ "$1" = --version ]; then echo "version $TOOL_VERSION"; exit; fi
@@ -36,6 +37,9 @@ FILES = {
     ".gitignore": "/build/\n",
 }
 ALL = ["one.cpp", "one_test.cpp", "two.cpp"]
+# The sources of src/ compiled together.
+JOINED = (f"include({REPOSITORY}/cmake/Joined.cmake)\nset(RBTALLY_JOIN ON)\nrbtally_join(sources src one.cpp two.cpp)\n"
+          "add_library(src ${sources})\ntarget_precompile_headers(src PRIVATE <cstddef>)\n")
 
 
 class Tidy(unittest.TestCase):
@@ -153,6 +157,28 @@ class Tidy(unittest.TestCase):
         database = (self.project / "build" / "tidy" / "compile_commands.json").read_text()
         self.assertIn("one.cpp", database)
         self.assertNotIn("cmake_pch", database)
+
+    def test_sources_that_are_compiled_together_are_read_alone(self):
+        self.put("src/CMakeLists.txt", JOINED)
+        self.assertEqual(self.tidy(), (ALL, ""))
+        self.assertTrue((self.project / "build" / "joined" / "src_1.cpp").exists())
+        database = (self.project / "build" / "tidy" / "compile_commands.json").read_text()
+        self.assertNotIn("joined", database)
+        self.assertNotIn("cmake_pch", database)
+        self.assertEqual(self.tidy(), ([], ""))
+
+    def test_of_sources_that_are_compiled_together_those_are_read_again_that_changed(self):
+        self.put("src/CMakeLists.txt", JOINED)
+        self.put("src/deep.h", "int Deep();\n")
+        self.put("src/one.h", "#include \"../src/deep.h\"\nint One();\n")
+        self.tidy()
+        self.put("src/two.cpp", "int Two() { return 22; }\n")
+        self.assertEqual(self.tidy(), (["two.cpp"], ""))
+        self.put("src/deep.h", "int Deep(int);\n")
+        self.assertEqual(self.tidy(), (["one.cpp", "one_test.cpp"], ""))
+        self.put("src/four.cpp", "int Four() { return 4; }\n")
+        self.put("src/CMakeLists.txt", JOINED.replace("one.cpp", "four.cpp one.cpp"))
+        self.assertEqual(self.tidy(), (["four.cpp"], ""))
 
 
 if __name__ == "__main__":

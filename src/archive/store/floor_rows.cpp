@@ -18,7 +18,7 @@ namespace rbt {
 
 namespace {
 
-constexpr std::string_view kFloors = "階別重量集計";
+constexpr std::string_view kFloorRows = "階別重量集計";
 
 /// A floor as the rows name it: "12", "2-" of a basement; those with names of their own keep them.
 std::string FloorTextOf(int floor_code) {
@@ -89,7 +89,7 @@ std::string FloorStatement(const TallyResult& result, std::int32_t number, int f
   const SelectionData& selection = result.selection;
   const RowMasks masks = MasksOf(selection);
   const int f = FloorIndex(floor_code);
-  ArchiveRow row(kFloors);
+  ArchiveRow row(kFloorRows);
   row.Put("行No", number).Put("階", std::string_view(FloorTextOf(floor_code))).Put("太さ", 0);
   row.Put("SD", std::string_view()).Put("メーカー", std::string_view()).Put("材質", masks.kinds);
   row.Put("材質タイプ", masks.kinds == 0 ? kThinType : kDeformedType).Put("材料", masks.forms);
@@ -104,7 +104,7 @@ std::string FloorStatement(const TallyResult& result, std::int32_t number, int f
 
 /// Puts the weight of a part into it.
 std::string PartWeightStatement(const FloorTables& tables, int floor_code, int p, const SavedKey& key) {
-  return fmt::format("UPDATE {} SET {}={} WHERE 階={} AND {}", kFloors, PartField(p),
+  return fmt::format("UPDATE {} SET {}={} WHERE 階={} AND {}", kFloorRows, PartField(p),
                      tables.KaiBuiGoukei[FloorIndex(floor_code)][p].ToText(),
                      QuotedText(FloorTextOf(floor_code), '\''), KeyCondition(key));
 }
@@ -157,9 +157,9 @@ std::int16_t LowestListed(const std::vector<std::int16_t>& listed, std::int16_t 
   return static_cast<std::int16_t>(lowest);
 }
 
-bool ReadRange(Database& site, const SavedKey& key, SelectionData& selection) {
-  Recordset rows =
-      site.OpenSnapshot(fmt::format("SELECT * FROM {} WHERE {} ORDER BY 行No", kFloors, KeyCondition(key)));
+bool ReadFloorRange(Database& site, const SavedKey& key, SelectionData& selection) {
+  Recordset rows = site.OpenSnapshot(
+      fmt::format("SELECT * FROM {} WHERE {} ORDER BY 行No", kFloorRows, KeyCondition(key)));
   if (rows.Eof()) return false;
   const ArchiveField floor(rows, "階");
   const ArchiveField start(rows, "開始階");
@@ -199,7 +199,7 @@ std::vector<std::string> FloorStatements(const TallyResult& result, const RowOrd
 }
 
 bool ReadFloorRows(Database& site, const SavedKey& key, bool with_13m, TallyResult& result) {
-  return ReadParts(site, key, with_13m, result) && ReadRange(site, key, result.selection);
+  return ReadParts(site, key, with_13m, result) && ReadFloorRange(site, key, result.selection);
 }
 
 }  // namespace rbt

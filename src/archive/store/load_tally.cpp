@@ -49,8 +49,6 @@ const Family& FamilyOf(TallyKind kind) {
   return kind == TallyKind::part ? kParts : kGrids;
 }
 
-bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
-
 /// The selection of now, without what the saved figures carry already.
 SelectionData SelectionFor(const SavedTally& saved) {
   SelectionData selection = Selection;

@@ -68,7 +68,7 @@ void TakeCells(PartTables& tables, int p, int r, const DiameterFigures& cells) {
 }
 
 /// Fittings alone have no row there: the range then stays the one that is selected.
-void ReadRange(Database& site, const SavedKey& key, SelectionData& selection) {
+void ReadPartRange(Database& site, const SavedKey& key, SelectionData& selection) {
   Recordset rows = site.OpenSnapshot(
       fmt::format("SELECT * FROM 部位別重量集計 WHERE {} ORDER BY 太さ", KeyCondition(key)));
   if (rows.Eof()) return;
@@ -103,7 +103,7 @@ bool ReadPartRows(Database& site, const SavedKey& key, bool with_13m, TallyResul
     TakeCells(tables, PartIn(part), material.DiameterRow(), cells.Read());
   }
   result.tables = std::move(tables);
-  ReadRange(site, key, result.selection);
+  ReadPartRange(site, key, result.selection);
   return true;
 }
 

@@ -27,7 +27,6 @@ constexpr std::string_view kRefusedCharacters = ",!\"#&%;:*|$'";
 constexpr std::string_view kCheckTitle = "入力確認";
 constexpr std::size_t kMostBytes = 120;
 
-bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
 bool IsOfPages(TallyKind kind) { return kind == TallyKind::page || kind == TallyKind::page_shape; }
 
 std::string_view KindWords(TallyKind kind, const SelectionData& selection) {

@@ -6,14 +6,16 @@
 namespace rbt::planning {
 namespace {
 
-constexpr Micros kUnit = 1'000'000;
+constexpr Micros kMicrosInUnit = 1'000'000;
 
-double Kilograms(Milligrams weight) { return static_cast<double>(weight) / static_cast<double>(kUnit); }
+double Kilograms(Milligrams weight) {
+  return static_cast<double>(weight) / static_cast<double>(kMicrosInUnit);
+}
 
 /// A whole number where it is one.
 JsonWriter& AddUnits(JsonWriter& json, Micros millionths) {
-  if (millionths % kUnit == 0) return json.Value(millionths / kUnit);
-  return json.Value(static_cast<double>(millionths) / static_cast<double>(kUnit));
+  if (millionths % kMicrosInUnit == 0) return json.Value(millionths / kMicrosInUnit);
+  return json.Value(static_cast<double>(millionths) / static_cast<double>(kMicrosInUnit));
 }
 
 JsonWriter& Add(JsonWriter& json, const std::optional<int>& number) {

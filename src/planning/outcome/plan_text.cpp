@@ -13,14 +13,14 @@ namespace {
 
 using Captions = std::span<const std::string_view>;
 
-constexpr double kUnit = 1e6;
+constexpr double kMicrosInWhole = 1e6;
 constexpr std::string_view kCount = "#,##0";
 constexpr std::string_view kWeight = "#,##0.0";
 constexpr std::string_view kPercent = "0.000";
 
 std::string Count(std::int64_t number) { return FormatNumber(number, kCount); }
 std::string Units(std::int64_t millionths, std::string_view mask) {
-  return FormatNumber(static_cast<double>(millionths) / kUnit, mask);
+  return FormatNumber(static_cast<double>(millionths) / kMicrosInWhole, mask);
 }
 std::string Percent(const std::optional<double>& percent) {
   return percent ? FormatNumber(*percent, kPercent) : "";

@@ -9,8 +9,8 @@
 namespace rbt::planning {
 namespace {
 
-constexpr double kUnit = 1e6;     // micros in a cost unit
-constexpr double kNearly = 1e-6;  // a value so near below a whole number is that number
+constexpr double kMicrosInUnit = 1e6;  // micros in a cost unit
+constexpr double kNearly = 1e-6;       // a value so near below a whole number is that number
 constexpr double kCostSlack = 1e-6;
 
 /// One in so many of the fractions is cut at a time, at least one: to ask for prices after each takes longer
@@ -79,11 +79,11 @@ class Diver {
 
   /// `cost` units more than is cut are no improvement.
   bool IsNoBetter(double cost) const {
-    return static_cast<double>(cut_cost_) / kUnit + cost >=
-           static_cast<double>(best_cost_) / kUnit - kCostSlack;
+    return static_cast<double>(cut_cost_) / kMicrosInUnit + cost >=
+           static_cast<double>(best_cost_) / kMicrosInUnit - kCostSlack;
   }
   bool IsBest() const {
-    return columns_.RoundedUp(bound_) >= static_cast<double>(best_cost_) / kUnit - kCostSlack;
+    return columns_.RoundedUp(bound_) >= static_cast<double>(best_cost_) / kMicrosInUnit - kCostSlack;
   }
 
   void Dive(const KeptBack& kept) {

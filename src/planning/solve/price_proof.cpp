@@ -10,7 +10,7 @@
 namespace rbt::planning {
 namespace {
 
-constexpr Micros kUnit = 1'000'000;
+constexpr Micros kWholeUnit = 1'000'000;
 
 /// What the dearest content of every capacity is worth, none of an item more often than it is to be cut.
 std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices) {
@@ -60,7 +60,7 @@ std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros
 
 PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
   PriceProof proof;
-  for (const double price : prices) proof.prices.push_back(static_cast<Micros>(price * kUnit));
+  for (const double price : prices) proof.prices.push_back(static_cast<Micros>(price * kWholeUnit));
   const std::vector<Micros> worths = DearestWorths(task, proof.prices);
   // The bar whose dearest content is worth most for what it costs.
   Micros cost = 1;
@@ -84,7 +84,7 @@ ByIndex<double> MaterialPrices(const CuttingTask& task) {
   double least = 0.0;
   for (const Bar& bar : task.bars) {
     if (bar.rest || bar.capacity == 0) continue;
-    const double price = static_cast<double>(bar.cost) / kUnit / bar.capacity;
+    const double price = static_cast<double>(bar.cost) / kWholeUnit / bar.capacity;
     if (least == 0.0 || price < least) least = price;
   }
   ByIndex<double> prices;
@@ -92,7 +92,7 @@ ByIndex<double> MaterialPrices(const CuttingTask& task) {
   for (const Bar& bar : task.bars) {
     if (bar.whole_item < 0 || bar.rest) continue;
     double& price = prices[bar.whole_item];
-    price = std::min(price, static_cast<double>(bar.cost) / kUnit);
+    price = std::min(price, static_cast<double>(bar.cost) / kWholeUnit);
   }
   return prices;
 }
@@ -128,7 +128,7 @@ PriceProof ProveMaterialBound(const CuttingTask& task) {
 Micros RoundUpBound(const CuttingTask& task, Micros bound) {
   Micros common = 0;
   for (const Bar& bar : task.bars) common = std::gcd(common, bar.cost);
-  if (common == 0 || common % kUnit != 0) return bound;
+  if (common == 0 || common % kWholeUnit != 0) return bound;
   return (bound + common - 1) / common * common;
 }
 

@@ -20,8 +20,8 @@ using planning::Figures;
 using planning::Outcome;
 using planning::PurchaseLine;
 
-constexpr std::string_view kTitle = "鉄 筋 購 買 計 画 表";
-constexpr float kTextSize = 10;
+constexpr std::string_view kPurchaseTitle = "鉄 筋 購 買 計 画 表";
+constexpr float kTableSize = 10;
 constexpr float kRowHeight = 320;
 constexpr int kRowsOnPage = 38;
 constexpr double kUnit = 1e6;
@@ -32,7 +32,7 @@ enum class PurchaseField { steel, kind, stock, planned, kept, bars, weight, yen 
 /// A number right-aligned in `characters` that end a little before the next column.
 constexpr TableCell NumberCell(float box_x, float box_width, std::size_t characters,
                                std::string_view mask = kCellMask) {
-  const float width = static_cast<float>(characters) * kTextSize * 10.0F;
+  const float width = static_cast<float>(characters) * kTableSize * 10.0F;
   const float x = box_x + box_width - width - 80.0F;
   return {.x = x, .total_x = x, .number = {characters, mask}};
 }
@@ -134,11 +134,11 @@ class PurchaseSheets {
 
  private:
   void Top(int rows) {
-    DrawPlanHead(pen_, kTitle, head_);
+    DrawPlanHead(pen_, kPurchaseTitle, head_);
     place_.rows = {kRowHeight, kPlanSheetTop};
     place_.text_drop = 60.0F;
     DrawFrame(pen_.Printer, RulesOf(columns_), place_.rows, {0, rows + 1}, 2);
-    SetReportFont(pen_.Printer, kTextSize);
+    SetReportFont(pen_.Printer, kTableSize);
     DrawCaptions(pen_, columns_, place_, 0);
   }
 
@@ -149,7 +149,7 @@ class PurchaseSheets {
 
   /// What the plan gains, below the table of every page.
   void Foot() const {
-    SetReportFont(pen_.Printer, kTextSize);
+    SetReportFont(pen_.Printer, kTableSize);
     float y = kPlanSheetTop + (kRowsOnPage + 1) * kRowHeight + 150.0F;
     const auto print = [&](const std::string& text) {
       PrintAt(pen_.Printer, kPlanSheetLeft, y, {text});

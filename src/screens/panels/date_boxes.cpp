@@ -22,7 +22,7 @@ namespace rbt {
 
 namespace {
 
-constexpr std::array<int, DateEntry::kBoxes> kMostDigits{4, 2, 2};
+constexpr std::array<int, DateEntry::kBoxes> kMostDigitsOfBox{4, 2, 2};
 
 }  // namespace
 
@@ -30,7 +30,7 @@ DateBoxes::DateBoxes(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui
   ui_->setupUi(this);
   boxes_ = {ui_->txtYear, ui_->txtMonth, ui_->txtDay};
   for (std::size_t box = 0; box < boxes_.size(); ++box) {
-    TakeDigitsOnly(*boxes_[box], kMostDigits[box]);
+    TakeDigitsOnly(*boxes_[box], kMostDigitsOfBox[box]);
     boxes_[box]->installEventFilter(this);
   }
 }

@@ -7,14 +7,14 @@ namespace rbt {
 
 namespace {
 
-constexpr int kMostDigits = 5;  // of a 16-bit number
+constexpr int kMostPageDigits = 5;  // of a 16-bit number
 
 }  // namespace
 
 PageRangePanel::PageRangePanel(QWidget* parent)
     : RangePanel(parent), ui_(std::make_unique<Ui::PageRangePanel>()) {
   ui_->setupUi(this);
-  SetBoxes({ui_->txtStartPage, ui_->txtStartGyo, ui_->txtEndPage, ui_->txtEndGyo}, kMostDigits);
+  SetBoxes({ui_->txtStartPage, ui_->txtStartGyo, ui_->txtEndPage, ui_->txtEndGyo}, kMostPageDigits);
 }
 
 PageRangePanel::~PageRangePanel() = default;

@@ -7,14 +7,14 @@ namespace rbt {
 
 namespace {
 
-constexpr int kMostDigits = 6;
+constexpr int kMostShapeDigits = 6;
 
 }  // namespace
 
 ShapeRangePanel::ShapeRangePanel(QWidget* parent)
     : RangePanel(parent), ui_(std::make_unique<Ui::ShapeRangePanel>()) {
   ui_->setupUi(this);
-  SetBoxes({ui_->txtStartKeijouNo, ui_->txtEndKeijouNo}, kMostDigits);
+  SetBoxes({ui_->txtStartKeijouNo, ui_->txtEndKeijouNo}, kMostShapeDigits);
 }
 
 ShapeRangePanel::~ShapeRangePanel() = default;

@@ -10,7 +10,7 @@ namespace rbt {
 namespace {
 
 constexpr int kSaveKey = Qt::Key_F1;
-constexpr int kLeaveKey = Qt::Key_Escape;
+constexpr int kDoneKey = Qt::Key_Escape;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ SETCOLOR::SETCOLOR() : ui_(std::make_unique<Ui::SETCOLOR>()) {
                   {{"picRowColor", 0, choose(&ColoursPresenter::ChooseBack)},
                    {"picForeColor", 0, choose(&ColoursPresenter::ChooseFore)},
                    {"btnRejist", kSaveKey, save},
-                   {"btnExit", kLeaveKey, [this] { hide(); }}},
+                   {"btnExit", kDoneKey, [this] { hide(); }}},
                   KeysAct::always);
   Show();
   ui_->picRowColor->setFocus();
@@ -39,7 +39,7 @@ SETCOLOR::SETCOLOR() : ui_(std::make_unique<Ui::SETCOLOR>()) {
 
 SETCOLOR::~SETCOLOR() = default;
 
-std::vector<int> SETCOLOR::Keys() { return {kSaveKey, kLeaveKey}; }
+std::vector<int> SETCOLOR::Keys() { return {kSaveKey, kDoneKey}; }
 
 void SETCOLOR::Show() {
   ui_->picRowColor->SetRgb(presenter_.Back());

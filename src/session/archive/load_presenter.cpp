@@ -11,6 +11,7 @@
 #include "platform/pass_over_faults.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
+#include "session/archive/no_data.h"
 #include "session/panels/fault_words.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -22,8 +23,6 @@ namespace {
 constexpr std::string_view kNothingSaved = "過去のデータがありません";
 constexpr std::string_view kRenameCaption = "名前変更(F3)";
 constexpr std::string_view kUpdateCaption = "更新(Ｆ３)";
-constexpr std::string_view kNoDataTitle = "データなし";
-constexpr std::string_view kNoData = "データがありません";
 
 bool Asked(const std::string& question, std::string_view title) {
   return MsgBox(question, title, MessageButtons::yes_no) == MessageAnswer::yes;

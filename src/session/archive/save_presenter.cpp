@@ -16,6 +16,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
+#include "session/archive/no_data.h"
 #include "session/panels/not_ready.h"
 #include "shell/config/settings.h"
 
@@ -30,11 +31,7 @@ constexpr std::string_view kSameNameTitle = "同じデータがあります";
 constexpr std::string_view kReplaceQuestion = "同じ名前があります\n前のデータを削除して上書きしますか?";
 constexpr std::string_view kOtherName = "違う名前を入力してください";
 constexpr std::string_view kSaveQuestionTitle = "保存の確認";
-constexpr std::string_view kNoDataTitle = "データなし";
-constexpr std::string_view kNoData = "データがありません";
 constexpr std::string_view kWriteFailed = "書き込みに失敗しました。終了します。";
-
-bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
 
 }  // namespace
 

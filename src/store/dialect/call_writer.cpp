@@ -12,12 +12,12 @@
 namespace rbt::dialect {
 namespace {
 
-constexpr std::string_view kAggregates[] = {"SUM", "MIN", "MAX", "COUNT"};
+constexpr std::string_view kAggregateNames[] = {"SUM", "MIN", "MAX", "COUNT"};
 
 bool Is(const Name& function, std::string_view name) { return EqualIgnoringCase(function.text, name); }
 
 bool IsAggregate(const Name& function) {
-  return std::ranges::any_of(kAggregates, [&](std::string_view name) { return Is(function, name); });
+  return std::ranges::any_of(kAggregateNames, [&](std::string_view name) { return Is(function, name); });
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace rbt {
 namespace {
 
-constexpr std::string_view kBars = "伸総計";
+constexpr std::string_view kBarCount = "伸総計";
 
 void RaiseCells(FloorTables::Counts& cells, int r, double ratio, ColumnRun columns) {
   for (int c = columns.first; c <= columns.last; ++c) cells[r][c] = RaisedCount(cells[r][c], ratio);
@@ -22,7 +22,7 @@ std::int32_t SumOfParts(const FloorTables& tables, int f, int r, int c) {
   std::int32_t sum = 0;
   for (int p = kFirstPart; p < kPartEntries; ++p) {
     const FloorTables::Counts* const cells = tables.KaiBuiHonsu[p].Find(f);
-    if (cells != nullptr) sum = AddInt32(sum, (*cells)[r][c], kBars);
+    if (cells != nullptr) sum = AddInt32(sum, (*cells)[r][c], kBarCount);
   }
   return sum;
 }
@@ -37,7 +37,7 @@ void RaiseFloor(FloorTables& tables, int f, double ratio, ColumnRun columns) {
     if (IsThinRow(r)) RaiseCells(floor, r, ratio, columns);
     for (int c = columns.first; c <= columns.last; ++c) {
       if (!IsThinRow(r)) floor[r][c] = SumOfParts(tables, f, r, c);
-      AddCount(tables.SouHonsu[r], c, floor[r][c], kBars);
+      AddCount(tables.SouHonsu[r], c, floor[r][c], kBarCount);
     }
   }
 }
@@ -126,8 +126,8 @@ void SumFloorBars(FloorTables& tables) {
       if (bars == nullptr) continue;
       for (int r = 0; r < kDiameterRows; ++r) {
         for (int c = 0; c < kStockColumns; ++c) {
-          AddCount(tables.KaiHonsu[f][r], c, (*bars)[r][c], kBars);
-          AddCount(tables.SouHonsu[r], c, (*bars)[r][c], kBars);
+          AddCount(tables.KaiHonsu[f][r], c, (*bars)[r][c], kBarCount);
+          AddCount(tables.SouHonsu[r], c, (*bars)[r][c], kBarCount);
         }
       }
     }

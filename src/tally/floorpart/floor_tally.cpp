@@ -35,7 +35,7 @@ ShareTaker FloorTaker(FloorTables& tables, const FloorRules& rules) {
   };
 }
 
-FloorRules RulesOf(const SelectionData& selection) {
+FloorRules FloorRulesOf(const SelectionData& selection) {
   FloorRules rules;
   rules.rows = {selection.HoopMode, ReadCountHoopWelds()};
   rules.installed = ReadSetting(kFloorTallyStockKey) == 1;
@@ -62,7 +62,7 @@ FloorScope FloorScopeOf(const SelectionData& selection) {
 
 void Kai_Jyuuryo_Syukei() {
   FloorTally = FloorTables();
-  const FloorRules rules = RulesOf(Selection);
+  const FloorRules rules = FloorRulesOf(Selection);
   Database& site = *SiteContext.WorkDatabase;
   FloorTables tables;
   const FilteredStatement statement = FloorStatement(site, Selection);
@@ -75,7 +75,7 @@ void Kai_Jyuuryo_Syukei() {
 }
 
 void Kai_Jyuuryo_Syukei_Load() {
-  const FloorRules rules = RulesOf(Selection);
+  const FloorRules rules = FloorRulesOf(Selection);
   FloorTables tables = std::exchange(FloorTally, FloorTables());
   tables.HoopAri = false;
   tables.TeiAri = false;

@@ -10,7 +10,7 @@ namespace rbt {
 namespace {
 
 /// They close the parenthesis that the range of storeys leaves open.
-constexpr MaskText<SpecialMask> kSpecialClauses[] = {
+constexpr MaskText<SpecialMask> kPartSpecialClauses[] = {
     {1, "OR 階 = 76) "},
     {2, "OR 階 = 77) "},
     {3, "OR (階 = 76 OR 階 = 77)) "},
@@ -32,7 +32,7 @@ std::string PartFloorClause(const PartScope& scope) {
   const std::string storeys = asked_from_0
                                   ? fmt::format("WHERE (階=0 OR (階 >= {} AND 階 <= {}) ", start, end)
                                   : fmt::format("WHERE ((階 >= {} AND 階 <= {} AND 階<>0) ", start, end);
-  return storeys + std::string(TextOfMask(kSpecialClauses, specials));
+  return storeys + std::string(TextOfMask(kPartSpecialClauses, specials));
 }
 
 std::string_view PartKindClause(KindMask kinds) {

@@ -28,7 +28,7 @@ ShareTaker PartTaker(PartTables& tables) {
   };
 }
 
-PartRules RulesOf(const SelectionData& selection) {
+PartRules PartRulesOf(const SelectionData& selection) {
   PartRules rules;
   rules.rows = {selection.HoopMode, ReadCountHoopWelds()};
   rules.uplift = selection.BuiUwanoseRitu;
@@ -50,7 +50,7 @@ void ClosePartTally(PartTables& tables, const PartRules& rules) {
 void Bui_Jyuuryo_Syukei(std::int16_t start, std::int16_t end, std::int16_t hasPH, std::int16_t hasR,
                         std::int16_t hasNone) {
   PartTally = PartTables();
-  const PartRules rules = RulesOf(Selection);
+  const PartRules rules = PartRulesOf(Selection);
   const PartScope scope{start, end, Selection.KaiStart == 0,
                         SpecialMask::OfTicks({hasR != 0, hasPH != 0, hasNone != 0})};
   Database& site = *SiteContext.WorkDatabase;

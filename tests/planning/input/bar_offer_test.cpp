@@ -4,11 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "planning/problem/refusal.h"
+#include "planning/input/refusal_of.h"
 
 namespace rbt::planning {
 namespace {
 
+using test::RefusalOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -16,15 +17,6 @@ std::vector<int> Mm(const std::vector<StockLength>& lengths) {
   std::vector<int> mm;
   for (const StockLength& length : lengths) mm.push_back(length.mm);
   return mm;
-}
-
-std::string RefusalOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Refusal& refusal) {
-    return refusal.what();
-  }
-  return "";
 }
 
 SiteLengths LengthsOfSite(int min, int max) {

@@ -4,22 +4,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "planning/problem/refusal.h"
+#include "planning/input/refusal_of.h"
 
 namespace rbt::planning {
 namespace {
 
+using test::RefusalOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-std::string RefusalOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Refusal& refusal) {
-    return refusal.what();
-  }
-  return "";
-}
 
 std::string RefusalOfPieces(std::string_view text) {
   return RefusalOf([&] { ParsePieces(text); });

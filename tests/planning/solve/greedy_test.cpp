@@ -9,21 +9,20 @@
 namespace rbt::planning {
 namespace {
 
+using test::kMm;
 using test::OneGroup;
 using ::testing::ElementsAre;
 using ::testing::Pair;
 using ::testing::SizeIs;
 
-constexpr Micros kMm = 1'000'000;
-
-Cutting Cut(const Problem& problem) {
+Cutting CutOneGroup(const Problem& problem) {
   const CuttingTask task = MakeTask(problem, problem.groups[0]);
   return CutGreedily(task, DemandOf(task));
 }
 
 TEST(CutGreedily, FillsTheBarThatLosesLeastForWhatItCarries) {
   const Problem problem = OneGroup({{2340, 5}, {300, 1}}, {5500, 12000});
-  const Cutting cutting = Cut(problem);
+  const Cutting cutting = CutOneGroup(problem);
   ASSERT_THAT(cutting, SizeIs(1));
   EXPECT_EQ(cutting[0].bar, 1);
   EXPECT_EQ(cutting[0].count, 1);
@@ -32,7 +31,7 @@ TEST(CutGreedily, FillsTheBarThatLosesLeastForWhatItCarries) {
 
 TEST(CutGreedily, RepeatsABarAsOftenAsThePiecesLast) {
   const Problem problem = OneGroup({{6000, 7}}, {12000});
-  const Cutting cutting = Cut(problem);
+  const Cutting cutting = CutOneGroup(problem);
   ASSERT_THAT(cutting, SizeIs(2));
   EXPECT_EQ(cutting[0].count, 3);
   EXPECT_EQ(cutting[1].count, 1);

@@ -10,9 +10,8 @@ namespace rbt::planning {
 namespace {
 
 using test::BruteForce;
+using test::kMm;
 using test::OneGroup;
-
-constexpr Micros kMm = 1'000'000;
 
 TEST(RoundUpBound, GoesToAMultipleOfWhatAllCostsAreMultiplesOf) {
   const Problem problem = OneGroup({{2000, 1}}, {5500, 6000, 12000});

@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr float kPitch = 205;
+constexpr float kPartPitch = 205;
 constexpr int kBandRows = 14;
 
 class AllPartsSheet : public FloorPartPaper {
@@ -21,7 +21,8 @@ class AllPartsSheet : public FloorPartPaper {
   /// Row 0 of a band is that of the diameters, 2 that of the first part, 13 that of the sums.
   std::string Cells(int band, int row, int group) const {
     const float left = 500 + 2600.0F * static_cast<float>(group);
-    return Row(kTableTop + kPitch * static_cast<float>(band * kBandRows + row), kPitch, 0, left, left + 2600);
+    return Row(kTableTop + kPartPitch * static_cast<float>(band * kBandRows + row), kPartPitch, 0, left,
+               left + 2600);
   }
   std::vector<std::string> Heads(int band) const {
     return {Cells(band, 0, 0), Cells(band, 0, 1), Cells(band, 0, 2), Cells(band, 0, 3)};
@@ -63,7 +64,7 @@ TEST_F(AllPartsSheet, FiguresShareTheRightColumn) {
   bars.Add(1, kD10, 100);
   bars.tables.Assetu.Bui[1][kD10] = 7;
   Draw(bars.Result());
-  const float y = kTableTop + 2 * kPitch + 2.5F;
+  const float y = kTableTop + 2 * kPartPitch + 2.5F;
   EXPECT_EQ(page_.TextAt(500 + 1110, y), "      336");
   EXPECT_EQ(page_.TextAt(500 + 2090, y), "    7");
 }

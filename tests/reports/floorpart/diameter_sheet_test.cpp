@@ -14,7 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr float kPitch = 250;
+constexpr float kRowPitch = 250;
 
 /// The sheet of floor 1 of a tally.
 class DiameterPaper : public FloorPartPaper {
@@ -34,7 +34,7 @@ class DiameterPaper : public FloorPartPaper {
   /// What stands in a row of a group, from the left; row 0 is that of the names.
   std::string Cells(int row, int group, std::size_t page = 0) const {
     const float left = 500 + 2190.0F * static_cast<float>(group);
-    return Row(kTableTop + kPitch * static_cast<float>(row), kPitch, page, left, left + 2190);
+    return Row(kTableTop + kRowPitch * static_cast<float>(row), kRowPitch, page, left, left + 2190);
   }
   std::vector<std::string> Names(std::size_t page) const {
     std::vector<std::string> names;

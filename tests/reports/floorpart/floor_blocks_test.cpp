@@ -12,13 +12,13 @@ namespace {
 using testing::ElementsAre;
 
 constexpr float kBlocksTop = kTableTop + 300;
-constexpr float kPitch = 230;
+constexpr float kLinePitch = 230;
 
 class FloorBlocksSheet : public FloorPartPaper {
  protected:
   void Draw(const TallyResult& result) { cut_ = DrawFloorBlocks(page_.Printer, site_, arguments_, result); }
   std::string Line(int line, std::size_t page = 0) const {
-    return Row(kBlocksTop + kPitch * static_cast<float>(line), kPitch, page);
+    return Row(kBlocksTop + kLinePitch * static_cast<float>(line), kLinePitch, page);
   }
   /// Lines of a page before the first empty one.
   int Lines(std::size_t page) const {
@@ -53,7 +53,7 @@ TEST_F(FloorBlocksSheet, HasABlockForEachFloorWithWeightAndOneForAll) {
 
 TEST_F(FloorBlocksSheet, FiguresStand200BehindTheirColumnAndTheTotalAt14650) {
   Draw(Blocks(1, 1).Result(1, 1));
-  const float y = kBlocksTop + (kPitch - 160) / 2;
+  const float y = kBlocksTop + (kLinePitch - 160) / 2;
   EXPECT_EQ(page_.TextAt(5150 + 200, y), "      135");
   EXPECT_EQ(page_.TextAt(14650, y), "        135");
   EXPECT_EQ(page_.TextOf("1Ｆ").x, 550);
@@ -80,7 +80,7 @@ TEST_F(FloorBlocksSheet, ABlockIsNeverDivided) {
   EXPECT_EQ(Lines(0), 34);  // 22 and 12
   EXPECT_EQ(Lines(1), 12);
   EXPECT_EQ(Line(0, 1).substr(0, 9), "合  計|");
-  const float bottom = kBlocksTop + 35 * kPitch;
+  const float bottom = kBlocksTop + 35 * kLinePitch;
   EXPECT_LT(bottom, 11906);  // of A4 landscape: the most lines that a page takes
 }
 
@@ -147,9 +147,9 @@ TEST_F(FloorBlocksSheet, TheGrandWeightIsToldInTonnes) {
 TEST_F(FloorBlocksSheet, RulesPartTheLinesAndCloseTheBlocks) {
   Draw(Blocks(1, 2).Result(1, 1));
   EXPECT_EQ(page_.RuleAt(kBlocksTop, 500).x2, 15700);
-  EXPECT_EQ(page_.RuleAt(kBlocksTop + kPitch, 1100).x2, 15700);
-  EXPECT_EQ(page_.RuleAt(kBlocksTop + 2 * kPitch, 1100).x2, 15700);
-  EXPECT_EQ(page_.RuleAt(kBlocksTop + 3 * kPitch, 500).x2, 15700);
+  EXPECT_EQ(page_.RuleAt(kBlocksTop + kLinePitch, 1100).x2, 15700);
+  EXPECT_EQ(page_.RuleAt(kBlocksTop + 2 * kLinePitch, 1100).x2, 15700);
+  EXPECT_EQ(page_.RuleAt(kBlocksTop + 3 * kLinePitch, 500).x2, 15700);
 }
 
 TEST_F(FloorBlocksSheet, AFigureWiderThanItsFieldIsToldByFloorPartAndDiameter) {

@@ -64,12 +64,6 @@ constexpr HeadLayout kLayout{{5900, 5700, EndsBehindText()}, 500, {18, 30}, kPar
 /// Y of a row: 18 points are 360 twips.
 constexpr float Row(double row) { return static_cast<float>(500 + row * 390); }
 
-std::string Repeated(std::string_view text, int count) {
-  std::string repeated;
-  for (int i = 0; i < count; ++i) repeated += text;
-  return repeated;
-}
-
 class HeadOfFixedRows : public ::testing::Test {
  protected:
   HeadOfFixedRows() { head_.scope = "【1階～8階】"; }
@@ -113,11 +107,11 @@ TEST_F(HeadOfFixedRows, TheRuleUnderTheClientIsAsLongAsTheLine) {
 
 // 10000 twips are left: 35 characters of 280 fit, 38 take 13 points.
 TEST_F(HeadOfFixedRows, AClientTooLongForTheSpaceShrinksAndItsRuleStops) {
-  head_.client = Repeated("見", 32);
+  head_.client = test::Repeated("見", 32);
   Draw();
   EXPECT_EQ(page_.TextThatStarts("見見").font_size, 14);
   EXPECT_EQ(page_.RuleAt(Row(1.5) + 280, 500).x2, 6000);
-  head_.client = Repeated("見", 35);
+  head_.client = test::Repeated("見", 35);
   Draw();
   EXPECT_EQ(page_.TextThatStarts("見見").font_size, 13);
 }
@@ -125,7 +119,7 @@ TEST_F(HeadOfFixedRows, AClientTooLongForTheSpaceShrinksAndItsRuleStops) {
 TEST_F(HeadOfFixedRows, TheRuleUnderAShortNameEndsBeforeTheBlock) {
   Draw();
   EXPECT_EQ(page_.RuleAt(Row(3.5) + 240, 500).x2, 500 + 5 * 264 + 1600);
-  head_.project = ShortName{Repeated("見", 40)};
+  head_.project = ShortName{test::Repeated("見", 40)};
   Draw();
   EXPECT_EQ(page_.RuleAt(Row(3.5) + 240, 500).x2, 11000);
 }
@@ -135,7 +129,7 @@ TEST_F(HeadOfFixedRows, TheRuleUnderALongNameClearsTheNameAndItsLabel) {
   Draw();
   EXPECT_EQ(page_.TextOf("見本町").font_size, 13);
   EXPECT_FLOAT_EQ(page_.RuleAt(Row(3.5) + 260, 500).x2, 500 + 960 + 3 * 13 * 20.1F + 100);
-  head_.project = OneLineName{Repeated("見", 30)};
+  head_.project = OneLineName{test::Repeated("見", 30)};
   Draw();
   EXPECT_LT(page_.TextThatStarts("見見").font_size, 12);
   EXPECT_NO_THROW(page_.RuleAt(Row(3.5) + 240, 500));

@@ -124,10 +124,10 @@ TEST(Paginate, EveryBlockOfEveryTableStandsOnceInItsOrderOnAPageThatHoldsIt) {
   }
 }
 
-enum class Field { floor, weight };
-constexpr std::array<TableColumn<Field>, 2> kColumns{{
-    {Field::floor, {500, 800}, {"階", 700}, {600, 600}},
-    {Field::weight, {1300, 1150, 2}, {"重量", 1500}, {1400, 1400, {5, kBlankZeroMask}}},
+enum class FlowField { floor, weight };
+constexpr std::array<TableColumn<FlowField>, 2> kFlowColumns{{
+    {FlowField::floor, {500, 800}, {"階", 700}, {600, 600}},
+    {FlowField::weight, {1300, 1150, 2}, {"重量", 1500}, {1400, 1400, {5, kBlankZeroMask}}},
 }};
 
 /// A table of floors on pages of three rows, with the head, the page number and a block at the foot of each.
@@ -138,7 +138,7 @@ class PagedTable : public ::testing::Test {
   static constexpr HeadPart kPageText = PagePart{9600, {0, 120}};
 
   void Draw(std::vector<std::int64_t> weights) {
-    const std::span<const TableColumn<Field>> columns = kColumns;
+    const std::span<const TableColumn<FlowField>> columns = kFlowColumns;
     const ReportHead head{.title = "階 別 数 量 表", .document_title = "階別数量表"};
     const std::vector<FlowBlock> blocks = RowsAndTotal(weights.size());
     TablePlace place;
@@ -154,8 +154,8 @@ class PagedTable : public ::testing::Test {
                    [&](ReportPen& pen, const PlacedBlock& at) {
                      const bool total = at.block == weights.size();
                      const std::string label = total ? "合計" : std::to_string(at.block + 1) + "階";
-                     DrawRow(pen, columns, place, {7 + at.row, label}, [&](Field field) {
-                       if (field == Field::floor) return CellValue(label);
+                     DrawRow(pen, columns, place, {7 + at.row, label}, [&](FlowField field) {
+                       if (field == FlowField::floor) return CellValue(label);
                        return total ? CellValue() : CellValue(weights[at.block]);
                      });
                    },
@@ -221,7 +221,7 @@ TEST_F(PagedTable, AFigureCutOnTheSecondPageIsNotedForThatPage) {
 // Diameters in groups side by side: two groups a page, and those without a diameter show their frame.
 TEST_F(PagedTable, GroupsCarryOverLikeRowsAndEmptyOnesShowTheFrame) {
   constexpr GroupBand kBand{500, 2000, 2};
-  const std::span<const TableColumn<Field>> columns = kColumns;
+  const std::span<const TableColumn<FlowField>> columns = kFlowColumns;
   const std::vector<std::string> diameters{"D 10", "D 13", "D 16"};
   DrawPages(pen_, PaginateRows(diameters.size(), kBand.count),
             {.head =
@@ -231,7 +231,7 @@ TEST_F(PagedTable, GroupsCarryOverLikeRowsAndEmptyOnesShowTheFrame) {
              .block =
                  [&](ReportPen& pen, const PlacedBlock& at) {
                    DrawRow(pen, columns.first(1), {{250, 0}, kBand.Left(at.row)}, {9, diameters[at.block]},
-                           [&](Field) { return CellValue(diameters[at.block]); });
+                           [&](FlowField) { return CellValue(diameters[at.block]); });
                  },
              .foot = {}});
   ASSERT_EQ(page_.documents[0].pages.size(), 2U);

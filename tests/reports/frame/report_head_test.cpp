@@ -30,12 +30,6 @@ class ComparisonHead : public ::testing::Test {
   test::DrawnPage page_;
 };
 
-std::string Repeated(std::string_view text, int count) {
-  std::string repeated;
-  for (int i = 0; i < count; ++i) repeated += text;
-  return repeated;
-}
-
 TEST_F(ComparisonHead, TheTitleStandsBoldInSize18OverItsRule) {
   Draw();
   const PrintedText title = page_.TextOf("重  量  対  比  表");
@@ -112,10 +106,10 @@ TEST_F(ComparisonHead, ASubProjectTextStandsInBracketsUnderAShortName) {
 }
 
 TEST_F(ComparisonHead, ASubProjectTextNeverRunsIntoTheOwnCompanyBlock) {
-  arguments_.SubProject = Repeated("期", 22);  // 500 + 27 x 240 = 6980
+  arguments_.SubProject = test::Repeated("期", 22);  // 500 + 27 x 240 = 6980
   Draw();
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 12);
-  arguments_.SubProject = Repeated("期", 23);
+  arguments_.SubProject = test::Repeated("期", 23);
   Draw();
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 7);
   Draw(kHeadA4Y);
@@ -124,7 +118,7 @@ TEST_F(ComparisonHead, ASubProjectTextNeverRunsIntoTheOwnCompanyBlock) {
 
 // 20 characters fit: 960 + 40 x 120 = 5760.
 TEST_F(ComparisonHead, ALongNameThatFitsStandsAtItsLabelsHeightInSize12) {
-  site_.long_name = Repeated("見", 20);
+  site_.long_name = test::Repeated("見", 20);
   const RowGrid grid = Draw();
   const float y = grid.Y(2) - 240 + 400;
   EXPECT_EQ(page_.TextOf("工事名").y, y);
@@ -137,16 +131,16 @@ TEST_F(ComparisonHead, ALongNameThatFitsStandsAtItsLabelsHeightInSize12) {
 
 // 5040 twips are left: 24 characters take 48 x 105 at 10.5 points, 25 need 50 x 100 at 10.
 TEST_F(ComparisonHead, ALongNameShrinksInStepsOfHalfAPoint) {
-  site_.long_name = Repeated("見", 24);
+  site_.long_name = test::Repeated("見", 24);
   Draw();
   EXPECT_EQ(page_.TextOf(site_.long_name).font_size, 10.5F);
-  site_.long_name = Repeated("見", 25);
+  site_.long_name = test::Repeated("見", 25);
   Draw();
   EXPECT_EQ(page_.TextOf(site_.long_name).font_size, 10);
 }
 
 TEST_F(ComparisonHead, TheRuleUnderAShrunkNameClearsItsLabel) {
-  site_.long_name = Repeated("見", 40);
+  site_.long_name = test::Repeated("見", 40);
   const RowGrid grid = Draw();
   const float y = grid.Y(2) + 160;
   EXPECT_LT(page_.TextOf(site_.long_name).font_size, 12);
@@ -154,8 +148,8 @@ TEST_F(ComparisonHead, TheRuleUnderAShrunkNameClearsItsLabel) {
 }
 
 TEST_F(ComparisonHead, ALongNameWithASubProjectTextStandsHigher) {
-  site_.long_name = Repeated("見", 20);
-  arguments_.SubProject = Repeated("期", 22);
+  site_.long_name = test::Repeated("見", 20);
+  arguments_.SubProject = test::Repeated("期", 22);
   const RowGrid grid = Draw();
   const float y = grid.Y(1.3) + 160;
   EXPECT_EQ(page_.TextOf("工事名").y, y);
@@ -165,7 +159,7 @@ TEST_F(ComparisonHead, ALongNameWithASubProjectTextStandsHigher) {
 
 TEST_F(ComparisonHead, ASubProjectTextOver22CharactersStandsInSize7UnderALongName) {
   site_.long_name = "見本町";
-  arguments_.SubProject = Repeated("a", 23);
+  arguments_.SubProject = test::Repeated("a", 23);
   Draw(kHeadB5Y);
   EXPECT_EQ(page_.TextThatStarts("　　　（").font_size, 7);
 }
@@ -200,10 +194,10 @@ TEST_F(ComparisonHead, ASubProjectTextStandsOnTheLineBelowANameOfTwoLines) {
 // 5900 twips are left before the block: with 8 bytes of label 18 characters take 44 x 130 at 13 points, 19
 // need 46 x 125 at 12.5. The rule of 19 would end at 500 + 44 x 141.5 + 100 = 6826.
 TEST_F(ComparisonHead, AClientShrinksByHalfPointsBeforeTheOwnCompanyBlockAndItsRuleEndsThere) {
-  site_.client = Repeated("見", 18);
+  site_.client = test::Repeated("見", 18);
   Draw();
   EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 13);
-  site_.client = Repeated("見", 19);
+  site_.client = test::Repeated("見", 19);
   Draw();
   EXPECT_EQ(page_.TextThatStarts("取引先").font_size, 12.5F);
   EXPECT_EQ(page_.RuleAt(2440 + 250, 500).x2, 6400);
@@ -212,10 +206,10 @@ TEST_F(ComparisonHead, AClientShrinksByHalfPointsBeforeTheOwnCompanyBlockAndItsR
 }
 
 TEST_F(ComparisonHead, OnA4PortraitTheRuleOfTheProjectEndsBeforeTheOwnCompanyBlock) {
-  site_.short_name = Repeated("見", 20);  // 500 + 20 x 264 + 1600 = 7380
+  site_.short_name = test::Repeated("見", 20);  // 500 + 20 x 264 + 1600 = 7380
   const RowGrid grid = Draw();
   EXPECT_EQ(page_.RuleAt(grid.Y(2.7), 500).x2, 6400);
-  site_.long_name = Repeated("見", 21);  // 500 + 960 + 21 x 12 x 20.1 + 100 = 6625.2
+  site_.long_name = test::Repeated("見", 21);  // 500 + 960 + 21 x 12 x 20.1 + 100 = 6625.2
   Draw();
   EXPECT_EQ(page_.RuleAt(grid.Y(2) + 400, 500).x2, 6400);
   site_.koji_break = 20;
@@ -232,7 +226,7 @@ TEST_F(ComparisonHead, OnB5TheRuleOfAShortNameStandsRightUnderIt) {
 }
 
 TEST_F(ComparisonHead, OnB5ALongNameAndItsRuleReckonFrom1067) {
-  site_.long_name = Repeated("見", 20);
+  site_.long_name = test::Repeated("見", 20);
   Draw(kHeadB5Y);
   EXPECT_EQ(page_.TextOf(site_.long_name).x, 1767);
   const float y = page_.TextOf(site_.long_name).y + 240;

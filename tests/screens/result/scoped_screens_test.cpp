@@ -19,11 +19,11 @@ namespace {
 using testing::HasSubstr;
 
 // Ten bars of 6.0 m each: D19 13.5 kg, D13 5.97, D25 23.9, D32 37.4, D16 9.36 (three figures).
-constexpr const char* kD19 = "135 |135 |0 |3|0|";
-constexpr const char* kHoop = "60 |60 |0 |3|0|";
-constexpr const char* kD25 = "239 |239 |0 |3|0|";
-constexpr const char* kD32 = "374 |374 |0 |3|0|";
-constexpr const char* kNone = "0 |0 |0 |0|0|";
+constexpr const char* kD19Row = "135 |135 |0 |3|0|";
+constexpr const char* kHoopRow = "60 |60 |0 |3|0|";
+constexpr const char* kD25Row = "239 |239 |0 |3|0|";
+constexpr const char* kD32Row = "374 |374 |0 |3|0|";
+constexpr const char* kNoRow = "0 |0 |0 |0|0|";
 
 /// A scoped screen. Page 1 has lines 1 to 4 (D19, hoop D13, anchored D25, U 9), page 2 lines 1 and 2 (D32,
 /// D16), page 4 line 7 (D10). The stock lengths are those of the schedule.
@@ -166,10 +166,10 @@ TEST(PageScreens, EndPageAboveStartPageWithEndLineBelowStartLineIsAccepted) {
     js.EnterPositions(1, 3, 2, 1);
     EXPECT_TRUE(js.site.Messages().empty());
     EXPECT_TRUE(js.Shows("dbgJS"));
-    EXPECT_EQ(js.Row("D19"), kNone);
-    EXPECT_EQ(js.Row("D25"), kD25);
-    EXPECT_EQ(js.Row("D32"), kD32);
-    EXPECT_EQ(js.Row("D16"), kNone);
+    EXPECT_EQ(js.Row("D19"), kNoRow);
+    EXPECT_EQ(js.Row("D25"), kD25Row);
+    EXPECT_EQ(js.Row("D32"), kD32Row);
+    EXPECT_EQ(js.Row("D16"), kNoRow);
   }
 }
 
@@ -179,7 +179,7 @@ TEST(PageScreens, ASingleLineIsAccepted) {
     js.Start();
     js.EnterPositions(1, 2, 1, 2);
     EXPECT_TRUE(js.site.Messages().empty());
-    EXPECT_EQ(js.Row("D13"), kHoop);
+    EXPECT_EQ(js.Row("D13"), kHoopRow);
     EXPECT_EQ(js.Row("総　　合　　計"), "60 kg|60 kg||||");
   }
 }
@@ -194,7 +194,7 @@ TEST(PageScreens, TheResultTakesThePlaceOfTheRange) {
     EXPECT_TRUE(js.Shows("dbgJS"));
     EXPECT_EQ(js.Label("Label8"), "異形･高強度･ネジ･スリット");
     EXPECT_EQ(js.Label("Label9"), "すべて");
-    EXPECT_EQ(js.Row("D19"), kD19);
+    EXPECT_EQ(js.Row("D19"), kD19Row);
     EXPECT_EQ(js.Focused(), "dbgJS");
     EXPECT_EQ(Selection.EndPage, 4);
     EXPECT_EQ(Selection.EndLine, 7);
@@ -226,8 +226,8 @@ TEST(PageScreens, RangeChangeAsksAnewAndTheNextTallyRunsWithAllFiltersReset) {
     EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
     EXPECT_EQ(js.Button("cmdTei")->text(), "含む");
     js.Run();
-    EXPECT_EQ(js.Row("D13"), kHoop);
-    EXPECT_EQ(js.Row("D25"), kD25);
+    EXPECT_EQ(js.Row("D13"), kHoopRow);
+    EXPECT_EQ(js.Row("D25"), kD25Row);
   }
 }
 
@@ -258,7 +258,7 @@ TEST(PageScreens, AFaultOfTheTallyAsksForTheRangeAgain) {
   EXPECT_FALSE(js.Shows("waitPanel"));
   EXPECT_EQ(js.Focused(), "txtStartPage");
   js.EnterPositions(1, 1, 4, 7);
-  EXPECT_EQ(js.Row("D19"), kD19);
+  EXPECT_EQ(js.Row("D19"), kD19Row);
 }
 
 TEST(PageScreens, AFaultOfALaterTallyAsksForTheRangeAgain) {
@@ -323,13 +323,13 @@ TEST(ShapeScreen, TalliesTheShapesAndKeepsTheRangeInReach) {
   js.EnterShapes(2, 100);
   EXPECT_EQ(Selection.ShapeStart, 2);
   EXPECT_EQ(Selection.ShapeEnd, 100);
-  EXPECT_EQ(js.Row("D13"), kHoop);
-  EXPECT_EQ(js.Row("D19"), kNone);
+  EXPECT_EQ(js.Row("D13"), kHoopRow);
+  EXPECT_EQ(js.Row("D19"), kNoRow);
   EXPECT_TRUE(js.Box("txtStartKeijouNo")->isEnabled());
   EXPECT_TRUE(js.Shows("txtStartKeijouNo"));
   js.EnterShapes(1, 1);
-  EXPECT_EQ(js.Row("D19"), kD19);
-  EXPECT_EQ(js.Row("D13"), kNone);
+  EXPECT_EQ(js.Row("D19"), kD19Row);
+  EXPECT_EQ(js.Row("D13"), kNoRow);
 }
 
 TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
@@ -348,7 +348,7 @@ TEST(ShapeScreen, ANewRangeResetsKindsAndModes) {
   EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(15));
   EXPECT_EQ(js.Label("Label8"), "異形・高強度・ネジ・スリット");
   EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
-  EXPECT_EQ(js.Row("D13"), kHoop);
+  EXPECT_EQ(js.Row("D13"), kHoopRow);
 }
 
 TEST(ShapeScreen, CountsTheHighStrengthRowsOfItsRange) {
@@ -377,7 +377,7 @@ TEST(ShapeScreen, FormChangeChangesTheCaptionAndNotTheFigures) {
     mask = chosen;
     js.Click("Command2");
     EXPECT_EQ(js.Label("Label9"), caption);
-    EXPECT_EQ(js.Row("D19"), kD19);
+    EXPECT_EQ(js.Row("D19"), kD19Row);
   }
 }
 
@@ -457,15 +457,15 @@ TEST(ScopedScreens, CycleTheHoopsThroughIncludedLeftOutAndOnly) {
     js.Click("cmdHoop");
     EXPECT_EQ(js.Button("cmdHoop")->text(), "含まず");
     EXPECT_EQ(js.Label("Label11"), "(形状No87)を");
-    EXPECT_EQ(js.Row("D13"), kNone);
+    EXPECT_EQ(js.Row("D13"), kNoRow);
     js.Click("cmdHoop");
     EXPECT_EQ(js.Button("cmdHoop")->text(), "のみ");
     EXPECT_EQ(js.Label("Label11"), "(形状No87)");
-    EXPECT_EQ(js.Row("D13"), kHoop);
-    EXPECT_EQ(js.Row("D19"), kNone);
+    EXPECT_EQ(js.Row("D13"), kHoopRow);
+    EXPECT_EQ(js.Row("D19"), kNoRow);
     js.Click("cmdHoop");
     EXPECT_EQ(js.Button("cmdHoop")->text(), "含む");
-    EXPECT_EQ(js.Row("D19"), kD19);
+    EXPECT_EQ(js.Row("D19"), kD19Row);
   }
 }
 
@@ -476,11 +476,11 @@ TEST(ScopedScreens, CycleThePlatesAndKeepTheButtonsOfTheFirstRun) {
     js.Run();
     js.Click("cmdTei");
     EXPECT_EQ(js.Button("cmdTei")->text(), "含まず");
-    EXPECT_EQ(js.Row("D25"), kNone);
+    EXPECT_EQ(js.Row("D25"), kNoRow);
     js.Click("cmdTei");
     EXPECT_EQ(js.Button("cmdTei")->text(), "のみ");
-    EXPECT_EQ(js.Row("D25"), kD25);
-    EXPECT_EQ(js.Row("D19"), kNone);
+    EXPECT_EQ(js.Row("D25"), kD25Row);
+    EXPECT_EQ(js.Row("D19"), kNoRow);
     EXPECT_TRUE(js.Shows("cmdTei"));
     EXPECT_TRUE(js.Shows("cmdHoop"));  // the mode leaves no hoop, and can still be taken back
   }
@@ -509,7 +509,7 @@ TEST(ScopedScreens, KindChangeRunsTheDialogThenTheTallyAndShowsTheKinds) {
     js.Run();
     js.Click("Command3");
     EXPECT_EQ(js.Label("Label8"), "スリットのみ");
-    EXPECT_EQ(js.Row("D19"), kNone);
+    EXPECT_EQ(js.Row("D19"), kNoRow);
     EXPECT_EQ(Selection.PrevMaterialKindMask, KindMask(8));
   }
 }

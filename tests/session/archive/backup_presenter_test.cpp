@@ -22,7 +22,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr const char* kName = "試験工事一括集計20261121090000.csv";
-constexpr const char* kAsked =
+constexpr const char* kAskedForCsv =
     "実行の確認: CSVファイルを保存しますか？\n\nファイル名：試験工事一括集計20261121090000.csv|";
 
 CsvOfTally FloorTally123() {
@@ -125,7 +125,7 @@ TEST_F(BackUpDialog, SavesIntoTheFolderAndEnds) {
   chosen_ = home_ / "usb/csv";
   Open().ChooseFolder();
   dialog_->Save();
-  EXPECT_EQ(site_.Told(), kAsked + std::string("終了の確認: ファイル名 [ ") + kName + " ]  を　[ " +
+  EXPECT_EQ(site_.Told(), kAskedForCsv + std::string("終了の確認: ファイル名 [ ") + kName + " ]  を　[ " +
                               (home_ / "usb/csv").string() + " ] に書き出しました|");
   EXPECT_EQ(site_.Messages()[0].buttons, MessageButtons::ok_cancel);
   EXPECT_TRUE(dialog_->View().left);
@@ -134,10 +134,10 @@ TEST_F(BackUpDialog, SavesIntoTheFolderAndEnds) {
 
 TEST_F(BackUpDialog, SavesOnTheDesktopAndInTheDocumentsFolder) {
   Open().SaveOnDesktop();
-  EXPECT_EQ(site_.Told(), kAsked + std::string("終了の確認: ファイル名 [ ") + kName +
+  EXPECT_EQ(site_.Told(), kAskedForCsv + std::string("終了の確認: ファイル名 [ ") + kName +
                               " ]  を　デスクトップに書き出しました。|");
   Open().SaveInDocuments();
-  EXPECT_EQ(site_.Told(2), kAsked + std::string("終了の確認: ファイル名 [ ") + kName +
+  EXPECT_EQ(site_.Told(2), kAskedForCsv + std::string("終了の確認: ファイル名 [ ") + kName +
                                " ]  を　マイドキュメントに書き出しました。|");
   EXPECT_THAT(FilesIn("Desktop"), ElementsAre(kName));
   EXPECT_THAT(FilesIn("Documents"), ElementsAre(kName));
@@ -178,7 +178,7 @@ TEST_F(BackUpDialog, TheThirteenMetreColumnGoesByItsSetting) {
 TEST_F(BackUpDialog, ACancelWritesNothingAndStays) {
   site_.Answer(MessageAnswer::cancel);
   Open().SaveInDocuments();
-  EXPECT_EQ(site_.Told(), kAsked);
+  EXPECT_EQ(site_.Told(), kAskedForCsv);
   EXPECT_FALSE(dialog_->View().left);
   EXPECT_THAT(FilesIn("Documents"), ElementsAre());
 }
@@ -188,7 +188,8 @@ TEST_F(BackUpDialog, AFileThatIsThereIsAskedAbout) {
   site_.Answer(MessageAnswer::ok);
   site_.Answer(MessageAnswer::no);
   Open().SaveInDocuments();
-  EXPECT_EQ(site_.Told(), kAsked + std::string("実行の確認: 「") + (home_ / "Documents" / kName).string() +
+  EXPECT_EQ(site_.Told(), kAskedForCsv + std::string("実行の確認: 「") +
+                              (home_ / "Documents" / kName).string() +
                               "」は既にあります。\n置き換えますか？|");
   EXPECT_EQ(site_.Messages()[1].buttons, MessageButtons::yes_no);
   EXPECT_FALSE(dialog_->View().left);

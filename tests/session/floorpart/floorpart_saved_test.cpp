@@ -121,9 +121,9 @@ TEST(FloorPartSaved, ALoadedTallyIsNeitherFilteredNorRaisedNorCorrected) {
 }
 
 TEST(FloorPartSaved, NoPrintBringsTheSelectionBackToALoadedTally) {
-  constexpr std::size_t kEachFloor = 1;
-  constexpr std::size_t kTotals = 2;
-  for (const std::size_t sheet : {kEachFloor, kTotals}) {
+  constexpr std::size_t kSheetOfEachFloor = 1;
+  constexpr std::size_t kSheetOfTotals = 2;
+  for (const std::size_t sheet : {kSheetOfEachFloor, kSheetOfTotals}) {
     SavingScreen js(kFloorScreen);
     js.SaveAllAndTallyOne().Load();
     js.presenter->OpenPrint();

@@ -21,9 +21,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const StartModeTraits kUsual = TraitsOfStartMode(kNoStartMode);
+const StartModeTraits kUsualStart = TraitsOfStartMode(kNoStartMode);
 /// Only plain bars are straight, and there are no plates.
-const StartModeTraits kOther = TraitsOfStartMode(1);
+const StartModeTraits kOtherStart = TraitsOfStartMode(1);
 
 class ClassifiedSchedules : public testing::Test {
  protected:
@@ -51,80 +51,80 @@ class ClassifiedSchedules : public testing::Test {
 };
 
 TEST_F(ClassifiedSchedules, StayThoseOfTheModeWhileTheyAreHeld) {
-  HoldClassifiedSchedule(kUsual);
-  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
+  HoldClassifiedSchedule(kUsualStart);
+  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOtherStart); }), HasSubstr("another program holds the file"));
   EXPECT_EQ(Ours(), "1/6");
   SiteContext.WorkDatabase->LetGo();
-  StartElsewhere(kOther);
+  StartElsewhere(kOtherStart);
   EXPECT_EQ(OfTheFile(), "2/0");
 }
 
 TEST_F(ClassifiedSchedules, AreClassifiedAgainWhenSomebodyHasChangedThem) {
-  { const ClassifiedSchedule first(kUsual); }
-  StartElsewhere(kOther);
+  { const ClassifiedSchedule first(kUsualStart); }
+  StartElsewhere(kOtherStart);
   {
-    const ClassifiedSchedule second(kUsual);
+    const ClassifiedSchedule second(kUsualStart);
     EXPECT_EQ(Ours(), "1/6");
   }
   EXPECT_EQ(OfTheFile(), "1/6");
 }
 
 TEST_F(ClassifiedSchedules, ThatNobodyHasChangedAreNeitherWrittenNorLocked) {
-  { const ClassifiedSchedule first(kUsual); }
+  { const ClassifiedSchedule first(kUsualStart); }
   const std::string bytes = Bytes();
   Database theirs = Database::Open(site_.Data(kScheduleFile));
   const Transaction writing(theirs);
   SiteContext.ClassifiedAt.reset();
-  { const ClassifiedSchedule looked_at_again(kUsual); }
-  { const ClassifiedSchedule known(kUsual); }
+  { const ClassifiedSchedule looked_at_again(kUsualStart); }
+  { const ClassifiedSchedule known(kUsualStart); }
   EXPECT_EQ(Bytes(), bytes);
 }
 
 TEST_F(ClassifiedSchedules, OfASlitBarOfAThreadedShapeAreNotWrittenTwice) {
   site_.AddRow({{"太さ", 10}, {"部位", 3}, {"名称", "縦ｽﾘｯﾄ筋　"}, {"形状No", 140}, {"伸切寸", 7000}});
   const auto start = [] {
-    ClassifyAtLoad(kUsual);
-    RefreshAtActivation(kUsual);
+    ClassifyAtLoad(kUsualStart);
+    RefreshAtActivation(kUsualStart);
   };
   start();
   const std::string bytes = Bytes();
   start();
-  { const ClassifiedSchedule tally(kUsual); }
+  { const ClassifiedSchedule tally(kUsualStart); }
   EXPECT_EQ(Bytes(), bytes);
   EXPECT_THAT(site_.Column("予備2"), ElementsAre("4", "5"));
 }
 
 TEST_F(ClassifiedSchedules, OfALoadAndAnActivationStandForTheTally) {
-  ClassifyAtLoad(kUsual);
-  RefreshAtActivation(kUsual);
+  ClassifyAtLoad(kUsualStart);
+  RefreshAtActivation(kUsualStart);
   EXPECT_EQ(OfTheFile(), "1/6");
   const auto known = SiteContext.ClassifiedAt;
-  { const ClassifiedSchedule tally(kUsual); }
+  { const ClassifiedSchedule tally(kUsualStart); }
   EXPECT_EQ(SiteContext.ClassifiedAt, known);
 }
 
 TEST_F(ClassifiedSchedules, ThatAnotherModeCameBetweenLoadAndActivationAreClassifiedAgain) {
-  ClassifyAtLoad(kUsual);
-  StartElsewhere(kOther);
-  RefreshAtActivation(kUsual);
-  const ClassifiedSchedule tally(kUsual);
+  ClassifyAtLoad(kUsualStart);
+  StartElsewhere(kOtherStart);
+  RefreshAtActivation(kUsualStart);
+  const ClassifiedSchedule tally(kUsualStart);
   EXPECT_EQ(Ours(), "1/6");
 }
 
 TEST_F(ClassifiedSchedules, OfASiteThatIsOnlyReadAreThoseOfACopyAndToldOfOnce) {
-  StartElsewhere(kOther);
+  StartElsewhere(kOtherStart);
   SiteContext.OnlyRead = true;
   OpenWorkDatabase();
   const std::string bytes = Bytes();
   {
-    const ClassifiedSchedule tally(kUsual);
+    const ClassifiedSchedule tally(kUsualStart);
     EXPECT_EQ(Ours(), "1/6");
   }
   EXPECT_TRUE(SiteContext.WorkDatabase->IsPrivateCopy());
   EXPECT_EQ(SiteContext.WorkDatabase->File(), site_.Data(kScheduleFile));
-  { const ClassifiedSchedule again(kUsual); }
+  { const ClassifiedSchedule again(kUsualStart); }
   OpenWorkDatabase();
-  { const ClassifiedSchedule opened_again(kUsual); }
+  { const ClassifiedSchedule opened_again(kUsualStart); }
   EXPECT_EQ(Bytes(), bytes);
   ASSERT_THAT(site_.Messages(), SizeIs(1));
   EXPECT_EQ(site_.Messages().front().text,
@@ -134,60 +134,60 @@ TEST_F(ClassifiedSchedules, OfASiteThatIsOnlyReadAreThoseOfACopyAndToldOfOnce) {
 TEST_F(ClassifiedSchedules, OfACopyFollowTheirOriginal) {
   SiteContext.OnlyRead = true;
   OpenWorkDatabase();
-  { const ClassifiedSchedule tally(kUsual); }
+  { const ClassifiedSchedule tally(kUsualStart); }
   site_.Execute(kScheduleFile, "UPDATE 加工テーブル SET 本数 = 5");
-  const ClassifiedSchedule tally(kUsual);
+  const ClassifiedSchedule tally(kUsualStart);
   EXPECT_EQ(Ours(), "1/15");
 }
 
 TEST_F(ClassifiedSchedules, OfASiteThatIsOnlyReadAndClassifiedNeedNoCopy) {
-  StartElsewhere(kUsual);
+  StartElsewhere(kUsualStart);
   SiteContext.OnlyRead = true;
   OpenWorkDatabase();
-  const ClassifiedSchedule tally(kUsual);
+  const ClassifiedSchedule tally(kUsualStart);
   EXPECT_FALSE(SiteContext.WorkDatabase->IsPrivateCopy());
   EXPECT_THAT(site_.Messages(), IsEmpty());
 }
 
 TEST_F(ClassifiedSchedules, AreThoseOfTheFileThatStandsUnderTheNameNow) {
-  { const ClassifiedSchedule tally(kUsual); }
+  { const ClassifiedSchedule tally(kUsualStart); }
   const auto file = site_.Data(kScheduleFile);
   std::filesystem::copy_file(file, site_.Data("restored"));
   Database::Open(site_.Data("restored")).Execute("UPDATE 加工テーブル SET 本数 = 7");
   std::filesystem::rename(site_.Data("restored"), file);
-  const ClassifiedSchedule tally(kUsual);
+  const ClassifiedSchedule tally(kUsualStart);
   EXPECT_EQ(Ours(), "1/21");
 }
 
 TEST_F(ClassifiedSchedules, WithFloorsAreHeldToo) {
-  StartElsewhere(kOther);
-  HoldScheduleWithFloors(kUsual);
+  StartElsewhere(kOtherStart);
+  HoldScheduleWithFloors(kUsualStart);
   EXPECT_EQ(Ours(), "1/6");
   EXPECT_THAT(site_.Column("階"), ElementsAre("78"));
   EXPECT_THAT(site_.Column("部位"), ElementsAre("0"));
-  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
+  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOtherStart); }), HasSubstr("another program holds the file"));
 }
 
 TEST_F(ClassifiedSchedules, ThatAreWrittenAreClassifiedAgainFirstAndHeldAfterwards) {
-  HoldClassifiedSchedule(kUsual);
+  HoldClassifiedSchedule(kUsualStart);
   SiteContext.WorkDatabase->LetGo();
-  StartElsewhere(kOther);
+  StartElsewhere(kOtherStart);
   Database& schedule = *SiteContext.WorkDatabase;
-  WriteAndHoldClassified(schedule, kUsual, [&] {
+  WriteAndHoldClassified(schedule, kUsualStart, [&] {
     EXPECT_EQ(Ours(), "1/6");
     schedule.Execute("UPDATE 加工テーブル SET 階 = 3");
   });
   EXPECT_EQ(schedule.State(), SiteContext.ClassifiedAt);
-  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOther); }), HasSubstr("another program holds the file"));
+  EXPECT_THAT(FaultTextOf([&] { StartElsewhere(kOtherStart); }), HasSubstr("another program holds the file"));
   schedule.LetGo();
   EXPECT_EQ(OfTheFile(), "1/6");
   EXPECT_THAT(site_.Column("階"), ElementsAre("3"));
 }
 
 TEST_F(ClassifiedSchedules, ThatAreNotWrittenInTheEndStayAsTheyWere) {
-  StartElsewhere(kOther);
+  StartElsewhere(kOtherStart);
   EXPECT_EQ(FaultOf([&] {
-              WriteAndHoldClassified(*SiteContext.WorkDatabase, kUsual,
+              WriteAndHoldClassified(*SiteContext.WorkDatabase, kUsualStart,
                                      [] { throw Fault(FaultKind::overflow, "a write"); });
             }),
             FaultKind::overflow);
@@ -195,11 +195,11 @@ TEST_F(ClassifiedSchedules, ThatAreNotWrittenInTheEndStayAsTheyWere) {
 }
 
 TEST_F(ClassifiedSchedules, WithFloorsOfASiteThatIsOnlyReadAreThoseOfACopy) {
-  for (const StartModeTraits& before : {kOther, kUsual}) {
+  for (const StartModeTraits& before : {kOtherStart, kUsualStart}) {
     StartElsewhere(before);
     SiteContext.OnlyRead = true;
     OpenWorkDatabase();
-    HoldScheduleWithFloors(kUsual);
+    HoldScheduleWithFloors(kUsualStart);
     EXPECT_EQ(Ours(), "1/6");
     EXPECT_FALSE(
         SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル WHERE IsNull(階) OR IsNull(部位)"));

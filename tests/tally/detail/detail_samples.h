@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/kilograms.h"
 #include "tally/closing_sums.h"
 #include "tally/detail/detail_cell.h"
 
 namespace rbt::test {
-
-inline Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
 
 /// Stock columns by their length.
 inline constexpr int kAt3m5 = 0;

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/numbers/currency.h"
+#include "support/kilograms.h"
 #include "support/schedule_site.h"
 #include "tally/rows/bar_row_samples.h"
 
 namespace rbt::test {
-
-inline Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
 
 /// A site whose rows stand on a floor each: D19, 2 bars of 6.0 m, 27 kg in stock and installed.
 class FloorSite : public ScheduleSite {

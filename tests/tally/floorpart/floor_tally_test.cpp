@@ -26,7 +26,7 @@ const Fields kThin = {{"太さ", Number(9)},
                       {"伸定尺", Value{5.5}}};
 const Fields kHoop = {{"形状No", Number(87)}, {"圧接", Number(4)}};
 
-void Tally(std::int16_t start, std::int16_t end, std::int16_t lowest = 1, std::int16_t specials = 0) {
+void TallyFloors(std::int16_t start, std::int16_t end, std::int16_t lowest = 1, std::int16_t specials = 0) {
   Selection.KaiStart = start;
   Selection.KaiEnd = end;
   Selection.KaiMin = lowest;
@@ -44,7 +44,7 @@ std::int32_t Bars(int floor) {
   return bars;
 }
 
-std::vector<std::string> Labels() {
+std::vector<std::string> ListedLabels() {
   std::vector<std::string> labels;
   for (const ListRow& row : FloorTally.KaiGyou) labels.push_back(row.label);
   return labels;
@@ -54,8 +54,8 @@ TEST(Kai_Jyuuryo_Syukei, ListsEveryFloorOfTheRangeWithZerosWhereItHoldsNothing) 
   FloorSite site;
   site.Add(1);
   site.Add(5, {{"部位", Number(3)}});
-  Tally(1, 5);
-  EXPECT_THAT(Labels(), ElementsAre("1階", "2階", "3階", "4階", "5階", "合　計"));
+  TallyFloors(1, 5);
+  EXPECT_THAT(ListedLabels(), ElementsAre("1階", "2階", "3階", "4階", "5階", "合　計"));
   EXPECT_EQ(FloorTally.KaiGyou[0].parts[1], Kg(27));
   for (const unsigned zero : {1U, 2U, 3U}) EXPECT_EQ(FloorTally.KaiGyou[zero].total, Kg(0)) << zero;
   EXPECT_EQ(FloorTally.KaiGyou[4].parts[3], Kg(27));
@@ -66,8 +66,8 @@ TEST(Kai_Jyuuryo_Syukei, ListsEveryFloorOfTheRangeWithZerosWhereItHoldsNothing) 
 TEST(Kai_Jyuuryo_Syukei, LeavesTheFoundationOutOfARangeFromABasement) {
   FloorSite site;
   for (const int floor : {-2, -1, 0, 1, 3}) site.Add(floor);
-  Tally(-2, 3, -2);
-  EXPECT_THAT(Labels(), ElementsAre("2Ｂ階", "1Ｂ階", "1階", "2階", "3階", "合　計"));
+  TallyFloors(-2, 3, -2);
+  EXPECT_THAT(ListedLabels(), ElementsAre("2Ｂ階", "1Ｂ階", "1階", "2階", "3階", "合　計"));
   EXPECT_EQ(FloorTally.SouGoukei, Kg(4 * 27));
   EXPECT_EQ(Bars(0), 0);
 }
@@ -75,11 +75,11 @@ TEST(Kai_Jyuuryo_Syukei, LeavesTheFoundationOutOfARangeFromABasement) {
 TEST(Kai_Jyuuryo_Syukei, FromTheFoundationOnTakesTheBasementsToo) {
   FloorSite site;
   for (const int floor : {-2, -1, 0, 1, 3}) site.Add(floor);
-  Tally(0, 1, -2);
-  EXPECT_THAT(Labels(), ElementsAre("基礎階", "2Ｂ階", "1Ｂ階", "1階", "合　計"));
+  TallyFloors(0, 1, -2);
+  EXPECT_THAT(ListedLabels(), ElementsAre("基礎階", "2Ｂ階", "1Ｂ階", "1階", "合　計"));
   EXPECT_EQ(FloorTally.SouGoukei, Kg(4 * 27));
-  Tally(0, 0, -2);
-  EXPECT_THAT(Labels(), ElementsAre("基礎階", "合　計"));
+  TallyFloors(0, 0, -2);
+  EXPECT_THAT(ListedLabels(), ElementsAre("基礎階", "合　計"));
   EXPECT_EQ(FloorTally.SouGoukei, Kg(27));
 }
 
@@ -88,28 +88,28 @@ TEST(Kai_Jyuuryo_Syukei, TakesSpecialFloorsOnlyWhereTheyAreAskedFor) {
   for (const int floor : {1, 76, 77, 78}) site.Add(floor, {{"伸総計", Number(1 << (floor % 75))}});
   const std::int32_t bars[] = {2, 4, 8};
   for (std::int16_t mask = 0; mask <= 7; ++mask) {
-    Tally(1, 1, 1, mask);
+    TallyFloors(1, 1, 1, mask);
     for (int bit = 0; bit < 3; ++bit) {
       EXPECT_EQ(Bars(76 + bit), (mask & (1 << bit)) != 0 ? bars[bit] : 0) << mask;
     }
   }
-  EXPECT_THAT(Labels(), ElementsAre("1階", "Ｒ　階", "ＰＨ階", "階なし", "合　計"));
+  EXPECT_THAT(ListedLabels(), ElementsAre("1階", "Ｒ　階", "ＰＨ階", "階なし", "合　計"));
 }
 
 TEST(Kai_Jyuuryo_Syukei, ListsASpecialFloorTakenThatHasNoRows) {
   FloorSite site;
   site.Add(1);
-  Tally(1, 1, 1, 2);
-  EXPECT_THAT(Labels(), ElementsAre("1階", "ＰＨ階", "合　計"));
+  TallyFloors(1, 1, 1, 2);
+  EXPECT_THAT(ListedLabels(), ElementsAre("1階", "ＰＨ階", "合　計"));
 }
 
 TEST(Kai_Jyuuryo_Syukei, TalliesSpecialFloorsByThemselves) {
   FloorSite site;
   for (const int floor : {1, 76, 77, 78}) site.Add(floor);
-  Tally(76, 78, 1, 0);
-  EXPECT_THAT(Labels(), ElementsAre("Ｒ　階", "ＰＨ階", "階なし", "合　計"));
+  TallyFloors(76, 78, 1, 0);
+  EXPECT_THAT(ListedLabels(), ElementsAre("Ｒ　階", "ＰＨ階", "階なし", "合　計"));
   EXPECT_EQ(FloorTally.SouGoukei, Kg(3 * 27));
-  Tally(77, 77);
+  TallyFloors(77, 77);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(27));
 }
 
@@ -119,11 +119,11 @@ TEST(Kai_Jyuuryo_Syukei, LeavesThinBarsOutOfEveryMaskSaveNone) {
   site.Add(1);
   for (int mask = 1; mask <= 15; ++mask) {
     Selection.MaterialKindMask = KindMask(mask);
-    Tally(1, 1);
+    TallyFloors(1, 1);
     EXPECT_EQ(FloorTally.SouGoukei, Kg((mask & 1) != 0 ? 27 : 0)) << mask;
   }
   Selection.MaterialKindMask = KindMask(0);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(8));  // 10 x 0.5 x 1.5 = 7.5
   EXPECT_EQ(FloorTally.TaisaGoukei[14], Kg(8));
 }
@@ -135,10 +135,10 @@ TEST(Kai_Jyuuryo_Syukei, TakesNoStockLengthOfAThinBarForTheFirstColumn) {
   site.Add(1, thin);
   site.Add(1, {{"伸定尺", Value{0.0}}});
   Selection.MaterialKindMask = KindMask(0);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.SouHonsu[14][0], 2);
   Selection.MaterialKindMask = kAllKinds;
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(Bars(1), 0);
 }
 
@@ -149,7 +149,7 @@ TEST(Kai_Jyuuryo_Syukei, ChoosesFormsAndTakesAllOfThemForNone) {
   }
   for (int mask = 0; mask <= 15; ++mask) {
     Selection.MaterialFormMask = FormMask(static_cast<std::int16_t>(mask));
-    Tally(1, 1);
+    TallyFloors(1, 1);
     EXPECT_EQ(Bars(1), mask == 0 || mask == 15 ? 31 : mask * 2) << mask;
   }
 }
@@ -158,7 +158,7 @@ TEST(Kai_Jyuuryo_Syukei, LeavesOutRowsWithoutDiameterStockOrCountOrFloor) {
   FloorSite site;
   for (const char* column : {"太さ", "伸定尺", "本数"}) site.Add(1, {{column, kNull}});
   site.AddRow({{"階", kNull}});
-  Tally(1, 5);
+  TallyFloors(1, 5);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(0));
 }
 
@@ -170,7 +170,7 @@ TEST(Kai_Jyuuryo_Syukei, ShowsAllRowsHoopsOutAndHoopsAlone) {
   const std::int32_t welds[] = {5, 1, 4};
   for (int mode = 0; mode < 3; ++mode) {
     Selection.HoopMode = ShapeFilterOf(mode);
-    Tally(1, 1);
+    TallyFloors(1, 1);
     EXPECT_TRUE(FloorTally.HoopAri);
     EXPECT_FALSE(FloorTally.TeiAri);
     EXPECT_EQ(Bars(1), bars[mode]) << mode;
@@ -186,7 +186,7 @@ TEST(Kai_Jyuuryo_Syukei, KeepsThreadsPlatesAndCutsOfHoopsThatAreLeftOut) {
                {"定着板数", Number(6)},
                {"切断", Number(7)}});
   Selection.HoopMode = ShapeFilter::left_out;
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(0));
   EXPECT_EQ(FloorTally.Neji.KaiSou[6], 5);
   EXPECT_EQ(FloorTally.Teichaku.KaiSou[6], 6);
@@ -197,7 +197,7 @@ TEST(Kai_Jyuuryo_Syukei, DropsOnlyTheWeldsOfHoopsByTheSetting) {
   FloorSite site;
   site.Add(1, kHoop);
   SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", "0");
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.Assetu.Taisa[3], 0);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(27));
 }
@@ -206,11 +206,11 @@ TEST(Kai_Jyuuryo_Syukei, FindsPlatesAmongTheHoopsAloneWhereHoopsStandAlone) {
   FloorSite site;
   site.Add(1, kHoop);
   site.Add(1, {{"形状No", Number(138)}});
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_TRUE(FloorTally.TeiAri);
   Selection.HoopMode = ShapeFilter::alone;
   Selection.AnchorPlateMode = ShapeFilter::alone;
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_TRUE(FloorTally.HoopAri);
   EXPECT_FALSE(FloorTally.TeiAri);
   EXPECT_EQ(Bars(1), 2);
@@ -226,7 +226,7 @@ TEST(Kai_Jyuuryo_Syukei, ShowsAllRowsPlatesOutAndPlatesAlone) {
   const std::int32_t bars[] = {36, 32, 4};
   for (int mode = 0; mode < 3; ++mode) {
     Selection.AnchorPlateMode = ShapeFilterOf(mode);
-    Tally(1, 1);
+    TallyFloors(1, 1);
     EXPECT_TRUE(FloorTally.TeiAri);
     EXPECT_EQ(Bars(1), bars[mode]) << mode;
   }
@@ -236,9 +236,9 @@ TEST(Kai_Jyuuryo_Syukei, ProbesOnlyTheFloorsOfTheRange) {
   FloorSite site;
   site.Add(1);
   site.Add(2, kHoop);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_FALSE(FloorTally.HoopAri);
-  Tally(1, 2);
+  TallyFloors(1, 2);
   EXPECT_TRUE(FloorTally.HoopAri);
 }
 
@@ -247,7 +247,7 @@ TEST(Kai_Jyuuryo_Syukei, ShowsInstalledWeightBySetting1Alone) {
   site.Add(1, {{"合計", Number(3)}});  // 20.25 kg
   for (const auto& [setting, kilograms] : {std::pair{"0", 27}, {"1", 20}, {"2", 27}}) {
     SaveSetting("Kakou", "重量集計", "階別集計定取", setting);
-    Tally(1, 1);
+    TallyFloors(1, 1);
     EXPECT_EQ(FloorTally.SouGoukei, Kg(kilograms)) << setting;
     EXPECT_EQ(FloorTally.SouTorituke, Kg(kilograms == 20 ? 20 : 0)) << setting;
   }
@@ -257,7 +257,7 @@ TEST(Kai_Jyuuryo_Syukei, RaisesByTheRatioOfTheSelection) {
   FloorSite site;
   site.Add(1, {{"伸総計", Number(5)}});
   Selection.UwanoseRitu = 0.1;
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(Bars(1), 6);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(81));
   EXPECT_EQ(FloorTally.SouTeiGoukei, Kg(81));
@@ -266,17 +266,17 @@ TEST(Kai_Jyuuryo_Syukei, RaisesByTheRatioOfTheSelection) {
 TEST(Kai_Jyuuryo_Syukei, RunsToThe13MetreColumnWhereItIsInUse) {
   FloorSite site;
   site.Add(1, {{"伸定尺", Value{13.0}}});
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(0));
   Settings.Use13mColumn = 1;
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally.SouGoukei, Kg(58));
 }
 
 TEST(Kai_Jyuuryo_Syukei, CountsNothingForColumnsThatAnOldFileLacks) {
   FloorSite site({"ネジ数", "定着板数", "切断", "圧接太さ"});
   site.Add(1, {{"圧接", Number(3)}, {"部位", Number(2)}, {"予備2", Number(4)}});
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(Bars(1), 2);
   EXPECT_EQ(FloorTally.Assetu.Taisa[3], 3);
 }
@@ -285,20 +285,20 @@ TEST(Kai_Jyuuryo_Syukei, ReplacesTheTablesOfTheRunBefore) {
   FloorSite site;
   site.Add(1);
   site.Add(2, kHoop);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   const FloorTables first = FloorTally;
-  Tally(1, 2);
+  TallyFloors(1, 2);
   EXPECT_NE(FloorTally, first);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   EXPECT_EQ(FloorTally, first);
 }
 
 TEST(Kai_Jyuuryo_Syukei, LeavesNothingBehindAFault) {
   FloorSite site;
   site.Add(1);
-  Tally(1, 1);
+  TallyFloors(1, 1);
   site.Add(1, {{"圧接太さ", Number(20)}, {"圧接", Number(0)}});
-  EXPECT_EQ(FaultOf([] { Tally(1, 1); }), FaultKind::subscript_out_of_range);
+  EXPECT_EQ(FaultOf([] { TallyFloors(1, 1); }), FaultKind::subscript_out_of_range);
   EXPECT_EQ(FloorTally, FloorTables());
 }
 
@@ -307,7 +307,7 @@ TEST(Kai_Jyuuryo_Syukei_Load, WorksOutWhatWasTalliedFromItsCounts) {
   site.Add(-1, {{"圧接", Number(3)}});
   site.Add(1, {{"部位", Number(4)}, {"伸総計", Number(3)}});
   site.Add(76);
-  Tally(-1, 1, -1, 1);
+  TallyFloors(-1, 1, -1, 1);
   FloorTables tallied = FloorTally;
   FloorTally = FloorTables();
   FloorTally.KaiBuiHonsu = tallied.KaiBuiHonsu;

@@ -10,30 +10,31 @@
 namespace rbt {
 namespace {
 
-FloorScope Floors(std::int16_t start, std::int16_t end, std::int16_t lowest = 1, std::int16_t mask = 0) {
+FloorScope FloorScopeOf(std::int16_t start, std::int16_t end, std::int16_t lowest = 1,
+                        std::int16_t mask = 0) {
   return {start, end, lowest, SpecialMask(mask)};
 }
 
 TEST(FloorStatement, ClosesTheFloorsWithWhatARowMustHaveFormsAndKinds) {
-  EXPECT_EQ(FloorStatementSoFar(Floors(1, 5), FormMask(5), KindMask(2)),
+  EXPECT_EQ(FloorStatementSoFar(FloorScopeOf(1, 5), FormMask(5), KindMask(2)),
             "SELECT * FROM 加工テーブル WHERE (((階 >= 1 AND 階 <= 5) ) AND (太さ Is Not Null AND 伸定尺 Is "
             "Not Null AND 本数 Is Not Null) AND (予備3 = 1 OR 予備3 = 3)) AND 予備2=4");
-  EXPECT_EQ(FloorStatementSoFar(Floors(0, 0), kAllForms, KindMask(0)),
+  EXPECT_EQ(FloorStatementSoFar(FloorScopeOf(0, 0), kAllForms, KindMask(0)),
             "SELECT * FROM 加工テーブル WHERE  ((階=0 ) AND (太さ Is Not Null AND 伸定尺 Is Not Null AND "
             "本数 Is Not Null) ) AND 予備2=2");
 }
 
 TEST(FloorStatement, AsksForTheFloorsCaseByCase) {
-  EXPECT_EQ(FloorClause(Floors(76, 76)), "WHERE (((階 = 76)");
-  EXPECT_EQ(FloorClause(Floors(76, 78)), "WHERE (((階 >= 76 and 階 <= 78) ");
-  EXPECT_EQ(FloorClause(Floors(77, 77)), "WHERE (((階 = 77)");
-  EXPECT_EQ(FloorClause(Floors(77, 78)), "WHERE (((階 >= 77 and 階 <= 78) ");
-  EXPECT_EQ(FloorClause(Floors(78, 78)), "WHERE (((階 = 78)");
-  EXPECT_EQ(FloorClause(Floors(-2, 3)), "WHERE (((階 >= -2 AND 階 <= 3 AND 階<>0) ");
-  EXPECT_EQ(FloorClause(Floors(-3, -2)), "WHERE (((階 >= -3 AND 階 <= -2 AND 階<>0) ");
-  EXPECT_EQ(FloorClause(Floors(1, 75)), "WHERE (((階 >= 1 AND 階 <= 75) ");
-  EXPECT_EQ(FloorClause(Floors(0, 0, -2)), "WHERE  ((階=0 ");
-  EXPECT_EQ(FloorClause(Floors(0, 4, -2)), "WHERE (((階 >= -2 AND 階 <= 4) OR 階=0 ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(76, 76)), "WHERE (((階 = 76)");
+  EXPECT_EQ(FloorClause(FloorScopeOf(76, 78)), "WHERE (((階 >= 76 and 階 <= 78) ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(77, 77)), "WHERE (((階 = 77)");
+  EXPECT_EQ(FloorClause(FloorScopeOf(77, 78)), "WHERE (((階 >= 77 and 階 <= 78) ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(78, 78)), "WHERE (((階 = 78)");
+  EXPECT_EQ(FloorClause(FloorScopeOf(-2, 3)), "WHERE (((階 >= -2 AND 階 <= 3 AND 階<>0) ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(-3, -2)), "WHERE (((階 >= -3 AND 階 <= -2 AND 階<>0) ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(1, 75)), "WHERE (((階 >= 1 AND 階 <= 75) ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(0, 0, -2)), "WHERE  ((階=0 ");
+  EXPECT_EQ(FloorClause(FloorScopeOf(0, 4, -2)), "WHERE (((階 >= -2 AND 階 <= 4) OR 階=0 ");
 }
 
 TEST(FloorStatement, AddsTheSpecialFloorsToAStartBelow76) {
@@ -46,8 +47,9 @@ TEST(FloorStatement, AddsTheSpecialFloorsToAStartBelow76) {
                                "OR (階 = 77 OR 階 = 78) ",
                                "OR (階 = 76 OR 階 = 77 OR 階 = 78) "};
   for (std::int16_t mask = 0; mask <= 7; ++mask) {
-    EXPECT_EQ(FloorClause(Floors(1, 5, 1, mask)), "WHERE (((階 >= 1 AND 階 <= 5) " + texts[mask]) << mask;
-    EXPECT_EQ(FloorClause(Floors(76, 76, 1, mask)), "WHERE (((階 = 76)") << mask;
+    EXPECT_EQ(FloorClause(FloorScopeOf(1, 5, 1, mask)), "WHERE (((階 >= 1 AND 階 <= 5) " + texts[mask])
+        << mask;
+    EXPECT_EQ(FloorClause(FloorScopeOf(76, 76, 1, mask)), "WHERE (((階 = 76)") << mask;
   }
 }
 
@@ -74,30 +76,32 @@ TEST(FloorStatement, NeverMixesThinBarsWithTheKinds) {
   EXPECT_EQ(FloorKindClause(KindMask(13)), " AND (予備2<=1 or IsNull(予備2) or 予備2=3 or 予備2=5)");
 }
 
-PartScope Parts(std::int16_t start, std::int16_t end, bool from_0 = false, std::int16_t mask = 0) {
+PartScope PartScopeOf(std::int16_t start, std::int16_t end, bool from_0 = false, std::int16_t mask = 0) {
   return {start, end, from_0, SpecialMask(mask)};
 }
 
 TEST(PartStatement, ClosesTheFloorsWithWhatARowMustHaveFormsAndKinds) {
   EXPECT_EQ(
-      PartStatementSoFar(Parts(-1, 5, true), FormMask(5), KindMask(4)),
+      PartStatementSoFar(PartScopeOf(-1, 5, true), FormMask(5), KindMask(4)),
       "SELECT * FROM 加工テーブル WHERE (階=0 OR 階 >= -1 AND 階 <= 5) AND (太さ is not NULL AND 伸定尺 "
       "is not NULL AND 本数 is not NULL) AND (予備3 = 1 OR 予備3 = 3) AND (予備2=3)");
 }
 
 TEST(PartStatement, AsksForTheFloorsCaseByCase) {
-  EXPECT_EQ(PartFloorClause(Parts(1, 5)), "WHERE (階 >= 1 AND 階 <= 5 AND 階<>0) ");
-  EXPECT_EQ(PartFloorClause(Parts(0, 5, true)), "WHERE (階=0 OR 階 >= 0 AND 階 <= 5) ");
-  EXPECT_EQ(PartFloorClause(Parts(-2, 5, true, 4)), "WHERE (階=0 OR (階 >= -2 AND 階 <= 5) OR 階 = 78) ");
-  EXPECT_EQ(PartFloorClause(Parts(1, 5, false, 4)), "WHERE ((階 >= 1 AND 階 <= 5 AND 階<>0) OR 階 = 78) ");
+  EXPECT_EQ(PartFloorClause(PartScopeOf(1, 5)), "WHERE (階 >= 1 AND 階 <= 5 AND 階<>0) ");
+  EXPECT_EQ(PartFloorClause(PartScopeOf(0, 5, true)), "WHERE (階=0 OR 階 >= 0 AND 階 <= 5) ");
+  EXPECT_EQ(PartFloorClause(PartScopeOf(-2, 5, true, 4)),
+            "WHERE (階=0 OR (階 >= -2 AND 階 <= 5) OR 階 = 78) ");
+  EXPECT_EQ(PartFloorClause(PartScopeOf(1, 5, false, 4)),
+            "WHERE ((階 >= 1 AND 階 <= 5 AND 階<>0) OR 階 = 78) ");
 }
 
 TEST(PartStatement, TakesASpecialStartAloneWhateverTheEndAndTheMask) {
   for (std::int16_t start = 76; start <= 78; ++start) {
     const std::string alone = "WHERE (階 = " + std::to_string(start) + ")";
-    EXPECT_EQ(PartFloorClause(Parts(start, start)), alone);
-    EXPECT_EQ(PartFloorClause(Parts(start, 78, false, 7)), alone);
-    EXPECT_EQ(PartFloorClause(Parts(start, 78, true, 7)), alone);
+    EXPECT_EQ(PartFloorClause(PartScopeOf(start, start)), alone);
+    EXPECT_EQ(PartFloorClause(PartScopeOf(start, 78, false, 7)), alone);
+    EXPECT_EQ(PartFloorClause(PartScopeOf(start, 78, true, 7)), alone);
   }
 }
 
@@ -111,7 +115,7 @@ TEST(PartStatement, ClosesItsParenthesisBehindTheSpecialFloors) {
                                "OR (階 = 77 OR 階 = 78)) ",
                                "OR (階 = 76 OR 階 = 77 OR 階 = 78)) "};
   for (std::int16_t mask = 1; mask <= 7; ++mask) {
-    EXPECT_EQ(PartFloorClause(Parts(1, 5, false, mask)),
+    EXPECT_EQ(PartFloorClause(PartScopeOf(1, 5, false, mask)),
               "WHERE ((階 >= 1 AND 階 <= 5 AND 階<>0) " + texts[mask]);
   }
 }

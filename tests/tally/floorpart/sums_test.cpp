@@ -32,19 +32,19 @@ BarRow D10Of4m(std::int32_t bars) {
   return row;
 }
 
-struct Placed {
+struct RowOnFloor {
   std::int32_t floor;
   BarRow row;
 };
 
-FloorTables Floors(const std::vector<Placed>& rows, const FloorRules& rules = {}) {
+FloorTables FloorsOf(const std::vector<RowOnFloor>& rows, const FloorRules& rules = {}) {
   FloorTables tables;
   for (const auto& [floor, row] : rows) FoldFloorRow(tables, row, floor, rules);
   CloseFloorTally(tables, rules);
   return tables;
 }
 
-PartTables Parts(const std::vector<BarRow>& rows, const PartRules& rules = {}) {
+PartTables PartsOf(const std::vector<BarRow>& rows, const PartRules& rules = {}) {
   PartTables tables;
   for (const BarRow& row : rows) FoldPartRow(tables, row, rules);
   ClosePartTally(tables, rules);
@@ -72,7 +72,7 @@ TEST(StockKilograms, RoundsTheProductAsADecimalNotAsABinaryFraction) {
 
 TEST(FloorSums, RoundEachCellBeforeAnySum) {
   // Two parts of 2.24 kg: 2 + 2.
-  const FloorTables tables = Floors({{1, AtPart(D10Of4m(1), 1)}, {1, AtPart(D10Of4m(1), 2)}});
+  const FloorTables tables = FloorsOf({{1, AtPart(D10Of4m(1), 1)}, {1, AtPart(D10Of4m(1), 2)}});
   EXPECT_EQ(tables.KaiBuiGoukei[kFirst][1], Kg(2));
   EXPECT_EQ(tables.KaiGoukei[kFirst], Kg(4));
   EXPECT_EQ(tables.SouGoukei, Kg(4));
@@ -80,7 +80,7 @@ TEST(FloorSums, RoundEachCellBeforeAnySum) {
 
 TEST(FloorSums, ByDiameterComeFromTheCountOfAllFloorsAndMayDiffer) {
   // Three floors of a 2.24 kg bar are 2 + 2 + 2, together 6.72.
-  const FloorTables tables = Floors({{1, D10Of4m(1)}, {2, D10Of4m(1)}, {3, D10Of4m(1)}});
+  const FloorTables tables = FloorsOf({{1, D10Of4m(1)}, {2, D10Of4m(1)}, {3, D10Of4m(1)}});
   EXPECT_EQ(tables.SouGoukei, Kg(6));
   EXPECT_EQ(tables.TaisaTeiGoukei[0][1], Kg(7));
   EXPECT_EQ(tables.TaisaGoukei[0], Kg(7));
@@ -92,7 +92,7 @@ TEST(FloorSums, ByDiameterComeFromTheCountOfAllFloorsAndMayDiffer) {
 TEST(FloorSums, OfThinBarsAreThePlainSumsOfTheirCells) {
   BarRow thin = U9Row();
   thin.pieces = 3;  // 3 x 0.5 x 1.5 = 2.25 kg
-  const FloorTables tables = Floors({{1, thin}, {2, thin}, {3, thin}});
+  const FloorTables tables = FloorsOf({{1, thin}, {2, thin}, {3, thin}});
   EXPECT_EQ(tables.SouGoukei, Kg(6));
   EXPECT_EQ(tables.TaisaGoukei[14], Kg(6));
   EXPECT_EQ(tables.SouTeiGoukei, Kg(6));
@@ -101,7 +101,7 @@ TEST(FloorSums, OfThinBarsAreThePlainSumsOfTheirCells) {
 }
 
 TEST(FloorSums, InStockModeShowStockWeightInBothCellTables) {
-  const FloorTables tables = Floors({{1, D19Row()}});  // 2 bars of 13.5 kg
+  const FloorTables tables = FloorsOf({{1, D19Row()}});  // 2 bars of 13.5 kg
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][3][5], Kg(27));
   EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][3][5], Kg(27));
   EXPECT_EQ(tables.SouTorituke, Kg(0));
@@ -111,7 +111,7 @@ TEST(FloorSums, InStockModeShowStockWeightInBothCellTables) {
 TEST(FloorSums, InInstalledModeShowInstalledWeightAndKeepStockByDiameter) {
   BarRow row = D19Row();
   row.pieces = 3;  // 3 x 2.25 x 3 = 20.25 kg installed, 27 kg in stock
-  const FloorTables tables = Floors({{1, row}, {2, row}}, kInstalled);
+  const FloorTables tables = FloorsOf({{1, row}, {2, row}}, kInstalled);
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][3][5], Kg(20));
   EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][3][5], Kg(27));
   EXPECT_EQ(tables.KaiBuiGoukei[kFirst][1], Kg(20));
@@ -158,13 +158,13 @@ TEST(FloorSums, RunFrom3p5To12MetresOrFrom4To13) {
   longest.stock_length_m = 13.0;  // 29.2 kg a bar
   BarRow shortest = D19Row();
   shortest.stock_length_m = 3.5;  // 7.88 kg a bar
-  const std::vector<Placed> rows = {{1, longest}, {1, shortest}};
-  FloorTables tables = Floors(rows);
+  const std::vector<RowOnFloor> rows = {{1, longest}, {1, shortest}};
+  FloorTables tables = FloorsOf(rows);
   EXPECT_EQ(tables.SouGoukei, Kg(16));
   EXPECT_EQ(tables.SouTeiGoukei, Kg(16));
   EXPECT_EQ(tables.SouHonsu[3][18], 2);
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][3][18], Kg(0));
-  tables = Floors(rows, {.columns = ColumnsInUse(true)});
+  tables = FloorsOf(rows, {.columns = ColumnsInUse(true)});
   EXPECT_EQ(tables.SouGoukei, Kg(58));
   EXPECT_EQ(tables.SouTeiGoukei, Kg(58));
   EXPECT_EQ(tables.SouHonsu[3][0], 2);
@@ -174,7 +174,7 @@ TEST(FloorSums, LeaveTheWeightOfColumnsThatAreNotInUseAsTheRowsLeftIt) {
   BarRow thin = U9Row();
   thin.stock_length_m = 13.0;
   thin.pieces = 3;
-  const FloorTables tables = Floors({{1, thin}});
+  const FloorTables tables = FloorsOf({{1, thin}});
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][14][18], Kg(2.25));
   EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][14][18], Kg(0));
   EXPECT_EQ(tables.SouGoukei, Kg(0));
@@ -182,7 +182,7 @@ TEST(FloorSums, LeaveTheWeightOfColumnsThatAreNotInUseAsTheRowsLeftIt) {
 
 TEST(FloorUplift, RaisesEachCellOfDeformedBarsAndSumsThem) {
   // Two parts of 5 bars: 6 + 6 on the floor, not 11.
-  const FloorTables tables = Floors(
+  const FloorTables tables = FloorsOf(
       {{1, AtPart(D10Row(5), 1)}, {1, AtPart(D10Row(5), 2)}, {2, AtPart(D10Row(5), 2)}}, {.uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][0][0], 6);
   EXPECT_EQ(tables.KaiHonsu[kFirst][0][0], 12);
@@ -194,7 +194,7 @@ TEST(FloorUplift, RaisesEachCellOfDeformedBarsAndSumsThem) {
 TEST(FloorUplift, RaisesThinCellsAndTheirFloorEachFromItsOwnCount) {
   BarRow thin = U9Row();
   thin.stock_bars = 5;
-  const FloorTables tables = Floors({{1, AtPart(thin, 1)}, {1, AtPart(thin, 2)}}, {.uplift = 0.1});
+  const FloorTables tables = FloorsOf({{1, AtPart(thin, 1)}, {1, AtPart(thin, 2)}}, {.uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][14][4], 6);
   EXPECT_EQ(tables.KaiBuiHonsu[2][kFirst][14][4], 6);
   EXPECT_EQ(tables.KaiHonsu[kFirst][14][4], 11);
@@ -205,7 +205,7 @@ TEST(FloorUplift, RaisesTheWeightOfThinBarsInEveryMode) {
   for (const bool installed : {false, true}) {
     BarRow thin = U9Row();
     thin.pieces = 20;  // 15 kg
-    const FloorTables tables = Floors({{1, thin}}, {.installed = installed, .uplift = 0.1});
+    const FloorTables tables = FloorsOf({{1, thin}}, {.installed = installed, .uplift = 0.1});
     EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][14][4], Kg(17));  // 15 x 1.1 = 16.5
     EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][14][4], Kg(17));
     EXPECT_EQ(tables.TaisaGoukei[14], Kg(17));
@@ -215,7 +215,7 @@ TEST(FloorUplift, RaisesTheWeightOfThinBarsInEveryMode) {
 TEST(FloorUplift, RaisesNoInstalledWeightOfDeformedBars) {
   BarRow row = D19Row();
   row.stock_bars = 10;
-  const FloorTables tables = Floors({{1, row}}, {.installed = true, .uplift = 0.1});
+  const FloorTables tables = FloorsOf({{1, row}}, {.installed = true, .uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][3][5], 11);
   EXPECT_EQ(tables.KaiBuiJyuuryo[kFirst][1][3][5], Kg(27));
   EXPECT_EQ(tables.KaiBuiTeiJyuuryo[kFirst][1][3][5], Kg(149));  // 11 x 13.5 = 148.5
@@ -226,7 +226,7 @@ TEST(FloorUplift, LeavesColumnsThatAreNotInUseUnraisedAndOutOfTheTotalCount) {
   BarRow longest = D19Row();
   longest.stock_length_m = 13.0;
   longest.stock_bars = 10;
-  const FloorTables tables = Floors({{1, longest}}, {.uplift = 0.1});
+  const FloorTables tables = FloorsOf({{1, longest}}, {.uplift = 0.1});
   EXPECT_EQ(tables.KaiBuiHonsu[1][kFirst][3][18], 10);
   EXPECT_EQ(tables.KaiHonsu[kFirst][3][18], 10);
   EXPECT_EQ(tables.SouHonsu[3][18], 0);
@@ -236,7 +236,7 @@ TEST(FloorUplift, RaisesNoFittings) {
   BarRow row = D19Row();
   row.kind = 4;
   row.welds = row.threads = row.plates = row.cuts = 10;
-  const FloorTables tables = Floors({{1, row}}, {.uplift = 0.1});
+  const FloorTables tables = FloorsOf({{1, row}}, {.uplift = 0.1});
   for (const FloorFittingName& fitting : kFloorFittings) {
     const FloorFitting& counts = tables.*fitting.tables;
     EXPECT_EQ(counts.Taisa[3], 10) << fitting.name;
@@ -254,7 +254,7 @@ TEST(FloorRows, CountFittingsByDiameterFloorAndPart) {
   row.threads = 2;
   row.plates = 3;
   row.cuts = 4;
-  const FloorTables tables = Floors({{0, row}, {1, AtPart(row, 2)}});
+  const FloorTables tables = FloorsOf({{0, row}, {1, AtPart(row, 2)}});
   EXPECT_EQ(tables.Assetu.Taisa[5], 2);
   EXPECT_EQ(tables.Assetu.Kai[kGround][5], 1);
   EXPECT_EQ(tables.Assetu.KaiBui[1][kGround][5], 1);
@@ -298,7 +298,7 @@ TEST(FloorRows, FaultAtACountBeyond32Bits) {
 }
 
 TEST(PartSums, ShowStockWeightOfDeformedBarsAndInstalledWeightOfThinOnes) {
-  const PartTables tables = Parts({D19Row(), U9Row()});
+  const PartTables tables = PartsOf({D19Row(), U9Row()});
   EXPECT_EQ(tables.BuiJyuuryo[1][3][5], Kg(27));
   EXPECT_EQ(tables.BuiJyuuryo[1][14][4], Kg(8));  // 7.5 kg
   EXPECT_EQ(tables.BuiTaisaGoukei[3][1], Kg(27));
@@ -311,7 +311,7 @@ TEST(PartSums, ShowStockWeightOfDeformedBarsAndInstalledWeightOfThinOnes) {
 TEST(PartSums, RoundEachCellBeforeAnySum) {
   BarRow longer = D10Of4m(1);
   longer.stock_length_m = 4.5;  // 2.52 kg
-  const PartTables tables = Parts({D10Of4m(1), longer, AtPart(D10Of4m(1), 5)});
+  const PartTables tables = PartsOf({D10Of4m(1), longer, AtPart(D10Of4m(1), 5)});
   EXPECT_EQ(tables.BuiTaisaGoukei[0][1], Kg(5));
   EXPECT_EQ(tables.BuiTaisaGoukei[0][5], Kg(2));
   EXPECT_EQ(tables.TaisaGoukei[0], Kg(7));
@@ -322,16 +322,16 @@ TEST(PartSums, RoundEachCellBeforeAnySum) {
 TEST(PartSums, LeaveColumnsThatAreNotInUseOutOfEverySum) {
   BarRow longest = D19Row();
   longest.stock_length_m = 13.0;
-  const PartTables tables = Parts({longest});
+  const PartTables tables = PartsOf({longest});
   EXPECT_EQ(tables.BuiHonsu[1][3][18], 2);
   EXPECT_EQ(tables.BuiJyuuryo[1][3][18], Kg(58.4));  // as the rows left it
   EXPECT_EQ(tables.TaisaHonsu[3][18], 0);
   EXPECT_EQ(tables.SouGoukei, Kg(0));
-  EXPECT_EQ(Parts({longest}, {.columns = ColumnsInUse(true)}).SouGoukei, Kg(58));
+  EXPECT_EQ(PartsOf({longest}, {.columns = ColumnsInUse(true)}).SouGoukei, Kg(58));
 }
 
 TEST(PartUplift, WorksADeformedCellOutOfTheRaisedCount) {
-  const PartTables tables = Parts({D10Row(5)}, {.uplift = 0.1});
+  const PartTables tables = PartsOf({D10Row(5)}, {.uplift = 0.1});
   EXPECT_EQ(tables.BuiHonsu[1][0][0], 6);
   EXPECT_EQ(tables.BuiJyuuryo[1][0][0], Kg(12));  // 6 x 1.96 = 11.76; 9.8 x 1.1 would be 10.78
   EXPECT_EQ(tables.TaisaHonsu[0][0], 6);
@@ -340,7 +340,7 @@ TEST(PartUplift, WorksADeformedCellOutOfTheRaisedCount) {
 TEST(PartUplift, RaisesTheWeightOfThinBarsFromTheirWeight) {
   BarRow thin = U9Row();
   thin.pieces = 20;  // 15 kg
-  const PartTables tables = Parts({thin}, {.uplift = 0.1});
+  const PartTables tables = PartsOf({thin}, {.uplift = 0.1});
   EXPECT_EQ(tables.BuiHonsu[1][14][4], 4);         // 4.4
   EXPECT_EQ(tables.BuiJyuuryo[1][14][4], Kg(17));  // 16.5
 }
@@ -349,7 +349,7 @@ TEST(PartUplift, RaisesFittingsByPartAndByDiameterEachFromItsOwnCount) {
   BarRow row = D19Row();
   row.kind = 4;
   row.welds = row.threads = row.plates = row.cuts = 5;
-  const PartTables tables = Parts({AtPart(row, 1), AtPart(row, 3)}, {.uplift = 0.1});
+  const PartTables tables = PartsOf({AtPart(row, 1), AtPart(row, 3)}, {.uplift = 0.1});
   for (const PartFittingName& fitting : kPartFittings) {
     const PartFitting& counts = tables.*fitting.tables;
     EXPECT_EQ(counts.Bui[1][3], 6) << fitting.name;
@@ -362,7 +362,7 @@ TEST(PartUplift, LeavesColumnsThatAreNotInUseUnraised) {
   BarRow longest = D19Row();
   longest.stock_length_m = 13.0;
   longest.stock_bars = 10;
-  EXPECT_EQ(Parts({longest}, {.uplift = 0.1}).BuiHonsu[1][3][18], 10);
+  EXPECT_EQ(PartsOf({longest}, {.uplift = 0.1}).BuiHonsu[1][3][18], 10);
 }
 
 TEST(PartRows, FaultAtFittingsOfNoDeformedDiameterAndNameTheRow) {

@@ -9,11 +9,12 @@
 
 #include "data/bar_tables.h"
 #include "platform/fault.h"
+#include "support/kilograms.h"
 
 namespace rbt {
 namespace {
 
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+using test::Kg;
 
 /// 4 pieces of 3.0 m, D19 (row 3), stock of 6.0 m (column 5) in the schedule.
 BarGroup D19Group() {

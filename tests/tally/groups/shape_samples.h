@@ -4,14 +4,12 @@
 
 #include <cstdint>
 
-#include "platform/numbers/currency.h"
+#include "support/kilograms.h"
 #include "support/schedule_site.h"
 #include "tally/groups/shape_tally.h"
 #include "tally/selection.h"
 
 namespace rbt::test {
-
-inline Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
 
 inline void TallyShapes(std::int32_t first = 1, std::int32_t last = 200) {
   Selection.ShapeStart = first;

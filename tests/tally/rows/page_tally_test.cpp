@@ -6,7 +6,9 @@
 #include "platform/fault.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
+#include "support/kilograms.h"
 #include "support/schedule_site.h"
+#include "tally/rows/row_fields.h"
 #include "tally/schedule_positions.h"
 #include "tally/tally_grid.h"
 
@@ -14,25 +16,16 @@ namespace rbt {
 namespace {
 
 using test::Fields;
+using test::kHoop;
 using test::kNull;
+using test::kUlbon;
 using test::Number;
 using test::ScheduleSite;
+using test::With;
 
-Currency Kg(double kilograms) { return Currency::FromDouble(kilograms); }
+using test::Kg;
 
 void TallyLines(std::int16_t first, std::int16_t last) { PG_Jyuuryo_Syukei(1, first, 1, last); }
-
-const Fields kHoop = {{"形状No", Number(87)}, {"圧接", Number(4)}};
-const Fields kUlbon = {{"太さ", Number(9)},
-                       {"予備2", Number(2)},
-                       {"合計", Number(10)},
-                       {"伸切寸", Number(1500)},
-                       {"伸定尺", Value{5.5}}};
-
-Fields With(Fields fields, const Fields& more) {
-  fields.insert(fields.end(), more.begin(), more.end());
-  return fields;
-}
 
 TEST(PG_Jyuuryo_Syukei, TakesTheStockOfTheRowsBetweenTwoPositions) {
   ScheduleSite site;

@@ -13,9 +13,9 @@
 namespace rbt {
 namespace {
 
-constexpr std::int32_t kUlbon = 2;
-constexpr std::int32_t kHighStrength = 3;
-constexpr std::int32_t kThreaded = 4;
+constexpr std::int32_t kUlbonBar = 2;
+constexpr std::int32_t kHighStrengthBar = 3;
+constexpr std::int32_t kThreadedBar = 4;
 
 using test::D19Hoop;
 using test::D19Row;
@@ -132,7 +132,7 @@ TEST(FoldRow, FaultsAtAWeldToAThickerBarOfNoDiameterUnlessThereIsNoWeld) {
 TEST(FoldRow, LeavesHoopsOutOfBarsAndWeldsButNotOfTheOtherCounts) {
   RowRules rules = Bulk();
   rules.hoops = ShapeFilter::left_out;
-  BarRow row = WithKind(D19Hoop(), kThreaded);
+  BarRow row = WithKind(D19Hoop(), kThreadedBar);
   row.threads = 5;
   row.plates = 6;
   row.cuts = 7;
@@ -170,7 +170,7 @@ TEST(FoldRow, CountsThreadsOfThreadedBarsOnly) {
   for (const std::optional<std::int32_t> kind : {std::optional<std::int32_t>(), {0}, {1}, {3}, {5}}) {
     EXPECT_EQ(Folded(WithKind(row, kind)).ThreadCount[3], 0);
   }
-  EXPECT_EQ(Folded(WithKind(row, kThreaded)).ThreadCount[3], 5);
+  EXPECT_EQ(Folded(WithKind(row, kThreadedBar)).ThreadCount[3], 5);
 }
 
 TEST(FoldRow, CountsPlatesOfEveryKind) {
@@ -212,9 +212,9 @@ TEST(FoldRow, PassesOverACutOfPart2AtNoDeformedDiameter) {
 TEST(FoldRow, CountsHighStrengthRowsHoopsToo) {
   RowRules rules = Bulk();
   rules.hoops = ShapeFilter::left_out;
-  EXPECT_EQ(Folded(WithKind(D19Hoop(), kHighStrength), rules).HighStrengthRowCount, 1);
-  EXPECT_EQ(Folded(WithKind(D19Row(), kHighStrength)).HighStrengthRowCount, 1);
-  EXPECT_EQ(Folded(WithKind(D19Row(), kThreaded)).HighStrengthRowCount, 0);
+  EXPECT_EQ(Folded(WithKind(D19Hoop(), kHighStrengthBar), rules).HighStrengthRowCount, 1);
+  EXPECT_EQ(Folded(WithKind(D19Row(), kHighStrengthBar)).HighStrengthRowCount, 1);
+  EXPECT_EQ(Folded(WithKind(D19Row(), kThreadedBar)).HighStrengthRowCount, 0);
 }
 
 TEST(FoldRow, GivesUlbonLengthWeightAndWeldsAndNothingElse) {
@@ -257,7 +257,7 @@ TEST(FoldRow, AppliesTheHoopRulesToUlbon) {
 }
 
 TEST(FoldRow, FaultsAtAThinBarThatIsNoUlbonDiameter) {
-  EXPECT_EQ(FaultOf(WithKind(D19Row(), kUlbon)), FaultKind::subscript_out_of_range);
+  EXPECT_EQ(FaultOf(WithKind(D19Row(), kUlbonBar)), FaultKind::subscript_out_of_range);
   BarRow row = U9Row();
   row.diameter_code = 14;
   row.pieces = std::nullopt;  // also when it would add nothing
@@ -378,7 +378,7 @@ TEST(FoldRow, FaultsAtDiameter0UnlessTheRowIsUlbon) {
   EXPECT_EQ(FaultOf(row), FaultKind::subscript_out_of_range);
   TallyTable expected;
   expected.StockWarningText = " 3頁の12行目の定尺を確認";
-  EXPECT_EQ(Folded(WithKind(row, kUlbon)), expected);
+  EXPECT_EQ(Folded(WithKind(row, kUlbonBar)), expected);
 }
 
 TEST(FoldRow, FaultsWhenACountLeaves32Bits) {
