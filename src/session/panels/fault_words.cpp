@@ -99,6 +99,11 @@ std::string FileNamedIn(std::string_view text) {
   return std::filesystem::path(path).filename().string();
 }
 
+bool IsOfKind(const std::exception& fault, FaultKind kind) {
+  const auto* const ours = dynamic_cast<const Fault*>(&fault);
+  return ours != nullptr && ours->Kind() == kind;
+}
+
 }  // namespace
 
 std::string FaultWords(const std::exception& fault) {
@@ -110,9 +115,8 @@ std::string FaultWords(const std::exception& fault) {
   return fmt::format("{}{}\n{}\n\n{}", named, telling->wrong, telling->remedy, fault.what());
 }
 
-bool IsOfLock(const std::exception& fault) {
-  const auto* const ours = dynamic_cast<const Fault*>(&fault);
-  return ours != nullptr && ours->Kind() == FaultKind::locked;
-}
+bool IsOfLock(const std::exception& fault) { return IsOfKind(fault, FaultKind::locked); }
+
+bool IsOfStop(const std::exception& fault) { return IsOfKind(fault, FaultKind::stopped); }
 
 }  // namespace rbt
