@@ -25,7 +25,10 @@ WorkPanel::WorkPanel(QWidget* window, bool ends_program)
     : QFrame(window), ui_(std::make_unique<Ui::WorkPanel>()) {
   ui_->setupUi(this);
   setAutoFillBackground(true);
-  if (ends_program) ui_->cmdStop->setText(QStringLiteral("終了(Esc)"));
+  if (ends_program) {
+    ui_->cmdStop->setText(QStringLiteral("終了(Esc)"));
+    ui_->cmdStop->setToolTip(QStringLiteral("途中でやめて、このプログラムを終わります。"));
+  }
   connect(ui_->cmdStop, &QPushButton::clicked, this, [this] { AskStop(); });
   if (window != nullptr) return;
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
