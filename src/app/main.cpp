@@ -18,9 +18,9 @@
 #include "desktop/lock_question.h"
 #include "desktop/look.h"
 #include "desktop/message_box.h"
-#include "desktop/pending_events.h"
 #include "desktop/preview_form.h"
 #include "desktop/system_printers.h"
+#include "desktop/work_watch.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/services.h"
@@ -76,9 +76,14 @@ void SetUpServices() {
   Services.LockPatience = kLockPatience;
   Services.WaitOn = AskToWaitOn;
   Services.OnWait = NoteWaits();
+  Services.OnWork = ShowWork();
   Services.ProgramFolder = QCoreApplication::applicationDirPath().toStdString();
   Services.Colours = AskColour;
-  Services.PendingEvents = ProcessEventsWithoutInput;
+  Services.PendingEvents = ProcessEventsOfWork;
+  Services.Launch = [](std::string_view command_line, WindowStyle style, bool polling) {
+    LaunchProgram(command_line, style, polling);
+    HideWork();  // the user has worked with the sibling, not waited
+  };
   Services.Printers = PdfDeviceAlone(preview);
   Services.FindPrinters = [preview] { return SystemPrinters(preview); };
 }

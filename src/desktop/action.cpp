@@ -8,6 +8,7 @@
 
 #include "desktop/pending_events.h"
 #include "desktop/wait_sign.h"
+#include "desktop/work_watch.h"
 #include "platform/system/message.h"
 #include "session/panels/fault_words.h"
 #include "shell/context/run_state.h"
@@ -20,10 +21,14 @@ class Running {
  public:
   Running() {
     if (RunState.RunningActions++ == 0) RunState.HasWaited = RunState.GaveUpWaiting = false;
+    RunState.WorkStopped = false;
+    HideWork();
   }
   Running(const Running&) = delete;
   Running& operator=(const Running&) = delete;
   ~Running() {
+    HideWork();
+    RunState.WorkStopped = outer_stopped_;
     if (RunState.RunningActions == 1 && RunState.HasWaited) {
       // What was typed while a file was waited for must not start another action. What falls due meanwhile is
       // told that this one still runs: it would be deaf.
@@ -32,11 +37,14 @@ class Running {
     }
     --RunState.RunningActions;
   }
+
+ private:
+  bool outer_stopped_ = RunState.WorkStopped;
 };
 
 void Tell(const std::exception& fault, std::string_view title) {
-  // Who gave up waiting knows that the action has ended.
-  if (RunState.GaveUpWaiting && IsOfLock(fault)) return;
+  // Who gave up waiting, or stopped the work, knows that the action has ended.
+  if ((RunState.GaveUpWaiting && IsOfLock(fault)) || IsOfStop(fault)) return;
   MsgBox(FaultWords(fault), title, MessageButtons::ok_to_warning);
 }
 

@@ -9,7 +9,8 @@ class QWidget;
 namespace rbt {
 
 /// Runs one action of a form, whatever event it comes from. A fault ends the action and is shown in a message
-/// box under the form's title; the form stays usable. Returns whether the action came to its end.
+/// box under the form's title, unless the user has stopped the action; the form stays usable. Returns whether
+/// the action came to its end.
 bool RunAction(const QWidget& form, const std::function<void()>& action);
 /// The same before there is a form.
 bool RunAction(std::string_view title, const std::function<void()>& action);

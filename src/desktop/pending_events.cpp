@@ -27,13 +27,17 @@ class InputDropper : public QObject {
   ~InputDropper() override { QCoreApplication::instance()->removeEventFilter(this); }
 
   bool eventFilter(QObject*, QEvent* event) override {
-    if (std::find(kInput.begin(), kInput.end(), event->type()) == kInput.end()) return false;
+    if (!IsInput(*event)) return false;
     event->ignore();
     return true;
   }
 };
 
 }  // namespace
+
+bool IsInput(const QEvent& event) {
+  return std::find(kInput.begin(), kInput.end(), event.type()) != kInput.end();
+}
 
 void ProcessEventsWithoutInput() {
   const InputDropper dropper;

@@ -13,6 +13,7 @@
 #include "platform/system/clock.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
+#include "platform/system/work.h"
 #include "platform/text/characters.h"
 #include "session/panels/file_messages.h"
 #include "shell/output/output_files.h"
@@ -49,7 +50,7 @@ std::string FileNameOf(std::string_view title) {
 bool Write(std::span<const PrintedDocument> documents, const fs::path& file, const std::string& title) {
   const auto fault = PassOverFaults(FaultKind::file, [&] {
     RequireOutputPlace(file);
-    PaintPdf(documents, file);
+    PaintPdf(documents, file, NotePage);
   });
   if (fault) TellNotSaved(file, *fault, title);
   return !fault;

@@ -16,6 +16,7 @@
 #include "desktop/painting/painting_surface.h"
 #include "platform/fault.h"
 #include "platform/print/paper.h"
+#include "platform/system/work.h"
 
 namespace rbt {
 
@@ -80,9 +81,10 @@ void PrintDocument(const std::string& device_name, const PrintedDocument& docume
     throw Fault(FaultKind::file,
                 device_name + ": this printer is not there any more, or the print server does not answer");
   }
+  const MustFinish finish;  // no print engine takes back what it was given
   QPrinter printer(info);
   SetUpPrinter(printer, info.defaultPageSize(), document);
-  PaintDocument(printer, document, PrintableCorner(printer.pageLayout()));
+  PaintDocument(printer, document, PrintableCorner(printer.pageLayout()), NotePage);
   // The painted document has been handed over by now. Qt drops what the print server said to it.
   if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) {
     throw Fault(FaultKind::file,

@@ -4,6 +4,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include "desktop/work_watch.h"
+
 namespace rbt {
 
 namespace {
@@ -23,10 +25,12 @@ WaitSign::~WaitSign() {
 }
 
 WorkAtRest::WorkAtRest() : signed_(SignShows()) {
+  HideWork();
   if (signed_) QGuiApplication::restoreOverrideCursor();
 }
 
 WorkAtRest::~WorkAtRest() {
+  HideWork();
   if (signed_) ShowSign();
 }
 

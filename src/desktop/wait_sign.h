@@ -16,7 +16,8 @@ class WaitSign {
   bool ours_;
 };
 
-/// The work waits for the user: no sign as long as it lives, and again what was behind it.
+/// The work waits for the user: no sign and no panel as long as it lives, and again the sign that was behind
+/// it. The time that work may take before it shows is counted anew.
 class WorkAtRest {
  public:
   WorkAtRest();

@@ -22,6 +22,7 @@ std::string_view FaultText(FaultKind kind) {
     case FaultKind::database:
     case FaultKind::storage:
     case FaultKind::locked:
+    case FaultKind::stopped:
     case FaultKind::file:
       return "";
   }

@@ -18,11 +18,12 @@ enum class FaultKind {
   database,  ///< the store refused: the text is the store's message and the statement
   storage,   ///< the store's file fails: I/O, a full disk, damage, no right; a text like that of `database`
   locked,    ///< another program holds a file, and it was waited for in vain: the text names the file
+  stopped,   ///< the user has stopped the work: nobody need tell them
   file,      ///< a file could not be read, written or started: the text names file and cause
 };
 
 /// The runtime's words for a kind: "subscript out of range", "division by zero", ...; empty for `database`,
-/// `storage`, `locked` and `file`, whose message stands alone.
+/// `storage`, `locked`, `stopped` and `file`, whose message stands alone.
 std::string_view FaultText(FaultKind kind);
 
 /// Ends the running action. `what()` is the runtime's text, ": " and where it happened (table, page and line,

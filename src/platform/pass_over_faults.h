@@ -8,28 +8,24 @@
 
 namespace rbt {
 
-/// Runs an action that the rules guard: a fault ends it and nothing else. Returns the fault that was passed
-/// over.
-template <typename Action>
-std::optional<Fault> PassOverFaults(Action&& action) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault;
-  }
-  return std::nullopt;
-}
-
-/// The same for the faults of which `guards` says true; all others pass through.
+/// Runs an action that the rules guard: a fault of which `guards` says true ends it and nothing else. Returns
+/// the fault that was passed over; all others pass through. A user who has stopped the work has stopped all
+/// of it: that fault is never passed over.
 template <typename Guards, typename Action>
 std::optional<Fault> PassOverFaultsIf(const Guards& guards, Action&& action) {
   try {
     action();
   } catch (const Fault& fault) {
-    if (!guards(fault)) throw;
+    if (fault.Kind() == FaultKind::stopped || !guards(fault)) throw;
     return fault;
   }
   return std::nullopt;
+}
+
+/// Whatever its fault.
+template <typename Action>
+std::optional<Fault> PassOverFaults(Action&& action) {
+  return PassOverFaultsIf([](const Fault&) { return true; }, std::forward<Action>(action));
 }
 
 /// Those of one kind.

@@ -14,6 +14,7 @@
 #include "platform/files/file_sync.h"
 #include "platform/files/files.h"
 #include "platform/files/system_error.h"
+#include "platform/system/work.h"
 #include "store/connection_patience.h"
 #include "store/database_file.h"
 #include "store/dialect/functions.h"
@@ -22,8 +23,9 @@
 namespace rbt {
 namespace {
 
-/// Rows of a mid-size site stay in memory between the statements of one run.
-constexpr const char* kCacheSize = "PRAGMA cache_size=-32768";
+/// Rows of a mid-size site stay in memory between the statements of one run. Of a larger one no size would keep
+/// any: each walk over all rows drives out what the one before has left.
+constexpr const char* kCacheSize = "PRAGMA cache_size=-8192";
 /// Opens the read transaction of a connection and, while it stands at its row, keeps it open.
 constexpr std::string_view kHold = "SELECT 1 UNION ALL SELECT rootpage FROM sqlite_master";
 
@@ -49,6 +51,15 @@ bool IsOfReading(int code) {
          code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_CORRUPTFS;
 }
 
+/// True when the user has stopped it. What goes wrong is told when the copy is finished.
+bool CopyPages(sqlite3_backup* backup) {
+  constexpr int kPages = 250;  // a megabyte at a time
+  while (sqlite3_backup_step(backup, kPages) == SQLITE_OK) {
+    if (StopAsked()) return true;
+  }
+  return false;
+}
+
 std::int64_t Nanoseconds(const timespec& time) {
   constexpr std::int64_t kPerSecond = 1'000'000'000;
   return time.tv_sec * kPerSecond + time.tv_nsec;
@@ -57,10 +68,8 @@ std::int64_t Nanoseconds(const timespec& time) {
 }  // namespace
 
 void Connection::Patience::WatchOver(sqlite3* connection) {
-  // About a millisecond of work.
-  constexpr int kInstructions = 100'000;
   sqlite3_busy_handler(connection, &OnBusy, this);
-  sqlite3_progress_handler(connection, kInstructions, &OnProgress, this);
+  sqlite3_progress_handler(connection, WorkPace(), &OnProgress, this);
 }
 
 int Connection::Patience::OnBusy(void* self, int times) {
@@ -71,6 +80,8 @@ int Connection::Patience::OnBusy(void* self, int times) {
 
 int Connection::Patience::OnProgress(void* self) {
   auto* const patience = static_cast<Patience*>(self);
+  patience->stopped_ = StopAsked({.may_stop = patience->may_stop_});
+  if (patience->stopped_) return 1;
   if (patience->step_seen_ != patience->step_) {
     patience->step_seen_ = patience->step_;
     patience->seen_since_ = Clock::now();
@@ -146,14 +157,17 @@ constexpr const char* kReadDefinitions = "SELECT count(*) FROM sqlite_master";
 void Connection::RequireSound() const { RunSetting(kReadDefinitions); }
 
 bool Connection::NeedsRecovery() const {
+  patience_->BeginStep(true);
   const int code = sqlite3_exec(Handle(), kReadDefinitions, nullptr, nullptr, nullptr);
+  if (code == SQLITE_INTERRUPT) throw StoreFault(*this, code, "opening it");
   return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY;
 }
 
 void Connection::RunSetting(const char* sql) const {
+  patience_->BeginStep(true);
   const int code = sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr);
   if (code == SQLITE_OK) return;
-  if (IsHeldElsewhere(code)) throw StoreFault(*this, code, "opening it");
+  if (IsHeldElsewhere(code) || code == SQLITE_INTERRUPT) throw StoreFault(*this, code, "opening it");
   throw FileFaultText(file_, sqlite3_errmsg(Handle()));
 }
 
@@ -217,8 +231,9 @@ Statement Connection::Hold() const {
 void Connection::CopyInto(const Connection& target) const {
   const Statement one_moment = Hold();  // also waits for the file
   sqlite3_backup* const backup = sqlite3_backup_init(target.Handle(), "main", Handle(), "main");
-  if (backup != nullptr) sqlite3_backup_step(backup, -1);
+  const bool stopped = backup != nullptr && CopyPages(backup);
   const int code = backup == nullptr ? sqlite3_errcode(target.Handle()) : sqlite3_backup_finish(backup);
+  if (stopped) throw StoppedFault(file_, "copying it");
   if (code == SQLITE_OK) return;
   const std::string where = fmt::format("{}: copying {}", target.File().string(), file_.string());
   if (IsOfReading(code)) {
@@ -261,6 +276,7 @@ void Savepoint::Release() {
 }
 
 void RollBackQuietly(const Connection& connection, const char* sql) {
+  const MustFinish finish;
   if (sqlite3_exec(connection.Handle(), sql, nullptr, nullptr, nullptr) == SQLITE_OK) return;
   LogFailure(fmt::format("{}: {}: {}", connection.File().string(), sql, sqlite3_errmsg(connection.Handle())));
 }

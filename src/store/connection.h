@@ -24,6 +24,9 @@ class Connection;
 /// runtime's words come with the store's message, the file and the statement.
 Fault StoreFault(const Connection& connection, int code, std::string_view statement);
 
+/// The user has stopped what was done with a file.
+Fault StoppedFault(const std::filesystem::path& file, std::string_view doing);
+
 /// True of an error that says another program, or another connection, holds the file.
 bool IsHeldElsewhere(int code);
 
@@ -98,6 +101,8 @@ class Connection {
   bool Autocommit() const { return sqlite3_get_autocommit(handle_.get()) != 0; }
   /// Reads of this connection see one state of the file, which no program changes, while the statement lives.
   Statement Hold() const;
+  /// True when the statement that was interrupted last was so because the user has stopped the work.
+  bool Stopped() const;
   /// Copies everything, as it stands at one moment, into an empty database that nobody else knows.
   void CopyInto(const Connection& target) const;
 

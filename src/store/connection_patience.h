@@ -12,12 +12,20 @@
 
 namespace rbt {
 
-/// How long a connection waits for other programs, and for a step of a statement to come to its end.
+/// How long a connection waits for other programs, and for a step of a statement to come to its end: until it
+/// counts as endless, or the user has the work stopped.
 class Connection::Patience {
  public:
   explicit Patience(std::filesystem::path file) : file_(std::move(file)) {}
 
-  void BeginStep() { ++step_; }
+  /// Of work that is written when it ends nobody could say whether it was stopped before.
+  void BeginStep(bool may_stop) {
+    ++step_;
+    may_stop_ = may_stop;
+    stopped_ = false;
+  }
+  /// The statement that was interrupted last was so for the user.
+  bool Stopped() const { return stopped_; }
   /// Asks SQLite to call back when a file is locked and while a step runs.
   void WatchOver(sqlite3* connection);
 
@@ -31,6 +39,8 @@ class Connection::Patience {
   std::uint64_t step_ = 0;
   std::uint64_t step_seen_ = 0;  ///< the last one that took long enough to be asked about
   Clock::time_point seen_since_;
+  bool may_stop_ = true;
+  bool stopped_ = false;
 };
 
 }  // namespace rbt

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "platform/system/work.h"
 #include "store/database_file.h"
 #include "store/database_impl.h"
 #include "store/table_change.h"
@@ -118,6 +119,7 @@ void Database::Impl::Begin() {
 
 void Database::Impl::Commit() {
   StartWriting("COMMIT");
+  const MustFinish finish;
   connection_->Run("COMMIT");
   in_transaction_ = false;
 }

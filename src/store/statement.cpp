@@ -53,7 +53,12 @@ std::string MessageOf(sqlite3* connection, int code) {
 
 bool IsHeldElsewhere(int code) { return (code & 0xFF) == SQLITE_BUSY || (code & 0xFF) == SQLITE_LOCKED; }
 
+Fault StoppedFault(const std::filesystem::path& file, std::string_view doing) {
+  return {FaultKind::stopped, fmt::format("the work was stopped by its user: {}: {}", file.string(), doing)};
+}
+
 Fault StoreFault(const Connection& connection, int code, std::string_view statement) {
+  if (code == SQLITE_INTERRUPT && connection.Stopped()) return StoppedFault(connection.File(), statement);
   const std::string where = fmt::format("{}: {}", connection.File().string(), statement);
   if (IsHeldElsewhere(code)) {
     return {FaultKind::locked, fmt::format("another program holds the file: {}", where)};
@@ -72,6 +77,8 @@ Fault StoreFault(const Connection& connection, int code, std::string_view statem
   return {kind, fmt::format("{}: {}", message, where)};
 }
 
+bool Connection::Stopped() const { return patience_->Stopped(); }
+
 Statement::Statement(const Connection& connection, std::string_view sql, std::string_view text)
     : connection_(&connection), text_(text) {
   sqlite3_stmt* statement = nullptr;
@@ -82,7 +89,9 @@ Statement::Statement(const Connection& connection, std::string_view sql, std::st
 }
 
 bool Statement::Step() {
-  connection_->patience_->BeginStep();
+  const bool writes_when_it_ends =
+      sqlite3_stmt_readonly(handle_.get()) == 0 && sqlite3_get_autocommit(connection_->Handle()) != 0;
+  connection_->patience_->BeginStep(!writes_when_it_ends);
   const int code = sqlite3_step(handle_.get());
   if (code == SQLITE_ROW) return true;
   if (code == SQLITE_DONE) return false;

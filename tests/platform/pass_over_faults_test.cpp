@@ -43,5 +43,12 @@ TEST(PassOverFaults, OfContentLetsThoseOfDisksAndLocksPass) {
   }
 }
 
+TEST(PassOverFaults, LetsTheEndOfStoppedWorkPassWhateverIsGuarded) {
+  const auto stop = [] { throw Fault(FaultKind::stopped, "GENBA001.MDB"); };
+  EXPECT_THROW(PassOverFaults(stop), Fault);
+  EXPECT_THROW(PassOverFaultsOfContent(stop), Fault);
+  EXPECT_THROW(PassOverFaults(FaultKind::stopped, stop), Fault);
+}
+
 }  // namespace
 }  // namespace rbt

@@ -103,10 +103,12 @@ class PagePainter {
 class DevicePainter {
  public:
   /// The pages' corner at `origin`, in twips from the sheet's.
-  DevicePainter(QPagedPaintDevice& device, std::string name, const QPointF& origin = {})
-      : device_(device), name_(std::move(name)), origin_(origin) {}
+  DevicePainter(QPagedPaintDevice& device, std::string name, const PageNews& news, const QPointF& origin = {})
+      : device_(device), name_(std::move(name)), news_(news), origin_(origin) {}
 
   void Paint(const PrintedPage& page) {
+    ++page_;
+    if (news_) news_(page_);
     if (!painter_.isActive()) {
       Begin();
     } else if (!device_.newPage()) {
@@ -132,7 +134,9 @@ class DevicePainter {
 
   QPagedPaintDevice& device_;
   std::string name_;
+  const PageNews& news_;
   QPointF origin_;
+  std::int64_t page_ = 0;
   QPainter painter_;
 };
 
@@ -169,13 +173,15 @@ void SetUpSheet(QPagedPaintDevice& device, const PrintedDocument& document) {
   device.setPageLayout(QPageLayout(PageSizeOf(document.paper_code), orientation, QMarginsF(0, 0, 0, 0)));
 }
 
-void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin) {
-  DevicePainter painter(device, document.device_name, origin);
+void PaintDocument(QPagedPaintDevice& device, const PrintedDocument& document, const QPointF& origin,
+                   const PageNews& news) {
+  DevicePainter painter(device, document.device_name, news, origin);
   for (const PrintedPage& page : document.pages) painter.Paint(page);
   painter.End();
 }
 
-void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file) {
+void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem::path& file,
+              const PageNews& news) {
   RequireApplication();
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
@@ -184,7 +190,7 @@ void PaintPdf(std::span<const PrintedDocument> documents, const std::filesystem:
     writer.setCreator(QStringLiteral("rbtally"));
     if (!documents.empty()) writer.setTitle(Text(documents.front().title));
     writer.setResolution(kTwipsPerInch);
-    DevicePainter painter(writer, file.string());
+    DevicePainter painter(writer, file.string(), news);
     for (const PrintedDocument& document : documents) {
       // A writer takes a new sheet with the page that comes next.
       SetUpSheet(writer, document);

@@ -4,21 +4,24 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <utility>
 #include <vector>
+
+#include "planning/solve/linear_program.h"
 
 namespace rbt::planning {
 
-/// True when the program was built with the library that solves linear programs.
+/// True when the program was built with the library that solves linear programs, which is loaded for the
+/// first one.
 bool LinearProgramsAreSolved();
 
 /// min cost x, A x >= need, x >= 0, columns added as they are found; each solve starts where the last one
 /// ended. Without the library every solve fails.
 class CoverLp {
  public:
-  using Entries = std::span<const std::pair<int, double>>;
+  using Entries = LinearProgram::Entries;
 
-  /// Rows that need `need` at least; a negative entry and need say "at most".
+  /// Rows that need `need` at least; a negative entry and need say "at most". Throws `file` where the library
+  /// cannot be loaded.
   explicit CoverLp(const std::vector<double>& need);
   ~CoverLp();
   CoverLp(const CoverLp&) = delete;
@@ -44,8 +47,7 @@ class CoverLp {
   std::span<const double> Values() const;  ///< of each column
 
  private:
-  struct Model;
-  std::unique_ptr<Model> model_;
+  std::unique_ptr<LinearProgram> program_;
 };
 
 }  // namespace rbt::planning

@@ -5,8 +5,6 @@ namespace rbt::planning {
 
 bool LinearProgramsAreSolved() { return false; }
 
-struct CoverLp::Model {};
-
 CoverLp::CoverLp(const std::vector<double>& /*need*/) {}
 CoverLp::~CoverLp() = default;
 void CoverLp::AddColumn(double /*cost*/, Entries /*entries*/) {}

@@ -15,6 +15,7 @@
 #include "platform/system/paths.h"
 #include "platform/system/patience.h"
 #include "platform/system/process.h"
+#include "platform/system/work.h"
 
 namespace rbt {
 
@@ -35,6 +36,11 @@ struct ServicesData {
   std::chrono::milliseconds LockPatience{10'000};
   LockQuestion WaitOn = GiveUpWaiting;
   WaitHook OnWait = [] {};
+  /// `StopAsked()`, `NotePage()`: who is told that work goes on and may stop it; how many `MustFinish` live.
+  WorkHook OnWork = WorkOn;
+  int WorkThatMustFinish = 0;
+  /// `WorkPace()`: about a millisecond of work.
+  int WorkPace = 100'000;
   /// `StatementLimit()`.
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reports/frame/page_flow.h"
 
+#include "platform/system/work.h"
+
 namespace rbt {
 
 namespace {
@@ -35,6 +37,7 @@ int RowsOn(const PageOfBlocks& page, std::span<const FlowBlock> blocks) {
 
 void DrawPages(ReportPen& pen, std::span<const PageOfBlocks> pages, const PageDrawing& drawing) {
   for (std::size_t index = 0; index < pages.size(); ++index) {
+    NotePage(static_cast<std::int64_t>(index) + 1);
     if (index > 0) {
       pen.Printer.NewPage();
       ++pen.page;

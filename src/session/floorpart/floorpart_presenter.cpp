@@ -9,6 +9,7 @@
 #include "data/table_layouts.h"
 #include "platform/fault.h"
 #include "platform/numbers/number_words.h"
+#include "platform/or_as_before.h"
 #include "platform/system/message.h"
 #include "platform/system/process.h"
 #include "platform/text/characters.h"
@@ -163,6 +164,12 @@ void FloorPartPresenter::ChooseWeight(bool installed) {
   SaveSetting(kFloorTallyStockKey, installed ? 1 : 0);
 }
 
+/// An intent whose tally the user may stop: the screen and the selection are as they were then.
+void FloorPartPresenter::Stoppable(const std::function<void()>& intent) {
+  OrAsBefore(intent, Selection, scope_, installed_, filters_, uplift_, result_, grid_, result_shown_, range_,
+             all_, SpecialSeen, SpecialTaken, HoseiZumi, LoadZumi, change_, filters_locked_, focus_);
+}
+
 void FloorPartPresenter::Run() {
   if (input_.IsEmpty(FloorInput::kStart)) {
     MsgBox("開始階が設定されていません", screen_.title);
@@ -174,16 +181,20 @@ void FloorPartPresenter::Run() {
   }
   const std::optional<FloorRange> range = input_.Range();
   if (!range) return Refuse(input_.StartPasses() ? FloorPartFocus::end : FloorPartFocus::start);
+  Stoppable([&] { AskAndRun(*range); });
+}
+
+void FloorPartPresenter::AskAndRun(const FloorRange& range) {
   scope_ = AskedScope(input_.AsTyped());
   SpecialMask specials;
   SpecialSeen = kAllTaken;
-  if (!IsSpecialFloor(range->end)) {
+  if (!IsSpecialFloor(range.end)) {
     const SpecialMask found = SpecialFloorsNow();
     specials = AskAboutSpecialFloors(found, screen_.question_titles);
     SpecialSeen += found.AsNumber();
     SpecialTaken += specials.AsNumber();
   }
-  RunOver(*range, specials);
+  RunOver(range, specials);
 }
 
 void FloorPartPresenter::RunOver(const FloorRange& range, SpecialMask specials) {
@@ -274,31 +285,39 @@ void FloorPartPresenter::OfferModes() {
 // The selection.
 
 void FloorPartPresenter::ChooseKinds() {
-  const KindMask kinds = Selection.MaterialKindMask;
-  const FormMask forms = Selection.MaterialFormMask;
-  parts_.choose_kinds();
-  if (Selection.MaterialKindMask == kinds && Selection.MaterialFormMask == forms) return;
-  Tally();
-  filters_.kinds = FloorPartKindCaption(Selection.MaterialKindMask);
-  filters_.forms = ShortFormCaption(Selection.MaterialFormMask);
+  Stoppable([this] {
+    const KindMask kinds = Selection.MaterialKindMask;
+    const FormMask forms = Selection.MaterialFormMask;
+    parts_.choose_kinds();
+    if (Selection.MaterialKindMask == kinds && Selection.MaterialFormMask == forms) return;
+    Tally();
+    filters_.kinds = FloorPartKindCaption(Selection.MaterialKindMask);
+    filters_.forms = ShortFormCaption(Selection.MaterialFormMask);
+  });
 }
 
 void FloorPartPresenter::ChooseForms() {
-  const FormMask forms = Selection.MaterialFormMask;
-  parts_.choose_forms();
-  if (Selection.MaterialFormMask == forms) return;
-  Tally();
-  filters_.forms = ShortFormCaption(Selection.MaterialFormMask);
+  Stoppable([this] {
+    const FormMask forms = Selection.MaterialFormMask;
+    parts_.choose_forms();
+    if (Selection.MaterialFormMask == forms) return;
+    Tally();
+    filters_.forms = ShortFormCaption(Selection.MaterialFormMask);
+  });
 }
 
 void FloorPartPresenter::CycleHoops() {
-  Selection.HoopMode = Next(Selection.HoopMode);
-  Tally();
+  Stoppable([this] {
+    Selection.HoopMode = Next(Selection.HoopMode);
+    Tally();
+  });
 }
 
 void FloorPartPresenter::CyclePlates() {
-  Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode);
-  Tally();
+  Stoppable([this] {
+    Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode);
+    Tally();
+  });
 }
 
 // Raising by a percentage, and correcting by hand.
@@ -334,9 +353,12 @@ void FloorPartPresenter::TypeUplift(std::string text) { SetUplift(std::move(text
 
 void FloorPartPresenter::TakeUplift() {
   if (change_ != Change::uplift) return;
-  change_ = Change::none;
-  uplift_.shown = false;
-  RunOver(*range_, Selection.TokubetuMask);
+  Stoppable([this] {
+    change_ = Change::none;
+    uplift_.shown = false;
+    // `range_` is set anew on the way.
+    RunOver(FloorRange(*range_), Selection.TokubetuMask);
+  });
 }
 
 bool FloorPartPresenter::MayCorrect(int row, int column) const {

@@ -20,7 +20,8 @@ namespace rbt {
 
 /// The floor or part screen without its window: it asks for floors, tallies them, filters, raises, corrects
 /// by hand. An intent that the screen cannot serve now has its button out of sight or out of reach. Every
-/// intent may throw what its tally or setting throws; the view is whole all the same.
+/// intent may throw what its tally or setting throws; the view is whole all the same, and as it was before
+/// where the user has stopped the tally.
 class FloorPartPresenter {
  public:
   /// Loads: binds the site, sets the selection's defaults, looks for the floors of the schedule. Throws what
@@ -87,6 +88,8 @@ class FloorPartPresenter {
 
   void ReadSchedule();
   void TakeAllBack();
+  void Stoppable(const std::function<void()>& intent);
+  void AskAndRun(const FloorRange& range);
   void RunOver(const FloorRange& range, SpecialMask specials);
   void Tally();
   void Count();

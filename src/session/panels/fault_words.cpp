@@ -140,6 +140,11 @@ std::string WordsOf(const std::exception& fault, std::string_view where, std::st
   return fmt::format("{}{}\n{}\n\n{}", named, wrong, remedy, fault.what());
 }
 
+bool IsOfKind(const std::exception& fault, FaultKind kind) {
+  const auto* const ours = dynamic_cast<const Fault*>(&fault);
+  return ours != nullptr && ours->Kind() == kind;
+}
+
 }  // namespace
 
 std::string FaultWords(const std::exception& fault) {
@@ -153,9 +158,8 @@ std::string FaultWords(const std::exception& fault) {
   return WordsOf(fault, ours->Where(), telling->wrong, telling->remedy);
 }
 
-bool IsOfLock(const std::exception& fault) {
-  const auto* const ours = dynamic_cast<const Fault*>(&fault);
-  return ours != nullptr && ours->Kind() == FaultKind::locked;
-}
+bool IsOfLock(const std::exception& fault) { return IsOfKind(fault, FaultKind::locked); }
+
+bool IsOfStop(const std::exception& fault) { return IsOfKind(fault, FaultKind::stopped); }
 
 }  // namespace rbt

@@ -12,5 +12,7 @@ std::string FaultWords(const std::exception& fault);
 
 /// True for a fault that came of a file which another program holds.
 bool IsOfLock(const std::exception& fault);
+/// True for the end of work that its user has stopped.
+bool IsOfStop(const std::exception& fault);
 
 }  // namespace rbt

@@ -20,6 +20,8 @@ namespace rbt {
 /// The boxes of a range as they are filled in. A box is known by its place from the left.
 class RangeInput {
  public:
+  using Texts = std::vector<std::string>;
+
   virtual ~RangeInput() = default;
 
   /// Puts the schedule's whole range into the boxes. Faults: `invalid use of null`.
@@ -44,6 +46,7 @@ class RangeInput {
   void Keep() { kept_ = texts_; }
   /// Sets the boxes back to that range.
   void BringBack() { texts_ = kept_; }
+  Texts& Kept() { return kept_; }
   /// That range in words; empty before one was taken.
   std::string Told() const { return kept_.empty() ? "" : InWords(kept_); }
 
@@ -62,8 +65,8 @@ class RangeInput {
 
  private:
   std::vector<std::string_view> controls_;
-  std::vector<std::string> texts_;
-  std::vector<std::string> kept_;
+  Texts texts_;
+  Texts kept_;
   bool has_rows_ = true;
 };
 

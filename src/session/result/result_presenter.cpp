@@ -5,6 +5,7 @@
 
 #include "platform/fault.h"
 #include "platform/numbers/number_words.h"
+#include "platform/or_as_before.h"
 #include "platform/system/message.h"
 #include "platform/system/process.h"
 #include "session/panels/at_end.h"
@@ -143,40 +144,55 @@ void ResultPresenter::DecideAvailability() {
   if (print_panel_.IsOpen()) print_panel_.OfferPapers(PapersNow());
 }
 
+/// An intent whose tally the user may stop: the screen and the selection are as they were then.
+void ResultPresenter::Stoppable(const std::function<void()>& intent) {
+  RangeInput::Texts no_range;
+  RangeInput::Texts& kept = range_ != nullptr ? range_->Kept() : no_range;
+  OrAsBefore(intent, Selection, RunState.HasHoopRows, RunState.HasAnchorPlateRows, kept, filters_,
+             taken_uplift_, result_, rows_, totals_, colours_, notice_, added_sites_, ulbon_view_, tally_ran_,
+             result_shown_, range_shown_, offers_print_, focus_);
+}
+
 // The selection.
 
 void ResultPresenter::Recalculate() {
-  Rerun([] {});
+  Stoppable([this] { Rerun([] {}); });
 }
 
 void ResultPresenter::ChooseForms() {
   if (!parts_.choose_forms) return SayNotReady("材料変更");
-  parts_.choose_forms();
-  Rerun([] { Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask); });
+  Stoppable([this] {
+    parts_.choose_forms();
+    Rerun([] { Selection.MaterialCalcChoice = CalcChoiceOf(Selection.MaterialKindMask); });
+  });
 }
 
 void ResultPresenter::ChooseKinds() {
   if (!parts_.choose_kinds) return SayNotReady("材質変更");
-  parts_.choose_kinds();
-  Recalculate();
-  TellKinds();
+  Stoppable([this] {
+    parts_.choose_kinds();
+    Rerun([] {});
+    TellKinds();
+  });
 }
 
 void ResultPresenter::CycleHoops() {
-  Rerun([] { Selection.HoopMode = Next(Selection.HoopMode); });
+  Stoppable([this] { Rerun([] { Selection.HoopMode = Next(Selection.HoopMode); }); });
 }
 
 void ResultPresenter::CyclePlates() {
-  Rerun([] { Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode); });
+  Stoppable([this] { Rerun([] { Selection.AnchorPlateMode = Next(Selection.AnchorPlateMode); }); });
 }
 
 // The Ulbon rows.
 
 void ResultPresenter::ShowUlbonView() {
-  if (!IsSum()) Tally();
-  ulbon_view_ = true;
-  Fill();
-  FocusOn(FocusTarget::grid);
+  Stoppable([this] {
+    if (!IsSum()) Tally();
+    ulbon_view_ = true;
+    Fill();
+    FocusOn(FocusTarget::grid);
+  });
 }
 
 void ResultPresenter::ShowNormalView() {
@@ -212,12 +228,14 @@ void ResultPresenter::TakeUplift() {
 }
 
 void ResultPresenter::RestoreValues() {
-  filters_.uplift.text.clear();
-  taken_uplift_.clear();
-  filters_.uplift.shown = false;
-  if (!IsSum()) Tally();
-  Fill();
-  FocusOn(FocusTarget::grid);
+  Stoppable([this] {
+    filters_.uplift.text.clear();
+    taken_uplift_.clear();
+    filters_.uplift.shown = false;
+    if (!IsSum()) Tally();
+    Fill();
+    FocusOn(FocusTarget::grid);
+  });
 }
 
 // The range of a scoped screen.
@@ -244,9 +262,11 @@ void ResultPresenter::TakeRange() {
   for (std::size_t box = 0; box < range_->Boxes(); ++box) {
     if (!Passes(box)) return;
   }
-  range_->WriteTo(Selection);
-  range_->Keep();
-  RunRange();
+  Stoppable([this] {
+    range_->WriteTo(Selection);
+    range_->Keep();
+    RunRange();
+  });
 }
 
 void ResultPresenter::LeaveRange() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -23,6 +24,8 @@ struct RunStateData {
   bool FaultEndsProgram = false;    ///< load or activation runs: its fault ends the program
   bool HasWaited = false;           ///< the running action has waited for a file that another program held
   bool GaveUpWaiting = false;       ///< ... and the user has given that up: what becomes of it is known
+  std::chrono::steady_clock::time_point WorkBegan;  ///< since when the action works without asking the user
+  bool WorkStopped = false;  ///< the user has stopped the action: what it still does to end, it does
 };
 
 extern RunStateData RunState;

@@ -214,7 +214,7 @@ class FolderImport {
     } catch (const jet::TargetFault&) {
       throw;  // a full disk is no reason to leave out one file and go on
     } catch (const Fault& fault) {
-      if (EqualIgnoringCase(name, kMaster)) throw;
+      if (EqualIgnoringCase(name, kMaster) || fault.Kind() == FaultKind::stopped) throw;
       report_.failed.emplace_back(fault.what());
       return;
     }

@@ -23,6 +23,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kPrefix = "classified-";
+
 /// Which program this is: every other build works the statements out in its own way. Empty where the system
 /// does not tell.
 std::string ProgramStamp() {
@@ -44,7 +46,27 @@ std::string TextOf(const FileState& state) {
 /// Beside what it names it tells nothing: the whole text is compared.
 std::string NameOf(const FileState& state, const std::string& program, const std::string& statements) {
   const std::hash<std::string> number;
-  return fmt::format("classified-{:x}-{:x}-{:x}", state.device, state.file, number(program + statements));
+  return fmt::format("{}{:x}-{:x}-{:x}", kPrefix, state.device, state.file, number(program + statements));
+}
+
+/// True of a memory that nobody will ask for: long unused, or of a schedule that is gone.
+bool IsIdle(const fs::path& memory, fs::file_time_type now) {
+  std::error_code error;
+  const auto written = fs::last_write_time(memory, error);
+  if (error) return false;
+  if (now - written > ClassificationMemory::kKeptFor) return true;
+  std::string schedule;
+  return std::getline(std::ifstream(memory, std::ios::binary), schedule) && !fs::exists(schedule, error) &&
+         !error;
+}
+
+/// Somebody else may have taken one away meanwhile, or may not let it go: it is gone with another turn.
+void DropIdleMemories(fs::file_time_type now) {
+  std::error_code passed_over;
+  for (const fs::directory_entry& entry : fs::directory_iterator(CacheFolder(), passed_over)) {
+    const bool is_memory = entry.path().filename().native().starts_with(kPrefix);
+    if (is_memory && IsIdle(entry.path(), now)) fs::remove(entry.path(), passed_over);
+  }
 }
 
 }  // namespace
@@ -58,7 +80,11 @@ ClassificationMemory::ClassificationMemory(const Database& schedule,
   if (!state || program.empty() || schedule.HasMoved()) return;
   const std::string all = fmt::format("{}", fmt::join(statements, "\n"));
   file_ = CacheFolder() / NameOf(*state, program, all);
-  text_ = fmt::format("{}\n{}\n{}\n{}\n", TextOf(*state), program, Database::StoreVersion(), all);
+  std::error_code error;
+  const fs::path name = fs::canonical(schedule.File(), error);
+  if (error) file_.clear();
+  text_ = fmt::format("{}\n{}\n{}\n{}\n{}\n", name.string(), TextOf(*state), program,
+                      Database::StoreVersion(), all);
   touched_ = std::max(state->written, state->touched);
 }
 
@@ -80,6 +106,7 @@ void ClassificationMemory::Note(fs::file_time_type now) const {
     FileInWork memory(file_);
     memory.Write(text_);
     memory.Replace();
+    DropIdleMemories(now);
   });
 }
 

@@ -20,6 +20,9 @@ class ClassificationMemory {
   /// not every file system counts its times finely.
   static constexpr std::chrono::nanoseconds kSettlingTime = std::chrono::seconds(2);
 
+  /// One that is no newer is dropped, as is one whose schedule is gone, when another is noted.
+  static constexpr std::chrono::days kKeptFor{90};
+
   /// `schedule` must be held, or else its state may not be the one that is read.
   ClassificationMemory(const Database& schedule, std::span<const std::string> statements);
 

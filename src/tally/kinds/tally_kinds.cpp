@@ -7,7 +7,9 @@
 
 #include "platform/fault.h"
 #include "platform/numbers/number_words.h"
+#include "platform/or_as_before.h"
 #include "shell/context/run_state.h"
+#include "tally/engine/stock_engine.h"
 #include "tally/floorpart/floor_tally.h"
 #include "tally/floorpart/part_tally.h"
 #include "tally/groups/shape_tally.h"
@@ -91,7 +93,8 @@ const TallyKindRow* FindTallyKind(std::string_view word) {
 
 TallyResult CountTally(TallyKind kind) {
   const TallyKindRow& row = RowOf(kind);
-  row.count();
+  OrAsBefore(row.count, TallyGrid, FloorTally, PartTally, EngineState, RunState.HasHoopRows,
+             RunState.HasAnchorPlateRows);
   TallyResult result{.kind = kind, .selection = Selection, .tables = row.current()};
   const Presence presence = std::visit([](const auto& tables) { return PresenceOf(tables); }, result.tables);
   result.has_hoop_rows = presence.hoops;

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Every command in pairs on one site, beside programs that read it, that write it and that start on it in another
 mode: each must end well, say nothing, and give the figures of the site as it stood at one moment, under the start
-mode that it was asked for.
+mode that it was asked for. Before that, pairs of tallies on a site that nobody writes, and locks that are held.
 
 usage: sharing_test.py RBTALLY
 
@@ -23,6 +23,7 @@ import time
 
 FULL = os.environ.get("RBTALLY_STRESS") == "full"
 PAIRS = 64 if FULL else 2
+TALLY_PAIRS = 64
 ROWS = 3000 if FULL else 300
 MODES = (-1, 1, 4)
 SITE = "GENBA001.MDB"
@@ -218,6 +219,85 @@ def run_all(root, right):
     return wrong
 
 
+class Alone:
+    """A site in the first state, prepared for the usual mode, which nobody else works on."""
+
+    def __init__(self, root):
+        self.folder = tempfile.TemporaryDirectory(prefix="rbtally-")
+        self.root = Root(root.program, pathlib.Path(self.folder.name) / "root")
+
+    def __enter__(self):
+        return self.root
+
+    def __exit__(self, *_):
+        self.folder.cleanup()
+
+
+def prepare_alone(site, root):
+    shutil.copytree(root.root, site.root)
+    connection = site.site()
+    set_state(connection, 0)
+    connection.close()
+    for _ in range(2):
+        site.must(["prepare"])
+
+
+def pairs_of_tallies(root, right):
+    """Sixty-four pairs of tallies at once, on a site that is as they want it."""
+    wrong = []
+    tallies = [(f"tally {kind}", ["tally", kind, "--format", "json"]) for kind in kinds_of(root.program)]
+    with Alone(root) as site:
+        prepare_alone(site, root)
+        for pair in range(TALLY_PAIRS):
+            two = [tallies[(pair + i) % len(tallies)] for i in range(2)]
+            running = [site.start([*words, "--wait", WAIT]) for _, words in two]
+            for (name, _), child in zip(two, running):
+                output, errors = child.communicate(timeout=600)
+                if child.returncode != 0 or errors:
+                    wrong.append(f"{name} in a pair: status {child.returncode}: {errors.decode()}")
+                elif output != right[name, MODES[0]][0]:
+                    wrong.append(f"{name} in a pair: other figures")
+    return wrong
+
+
+def digest(file):
+    """By a program of its own: a file that is opened and closed beside its holder's locks loses them."""
+    return subprocess.run(["sha256sum", file], capture_output=True, check=True).stdout
+
+
+def held_locks(root, right):
+    """A lock on reading or on writing holds up no tally of a site that is as it wants it; one that has to write waits
+    for either, as long as it is told to, and leaves the file as it was."""
+    wrong = []
+    name, words = "tally bulk", ["tally", "bulk", "--format", "json"]
+    with Alone(root) as site:
+        prepare_alone(site, root)
+        file = site.root / "DATA" / SITE
+        for lock in ("BEGIN", "BEGIN IMMEDIATE"):
+            holder = site.site()
+            holder.execute(lock)
+            holder.execute("SELECT count(*) FROM 加工テーブル").fetchone()
+            before = digest(file)
+            status, output, errors = site.run([*words, "--wait", "0"])
+            if (status, output, errors) != (0, right[name, MODES[0]][0], b""):
+                wrong.append(f"{lock} holds up a tally: status {status}: {errors.decode()}")
+            status, _, errors = site.run([*words, f"--start-mode={MODES[1]}", "--wait", "0"])
+            if status != 1 or SITE.encode() not in errors or errors.count(b"\n") != 1:
+                wrong.append(f"{lock} is not told: status {status}: {errors.decode()}")
+            if digest(file) != before:
+                wrong.append(f"{lock}: the site has changed")
+            waiting = site.start([*words, f"--start-mode={MODES[1]}", "--wait", WAIT])
+            time.sleep(0.2)
+            holder.execute("ROLLBACK")
+            holder.close()
+            output, errors = waiting.communicate(timeout=600)
+            if (waiting.returncode, output, errors) != (0, right[name, MODES[1]][0], b""):
+                wrong.append(f"{lock} is not waited for: status {waiting.returncode}: {errors.decode()}")
+            for _ in range(2):
+                site.must(["prepare"])
+    return wrong
+
+
 def main():
     program = str(pathlib.Path(sys.argv[1]).resolve())
     with tempfile.TemporaryDirectory(prefix="rbtally-") as folder:
@@ -226,7 +306,7 @@ def main():
         for _ in range(2):
             root.must(["prepare"])
         right = references(root)
-        wrong = run_all(root, right)
+        wrong = pairs_of_tallies(root, right) + held_locks(root, right) + run_all(root, right)
         if FULL:
             burners = [subprocess.Popen(["sh", "-c", "while :; do :; done"]) for _ in range(2 * os.cpu_count())]
             try:

@@ -143,6 +143,29 @@ TEST_F(Memories, AreNotLookedForInTheSitesFolder) {
   EXPECT_EQ(count(), before);
 }
 
+TEST_F(Memories, ThatNobodyWillAskForAreDroppedWhenAnotherIsNoted) {
+  Note();
+  const fs::path of_file = Noted().front();
+  const auto put = [&](const char* name, const std::string& text, std::chrono::days age) {
+    const fs::path file = CacheFolder() / name;
+    std::ofstream(file) << text;
+    fs::last_write_time(file, fs::file_time_type::clock::now() - age);
+  };
+  const std::string there = fs::canonical(File()).string() + "\nx";
+  put("classified-gone", site_.Data("GONE.MDB").string() + "\nx", std::chrono::days(1));
+  put("classified-old", there, ClassificationMemory::kKeptFor + std::chrono::days(1));
+  put("classified-kept", there, ClassificationMemory::kKeptFor - std::chrono::days(1));
+  put("another-programs", "", 2 * ClassificationMemory::kKeptFor);
+  Note();
+  EXPECT_THAT(Noted(), SizeIs(5)) << "what is noted already is not noted again";
+  site_.AddRow({{"太さ", 22}});
+  Note();
+  std::vector<std::string> names;
+  for (const fs::path& file : Noted()) names.push_back(file.filename().string());
+  EXPECT_THAT(names, testing::UnorderedElementsAre(of_file.filename().string(), "classified-kept",
+                                                   "another-programs"));
+}
+
 /// A memory that is wrong shows whether anybody looks through the rows all the same.
 TEST_F(Memories, SpareALookAtEachRow) {
   Note();
