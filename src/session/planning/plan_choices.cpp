@@ -211,7 +211,7 @@ std::string WordsOf(const PlanField& field, const PlanChoices& choices) {
   const std::string key(field.key);
   switch (field.kind) {
     case K::tick:
-      return key;
+      return std::string(field.key);
     case K::file:
       return key + " " + std::filesystem::path(field.text(choices)).filename().string();
     case K::unseen:

@@ -45,7 +45,7 @@ class SitePlans : public ::testing::Test {
   }
 
   /// Gives these choices one after the other, then nothing; keeps what it was called with.
-  AskChoices Asked(std::vector<PlanChoices> answers) {
+  AskChoices Asked(const std::vector<PlanChoices>& answers) {
     return [this, answers](const PlanChoices& choices) -> std::optional<PlanChoices> {
       const std::size_t turn = shown_.size();
       shown_.push_back(choices);
