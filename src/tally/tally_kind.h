@@ -16,7 +16,4 @@ enum class TallyKind : std::int32_t {
   names = 6,       ///< the marked registered names, 登録名集計
 };
 
-/// Those that stand on floors and parts, 階別集計 and 部位別集計.
-constexpr bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
-
 }  // namespace rbt

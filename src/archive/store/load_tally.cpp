@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "archive/store/saved_name.h"
 #include "archive/store/saved_rows.h"
 #include "tally/floorpart/floor_tally.h"
 #include "tally/floorpart/part_tally.h"

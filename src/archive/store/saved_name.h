@@ -10,6 +10,10 @@
 
 namespace rbt {
 
+/// The tallies that stand on floors and parts, 階別集計 and 部位別集計: kept without memos, named without
+/// sub-project.
+constexpr bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
+
 /// The name that a save proposes: the kinds of bars, date and time, of the page tallies the range, and the
 /// sub-project text where there is one.
 std::string ProposedName(const TallyResult& result, const DateTime& now, std::string_view subproject);
