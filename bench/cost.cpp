@@ -33,7 +33,11 @@ double Seconds(const timeval& time) {
 }
 
 /// From now on the greatest memory is counted anew.
-void ForgetPeak() { std::ofstream("/proc/self/clear_refs") << '5'; }
+void ForgetPeak() {
+  if (!(std::ofstream("/proc/self/clear_refs") << '5' << std::flush)) {
+    throw std::runtime_error("/proc/self/clear_refs cannot be written: the peak memory is not known");
+  }
+}
 
 double PeakMb() {
   std::ifstream status("/proc/self/status");

@@ -9,7 +9,7 @@
 #include <QPushButton>
 
 #include "desktop/look.h"
-#include "desktop/pending_events.h"
+#include "desktop/work_watch.h"
 #include "platform/system/services.h"
 #include "screens/result/result_form.h"
 #include "screens/result/result_forms.h"
@@ -25,7 +25,8 @@ class Desktop {
  public:
   Desktop() {
     PrepareDesktop();
-    Services.PendingEvents = ProcessEventsWithoutInput;
+    Services.PendingEvents = ProcessEventsOfWork;
+    Services.OnWork = ShowWork();
   }
 
  private:

@@ -10,7 +10,6 @@
 #include <QThread>
 #include <QWindow>
 
-#include "desktop/form.h"
 #include "desktop/pending_events.h"
 #include "desktop/work_panel.h"
 #include "shell/context/run_state.h"

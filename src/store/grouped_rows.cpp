@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/grouped_rows.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "platform/numbers/number_words.h"
 #include "platform/text/characters.h"
+#include "store/column_search.h"
 #include "store/database_impl.h"
 #include "store/group_table.h"
 #include "store/row_taker.h"
@@ -43,11 +43,7 @@ class GroupedRows::Groups {
   bool Eof() const { return current_ >= table_.Size(); }
   void MoveNext() { ++current_; }
 
-  std::optional<FieldHandle> FindField(std::string_view name) const {
-    const auto found = std::ranges::find(columns_, FoldIdentifier(name), &Column::folded_name);
-    if (found == columns_.end()) return std::nullopt;
-    return FieldHandle{static_cast<int>(found - columns_.begin())};
-  }
+  std::optional<FieldHandle> FindField(std::string_view name) const { return FindColumn(columns_, name); }
 
   std::optional<std::int32_t> Int32(FieldHandle field) const {
     const std::size_t value = ColumnOf(field).value;

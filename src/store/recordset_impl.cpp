@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "platform/text/characters.h"
+#include "store/column_search.h"
 
 namespace rbt {
 
@@ -55,11 +56,7 @@ std::int64_t Recordset::Impl::RecordCount() {
 }
 
 std::optional<FieldHandle> Recordset::Impl::FindField(std::string_view name) const {
-  const std::string folded = FoldIdentifier(name);
-  for (std::size_t c = 0; c < columns_.size(); ++c) {
-    if (columns_[c].folded_name == folded) return FieldHandle{static_cast<int>(c)};
-  }
-  return std::nullopt;
+  return FindColumn(columns_, name);
 }
 
 const Recordset::Impl::Column& Recordset::Impl::ColumnAt(FieldHandle field) const {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/row_walk.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "platform/text/characters.h"
+#include "store/column_search.h"
 #include "store/database_impl.h"
 #include "store/row_taker.h"
 #include "store/stored_value.h"
@@ -30,11 +30,7 @@ class RowWalk::Impl {
     for (const auto& column : select.columns) columns_.push_back({column.name, FoldIdentifier(column.name)});
   }
 
-  std::optional<FieldHandle> FindField(std::string_view name) const {
-    const auto found = std::ranges::find(columns_, FoldIdentifier(name), &Column::folded_name);
-    if (found == columns_.end()) return std::nullopt;
-    return FieldHandle{static_cast<int>(found - columns_.begin())};
-  }
+  std::optional<FieldHandle> FindField(std::string_view name) const { return FindColumn(columns_, name); }
 
   /// A snapshot's first row is read before its fields are looked for.
   [[noreturn]] void ThrowNotFound(std::string_view name) const {

@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/files/system_error.h"
 #include "platform/numbers/number_words.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
@@ -24,11 +25,14 @@ constexpr std::string_view kNoSites = "データーベースファイルが存�
 constexpr std::string_view kDatabaseTool = "\\RBK\\DBTOOL\\rbdbtool.exe";
 constexpr std::string_view kFirstSite = "GENBA001.MDB";
 
-/// `\RBK\DATA\genba*`
+/// `\RBK\DATA\genba*`. A folder that cannot be read is a fault.
 bool HasSiteDatabases() {
+  const std::filesystem::path folder = MapPath("\\RBK\\DATA");
   std::error_code error;
-  const std::filesystem::directory_iterator files(MapPath("\\RBK\\DATA"), error);
-  return !error && std::ranges::any_of(files, [](const std::filesystem::directory_entry& file) {
+  const std::filesystem::directory_iterator files(folder, error);
+  if (error == std::errc::no_such_file_or_directory) return false;
+  if (error) throw FileFault(folder, "cannot be read", error.value());
+  return std::ranges::any_of(files, [](const std::filesystem::directory_entry& file) {
     return FoldIdentifier(file.path().filename().string()).starts_with(FoldIdentifier("genba"));
   });
 }

@@ -8,6 +8,7 @@
 #include "platform/failure_log.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/process.h"
+#include "platform/system/work.h"
 #include "session/startup/startup.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
@@ -27,6 +28,7 @@ Database OpenNames() {
 }
 
 void DropWhatTheSummaryLeaves(Database& schedule) {
+  const MustFinish finish;  // nobody comes back to what it would leave behind
   Transaction transaction(schedule);
   DropNameWorkTables(schedule);
   transaction.Commit();

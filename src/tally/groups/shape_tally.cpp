@@ -113,9 +113,8 @@ void PKeijou_Jyuuryo_Syukei(std::int32_t startPage, std::int32_t startLine, std:
   ReadPlus();
   const GroupRules rules = RulesOfTally(WeightFromPageTable);
   const LineRange lines = LinesBetween(site, {{startPage, startLine}, {endPage, endLine}});
-  if (MayHoldTexts(site, kColumnsOfRows, PageShapeRows(lines))) {
-    RequireNumbers(site, kColumnsOfRows, PageShapeRows(lines));
-  }
+  const std::string rows = PageShapeRows(lines);
+  if (MayHoldTexts(site, kColumnsOfRows, rows)) RequireNumbers(site, kColumnsOfRows, rows);
   FoldUlbonGroups(table, site, PageShapeUlbonStatement(Selection, lines), rules.count_hoop_welds);
   RunPendingEvents();
   ProbePageShapes(site, lines);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "session/accumulation/site_choice.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,6 +11,8 @@
 #include "session/result/result_site.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
+#include "shell/context/site_context.h"
+#include "support/fault_of.h"
 
 namespace rbt::test {
 
@@ -112,6 +117,17 @@ TEST_F(SiteChoice, TellsAGradeThatIsMissing) {
   const SiteChoicePresenter dialog;
   ASSERT_EQ(site_.Messages().size(), 1U);
   EXPECT_EQ(site_.Messages().front().text, "ＳＤ名が登録されていません。");
+}
+
+TEST_F(SiteChoice, AFolderThatCannotBeReadIsAFaultAndSendsNobodyForSites) {
+  SiteContext.MasterDatabase.reset();
+  SiteContext.WorkDatabase.reset();
+  std::filesystem::rename(site_.Data(""), site_.Root().Path() / "ELSEWHERE");
+  std::ofstream(site_.Root().Path() / "DATA") << "a file where the folder should be";
+  const std::string told = FaultTextOf([] { const SiteChoicePresenter dialog; });
+  EXPECT_NE(told.find("cannot be read"), std::string::npos) << told;
+  EXPECT_TRUE(site_.Messages().empty());
+  EXPECT_TRUE(site_.Launches().empty());
 }
 
 TEST_F(SiteChoice, WithoutAnySiteDatabaseTheToolThatMakesThemIsRunAndTheProgramEnds) {

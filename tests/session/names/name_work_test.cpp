@@ -17,6 +17,7 @@
 #include "shell/context/site_context.h"
 #include "support/jet_writer.h"
 #include "support/looking_only.h"
+#include "support/stopped_work.h"
 #include "tally/names/name_list.h"
 #include "tally/selection.h"
 
@@ -52,6 +53,26 @@ TEST_F(WorkWithNames, LeavesTheSumsByDiameterAloneBehind) {
   EXPECT_FALSE(HasTable("WorkSumResultsTable"));
   EXPECT_TRUE(HasTable("WorkSumTable"));
   EXPECT_EQ(SiteContext.NameDatabase, nullptr);
+  CloseNameWork();
+}
+
+TEST_F(WorkWithNames, ThatItsUserStopsLeavesNoWorkTables) {
+  Load();
+  const auto failures = LoggedFailures();
+  WorkStopper stopper;
+  StopEverywhere(
+      stopper,
+      [] {
+        CloseNameWork();
+        SiteContext.WorkDatabase.reset();
+        OpenWorkDatabase();
+      },
+      [] { OpenNameWork(); },
+      [&] {
+        EXPECT_FALSE(LeavesWorkTables());
+        EXPECT_EQ(SiteContext.NameDatabase, nullptr);
+        EXPECT_EQ(LoggedFailures(), failures);
+      });
   CloseNameWork();
 }
 
