@@ -46,6 +46,7 @@ struct AdvicePoint {
   int count = 0;
   std::vector<int> lengths;    ///< mm, rising
   std::int64_t bought_mm = 0;  ///< of bars, in all groups of the steel
+  Micros cost = 0;             ///< of these bars: by it sets are compared
 
   friend bool operator==(const AdvicePoint&, const AdvicePoint&) = default;
 };
@@ -60,7 +61,7 @@ struct Advice {
 struct Plan {
   std::vector<GroupPlan> groups;  ///< parallel to the problem's
   Stopped stopped = Stopped::no;
-  std::vector<Advice> advice;  ///< by rising steel; empty unless asked for
+  std::vector<Advice> advice;  ///< by rising steel, those that are complete; empty unless asked for
 
   friend bool operator==(const Plan&, const Plan&) = default;
 };

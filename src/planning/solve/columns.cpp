@@ -153,11 +153,13 @@ bool Columns::Converge() {
   return round == Round::none_found;
 }
 
-bool Columns::ConvergeToBound() { return Estimate(std::numeric_limits<int>::max()); }
+bool Columns::ConvergeToBound() {
+  return Estimate(std::numeric_limits<int>::max(), std::numeric_limits<double>::infinity());
+}
 
-bool Columns::Estimate(int rounds) {
+bool Columns::Estimate(int rounds, double enough) {
   Round round = Round::found;
-  for (int done = 0; done < rounds && round == Round::found; ++done) {
+  for (int done = 0; done < rounds && round == Round::found && bound_ <= enough; ++done) {
     round = RunRound();
     if (round != Round::failed && IsAtBound()) return true;
   }

@@ -44,8 +44,9 @@ class Columns {
   /// The same, but also no longer than the cost is above the best bound rounded up to what whole bars can
   /// cost.
   bool ConvergeToBound();
-  /// The same for so many rounds at most: then the cost is an estimate from above.
-  bool Estimate(int rounds);
+  /// The same for so many rounds at most, then the cost is an estimate from above; no longer than the bound
+  /// is at most `enough`, in cost units.
+  bool Estimate(int rounds, double enough);
 
   /// Of the last solve, in cost units.
   double Cost() const { return lp_.Cost(); }

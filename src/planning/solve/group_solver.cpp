@@ -83,6 +83,15 @@ RestCounts RestsUsed(const Supply& supply, const Candidate& candidate) {
   return used;
 }
 
+RestCounts RestsLeft(const Supply& supply, std::span<const Candidate* const> plans) {
+  RestCounts rests = AllRests(supply);
+  for (const Candidate* plan : plans) {
+    const RestCounts used = RestsUsed(supply, *plan);
+    for (std::size_t r = 0; r < rests.size(); ++r) rests[r] -= used[r];
+  }
+  return rests;
+}
+
 PriceProof BestBound(const Problem& problem, const Group& group, Pace& pace) {
   const CuttingTask task = TaskOfAnyMix(problem, group);
   PriceProof proof = ProveMaterialBound(task);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
+
 #include "planning/problem/problem.h"
 #include "planning/solve/candidate.h"
 #include "planning/solve/pace.h"
@@ -33,6 +35,8 @@ class GroupSolver {
 
 /// The rest bars that a plan cuts from, parallel to the supply's.
 RestCounts RestsUsed(const Supply& supply, const Candidate& candidate);
+/// What plans leave of a supply's rest bars.
+RestCounts RestsLeft(const Supply& supply, std::span<const Candidate* const> plans);
 
 /// The best bound of a group, from all its lengths and rests and any mix; from the material alone where no
 /// more is asked for, linear programs are not solved or it was stopped. `start` is a cutting to begin with.

@@ -17,6 +17,12 @@ constexpr double kImpossible = std::numeric_limits<double>::infinity();
 /// Rounds of the linear program after which a set is judged.
 constexpr int kRounds = 4;
 constexpr double kGain = 1e-9;
+/// Of the sets that are compared so many are judged by the linear program, the best guesses first: of those
+/// that grow by a length, and of those that exchange one, which are many.
+constexpr std::size_t kJudgedOfGrown = 24;
+constexpr std::size_t kJudgedOfExchanged = 8;
+/// Rounds of exchanging.
+constexpr int kExchanges = 3;
 
 /// What a group costs from a set of lengths.
 class GroupJudge {
@@ -35,8 +41,9 @@ class GroupJudge {
   }
 
   bool CanTellMore() const { return columns_ != nullptr; }
-  /// By the linear program, which begins with the greedy plan.
-  double Cost(const LengthSet& lengths) {
+  /// By the linear program, which begins with the greedy plan; no more than that it is above `enough` is told
+  /// of a set whose bound is.
+  double Cost(const LengthSet& lengths, double enough) {
     ByIndex<bool> allowed;
     std::size_t length = 0;
     for (const Bar& bar : task_.bars) {
@@ -49,7 +56,8 @@ class GroupJudge {
     }
     columns_->Offer(CutGreedily(task, DemandOf(task)));
     columns_->AllowBars(allowed);
-    return columns_->Estimate(kRounds) ? columns_->Cost() : kImpossible;
+    return columns_->Estimate(kRounds, enough) && columns_->Bound() <= enough ? columns_->Cost()
+                                                                              : kImpossible;
   }
 
  private:
@@ -81,10 +89,11 @@ class Judge {
     for (const std::size_t g : groups_) {
       judges_.push_back(std::make_unique<GroupJudge>(problem, problem.groups[g], pace));
     }
+    by_programs_ = std::ranges::all_of(judges_, [](const auto& judge) { return judge->CanTellMore(); });
   }
 
-  /// The cheapest of several sets: all are guessed, the best guesses judged.
-  JudgedSet Cheapest(std::vector<LengthSet> sets, std::size_t most) {
+  /// The cheapest of several sets that may cost less than `beat`: all are guessed, the best guesses judged.
+  JudgedSet Cheapest(std::vector<LengthSet> sets, std::size_t most, double beat) {
     std::vector<JudgedSet> judged;
     for (LengthSet& set : sets) {
       if (pace_.Stopped()) return {};
@@ -94,19 +103,22 @@ class Judge {
     }
     std::ranges::stable_sort(judged, {}, &JudgedSet::guess);
     if (judged.size() > most) judged.resize(most);
-    for (JudgedSet& set : judged) set.cost = Cost(set);
     JudgedSet best;
     for (JudgedSet& set : judged) {
+      set.cost = Cost(set, std::min(beat, best.cost));
       if (best.lengths.empty() || IsCheaper(set, best)) best = std::move(set);
     }
     return pace_.Stopped() ? JudgedSet{} : best;
   }
 
  private:
-  double Cost(const JudgedSet& guessed) {
-    if (!judges_.front()->CanTellMore()) return guessed.guess;
+  double Cost(const JudgedSet& guessed, double enough) {
+    if (!by_programs_) return guessed.guess;
     double cost = 0.0;
-    for (const auto& judge : judges_) cost += pace_.Stopped() ? kImpossible : judge->Cost(guessed.lengths);
+    for (const auto& judge : judges_) {
+      cost += pace_.Stopped() ? kImpossible : judge->Cost(guessed.lengths, enough - cost);
+      if (cost == kImpossible) break;
+    }
     return cost;
   }
 
@@ -114,6 +126,7 @@ class Judge {
   std::vector<std::size_t> groups_;
   Pace& pace_;
   std::vector<std::unique_ptr<GroupJudge>> judges_;  ///< parallel to the groups
+  bool by_programs_ = false;                         ///< linear programs judge all groups
 };
 
 LengthSet With(LengthSet lengths, std::size_t length) {
@@ -126,22 +139,24 @@ LengthSet Without(LengthSet lengths, std::size_t length) {
   return lengths;
 }
 
-/// The best of the sets that are made from `base` by one length more.
-JudgedSet BestWithOneMore(Judge& judge, const LengthSet& base, const LengthSet& all, std::size_t judged) {
+/// The best of the sets that are made from `base` by one length more and may cost less than `beat`.
+JudgedSet BestWithOneMore(Judge& judge, const LengthSet& base, const LengthSet& all, std::size_t judged,
+                          double beat) {
   std::vector<LengthSet> sets;
   for (const std::size_t length : all) {
     if (!std::ranges::binary_search(base, length)) sets.push_back(With(base, length));
   }
-  return judge.Cheapest(std::move(sets), judged);
+  return judge.Cheapest(std::move(sets), judged, beat);
 }
 
 /// Exchanges one length for another as long as that gains.
-void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all, const SearchWidth& width) {
+void Exchange(Judge& judge, JudgedSet& set, const LengthSet& all) {
   bool gained = set.lengths.size() > 1;
-  for (int round = 0; round < width.exchanges && gained; ++round) {
+  for (int round = 0; round < kExchanges && gained; ++round) {
     gained = false;
     for (const std::size_t length : LengthSet(set.lengths)) {
-      JudgedSet other = BestWithOneMore(judge, Without(set.lengths, length), all, width.judged_of_exchanged);
+      JudgedSet other =
+          BestWithOneMore(judge, Without(set.lengths, length), all, kJudgedOfExchanged, set.cost);
       if (other.lengths.empty() || !IsCheaper(other, set)) continue;
       set = std::move(other);
       gained = true;
@@ -197,25 +212,23 @@ bool HoldsAll(const Problem& problem, std::span<const std::size_t> groups, const
   });
 }
 
-std::vector<LengthSet> SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most,
-                                        const SearchWidth& width, Pace& pace) {
+void SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most, const TakeLengthSet& take,
+                      Pace& pace) {
   const LengthSet all = AllLengths(problem.supplies[supply]);
   const std::vector<std::size_t> groups = GroupsOf(problem, supply);
   Judge judge(problem, groups, pace);
-  std::vector<LengthSet> sets;
   JudgedSet last;
   while (last.lengths.size() < std::min(most, all.size())) {
-    JudgedSet next = BestWithOneMore(judge, last.lengths, all, width.judged_of_grown);
-    if (sets.empty() && next.lengths.empty()) {
-      next = judge.Cheapest({Cover(problem, groups)}, 1);
+    JudgedSet next = BestWithOneMore(judge, last.lengths, all, kJudgedOfGrown, kImpossible);
+    if (last.lengths.empty() && next.lengths.empty()) {
+      next = judge.Cheapest({Cover(problem, groups)}, 1, kImpossible);
     }
-    if (next.lengths.empty()) break;
-    Exchange(judge, next, all, width);
-    if (next.lengths.size() > most || (!sets.empty() && !IsCheaper(next, last))) break;
-    last = next;
-    sets.push_back(std::move(next.lengths));
+    if (next.lengths.empty()) return;
+    Exchange(judge, next, all);
+    if (next.lengths.size() > most || (!last.lengths.empty() && !IsCheaper(next, last))) return;
+    last = std::move(next);
+    if (!take(last.lengths)) return;
   }
-  return sets;
 }
 
 }  // namespace rbt::planning

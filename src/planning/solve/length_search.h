@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -19,23 +20,15 @@ bool HoldsAll(const Problem& problem, std::span<const std::size_t> groups, const
 /// Lengths that hold every piece, one after the other that which holds most of what is left.
 LengthSet Cover(const Problem& problem, std::span<const std::size_t> groups);
 
-/// How long sets of lengths are looked for. Of the sets that are compared so many are judged by the linear
-/// program, the best guesses first: of those that grow by a length, and of those that exchange one, which are
-/// many.
-struct SearchWidth {
-  std::size_t judged_of_grown = 0;
-  std::size_t judged_of_exchanged = 0;
-  int exchanges = 0;  ///< rounds of exchanging
-};
-/// For a plan that depends on the set, and for a curve of many sets.
-inline constexpr SearchWidth kThoroughSearch{24, 8, 3};
-inline constexpr SearchWidth kQuickSearch{12, 0, 0};
+/// Told the next set; false where no more are wanted.
+using TakeLengthSet = std::function<bool(const LengthSet& lengths)>;
 
-/// The best sets found of at most 1, 2, ..., `most` lengths from which all groups of a supply can be cut;
-/// fewer when more lengths gain nothing or when it was stopped. A set is judged by the linear program where
-/// it is solved and the effort is full, else by the greedy plan. Each set grows from the one before by the
-/// length that gains most, then lengths are exchanged as long as that gains.
-std::vector<LengthSet> SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most,
-                                        const SearchWidth& width, Pace& pace);
+/// Tells the best sets found of at most 1, 2, ..., `most` lengths from which all groups of a supply can be
+/// cut; fewer when more lengths gain nothing or when it was stopped. A set is judged by the linear program
+/// where it is solved and the effort is full, else by the greedy plan. Each set grows from the one before by
+/// the length that gains most, then lengths are exchanged as long as that gains: a larger `most` changes none
+/// of the sets before.
+void SearchLengthSets(const Problem& problem, std::size_t supply, std::size_t most, const TakeLengthSet& take,
+                      Pace& pace);
 
 }  // namespace rbt::planning

@@ -2,14 +2,19 @@
 #include "planning/solve/limited_supply.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "planning/problem/refusal.h"
 #include "planning/solve/dive.h"
+#include "planning/solve/every_plan.h"
 #include "planning/solve/greedy.h"
 #include "planning/solve/group_solver.h"
+#include "planning/solve/one_length.h"
 #include "planning/solve/row_plans.h"
 
 namespace rbt::planning {
@@ -21,7 +26,7 @@ constexpr std::size_t kSetsForLots = 3;
 constexpr int kGreedySets = 40;
 constexpr std::size_t kBestSets = 3;
 
-Micros CostOf(const std::vector<Candidate>& plans) {
+Micros CostOf(const SupplyPlans& plans) {
   Micros cost = 0;
   for (const Candidate& plan : plans) cost += plan.cost;
   return cost;
@@ -34,7 +39,7 @@ bool IsLimited(const Problem& problem, const Supply& supply) {
   return problem.options.max_lengths > 0 || std::ranges::any_of(supply.lengths, has_lot);
 }
 
-LengthSet UsedLengths(const Supply& supply, const std::vector<Candidate>& plans) {
+LengthSet UsedLengths(const Supply& supply, const SupplyPlans& plans) {
   std::set<std::size_t> used;
   for (const Candidate& plan : plans) {
     for (const Pattern& pattern : plan.patterns) {
@@ -45,12 +50,25 @@ LengthSet UsedLengths(const Supply& supply, const std::vector<Candidate>& plans)
   return {used.begin(), used.end()};
 }
 
-LimitedSupply::LimitedSupply(const Problem& problem, std::size_t supply)
+LengthSet NeededLengths(const Problem& problem, std::span<const std::size_t> groups,
+                        const SupplyPlans& plans) {
+  LengthSet used = UsedLengths(problem.supplies[problem.groups[groups.front()].supply], plans);
+  if (HoldsAll(problem, groups, used)) return used;
+  LengthSet needed;
+  std::ranges::set_union(used, Cover(problem, groups), std::back_inserter(needed));
+  return needed;
+}
+
+LimitedSupply::LimitedSupply(const Problem& problem, std::size_t supply, int most_lengths, Wanted wanted)
     : problem_(problem),
       index_(supply),
       supply_(problem.supplies[supply]),
+      most_(most_lengths > 0 ? static_cast<std::size_t>(most_lengths) : supply_.lengths.size()),
+      any_number_(most_lengths == 0),
+      wanted_(wanted),
       groups_(GroupsOf(problem, supply)),
-      kept_(supply_.lengths.size(), 0) {
+      kept_(supply_.lengths.size(), 0),
+      plans_(supply_.lengths.size() + 1) {
   for (const KeptRow& row : problem.kept) {
     const StockLength* length = row.steel == supply_.steel ? FindLength(supply_, row.stock_mm) : nullptr;
     if (length != nullptr)
@@ -58,76 +76,107 @@ LimitedSupply::LimitedSupply(const Problem& problem, std::size_t supply)
   }
 }
 
-std::size_t LimitedSupply::MostLengths() const {
-  const auto most = static_cast<std::size_t>(problem_.options.max_lengths);
-  return most == 0 ? supply_.lengths.size() : most;
-}
-
 void LimitedSupply::MakeQuickPlan(Pace& pace) {
-  for (std::size_t length = 0; length < supply_.lengths.size(); ++length) {
-    if (HoldsAll(problem_, groups_, {length})) Keep(MakePlans({length}, Method::per_row, pace));
-  }
-  if (!best_) ConsiderWithFullLots(Cover(problem_, groups_), false, pace);
-  if (!best_) ConsiderWithFullLots(AllLengths(supply_), false, pace);
-  if (best_) {
-    if (!pace.Stopped()) ConsiderWithFullLots(UsedLengths(supply_, *best_), false, pace);
-    return;
-  }
+  if (FindQuickPlan(pace)) return;
   // A refusal is no answer for want of time; none of this takes long.
   Pace patience(nullptr);
   if (!ConsiderEveryPlan()) SearchFullLots(false, patience);
-  if (!best_) Refuse();
+  if (BestOf(most_) == nullptr) Refuse();
+}
+
+bool LimitedSupply::FindQuickPlan(Pace& pace) {
+  for (std::size_t length = 0; length < supply_.lengths.size(); ++length) {
+    if (HoldsAll(problem_, groups_, {length})) Keep(MakePlans({length}, Method::per_row, pace));
+  }
+  if (BestOf(1) == nullptr) {
+    ConsiderWithFullLots(Cover(problem_, groups_), false, pace);
+    ConsiderWithFullLots(AllLengths(supply_), false, pace);
+  }
+  LengthSet last;
+  for (std::size_t most = 1; most <= most_ && !pace.Stopped(); ++most) {
+    const SupplyPlans* best = BestOf(most);
+    const LengthSet used = best != nullptr ? UsedLengths(supply_, *best) : LengthSet();
+    if (used != last) ConsiderWithFullLots(used, false, pace);
+    last = used;
+  }
+  return BestOf(most_) != nullptr;
 }
 
 void LimitedSupply::Refuse() const {
   const std::string label = "D" + std::to_string(supply_.steel.diameter);
   const LengthSet cover = Cover(problem_, groups_);
-  if (cover.size() > MostLengths()) {
-    throw Refusal(label + ": " + std::to_string(MostLengths()) + " lengths do not hold every piece");
+  if (cover.size() > most_) {
+    throw Refusal(label + ": " + std::to_string(most_) + " lengths do not hold every piece");
   }
   throw Refusal(label + ": no length can fill its least lot");
 }
 
-void LimitedSupply::Improve(Pace& pace) {
+void LimitedSupply::Improve(Micros least, Pace& pace) {
   if (pace.Stopped()) return;
   const bool by_columns = problem_.options.effort == Effort::full;
-  // The plan from all lengths is the best where it happens to keep the limits.
-  const Plans free = Consider(AllLengths(supply_), by_columns, pace);
-  if (ConsiderEveryPlan() || KeepsLimits(free)) return;
-  const LengthSet used = UsedLengths(supply_, free);
-  if (used.size() <= MostLengths()) ConsiderWithFullLots(used, by_columns, pace);
-  const bool has_lots =
-      std::ranges::any_of(supply_.lengths, [](const auto& length) { return length.least_lot > 0; });
-  const std::size_t most = problem_.options.max_lengths > 0 ? MostLengths() : kSetsForLots;
-  const std::vector<LengthSet> sets = SearchLengthSets(problem_, index_, most, kThoroughSearch, pace);
-  for (const LengthSet& set : sets) {
-    // A smaller set fills its lots more easily.
-    if (has_lots || &set == &sets.back()) ConsiderWithFullLots(set, by_columns, pace);
+  const SupplyPlans free = Consider(AllLengths(supply_), by_columns, pace);
+  if (ConsiderEveryPlan()) return;
+  // Where their number is free, the plan from all lengths is the best if it happens to fill the lots.
+  const bool is_best = IsProven(most_, least) || (any_number_ && FillsLots(free));
+  if (wanted_ == Wanted::plan && is_best) return;
+  SearchSets(free, least, pace);
+  ConsiderOneLength(pace);
+  if (HasLots()) SearchFullLots(by_columns, pace);
+}
+
+void LimitedSupply::SearchSets(const SupplyPlans& free, Micros least, Pace& pace) {
+  const bool by_columns = problem_.options.effort == Effort::full;
+  const std::size_t number = NumberOf(free);
+  std::size_t most = any_number_ ? kSetsForLots : most_;
+  if (FillsLots(free)) {
+    most = std::min(most, std::max<std::size_t>(1, number) - 1);
+  } else if (number <= most_) {
+    ConsiderWithFullLots(UsedLengths(supply_, free), by_columns, pace);
   }
-  if (has_lots) SearchFullLots(by_columns, pace);
+  const auto consider = [&](const LengthSet& lengths) {
+    ConsiderWithFullLots(lengths, by_columns, pace);
+    return !pace.Stopped() && !IsProven(wanted_ == Wanted::plan ? most_ : lengths.size(), least);
+  };
+  SearchLengthSets(problem_, index_, most, consider, pace);
+}
+
+void LimitedSupply::ConsiderOneLength(Pace& pace) {
+  OneLengthPlans one(problem_, index_);
+  for (std::size_t length = 0; length < supply_.lengths.size() && !pace.Stopped(); ++length) {
+    if (!HoldsAll(problem_, groups_, {length})) continue;
+    // For the curve they are the plans of one length, else they need only be looked at where they are
+    // cheaper.
+    const SupplyPlans* best = BestOf(wanted_ == Wanted::curve ? 1 : most_);
+    const Micros below = best != nullptr ? CostOf(*best) : std::numeric_limits<Micros>::max();
+    if (const auto plans = one.Make(length, below, pace)) Keep(*plans);
+  }
 }
 
 bool LimitedSupply::ConsiderEveryPlan() {
-  PurchaseLimits limits{MostLengths(), {}};
+  PurchaseLimits limits;
   for (std::size_t l = 0; l < supply_.lengths.size(); ++l) {
     const StockLength& length = supply_.lengths[l];
     const Milligrams lot = length.least_lot - kept_[l] + length.table_weight - 1;
     limits.least_bars.push_back(std::max<std::int64_t>(1, lot / length.table_weight));
   }
-  const EveryPlan every = TryEveryPlan(problem_, groups_, limits);
-  if (every.cheapest) Keep(*every.cheapest);
-  return every.finished;
+  for (limits.most_lengths = 1; limits.most_lengths <= std::min(most_, supply_.lengths.size());
+       ++limits.most_lengths) {
+    const EveryPlan every = TryEveryPlan(problem_, groups_, limits);
+    if (every.cheapest) Keep(*every.cheapest);
+    if (!every.finished) return false;
+  }
+  return true;
 }
 
 void LimitedSupply::SearchFullLots(bool by_columns, Pace& pace) {
   std::vector<LengthSet> open{AllLengths(supply_)};
   std::set<LengthSet> seen(open.begin(), open.end());
-  std::vector<std::pair<Micros, LengthSet>> full;
+  std::vector<std::tuple<Micros, std::size_t, LengthSet>> full;  // what it costs, how many lengths it buys
   for (int tried = 0; tried < kGreedySets && !open.empty() && !pace.Stopped(); ++tried) {
     const LengthSet lengths = std::move(open.back());
     open.pop_back();
-    const Plans plans = Consider(lengths, false, pace);
-    if (KeepsLimits(plans)) full.emplace_back(CostOf(plans), lengths);
+    const SupplyPlans plans = Consider(lengths, false, pace);
+    if (FillsLots(plans)) full.emplace_back(CostOf(plans), NumberOf(plans), lengths);
     const LengthSet emptiest = EmptiestLots(plans, lengths);
     // The emptiest is left out first.
     for (auto length = emptiest.rbegin(); length != emptiest.rend(); ++length) {
@@ -137,13 +186,19 @@ void LimitedSupply::SearchFullLots(bool by_columns, Pace& pace) {
     }
   }
   std::ranges::sort(full);
-  for (std::size_t set = 0; by_columns && set < std::min(kBestSets, full.size()); ++set) {
-    if (!pace.Stopped()) Consider(full[set].second, true, pace);
+  std::set<LengthSet> considered;
+  for (std::size_t most = 1; by_columns && most <= std::min(most_, supply_.lengths.size()); ++most) {
+    std::size_t best = 0;
+    for (const auto& [cost, number, lengths] : full) {
+      if (number > most || best == kBestSets) continue;
+      ++best;
+      if (!pace.Stopped() && considered.insert(lengths).second) Consider(lengths, true, pace);
+    }
   }
 }
 
-LimitedSupply::Plans LimitedSupply::Consider(const LengthSet& lengths, bool by_columns, Pace& pace) {
-  Plans plans = MakePlans(lengths, Method::per_row, pace);
+SupplyPlans LimitedSupply::Consider(const LengthSet& lengths, bool by_columns, Pace& pace) {
+  SupplyPlans plans = MakePlans(lengths, Method::per_row, pace);
   Keep(plans);
   for (const Method method : {Method::greedy, Method::columns}) {
     if (pace.Stopped() || (method == Method::columns && !by_columns)) break;
@@ -153,8 +208,8 @@ LimitedSupply::Plans LimitedSupply::Consider(const LengthSet& lengths, bool by_c
   return plans;
 }
 
-LimitedSupply::Plans LimitedSupply::MakePlans(const LengthSet& lengths, Method method, Pace& pace) const {
-  Plans plans;
+SupplyPlans LimitedSupply::MakePlans(const LengthSet& lengths, Method method, Pace& pace) const {
+  SupplyPlans plans;
   RestCounts rests = AllRests(supply_);
   for (const std::size_t g : groups_) {
     const Group& group = problem_.groups[g];
@@ -178,8 +233,8 @@ LimitedSupply::Plans LimitedSupply::MakePlans(const LengthSet& lengths, Method m
 void LimitedSupply::ConsiderWithFullLots(LengthSet lengths, bool by_columns, Pace& pace) {
   // What a plan uses may hold too little: some of its pieces come out of rest bars.
   while (HoldsAll(problem_, groups_, lengths)) {
-    const Plans plans = Consider(lengths, by_columns, pace);
-    if (KeepsLimits(plans)) return;
+    const SupplyPlans plans = Consider(lengths, by_columns, pace);
+    if (FillsLots(plans)) return;
     const LengthSet used = UsedLengths(supply_, plans);
     const LengthSet emptiest = EmptiestLots(plans, used);
     if (emptiest.empty()) return;
@@ -188,11 +243,37 @@ void LimitedSupply::ConsiderWithFullLots(LengthSet lengths, bool by_columns, Pac
   }
 }
 
-void LimitedSupply::Keep(const Plans& plans) {
-  if (KeepsLimits(plans) && (!best_ || CostOf(plans) < CostOf(*best_))) best_ = plans;
+void LimitedSupply::Keep(const SupplyPlans& plans) {
+  const std::size_t number = NumberOf(plans);
+  if (number > most_ || !FillsLots(plans)) return;
+  const SupplyPlans* best = BestOf(number);
+  if (best == nullptr || CostOf(plans) < CostOf(*best)) plans_[number] = plans;
 }
 
-std::vector<Milligrams> LimitedSupply::LotsOf(const Plans& plans) const {
+const SupplyPlans* LimitedSupply::BestOf(std::size_t most) const {
+  const SupplyPlans* best = nullptr;
+  for (std::size_t number = 0; number <= std::min(most, supply_.lengths.size()); ++number) {
+    const SupplyPlans& plans = plans_[number];
+    if (!plans.empty() && (best == nullptr || CostOf(plans) < CostOf(*best))) best = &plans;
+  }
+  return best;
+}
+
+bool LimitedSupply::IsProven(std::size_t most, Micros least) const {
+  const SupplyPlans* best = BestOf(most);
+  return best != nullptr && CostOf(*best) <= least;
+}
+
+bool LimitedSupply::HasLots() const {
+  return std::ranges::any_of(supply_.lengths, [](const StockLength& length) { return length.least_lot > 0; });
+}
+
+std::size_t LimitedSupply::NumberOf(const SupplyPlans& plans) const {
+  const bool bought = wanted_ == Wanted::plan;
+  return (bought ? UsedLengths(supply_, plans) : NeededLengths(problem_, groups_, plans)).size();
+}
+
+std::vector<Milligrams> LimitedSupply::LotsOf(const SupplyPlans& plans) const {
   std::vector<Milligrams> lots(supply_.lengths.size(), 0);
   for (const Candidate& plan : plans) {
     for (const Pattern& pattern : plan.patterns) {
@@ -207,7 +288,7 @@ std::vector<Milligrams> LimitedSupply::LotsOf(const Plans& plans) const {
   return lots;
 }
 
-bool LimitedSupply::FillsLots(const Plans& plans) const {
+bool LimitedSupply::FillsLots(const SupplyPlans& plans) const {
   const std::vector<Milligrams> lots = LotsOf(plans);
   for (std::size_t l = 0; l < lots.size(); ++l) {
     if (lots[l] > 0 && lots[l] < supply_.lengths[l].least_lot) return false;
@@ -215,24 +296,7 @@ bool LimitedSupply::FillsLots(const Plans& plans) const {
   return true;
 }
 
-bool LimitedSupply::KeepsLimits(const Plans& plans) const {
-  return UsedLengths(supply_, plans).size() <= MostLengths() && FillsLots(plans);
-}
-
-std::optional<std::int64_t> LimitedSupply::BoughtMm(const LengthSet& lengths, Pace& pace) const {
-  std::optional<std::int64_t> least;
-  for (const Method method : {Method::per_row, Method::greedy, Method::columns}) {
-    if (method == Method::columns && problem_.options.effort == Effort::greedy) break;
-    const Plans plans = MakePlans(lengths, method, pace);
-    if (!FillsLots(plans)) continue;
-    std::int64_t bought = 0;
-    for (const Candidate& plan : plans) bought += plan.bought_mm;
-    least = std::min(least.value_or(bought), bought);
-  }
-  return least;
-}
-
-LengthSet LimitedSupply::EmptiestLots(const Plans& plans, const LengthSet& lengths) const {
+LengthSet LimitedSupply::EmptiestLots(const SupplyPlans& plans, const LengthSet& lengths) const {
   const std::vector<Milligrams> lots = LotsOf(plans);
   std::vector<std::pair<double, std::size_t>> shares;
   for (const std::size_t l : lengths) {

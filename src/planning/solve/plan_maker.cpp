@@ -38,7 +38,6 @@ class PlanMaker {
     }
     Tell(parts.size(), parts.size());
     Plan plan = SoFar();
-    plan.advice = std::move(advice_);
     plan.stopped = pace_.Why();
     return plan;
   }
@@ -47,7 +46,8 @@ class PlanMaker {
   void MakeQuickPlans() {
     for (std::size_t s = 0; s < problem_.supplies.size(); ++s) {
       if (!IsLimited(problem_, problem_.supplies[s])) continue;
-      limited_.push_back(std::make_unique<LimitedSupply>(problem_, s));
+      limited_.push_back(
+          std::make_unique<LimitedSupply>(problem_, s, problem_.options.max_lengths, Wanted::plan));
       limited_.back()->MakeQuickPlan(pace_);
     }
     for (std::size_t g = 0; g < problem_.groups.size(); ++g) {
@@ -64,13 +64,12 @@ class PlanMaker {
   RestCounts RestsFor(std::size_t group) const {
     const std::size_t index = problem_.groups[group].supply;
     const Supply& supply = problem_.supplies[index];
-    RestCounts rests = AllRests(supply);
-    for (const std::size_t other : rests.empty() ? std::vector<std::size_t>() : GroupsOf(problem_, index)) {
-      if (other == group || !solvers_[other]) continue;
-      const RestCounts used = RestsUsed(supply, solvers_[other]->Best());
-      for (std::size_t r = 0; r < rests.size(); ++r) rests[r] -= used[r];
+    std::vector<const Candidate*> others;
+    for (const std::size_t other :
+         supply.rests.empty() ? std::vector<std::size_t>() : GroupsOf(problem_, index)) {
+      if (other != group && solvers_[other]) others.push_back(&solvers_[other]->Best());
     }
-    return rests;
+    return RestsLeft(supply, others);
   }
 
   /// What a plan costs above the material, in one measure for all steels.
@@ -107,8 +106,14 @@ class PlanMaker {
   }
 
   void ImproveLimited(LimitedSupply& limited) {
-    limited.Improve(pace_);
     for (const std::size_t g : limited.Groups()) proofs_[g] = BestBound(problem_, problem_.groups[g], pace_);
+    limited.Improve(BoundOf(limited.Groups()), pace_);
+  }
+
+  Micros BoundOf(const std::vector<std::size_t>& groups) const {
+    Micros bound = 0;
+    for (const std::size_t g : groups) bound += proofs_[g].bound;
+    return bound;
   }
 
   void AdviseOn(std::size_t supply) {
@@ -116,7 +121,9 @@ class PlanMaker {
     std::vector<Candidate> plans;
     plans.reserve(groups.size());
     for (const std::size_t g : groups) plans.push_back(BestOf(g));
-    advice_.push_back(Advise(problem_, supply, plans, pace_));
+    Advice advice = Advise(problem_, supply, plans, BoundOf(groups), pace_);
+    // A curve that is not complete may rise where it is looked at longer.
+    if (!pace_.Stopped()) advice_.push_back(std::move(advice));
   }
 
   const Candidate& BestOf(std::size_t group) const {
@@ -135,6 +142,7 @@ class PlanMaker {
     Plan plan;
     plan.groups.resize(problem_.groups.size());
     for (std::size_t g = 0; g < solvers_.size(); ++g) plan.groups[g] = GroupPlanOf(g, BestOf(g));
+    plan.advice = advice_;
     return plan;
   }
 

@@ -77,7 +77,7 @@ Faults CheckAdvice(const Problem& problem, const Advice& advice) {
         faults.push_back(name + std::to_string(mm) + " may not be bought");
       }
     }
-    if (p > 0 && point.bought_mm > advice.curve[p - 1].bought_mm) faults.push_back(name + "the curve rises");
+    if (p > 0 && point.cost > advice.curve[p - 1].cost) faults.push_back(name + "the curve rises");
   }
   return faults;
 }

@@ -229,7 +229,7 @@ TEST_F(SpoiltPlan, HasABoundBelowZero) {
 }
 
 TEST_F(SpoiltPlan, HasAdviceThatRises) {
-  plan_.advice = {{problem_.supplies[0].steel, {{1, {6000}, 100}, {2, {6000, 12000}, 101}}}};
+  plan_.advice = {{problem_.supplies[0].steel, {{1, {6000}, 100, 100}, {2, {6000, 12000}, 100, 101}}}};
   ExpectFault("the curve rises");
 }
 
