@@ -31,6 +31,13 @@ Plan MakePlan(const Problem& problem, const StopSignal& signal, const PlanListen
   return plan;
 }
 
+Plan MakeFirstPlan(const Problem& problem) {
+  bool stands = false;
+  const StopSignal once_it_stands = [&stands] { return stands ? Stopped::cancel : Stopped::no; };
+  return MakePlan(problem, once_it_stands,
+                  [&stands](const Plan&, std::size_t, std::size_t) { stands = true; });
+}
+
 StopSignal StopAfter(double seconds, std::function<bool()> cancelled) {
   using Clock = std::chrono::steady_clock;
   const auto end =

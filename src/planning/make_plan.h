@@ -14,6 +14,10 @@ namespace rbt::planning {
 /// plan can be made, or where a plan fails its check, which names what is wrong; `overflow`.
 Plan MakePlan(const Problem& problem, const StopSignal& signal, const PlanListener& listener = nullptr);
 
+/// The plan that `MakePlan` begins with, checked: quick, whatever is asked of it. It says `cancel` where
+/// there was more to try. Faults: those of `MakePlan`.
+Plan MakeFirstPlan(const Problem& problem);
+
 /// Says `time` once so many seconds have passed from now, `cancel` as soon as it was asked for; nobody asks
 /// where `cancelled` is empty.
 StopSignal StopAfter(double seconds, std::function<bool()> cancelled = nullptr);

@@ -167,6 +167,9 @@ def check_purchase(trace, plan):
     losses = [texts[0].split()[-2] for texts in cells if "ロス" in texts[0]]
     told = [f"{plan['figures'][word]['lossPercent']:.3f}" for word in ("schedule", "perRow", "plan")]
     yield "losses", losses, told * len(pages_of(trace))
+    whole_site = [texts[1].split()[1] for texts in cells if "ロス" in texts[0]]
+    told = [f"{plan['figures'][word]['TotalStockWeight']:,.0f}" for word in ("schedule", "perRow", "plan")]
+    yield "weights of the whole site", whole_site, told * len(pages_of(trace))
 
 
 def check_shop(trace, plan):
@@ -179,14 +182,15 @@ def check_shop(trace, plan):
         ("残材" if of["rest"] else "定尺", str(of["stock"]), str(of["bars"]),
          "+".join(f"{cut}x{count}" for cut, count in of["pieces"]), str(of["left"]), str(of["cuts"]))
         for of in patterns]
-    marks = [[int(mark) for mark in text.split()[1:]] for text in texts if text.startswith("  墨")]
+    marks = [[int(mark.removeprefix("端切り:")) for mark in text.split()[1:]] for text in texts if text.startswith("  墨")]
     yield "marks", marks, [marks_of(of, plan["options"]) for of in patterns]
 
 
 def marks_of(pattern, options):
-    """From the bar's end, whose trim is cut off first; but not of a bar that is used whole."""
+    """From the bar's end, whose trim is marked and cut off first; but not of a bar that is used whole."""
     whole_bar = pattern["pieces"] == [[pattern["stock"], 1]]
-    marks, at = [], 0 if whole_bar else options["trim"]
+    at = 0 if whole_bar else options["trim"]
+    marks = [at] if at > 0 else []
     for cut in [cut for cut, count in pattern["pieces"] for _ in range(count)]:
         at += cut
         marks.append(at)

@@ -216,6 +216,22 @@ TEST(MakePlan, AdvisesALengthMoreWhereWholeBarsGainByIt) {
   EXPECT_LT(plan.advice[0].curve[1].bought_mm, plan.advice[0].curve[0].bought_mm);
 }
 
+TEST(MakeFirstPlan, IsWhereEverySearchBeginsHoweverManyLengthsItMayBuy) {
+  for (std::uint64_t seed = 1; seed <= 40; ++seed) {
+    Problem problem = RandomProblem(seed);
+    problem.options.max_lengths = seed % 2 == 0 ? 2 : 0;
+    try {
+      const Plan first = MakeFirstPlan(problem);
+      std::vector<Plan> told;
+      MakePlan(problem, kGoOn, [&](const Plan& plan, std::size_t, std::size_t) { told.push_back(plan); });
+      EXPECT_EQ(first.groups, told.front().groups) << seed;
+      EXPECT_EQ(first.stopped, problem.groups.empty() ? Stopped::no : Stopped::cancel) << seed;
+    } catch (const Refusal&) {
+      EXPECT_GT(problem.options.max_lengths, 0) << seed;
+    }
+  }
+}
+
 TEST(StopAfter, SaysTimeWhenItIsUpAndCancelWhenAsked) {
   EXPECT_EQ(StopAfter(0.0)(), Stopped::time);
   EXPECT_EQ(StopAfter(1000.0)(), Stopped::no);

@@ -13,8 +13,6 @@ namespace {
 
 constexpr Milligrams kMilligramsPerKilogram = 1'000'000;
 constexpr Micros kMicrosPerMm = 1'000'000;
-/// Yen a tonne by milligrams of bar make so many times the millionths of a yen.
-constexpr std::int64_t kPriceByWeightPerMicro = 1'000;
 constexpr int kMmOf13m = 13000;
 
 int MmOfColumn(int column) { return static_cast<int>(StockMetres(column) * 1000.0); }

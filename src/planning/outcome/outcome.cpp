@@ -14,7 +14,6 @@ namespace rbt::planning {
 namespace {
 
 constexpr Micros kUnit = 1'000'000;
-constexpr std::int64_t kPriceByWeightPerMicro = 1'000;
 
 OutcomePattern Described(const BarRule& rule, const Pattern& pattern) {
   const Laid laid = LaidOf(pattern);

@@ -47,9 +47,13 @@ std::vector<std::vector<CutShares>> SharesOf(const OutcomeGroup& group) {
   return shares;
 }
 
-std::vector<std::int64_t> MarksOf(const BarRule& rule, const Pattern& pattern) {
+int TrimOf(const BarRule& rule, const Pattern& pattern) {
   const bool whole = pattern.pieces.size() == 1 && pattern.pieces[0] == std::pair{pattern.stock_mm, 1};
-  std::int64_t at = whole ? 0 : rule.trim;
+  return whole ? 0 : rule.trim;
+}
+
+std::vector<std::int64_t> MarksOf(const BarRule& rule, const Pattern& pattern) {
+  std::int64_t at = TrimOf(rule, pattern);
   std::vector<std::int64_t> marks;
   for (const auto& [cut, pieces] : pattern.pieces) {
     for (int piece = 0; piece < pieces; ++piece) {

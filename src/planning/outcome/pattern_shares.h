@@ -18,6 +18,9 @@ struct CutShares {
 /// pattern.
 std::vector<std::vector<CutShares>> SharesOf(const OutcomeGroup& group);
 
+/// What is cut off a bar's end before the first piece, in mm; nothing off a bar that is used whole.
+int TrimOf(const BarRule& rule, const Pattern& pattern);
+
 /// Where the pieces of a bar end, in mm from the bar's end at which the trim is cut off: longest piece first.
 std::vector<std::int64_t> MarksOf(const BarRule& rule, const Pattern& pattern);
 

@@ -26,8 +26,6 @@ std::string Percent(const std::optional<double>& percent) {
   return percent ? FormatNumber(*percent, kPercent) : "";
 }
 
-std::string HoopText(const BarSteel& steel) { return steel.hoop ? "溶接フープ" : ""; }
-
 GridRows PurchaseRows(const Outcome& outcome) {
   GridRows rows;
   for (const PurchaseLine& line : outcome.purchase) {
@@ -112,6 +110,21 @@ std::string KindText(int kind) {
     if (static_cast<int>(of.kind) == kind) return std::string(of.word);
   }
   return std::to_string(kind);
+}
+
+std::string HoopText(const BarSteel& steel) { return steel.hoop ? "フープ" : ""; }
+
+std::string SteelText(const BarSteel& steel) {
+  return DiameterText(steel.diameter) + " " + KindText(steel.kind) +
+         (steel.hoop ? " " + HoopText(steel) : "");
+}
+
+std::string PlaceText(const OutcomeShare& share) {
+  const auto number = [](const std::optional<int>& of) { return of ? std::to_string(*of) : "-"; };
+  // A line of a file has no page.
+  std::string place = (share.page == 0 ? "" : number(share.page) + "頁") + number(share.line) + "行";
+  if (!share.mark.empty()) place += "[" + share.mark + "]";
+  return place + "x" + std::to_string(share.pieces);
 }
 
 std::string PiecesText(const Pattern& pattern) {

@@ -20,5 +20,11 @@ std::string PiecesText(const Pattern& pattern);
 std::string DiameterText(int diameter);
 /// "異形"; a number that is none of the kinds stands for itself.
 std::string KindText(int kind);
+/// "フープ" for one that is made elsewhere, else empty.
+std::string HoopText(const BarSteel& steel);
+/// "D16 異形", "D13 異形 フープ".
+std::string SteelText(const BarSteel& steel);
+/// Where pieces go, and how many: "1頁4行x5"; of a file "4行[A1]x5"; "-" for a number that is missing.
+std::string PlaceText(const OutcomeShare& share);
 
 }  // namespace rbt::planning

@@ -7,6 +7,9 @@
 
 namespace rbt::planning {
 
+/// Yen a tonne by milligrams of bar make so many times the millionths of a yen.
+inline constexpr std::int64_t kPriceByWeightPerMicro = 1'000;
+
 /// True for 0 (none given) and the deformed diameters.
 bool IsPlannedDiameter(int diameter);
 /// Weight of a mm of bar; a diameter of 0 weighs 1 kg a metre. Faults: subscript out of range.

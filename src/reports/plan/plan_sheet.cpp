@@ -12,7 +12,9 @@ constexpr float kTitleSize = 16;
 constexpr float kTitleY = 600;
 constexpr float kFirstLineY = 1150;
 constexpr float kSecondLineY = 1500;
+constexpr float kThirdLineY = 1800;
 constexpr float kHeadSize = 11;
+constexpr float kRuleSize = 9;
 constexpr float kNameWidth = 6800;
 constexpr std::int32_t kTitleRule = 4;
 
@@ -29,9 +31,23 @@ void PrintNamed(PrinterSurface& Printer, float y, std::string_view label, std::s
   PrintAt(Printer, x, y, {name});
 }
 
+std::string RuleText(const planning::BarRule& rule) {
+  return fmt::format("切断しろ {} mm   端切り {} mm   プラス {} mm", rule.kerf, rule.trim, rule.plus);
+}
+
+void DrawPlanLine(ReportPen& pen, const PlanSheetHead& head, const planning::Outcome& outcome) {
+  SetReportFont(pen.Printer, kRuleSize);
+  const std::string left_out = head.selection.empty() ? "" : "   集計対象 " + head.selection;
+  PrintAt(pen.Printer, kPlanSheetLeft, kThirdLineY, {RuleText(outcome.options.bar) + left_out});
+  if (outcome.stopped == planning::Stopped::no) return;
+  SetReportFont(pen.Printer, kHeadSize, true);
+  PrintRight(pen.Printer, kPlanSheetRight, kTitleY, "途中の計画");
+}
+
 }  // namespace
 
-void DrawPlanHead(ReportPen& pen, std::string_view title, const PlanSheetHead& head) {
+void DrawPlanHead(ReportPen& pen, std::string_view title, const PlanSheetHead& head,
+                  const planning::Outcome& outcome) {
   PrinterSurface& Printer = pen.Printer;
   Printer.DocumentTitle = title;
   SetReportFont(Printer, kTitleSize, true);
@@ -46,6 +62,7 @@ void DrawPlanHead(ReportPen& pen, std::string_view title, const PlanSheetHead& h
   SetReportFont(Printer, kHeadSize);
   PrintRight(Printer, kPlanSheetRight, kFirstLineY, head.date);
   PrintRight(Printer, kPlanSheetRight, kSecondLineY, fmt::format("{} 頁", pen.page));
+  DrawPlanLine(pen, head, outcome);
 }
 
 }  // namespace rbt

@@ -24,8 +24,14 @@ constexpr std::string_view kPurchaseTitle = "鉄 筋 購 買 計 画 表";
 constexpr float kTableSize = 10;
 constexpr float kRowHeight = 320;
 constexpr int kRowsOnPage = 38;
+constexpr float kTallyX = 6400;
+constexpr float kNoteSize = 8;
+constexpr std::string_view kWeightNote =
+    "計画した行は 定尺の長さ x 単位重量。全体の集計は加工帳のままの行を含み、定尺の重量表から Kg "
+    "に丸めています。";
 constexpr double kUnit = 1e6;
 constexpr std::string_view kWeightMask = "#,##0.0";
+constexpr std::string_view kTallyMask = "#,##0";
 
 enum class PurchaseField { steel, kind, stock, planned, kept, bars, weight, yen };
 
@@ -67,7 +73,7 @@ struct SheetRow {
 
 SheetRow RowOf(const PurchaseLine& line) {
   return {planning::DiameterText(line.steel.diameter),
-          planning::KindText(line.steel.kind) + (line.steel.hoop ? " フープ" : ""),
+          planning::KindText(line.steel.kind) + (line.steel.hoop ? " " + planning::HoopText(line.steel) : ""),
           std::int64_t{line.stock_mm},
           line.planned,
           line.kept,
@@ -115,9 +121,15 @@ CellValue ValueOf(const SheetRow& row, PurchaseField field) {
 }
 
 std::string LossText(std::string_view name, const Figures& figures) {
-  return fmt::format("{}  {} Kg  ロス {} %", name,
+  return fmt::format("{}  計画した行 {} Kg  ロス {} %", name,
                      FormatNumber(static_cast<double>(figures.steel_weight) / kUnit, kWeightMask),
                      FormatNumber(figures.loss_percent, "0.000"));
+}
+
+/// What the tally tells of the same, rows that stay as scheduled among it.
+std::string TallyText(const planning::TallyFigures& figures) {
+  return fmt::format("全体の集計 {} Kg  ロス率 {} %", FormatNumber(figures.stock_weight, kTallyMask),
+                     FormatNumber(figures.loss_rate_percent, "0.00"));
 }
 
 class PurchaseSheets {
@@ -134,7 +146,7 @@ class PurchaseSheets {
 
  private:
   void Top(int rows) {
-    DrawPlanHead(pen_, kPurchaseTitle, head_);
+    DrawPlanHead(pen_, kPurchaseTitle, head_, outcome_);
     place_.rows = {kRowHeight, kPlanSheetTop};
     place_.text_drop = 60.0F;
     DrawFrame(pen_.Printer, RulesOf(columns_), place_.rows, {0, rows + 1}, 2);
@@ -151,13 +163,16 @@ class PurchaseSheets {
   void Foot() const {
     SetReportFont(pen_.Printer, kTableSize);
     float y = kPlanSheetTop + (kRowsOnPage + 1) * kRowHeight + 150.0F;
-    const auto print = [&](const std::string& text) {
-      PrintAt(pen_.Printer, kPlanSheetLeft, y, {text});
+    const auto print = [&](std::string_view name, const Figures& figures) {
+      PrintAt(pen_.Printer, kPlanSheetLeft, y, {LossText(name, figures)});
+      if (figures.tally) PrintAt(pen_.Printer, kTallyX, y, {TallyText(*figures.tally)});
       y += 260.0F;
     };
-    if (outcome_.schedule) print(LossText("加工帳", *outcome_.schedule));
-    print(LossText("行ごと", outcome_.per_row));
-    print(LossText("計  画", outcome_.plan.common));
+    if (outcome_.schedule) print("加工帳", *outcome_.schedule);
+    print("行ごと", outcome_.per_row);
+    print("計  画", outcome_.plan.common);
+    SetReportFont(pen_.Printer, kNoteSize);
+    PrintAt(pen_.Printer, kPlanSheetLeft, y, {kWeightNote});
   }
 
   ReportPen& pen_;

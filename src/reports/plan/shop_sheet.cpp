@@ -32,11 +32,12 @@ constexpr float kBarHeight = 300;
 constexpr float kHatchStep = 90;
 
 /// Words one behind the other on as many lines as they need.
-std::vector<std::string> Wrapped(std::string_view label, const std::vector<std::string>& words) {
+std::vector<std::string> Wrapped(std::string_view label, const std::vector<std::string>& words,
+                                 std::string_view between = " ") {
   std::vector<std::string> lines(1, std::string(label));
   bool begins = true;
   for (const std::string& word : words) {
-    const std::string longer = lines.back() + (begins ? "" : " ") + word;
+    const std::string longer = lines.back() + std::string(begins ? "" : between) + word;
     if (!begins && TextWidthAt(kTextSize, longer) > kSheetWidth) {
       lines.push_back("        " + word);
     } else {
@@ -47,21 +48,12 @@ std::vector<std::string> Wrapped(std::string_view label, const std::vector<std::
   return lines;
 }
 
-std::string Place(const planning::OutcomeShare& share) {
-  const auto number = [](const std::optional<int>& of) { return of ? std::to_string(*of) : "-"; };
-  // A line of a file has no page.
-  std::string place =
-      share.page == 0 ? number(share.line) + "行" : number(share.page) + "頁" + number(share.line) + "行";
-  if (!share.mark.empty()) place += "[" + share.mark + "]";
-  return place + "x" + std::to_string(share.pieces);
-}
-
 std::vector<std::string> PlaceWords(const std::vector<CutShares>& shares) {
   std::vector<std::string> words;
   for (const CutShares& cut : shares) {
     std::string label = std::to_string(cut.cut_mm) + ":";
     for (const planning::OutcomeShare& share : cut.rows) {
-      words.push_back(label + Place(share));
+      words.push_back(label + planning::PlaceText(share));
       label.clear();
     }
   }
@@ -76,19 +68,15 @@ struct SheetBlock {
   std::vector<std::string> above = {};
   const OutcomePattern* bar = nullptr;  ///< drawn to scale below the first texts
   std::vector<std::string> below = {};
+  int gap = 1;  ///< empty lines below
 
   int Lines() const {
-    return static_cast<int>(above.size() + below.size()) + (bar != nullptr ? kBarLines : 0) + 1;
+    return static_cast<int>(above.size() + below.size()) + (bar != nullptr ? kBarLines : 0) + gap;
   }
 };
 
-std::string SteelText(const planning::BarSteel& steel) {
-  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
-         (steel.hoop ? " 溶接フープ" : "");
-}
-
 std::string HeadingOf(const OutcomeGroup& group) {
-  return "■ " + SteelText(group.steel) + (group.scope == "site" ? "" : "   階 " + group.scope);
+  return "■ " + planning::SteelText(group.steel) + (group.scope == "site" ? "" : "   階 " + group.scope);
 }
 
 SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
@@ -98,7 +86,10 @@ SheetBlock BlockOf(const OutcomePattern& of, int number, const BarRule& rule,
                                  planning::PiecesText(of.pattern), of.left_mm, of.cuts);
   const std::vector<std::int64_t> at = planning::MarksOf(rule, of.pattern);
   std::vector<std::string> marks;
-  marks.reserve(at.size());
+  marks.reserve(at.size() + 1);
+  if (const int trim = planning::TrimOf(rule, of.pattern); trim > 0) {
+    marks.push_back("端切り:" + std::to_string(trim));
+  }
   for (const std::int64_t mark : at) marks.push_back(std::to_string(mark));
   SheetBlock block;
   block.above = Wrapped(head, {});
@@ -125,16 +116,20 @@ std::vector<SheetBlock> BlocksOf(const Outcome& outcome) {
   std::vector<std::string> words;
   words.reserve(outcome.rests.size());
   for (const planning::UsableRest& rest : outcome.rests) {
-    words.push_back(fmt::format("{} {}mm x{}", SteelText(rest.steel), rest.mm, rest.count));
+    words.push_back(fmt::format("{} {}mm x{}", planning::SteelText(rest.steel), rest.mm, rest.count));
   }
-  for (std::string& line : Wrapped("使える残材  ", words)) blocks.emplace_back().above = {std::move(line)};
+  for (std::string& line : Wrapped("使える残材  ", words, "   ")) {
+    SheetBlock& block = blocks.emplace_back();
+    block.above = {std::move(line)};
+    block.gap = 0;
+  }
   return blocks;
 }
 
 class ShopSheets {
  public:
   ShopSheets(ReportPen& pen, const PlanSheetHead& head, const Outcome& outcome)
-      : pen_(pen), head_(head), rule_(outcome.options.bar), blocks_(BlocksOf(outcome)) {
+      : pen_(pen), head_(head), outcome_(outcome), blocks_(BlocksOf(outcome)) {
     for (const OutcomeGroup& group : outcome.groups) {
       for (const OutcomePattern& of : group.patterns) longest_ = std::max(longest_, of.pattern.stock_mm);
     }
@@ -153,7 +148,7 @@ class ShopSheets {
  private:
   /// A page that goes on with a group says which.
   void Top(const PageOfBlocks& page) {
-    DrawPlanHead(pen_, kTitle, head_);
+    DrawPlanHead(pen_, kTitle, head_, outcome_);
     if (page.empty()) return;
     const SheetBlock& first = blocks_[page.front().block];
     if (first.begins || first.heading.empty()) return;
@@ -182,7 +177,8 @@ class ShopSheets {
     return kPlanSheetLeft + kSheetWidth * static_cast<float>(mm) / static_cast<float>(longest_);
   }
 
-  /// The bar to scale: a rule at each mark, the length in each piece that has room for it, the rest hatched.
+  /// The bar to scale: a rule where its end is cut off and at each mark, the length in each piece that has
+  /// room for it, the rest hatched.
   void Bar(float y, const OutcomePattern& of) {
     PrinterSurface& Printer = pen_.Printer;
     const float right = X(of.pattern.stock_mm);
@@ -192,7 +188,11 @@ class ShopSheets {
     Printer.Line(kPlanSheetLeft, y, kPlanSheetLeft, y + kBarHeight);
     Printer.Line(right, y, right, y + kBarHeight);
     Printer.DrawWidth = 2;
-    const std::vector<std::int64_t> marks = planning::MarksOf(rule_, of.pattern);
+    const BarRule& rule = outcome_.options.bar;
+    const std::vector<std::int64_t> marks = planning::MarksOf(rule, of.pattern);
+    if (const int trim = planning::TrimOf(rule, of.pattern); trim > 0) {
+      Printer.Line(X(trim), y, X(trim), y + kBarHeight);
+    }
     std::size_t mark = 0;
     for (const auto& [cut, pieces] : of.pattern.pieces) {
       for (int piece = 0; piece < pieces; ++piece, ++mark) {
@@ -224,7 +224,7 @@ class ShopSheets {
 
   ReportPen& pen_;
   const PlanSheetHead& head_;
-  BarRule rule_;
+  const Outcome& outcome_;
   std::vector<SheetBlock> blocks_;
   int longest_ = 1;
 };

@@ -23,7 +23,7 @@ namespace {
 constexpr int kTakeKey = Qt::Key_F1;
 constexpr int kLeaveKey = Qt::Key_Escape;
 /// Widths of the columns of `AdviceCaptions`, in half-width characters.
-constexpr int kCharacters[] = {4, 15, 4, 9, 7, 30};
+constexpr int kCharacters[] = {4, 15, 4, 9, 7, 47};
 
 }  // namespace
 

@@ -88,6 +88,7 @@ void PlanForm::Show() {
     close();
     return;
   }
+  setWindowTitle(Text(view.title));
   ui_->dbgPlan->Show(view);
   QStringList losses;
   for (const std::string& loss : view.losses) losses << Text(loss);
@@ -100,7 +101,7 @@ void PlanForm::Show() {
   ui_->lblProgress->setText(Text(view.progress));
   ui_->lblPatterns->setText(Text(view.patterns_of));
   ui_->lblPatterns->setVisible(!view.patterns_of.empty());
-  ui_->picture->setVisible(!view.patterns_of.empty());
+  ui_->picture->setVisible(!view.bars.empty());
   ui_->picture->Show(view.bars, view.longest_mm);
   ui_->lblNotice->setText(Text(view.notice));
 }

@@ -23,6 +23,7 @@ std::optional<PlanChoices> Ask(const PlanChoices& choices) {
 
 PlanParts Parts() {
   PlanParts parts;
+  parts.subject = PlanSubjectOfSite();
   parts.ask_choices = Ask<PlanOptionsForm>;
   parts.advise = Ask<PlanAdviceForm>;
   parts.print = [](PlanSheet sheet, const planning::Outcome& outcome) {

@@ -10,7 +10,7 @@
 namespace rbt {
 
 /// The bars that a plan buys, a column for each length. Columns are as wide as their figures, so that all of
-/// them can be seen; the sum is never scrolled out of sight.
+/// them can be seen, and get no narrower while a search goes on; the sum is never scrolled out of sight.
 class PlanGrid : public GridControl {
  public:
   explicit PlanGrid(QWidget* parent = nullptr);
@@ -22,9 +22,10 @@ class PlanGrid : public GridControl {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void FitColumns(const GridRows& rows);
+  void FitColumns(const PlanScreenView& view);
 
-  std::vector<int> characters_;  ///< of the columns; they never shrink
+  std::vector<int> least_;       ///< characters of the columns without figures
+  std::vector<int> characters_;  ///< as they are
 };
 
 }  // namespace rbt

@@ -105,6 +105,11 @@ void PlanPicture::PaintPieces(QPainter& painter, const PlanBarView& bar, const Q
     painter.fillRect(QRect(QPoint(X(bar.stock_mm - bar.left_mm), whole.top()), whole.bottomRight()),
                      QBrush(palette().color(QPalette::Text), Qt::BDiagPattern));
   }
+  if (bar.trim_mm > 0) {
+    const QRect trim(whole.topLeft(), QPoint(X(bar.trim_mm), whole.bottom()));
+    painter.fillRect(trim, QBrush(palette().color(QPalette::Text), Qt::Dense4Pattern));
+    painter.drawLine(trim.topRight(), trim.bottomRight());
+  }
   painter.drawRect(whole);
   for (std::size_t piece = 0; piece < bar.marks.size(); ++piece) {
     const int end = std::min(whole.right(), X(bar.marks[piece]));

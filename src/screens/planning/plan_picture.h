@@ -10,8 +10,8 @@
 namespace rbt {
 
 /// Bars drawn to scale, one below the other: a rule at each mark, the length in each piece that has room for
-/// it, the rest hatched, page and line of the pieces beneath, on as many lines as they need. The arrow keys
-/// scroll.
+/// it, the end that is cut off dotted, the rest hatched, page and line of the pieces beneath, on as many
+/// lines as they need. The arrow keys scroll.
 class PlanPicture : public QAbstractScrollArea {
  public:
   explicit PlanPicture(QWidget* parent = nullptr);

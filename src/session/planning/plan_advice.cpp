@@ -10,8 +10,8 @@
 #include <fmt/ranges.h>
 
 #include "planning/outcome/outcome.h"
+#include "planning/outcome/plan_text.h"
 #include "platform/numbers/number_mask.h"
-#include "session/planning/plan_view.h"
 
 namespace rbt {
 namespace {
@@ -72,7 +72,7 @@ PlanAdviceView PlanAdvicePresenter::View() const {
     for (const OutcomeAdvice::Point& point : of.curve) {
       const bool taken = set != choices_.sets.end() && set->second == point.lengths;
       const double kilograms = static_cast<double>(point.steel_weight) / kMilligramsPerKilogram;
-      view.rows.push_back({taken ? "○" : "", SteelText(of.steel), std::to_string(point.count),
+      view.rows.push_back({taken ? "○" : "", planning::SteelText(of.steel), std::to_string(point.count),
                            FormatNumber(kilograms, "#,##0"), FormatNumber(point.loss_percent, "0.000"),
                            fmt::format("{}", fmt::join(point.lengths, " "))});
     }
@@ -86,7 +86,7 @@ PlanAdviceView PlanAdvicePresenter::View() const {
 AdviceCurve PlanAdvicePresenter::CurveOf(std::size_t row) const {
   const std::optional<Place> place = PlaceOf(advice_, row);
   if (!place) return {};
-  AdviceCurve curve{SteelText(place->advice.steel), {}, place->point};
+  AdviceCurve curve{planning::SteelText(place->advice.steel), {}, place->point};
   curve.marks.reserve(place->advice.curve.size());
   for (const OutcomeAdvice::Point& point : place->advice.curve) {
     curve.marks.push_back({point.count, point.loss_percent});
@@ -110,13 +110,13 @@ void PlanAdvicePresenter::TakeNews() {
     progress_.clear();
     std::rethrow_exception(found->fault);
   }
+  const planning::Outcome outcome = planning::Describe(problem_, found->plan.value());
+  advice_ = outcome.advice;
+  for (OutcomeAdvice& of : advice_) LeaveRepeatsOut(of);
   if (!found->ended) {
     progress_ = fmt::format("定尺を比べています  {} / {}", found->done, found->of);
     return;
   }
-  planning::Outcome outcome = planning::Describe(problem_, found->plan.value());
-  advice_ = std::move(outcome.advice);
-  for (OutcomeAdvice& of : advice_) LeaveRepeatsOut(of);
   progress_ = outcome.stopped == planning::Stopped::no ? "定尺を比べました" : "途中まで比べました";
 }
 

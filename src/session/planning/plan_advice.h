@@ -58,7 +58,7 @@ class PlanAdvicePresenter {
   /// The curve that a row belongs to; without marks where there is no such row.
   AdviceCurve CurveOf(std::size_t row) const;
 
-  /// Begins the search, once; see `PlanPresenter`.
+  /// Begins the search, once; see `PlanPresenter`. Curves are shown as they come.
   void Search(std::function<void()> news);
   void TakeNews();
 

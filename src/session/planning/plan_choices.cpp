@@ -10,11 +10,12 @@
 
 #include "planning/input/plan_files.h"
 #include "planning/input/scopes.h"
+#include "planning/outcome/plan_text.h"
 #include "planning/problem/refusal.h"
 #include "platform/files/files.h"
 #include "platform/profile/registry.h"
+#include "platform/system/paths.h"
 #include "platform/text/characters.h"
-#include "session/planning/plan_view.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
 
@@ -189,7 +190,7 @@ constexpr PlanField kFields[] = {
     {K::text, "txtUsable", "使える残材", NumberText<&C::usable>, TakeNumber<&C::usable, 0, kLongestMm>,
      kWrongMm},
     {K::text, "txtLengths", "定尺", LengthsText, TakeLengths,
-     "定尺を mm の数で、間に , を入れて並べて下さい。空ならば設定の定尺です。"},
+     "定尺を mm の数で、間に , を入れて並べて下さい。空ならば定尺の表の定尺、表も無ければ設定の定尺です。"},
     {K::text, "txtMaxLengths", "定尺の種類", NumberText<&C::max_lengths>,
      TakeNumber<&C::max_lengths, 0, kMostLengths>, kWrongCount},
     {K::file, "txtLengthsFile", "定尺の表", PlainText<&C::lengths_file>, TakeFile<&C::lengths_file>},
@@ -205,7 +206,21 @@ constexpr PlanField kFields[] = {
     {K::tick, "chkGreedy", "簡易計画", TickText<&C::greedy>, TakeTick<&C::greedy>},
 };
 
-std::string SectionOfSite() { return std::string(kSection) + SiteContext.SelectedDbName; }
+/// A path as part of a section's name, which holds neither brackets nor control characters.
+std::string SectionPath(const std::filesystem::path& path) {
+  std::string name;
+  for (const char8_t character : path.generic_u8string()) {
+    const bool stands = character >= u8' ' && character != u8']' && character != u8'%';
+    name += stands ? std::string(1, static_cast<char>(character))
+                   : fmt::format("%{:02X}", static_cast<unsigned>(character));
+  }
+  return name;
+}
+
+std::string SectionOfSite() {
+  const std::filesystem::path data = std::filesystem::weakly_canonical(MapPath("\\RBK\\DATA"));
+  return std::string(kSection) + SectionPath(data / SiteContext.SelectedDbName);
+}
 
 std::string WordsOf(const PlanField& field, const PlanChoices& choices) {
   const std::string key(field.key);
@@ -296,7 +311,7 @@ std::string SetsText(const PlanChoices& choices) {
   std::string words;
   for (const auto& [steel, lengths] : choices.sets) {
     if (!words.empty()) words += kBetween;
-    words += SteelText(steel) + " " + TextOf(lengths);
+    words += planning::SteelText(steel) + " " + TextOf(lengths);
   }
   return words;
 }

@@ -21,7 +21,7 @@ struct PlanChoices {
   int mix = 0;                             ///< at most so many cut lengths on a bar; 0: any number
   int max_lengths = 0;                     ///< at most so many bought lengths of a steel; 0: any number
   int usable = 1000;                       ///< from which on a rest is of use
-  int time_limit = 60;                     ///< seconds that a search may take
+  int time_limit = 10;                     ///< seconds that a search may take
   std::string scope = "site";              ///< one that `Scopes::Of` takes
   bool keep_welded = false;                ///< welded rows stay as scheduled
   bool by_money = false;                   ///< yen are made least, not metres of bar
@@ -58,7 +58,8 @@ struct PlanField {
 };
 std::span<const PlanField> PlanFields();
 
-/// The choices of the bound site as the settings of the user have them.
+/// The choices of the bound site as the settings of the user have them: of this file in this folder, for the
+/// files of all roots are named alike.
 struct RememberedPlan {
   PlanChoices choices;
   std::vector<std::string> unreadable;  ///< places of settings that cannot be read: these have their defaults

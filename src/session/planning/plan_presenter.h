@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "session/planning/plan_search.h"
@@ -18,13 +19,14 @@ struct PlanParts {
   AskChoices ask_choices;  ///< shows the choices and lets the user change them
   AskChoices advise;  ///< shows what fewer lengths would lose; gives the choices with the set that was taken
   PlanSearch::Work make_plan = planning::MakePlan;
+  std::string subject = {};  ///< what the plan is of, for the title: the site, and what is left out of it
   /// Prints a sheet, or shows it first; gives the printer that took it, empty for none.
   std::function<std::string(PlanSheet sheet, const planning::Outcome& outcome)> print;
 };
 
 /// The plan screen without its window: the cutting plan of the site that the bulk screen shows, under its
-/// selection. The greedy plan stands at once; a thread improves it until it is done, out of time or told to
-/// stop.
+/// selection. A quick plan stands at once; a thread improves it until it is done, out of time or told to
+/// stop. No other plan takes the place of one that costs less.
 class PlanPresenter {
  public:
   PlanPresenter(PlanParts parts, SitePlan plan);
@@ -45,8 +47,9 @@ class PlanPresenter {
   void ChangeChoices();
   /// The same with a set of lengths out of the advice.
   void Advise();
-  /// The patterns of a cell of the grid.
+  /// The patterns of a cell of the grid, and how many of its bars are those of rows that stay as scheduled.
   void OpenCell(std::size_t row, std::size_t column);
+  /// A search ends with the best so far: all sheets are of one plan.
   void Print(PlanSheet sheet);
   /// One step back: from the patterns of a cell, else the search ends with the best so far, else off the
   /// screen.
@@ -58,6 +61,12 @@ class PlanPresenter {
  private:
   void PlanAnew(const AskChoices& ask);
   void Begin();
+  /// The plan that was found, where it is no worse than the one that stands.
+  void TakePlan(const planning::Plan& plan);
+  /// What the search has found; `at_end` is told where it has ended before it was done.
+  void Take(const PlanSearch::News& found, std::string_view at_end);
+  /// The patterns of a cell that holds no bars any more are put away.
+  void CloseEmptyCell();
 
   PlanParts parts_;
   SitePlan plan_;

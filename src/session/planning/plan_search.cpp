@@ -46,12 +46,16 @@ std::optional<PlanSearch::News> PlanSearch::Take() {
   return found;
 }
 
-void PlanSearch::End() {
+std::optional<PlanSearch::News> PlanSearch::Finish() {
   if (thread_.joinable()) {
     thread_.request_stop();
     thread_.join();
   }
-  found_.reset();
+  return Take();
+}
+
+void PlanSearch::End() {
+  Finish();
   running_ = false;
 }
 

@@ -45,6 +45,8 @@ class PlanSearch {
   std::optional<News> Take();
   /// The best so far shall be the plan.
   void Stop() { thread_.request_stop(); }
+  /// Stops, waits for the end and takes what was found.
+  std::optional<News> Finish();
   /// Stops, waits for the end and forgets what was found.
   void End();
 

@@ -2,6 +2,7 @@
 #include "session/planning/plan_view.h"
 
 #include <array>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
@@ -29,7 +30,16 @@ std::string Count(std::int64_t number) { return FormatNumber(number, "#,###"); }
 std::string Kilograms(planning::Milligrams weight) {
   return FormatNumber(static_cast<double>(weight) / kUnit, "#,##0");
 }
+std::string Yen(std::int64_t micros) {
+  return FormatNumber(static_cast<double>(micros) / kUnit, "#,##0") + " 円";
+}
 std::string Percent(double percent) { return FormatNumber(percent, "0.000") + " %"; }
+
+std::string LossText(const planning::Figures& figures) {
+  const std::string text = Percent(figures.loss_percent);
+  if (!figures.tally) return text;
+  return text + "（集計 " + FormatNumber(figures.tally->loss_rate_percent, "0.00") + " %）";
+}
 
 /// The column of a stock length; nothing for one that the tally has no column for.
 std::optional<std::size_t> ColumnOf(int mm) {
@@ -76,11 +86,10 @@ std::int64_t RestBars(const OutcomeGroup& group) {
 
 std::string RowsText(const std::vector<planning::CutShares>& shares) {
   std::string text;
-  const auto number = [](const std::optional<int>& of) { return of ? std::to_string(*of) : "-"; };
   for (const planning::CutShares& cut : shares) {
     text += fmt::format("{}{}:", text.empty() ? "" : "  ", cut.cut_mm);
     for (const planning::OutcomeShare& share : cut.rows) {
-      text += fmt::format(" {}頁{}行x{}", number(share.page), number(share.line), share.pieces);
+      text += " " + planning::PlaceText(share);
     }
   }
   return text;
@@ -96,6 +105,7 @@ PlanBarView BarOf(const planning::OutcomePattern& of, const planning::BarRule& r
     for (int piece = 0; piece < pieces; ++piece) bar.cuts.push_back(cut);
   }
   bar.left_mm = of.left_mm;
+  bar.trim_mm = planning::TrimOf(rule, of.pattern);
   bar.head = fmt::format("{} x {} 本   {}   残 {} mm", of.pattern.stock_mm, of.pattern.bars,
                          planning::PiecesText(of.pattern), of.left_mm);
   bar.rows = RowsText(shares);
@@ -118,6 +128,16 @@ bool IsOf(const planning::Pattern& pattern, std::size_t column) {
   return pattern.rest ? column == kRests : ColumnOf(pattern.stock_mm) == column;
 }
 
+/// Bars of the cell that rows which stay as scheduled buy.
+std::int64_t KeptBars(const Outcome& outcome, std::size_t row, std::size_t column) {
+  const std::optional<CellBars> cell = CellOf(outcome, row, column);
+  std::int64_t kept = 0;
+  for (const PurchaseLine& line : outcome.purchase) {
+    if (cell && line.steel == cell->steel && ColumnOf(line.stock_mm) == cell->column) kept += line.kept;
+  }
+  return kept;
+}
+
 constexpr std::array<ControlHint, 6> kHints{{
     {"dbgPlan", "矢印で移る、Enter でその定尺の切断パターンを見る"},
     {"cmdPurchase", "購買計画表を印字する"},
@@ -128,11 +148,6 @@ constexpr std::array<ControlHint, 6> kHints{{
 }};
 
 }  // namespace
-
-std::string SteelText(const BarSteel& steel) {
-  return planning::DiameterText(steel.diameter) + " " + planning::KindText(steel.kind) +
-         (steel.hoop ? " フープ" : "");
-}
 
 std::vector<std::string> PlanCaptions() {
   std::vector<std::string> captions{"鋼材"};
@@ -158,7 +173,7 @@ GridRows PlanRows(const Outcome& outcome) {
   }
   GridRows rows;
   rows.reserve(sums.size() + 1);
-  for (const auto& [steel, sum] : sums) rows.push_back(sum.Texts(SteelText(steel)));
+  for (const auto& [steel, sum] : sums) rows.push_back(sum.Texts(planning::SteelText(steel)));
   rows.push_back(total.Texts("合計"));
   return rows;
 }
@@ -181,22 +196,34 @@ std::vector<PlanBarView> BarsOfCell(const Outcome& outcome, std::size_t row, std
 std::string NameOfCell(const Outcome& outcome, std::size_t row, std::size_t column) {
   const std::optional<CellBars> cell = CellOf(outcome, row, column);
   if (!cell) return "";
-  return SteelText(cell->steel) + " " + PlanCaptions()[column] + (column == kRests ? "" : " m");
+  return planning::SteelText(cell->steel) + " " + PlanCaptions()[column] + (column == kRests ? "" : " m");
+}
+
+std::string KeptText(const Outcome& outcome, std::size_t row, std::size_t column) {
+  const std::int64_t kept = KeptBars(outcome, row, column);
+  return kept == 0 ? "" : "   加工帳のまま " + Count(kept) + " 本";
+}
+
+bool HoldsBars(const Outcome& outcome, std::size_t row, std::size_t column) {
+  return KeptBars(outcome, row, column) > 0 || !BarsOfCell(outcome, row, column).empty();
 }
 
 std::vector<std::string> LossTexts(const Outcome& outcome) {
   std::vector<std::string> texts;
-  if (outcome.schedule) texts.push_back("加工帳 " + Percent(outcome.schedule->loss_percent));
-  texts.push_back("行ごと " + Percent(outcome.per_row.loss_percent));
-  texts.push_back("計画 " + Percent(outcome.plan.common.loss_percent));
+  if (outcome.schedule) texts.push_back("加工帳 " + LossText(*outcome.schedule));
+  texts.push_back("行ごと " + LossText(outcome.per_row));
+  texts.push_back("計画 " + LossText(outcome.plan.common));
   return texts;
 }
 
 std::string BoundText(const Outcome& outcome) {
   std::string text;
-  if (outcome.bound.loss_percent) text = "下限 " + Percent(*outcome.bound.loss_percent);
-  if (outcome.bound.gap_percent)
-    text += (text.empty() ? "" : "   ") + ("差 " + Percent(*outcome.bound.gap_percent));
+  if (outcome.bound.loss_percent) {
+    text = "下限 " + Percent(*outcome.bound.loss_percent);
+  } else {
+    text = "下限 " + Yen(outcome.bound.cost) + "   計画 " + Yen(outcome.bound.plan_cost);
+  }
+  if (outcome.bound.gap_percent) text += "   差 " + Percent(*outcome.bound.gap_percent);
   return text;
 }
 
@@ -206,6 +233,9 @@ std::string CountsText(const Outcome& outcome) {
                   FormatNumber(outcome.plan.patterns, "#,##0"), outcome.plan.lengths);
   if (outcome.plan.usable_weight > 0)
     text += "   使える残材 " + Kilograms(outcome.plan.usable_weight) + " ㎏";
+  if (!outcome.kept.empty()) text += fmt::format("   計画外 {} 行", Count(std::ssize(outcome.kept)));
+  if (!outcome.short_rows.empty())
+    text += fmt::format("   不足 {} 行", Count(std::ssize(outcome.short_rows)));
   return text;
 }
 

@@ -20,14 +20,9 @@ constexpr std::string_view kTitle = "切断・購買計画";
 
 void Tell(const std::string& text) { MsgBox(text, kTitle, MessageButtons::ok_to_warning); }
 
-planning::Outcome GreedyOutcome(planning::Problem problem) {
-  problem.options.effort = planning::Effort::greedy;
-  return planning::Describe(problem, planning::MakePlan(problem, nullptr));
-}
-
 SitePlan PlanRequested(const PlanChoices& choices, const PlanRequest& request) {
   planning::Problem problem = TalliedProblem(request);
-  planning::Outcome outcome = GreedyOutcome(problem);
+  planning::Outcome outcome = planning::Describe(problem, planning::MakeFirstPlan(problem));
   return {choices, std::move(problem), std::move(outcome)};
 }
 
@@ -68,8 +63,6 @@ planning::Problem TalliedProblem(const PlanRequest& request) {
   CountTally(TallyKind::bulk);
   return SiteProblem(request);
 }
-
-SitePlan PlanSite(const PlanChoices& choices) { return PlanRequested(choices, RequestOf(choices)); }
 
 std::optional<SitePlan> ChangeSitePlan(const AskChoices& ask, const PlanChoices& choices) {
   for (std::optional<PlanChoices> asked = ask(choices); asked; asked = ask(*asked)) {

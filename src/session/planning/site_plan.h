@@ -10,7 +10,7 @@
 
 namespace rbt {
 
-/// A plan of the bound site to begin with: the greedy one.
+/// A plan of the bound site to begin with: the one that a search would begin with.
 struct SitePlan {
   PlanChoices choices;
   planning::Problem problem;
@@ -20,10 +20,6 @@ struct SitePlan {
 /// The problem of the bound site as the bulk tally reads it, under the selection. Throws what the tally
 /// throws; refusals: see `SiteProblem`.
 planning::Problem TalliedProblem(const PlanRequest& request);
-
-/// Plans the site by the choices. Throws what `RequestOf` and `TalliedProblem` throw, and
-/// `planning::Refusal` where no plan can be made.
-SitePlan PlanSite(const PlanChoices& choices);
 
 /// Lets the user change choices; nothing when they are left as they are.
 using AskChoices = std::function<std::optional<PlanChoices>(const PlanChoices& choices)>;

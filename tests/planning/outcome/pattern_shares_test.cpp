@@ -27,6 +27,12 @@ TEST(SharesOf, GivePiecesToRowsInOrderPatternByPattern) {
   EXPECT_THAT(told, ElementsAre("1x3", "2x1", "|", "2x3", "|"));
 }
 
+TEST(TrimOf, IsCutOffEveryBarButOneThatIsUsedWhole) {
+  const BarRule rule{3, 20, 0};
+  EXPECT_EQ(TrimOf(rule, {12000, false, 1, {{5500, 2}}}), 20);
+  EXPECT_EQ(TrimOf(rule, {12000, false, 1, {{12000, 1}}}), 0);
+}
+
 TEST(MarksOf, StandWherePiecesEndBehindTrimAndKerfs) {
   EXPECT_THAT(MarksOf({}, {12000, false, 1, {{3000, 2}, {1000, 1}}}), ElementsAre(3000, 6000, 7000));
   EXPECT_THAT(MarksOf({3, 20, 0}, {12000, false, 1, {{3000, 2}, {1000, 1}}}), ElementsAre(3020, 6023, 7026));

@@ -31,6 +31,18 @@ TEST(PiecesText, JoinsLengthsAndNumbers) {
   EXPECT_EQ(PiecesText({12000, false, 1, {{2340, 5}, {1200, 1}}}), "2340x5+1200x1");
 }
 
+TEST(SteelText, NamesDiameterKindAndHoop) {
+  EXPECT_EQ(SteelText({16, 1, false}), "D16 異形");
+  EXPECT_EQ(SteelText({13, 4, true}), "D13 ネジ フープ");
+  EXPECT_EQ(SteelText({0, 9, false}), "- 9");
+}
+
+TEST(PlaceText, IsPageAndLineOrTheLineOfAFile) {
+  EXPECT_EQ(PlaceText({1, 4, 5, ""}), "1頁4行x5");
+  EXPECT_EQ(PlaceText({std::nullopt, 9, 2, ""}), "-頁9行x2");
+  EXPECT_EQ(PlaceText({0, 4, 5, "A1"}), "4行[A1]x5");
+}
+
 TEST(KindText, IsTheKindsWordOrItsNumber) {
   EXPECT_EQ(KindText(4), "ネジ");
   EXPECT_EQ(KindText(9), "9");

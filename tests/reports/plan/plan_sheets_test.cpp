@@ -14,7 +14,7 @@ using planning::Outcome;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-const PlanSheetHead kHead{"見本町集合住宅", "見本建設株式会社", "2026 年 11 月 21 日"};
+const PlanSheetHead kHead{"見本町集合住宅", "見本建設株式会社", "2026 年 11 月 21 日", "溶接フープ 含まず"};
 
 Outcome Sample() { return planning::Describe(planning::test::SampleProblem(), planning::test::SamplePlan()); }
 
@@ -57,6 +57,21 @@ TEST(DrawShopSheet, DrawsMarksToScaleOfTheLongestBar) {
   EXPECT_THAT(ShopTrace(Sample()), HasSubstr("line\t1990\t"));
 }
 
+TEST(DrawShopSheet, MarksAndDrawsTheEndThatIsCutOff) {
+  // 5500 twice, 20 mm cut off first and a saw of 3 mm: marks at 20, 5520 and 5520 + 3 + 5500.
+  Outcome outcome = Sample();
+  outcome.options.bar = {3, 20, 5};
+  outcome.groups[0].patterns[1].pattern.pieces = {{5500, 2}};
+  outcome.groups[0].patterns[0].pattern = {6000, true, 1, {{6000, 1}}};
+  outcome.groups[0].cuts = {{6000, 1, {}}, {5500, 2, {}}};
+  const std::string trace = ShopTrace(outcome);
+  EXPECT_THAT(trace, HasSubstr("切断しろ 3 mm   端切り 20 mm   プラス 5 mm   集計対象 溶接フープ 含まず\n"));
+  EXPECT_THAT(trace, HasSubstr("  墨 端切り:20 5520 11023\n"));
+  EXPECT_THAT(trace, HasSubstr("  墨 6000\n")) << "nothing is cut off a bar that is used whole";
+  // 9900 twips are 12.0 m: 20 mm end at 1000 + 16.5.
+  EXPECT_EQ(CountOf(trace, "line\t1016.5\t"), 1) << trace;
+}
+
 TEST(DrawShopSheet, HatchesTheRestAlone) {
   Outcome outcome = Sample();
   const int with_rest = CountOf(ShopTrace(outcome), "\t1\n");
@@ -69,6 +84,32 @@ TEST(DrawShopSheet, TellsThePieceOfAFileByItsLineAndMark) {
   outcome.groups[0].cuts[0].rows[0].page = 0;
   outcome.groups[0].cuts[0].rows[0].mark = "A1";
   EXPECT_THAT(ShopTrace(outcome), HasSubstr("  行 2340:1行[A1]x5\n"));
+}
+
+TEST(DrawShopSheet, SaysWhereThereWasMoreToTry) {
+  Outcome outcome = Sample();
+  EXPECT_THAT(ShopTrace(outcome), Not(HasSubstr("途中の計画")));
+  EXPECT_THAT(PurchaseTrace(outcome), Not(HasSubstr("途中の計画")));
+  outcome.stopped = planning::Stopped::time;
+  EXPECT_THAT(ShopTrace(outcome), HasSubstr("途中の計画\n"));
+  EXPECT_THAT(PurchaseTrace(outcome), HasSubstr("途中の計画\n"));
+}
+
+TEST(DrawShopSheet, ListsTheUsableRestsLineBelowLine) {
+  Outcome outcome = Sample();
+  outcome.groups.clear();
+  outcome.rests.assign(12, {{16, 1, false}, 3600, 1});
+  const std::string trace = ShopTrace(outcome);
+  EXPECT_THAT(trace, HasSubstr("D16 異形 3600mm x1   D16 異形 3600mm x1"));
+  // Lines are 200 twips high, the first one stands at 2300.
+  EXPECT_THAT(trace, HasSubstr("text\t1000\t2500\t"));
+}
+
+TEST(DrawPurchaseSheet, TellsTheTallyBesideThePlannedRows) {
+  Outcome outcome = Sample();
+  outcome.plan.common.tally =
+      planning::TallyFigures{Currency::FromDouble(287146), Currency::FromDouble(280000), 1.66};
+  EXPECT_THAT(PurchaseTrace(outcome), HasSubstr("全体の集計 287,146 Kg  ロス率 1.66 %\n"));
 }
 
 TEST(DrawShopSheet, CarriesPatternsOverToTheNextPage) {
@@ -85,7 +126,7 @@ TEST(DrawPurchaseSheet, TellsEachLineItsSumAndWhatThePlanLoses) {
   const std::string trace = PurchaseTrace(Sample());
   for (const std::string_view text :
        {"D16", "異形", "   12,000", "        1", "        4", "         5", "93.5", "9,350", "合計",
-        "行ごと  28.1 Kg  ロス 27.660 %", "計  画  18.7 Kg  ロス -14.894 %"}) {
+        "行ごと  計画した行 28.1 Kg  ロス 27.660 %", "計  画  計画した行 18.7 Kg  ロス -14.894 %"}) {
     EXPECT_THAT(trace, HasSubstr(text));
   }
   EXPECT_THAT(trace, Not(HasSubstr("加工帳  ")));

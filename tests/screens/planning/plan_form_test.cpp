@@ -16,6 +16,7 @@
 #include "support/desktop/key_press.h"
 #include "support/schedule_site.h"
 #include "support/site_fixture.h"
+#include "support/site_plan_of.h"
 
 namespace rbt {
 namespace {
@@ -46,7 +47,7 @@ class PlanWindow : public ::testing::Test {
     };
     PlanChoices choices;
     choices.lengths = {6000, 11000};
-    form_ = std::make_unique<PlanForm>(std::move(parts), PlanSite(choices));
+    form_ = std::make_unique<PlanForm>(std::move(parts), test::SitePlanOf(choices));
     form_->show();
     form_->activateWindow();
     WaitForEnd();
@@ -85,7 +86,9 @@ TEST_F(PlanWindow, ShowsBarsToBuyLossesAndBound) {
   EXPECT_EQ(Grid().Cell(0, 0), "D16 異形");
   EXPECT_EQ(Grid().Cell(0, 6), "2");
   EXPECT_EQ(Grid().Cell(1, 0), "合計");
-  EXPECT_EQ(Text("lblLosses"), "ロス　加工帳 50.000 %　→　行ごと 41.667 %　→　計画 0.000 %");
+  EXPECT_EQ(Text("lblLosses"),
+            "ロス　加工帳 50.000 %（集計 47.37 %）　→　行ごと 41.667 %（集計 36.84 %）　→　計画 0.000 "
+            "%（集計 0.00 %）");
   EXPECT_THAT(Text("lblBound"), StartsWith("下限 0.000 %"));
   EXPECT_THAT(Text("lblCounts"), StartsWith("切断 2"));
 }

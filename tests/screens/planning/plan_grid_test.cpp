@@ -31,13 +31,20 @@ TEST(PlanGrid, ShowsEveryColumnOfALargeSiteOnANarrowScreen) {
 TEST(PlanGrid, MakesItsColumnsAsWideAsTheirFigures) {
   PlanGrid grid;
   grid.resize(400, 400);
-  grid.Show(View("12"));
+  PlanScreenView view = View("12");
+  view.improving = true;
+  grid.Show(view);
   const int narrow = grid.columnWidth(5);
-  grid.Show(View("123,456"));
+  PlanScreenView wider = View("123,456");
+  wider.improving = true;
+  grid.Show(wider);
   const int wide = grid.columnWidth(5);
   EXPECT_GT(wide, narrow);
-  grid.Show(View("12"));
+  grid.Show(view);
   EXPECT_EQ(grid.columnWidth(5), wide) << "columns do not jump while a search goes on";
+  view.improving = false;
+  grid.Show(view);
+  EXPECT_EQ(grid.columnWidth(5), narrow) << "a plan that stands has the room it needs";
 }
 
 TEST(PlanGrid, KeepsItsCellAndItsSumInSightWhenItGetsLower) {

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "session/planning/plan_choices.h"
 
+#include <filesystem>
 #include <set>
 #include <stdexcept>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "planning/problem/refusal.h"
+#include "platform/system/services.h"
 #include "shell/config/settings.h"
 #include "shell/context/site_context.h"
 #include "support/schedule_site.h"
@@ -49,6 +52,11 @@ const PlanField& Field(std::string_view control) {
   throw std::out_of_range(std::string(control));
 }
 
+/// Where the choices of the site are stored.
+std::string SectionOf(const ScheduleSite& site) {
+  return "切断計画 " + site.Folder().Data("GENBA001.MDB").string();
+}
+
 /// What a box makes of a text; nothing where it is refused.
 std::optional<std::string> Taken(std::string_view control, std::string_view text) {
   PlanChoices choices;
@@ -66,22 +74,42 @@ TEST(PlanChoices, AreRememberedForEachSite) {
   EXPECT_EQ(RememberedChoices().choices, PlanChoices());
 }
 
+TEST(PlanChoices, AreNotThoseOfTheSiteOfTheSameNameBelowAnotherRoot) {
+  const ScheduleSite site;
+  RememberChoices(Others());
+  const test::TemporaryFolder other;
+  const std::filesystem::path bracket = other / "a]b%";
+  std::filesystem::create_directories(bracket / "DATA");
+  const std::filesystem::path first = std::exchange(Services.Root, bracket);
+  EXPECT_EQ(RememberedChoices().choices, PlanChoices());
+  PlanChoices choices;
+  choices.kerf = 7;
+  RememberChoices(choices);
+  EXPECT_EQ(RememberedChoices().choices, choices);
+  Services.Root = first;
+  EXPECT_EQ(RememberedChoices().choices, Others());
+}
+
+TEST(PlanChoices, LetASearchTakeTenSecondsWhereNobodySaysOtherwise) {
+  EXPECT_EQ(PlanChoices().time_limit, 10);
+}
+
 TEST(PlanChoices, AreStoredOnlyWhereTheyChange) {
   const ScheduleSite site;
   PlanChoices choices;
   choices.kerf = 3;
   RememberChoices(choices);
-  EXPECT_EQ(ReadSetting("Kakou", "切断計画 GENBA001.MDB", "切断しろ", "none"), "3");
-  EXPECT_EQ(ReadSetting("Kakou", "切断計画 GENBA001.MDB", "端切り", "none"), "none");
+  EXPECT_EQ(ReadSetting("Kakou", SectionOf(site), "切断しろ", "none"), "3");
+  EXPECT_EQ(ReadSetting("Kakou", SectionOf(site), "端切り", "none"), "none");
   RememberChoices({});
-  EXPECT_EQ(ReadSetting("Kakou", "切断計画 GENBA001.MDB", "切断しろ", "none"), "0");
+  EXPECT_EQ(ReadSetting("Kakou", SectionOf(site), "切断しろ", "none"), "0");
 }
 
 TEST(PlanChoices, ThatCannotBeReadHaveTheirDefaultsAndAreNamed) {
   const ScheduleSite site;
   RememberChoices(Others());
-  SaveSetting("Kakou", "切断計画 GENBA001.MDB", "切断しろ", "-3");
-  SaveSetting("Kakou", "切断計画 GENBA001.MDB", "助言の定尺", "16 1:6000");
+  SaveSetting("Kakou", SectionOf(site), "切断しろ", "-3");
+  SaveSetting("Kakou", SectionOf(site), "助言の定尺", "16 1:6000");
   const RememberedPlan remembered = RememberedChoices();
   EXPECT_EQ(remembered.choices.kerf, 0);
   EXPECT_EQ(remembered.choices.trim, 10);

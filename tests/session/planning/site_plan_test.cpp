@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "planning/problem/refusal.h"
 #include "platform/fault.h"
 #include "platform/system/services.h"
 #include "shell/config/settings.h"
@@ -95,7 +94,7 @@ TEST_F(SitePlans, TellOfAFileThatIsGoneAndAskAgain) {
 }
 
 TEST_F(SitePlans, TellOfSettingsThatCannotBeReadAndAsk) {
-  SaveSetting("Kakou", "切断計画 GENBA001.MDB", "切断しろ", "abc");
+  SaveSetting("Kakou", "切断計画 " + site_.Folder().Data("GENBA001.MDB").string(), "切断しろ", "abc");
   EXPECT_TRUE(OpenSitePlan(Asked({PlanChoices()})));
   EXPECT_THAT(messages_, ElementsAre(HasSubstr("切断しろ \"abc\"")));
   EXPECT_THAT(RememberedChoices().unreadable, IsEmpty());
@@ -106,8 +105,6 @@ TEST_F(SitePlans, LetFaultsOfTheTallyPass) {
   EXPECT_THROW(OpenSitePlan(Asked({})), Fault);
   EXPECT_THAT(shown_, IsEmpty());
 }
-
-TEST_F(SitePlans, AreRefusedByOneLine) { EXPECT_THROW(PlanSite(Of({5250})), planning::Refusal); }
 
 }  // namespace
 }  // namespace rbt
