@@ -11,6 +11,7 @@
 #include "platform/print/printer_list.h"
 #include "platform/system/clock.h"
 #include "platform/system/colour_choice.h"
+#include "platform/system/long_reading.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/patience.h"
@@ -35,6 +36,8 @@ struct ServicesData {
   std::chrono::milliseconds LockPatience{10'000};
   LockQuestion WaitOn = GiveUpWaiting;
   WaitHook OnWait = [] {};
+  /// `TellOfLongReading()`.
+  LongReadingHook OnLongReading = TellLongReadingOnStandardError;
   /// `StatementLimit()`.
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.
