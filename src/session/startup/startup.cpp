@@ -78,7 +78,7 @@ void BindSite(const StartOptions& options) {
   }
   SelectSite(name);
   if (!options.command_line) {
-    OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
+    OfferImports({SiteContext.SiteFolder + SiteContext.SelectedDbName, CompanionDatabasePath()});
     // By now this user may have come to another right to it.
     SiteContext.WorkDatabase.reset();
   }
@@ -149,7 +149,7 @@ void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
   if (options.command_line || options.keep_accumulation) return;
   if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
-  if (TakesFiles(FolderOf(MapPath(kHozonFile)))) Delete_Hozon();
+  if (TakesFiles(FolderOf(MapPath(kHozonFile))) || MasterIsWorkingCopy()) Delete_Hozon();
 }
 
 void ProbeShapes() {
@@ -225,11 +225,11 @@ class NewSite {
     if (!ready_ && IsNew()) SelectSite("");
   }
 
-  bool IsNew() const { return SiteContext.SelectedDbName != bound_; }
+  bool IsNew() const { return SelectedSite() != bound_; }
   void NoteReady() { ready_ = true; }
 
  private:
-  std::string bound_ = SiteContext.SelectedDbName;
+  std::string bound_ = SelectedSite();
   bool ready_ = false;
 };
 
@@ -249,8 +249,12 @@ bool ReadySite(const StartOptions& options) {
   Step(ReadSiteNames);
   Step(ReadMaker);
   Step(ReadGrades);
+  NoteSiteReadied();
   return true;
 }
+
+/// Jet files that other programs work on have changed: what was read of them at the load is so no more.
+bool HaveJetFilesChanged() { return SiteIsAnotherCopy() || MasterIsOutdated(); }
 
 }  // namespace
 
@@ -259,6 +263,7 @@ LoadResult LoadSite(const StartOptions& options) {
   RequireSteelIni();
   const RegistryReading registry;
   SiteContext.OnlyRead = !options.prepare;
+  SiteContext.JetFiles = options.jet;
   SiteContext.ClassifiedAt.reset();
   if (options.prepare) ClearOldLeftovers();
   UnreadableSettings unreadable;
@@ -291,7 +296,7 @@ LoadResult LoadSite(const StartOptions& options) {
 bool FollowSelectedSite(const StartOptions& options) {
   NewSite site;
   Step([&] { BindSite(options); });
-  if (!site.IsNew()) return true;
+  if (!site.IsNew() && !HaveJetFilesChanged()) return true;
   if (!ReadySite(options)) return false;
   Step(ProbeShapes);
   site.NoteReady();
@@ -300,7 +305,7 @@ bool FollowSelectedSite(const StartOptions& options) {
 
 void FollowReadableSite(const StartOptions& options) {
   if (FollowSelectedSite(options)) return;
-  throw FileFaultText(MapPath("\\RBK\\DATA\\" + ChosenSite(options)), "needs the newer program");
+  throw FileFaultText(PathOfSite(), "needs the newer program");
 }
 
 MenuState ActivateMenu(const StartOptions& options) {

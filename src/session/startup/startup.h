@@ -17,7 +17,7 @@ struct StartOptions {
   /// False: nothing of the site is written. What a tally needs of its classification is worked out on a
   /// private copy.
   bool prepare = true;
-  /// Schedule file in place of 選択ＤＢ名: its name in DATA, or a family path, `\\RBK\\...`; empty: as
+  /// Schedule file in place of 選択ＤＢ名: its name in DATA, or a family path, `\RBK\...`; empty: as
   /// STEEL.INI says.
   std::string site;
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.

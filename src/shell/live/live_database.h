@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "store/database.h"
 
@@ -23,18 +24,19 @@ struct LiveUse {
 /// Opens a database of the family: the file itself where it is one of the store, or what `use` makes of a
 /// real Jet file. The working copy of one that is read in place is up to date when it is opened: where the
 /// Jet file has changed, or none is there yet, it is made anew, and what was saved in the old one goes with
-/// it. Throws what `Database::Open` throws, and `file` for a Jet file that is damaged or that keeps changing
-/// while it is read: both name the Jet file.
+/// it, see `RenewWorkingCopy`. Throws what `Database::Open` throws, and `file` for a Jet file that is damaged
+/// or that keeps changing while it is read.
 Database OpenLive(const std::filesystem::path& file, const LiveUse& use);
 /// The same for reading; the place of the working copy is that of `use`.
 Database OpenLiveForReading(const std::filesystem::path& file, const LiveUse& use);
 
 /// True where an open database, or the private copy of one, is what stands for `file` now: its name still
-/// leads to it, and no Jet file behind it has changed since it was read. Costs no more than looks at the
-/// system's notes of the files, and in working copies the reading of one row.
+/// leads to it, and no Jet file behind it has changed since it was read. Costs a look at what the system
+/// notes of the file, and in working copies the reading of one row.
 bool StandsFor(Database& open, const std::filesystem::path& file);
 
-/// True for a database that stands in for a real Jet file.
-bool IsWorkingCopy(const Database& open, const std::filesystem::path& file);
+/// Tells one working copy of a Jet file from every other, one that was made anew from the one before; empty
+/// for a file of the store.
+std::string MarkOfCopy(Database& open, const std::filesystem::path& file);
 
 }  // namespace rbt

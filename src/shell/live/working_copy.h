@@ -12,31 +12,33 @@
 
 namespace rbt {
 
-/// The name of the working copy of a file that stays as it is: `NAME.MDB.work` beside it, or the same name in
-/// a folder of the user's cache that belongs to the file's whole path. `beside` tells which is meant.
+/// The working copy of a file that stays as it is: `NAME.MDB.work` beside it, or that name in a folder of the
+/// user's cache that belongs to the file's whole path.
 std::filesystem::path WorkingCopyBeside(const std::filesystem::path& file);
 std::filesystem::path WorkingCopyInCache(const std::filesystem::path& file);
-/// That of both where this user's work on the file goes: beside it where the folder takes files.
-std::filesystem::path WorkingCopyOf(const std::filesystem::path& file, bool only_read);
+/// That of both which keeps what this user saves: the one beside the file where the folder takes files.
+std::filesystem::path ArchiveCopyOf(const std::filesystem::path& file);
+
+/// A database that stands under a working copy's name, opened; nothing where there is none, or where it
+/// cannot be read as one. Throws `locked`.
+std::optional<Database> OpenIfCopy(const std::filesystem::path& copy, bool for_reading);
 
 /// How the working copy of a Jet file stands.
 enum class CopyState {
   missing,  ///< there is none yet: a session makes it
   fresh,    ///< a session takes it as it is
   stale,    ///< the Jet file has changed, or another version of the program made it: a session makes it anew
-  foreign,  ///< what stands under its name is none, or damaged: a session sets it aside as
-            ///< `NAME.MDB.work.bad`
+  foreign,  ///< what stands under its name is none, or is damaged: a session sets it aside
 };
 
 struct CopyLook {
   std::filesystem::path copy;  ///< where a session works
   CopyState state = CopyState::missing;
-  std::string why;                ///< of a stale or foreign one
   std::size_t saved_tallies = 0;  ///< that nobody has but the copy
-  std::size_t refused_rows = 0;   ///< of the Jet file that the store could not take
+  std::int64_t refused_rows = 0;  ///< of the Jet file that the store could not take
 };
-/// Looks at the working copy of a real Jet file as a session would, and changes nothing.
-CopyLook LookAtWorkingCopy(const std::filesystem::path& jet_file, bool only_read);
+/// Looks at the working copy of a real Jet file as a session would that may write, and changes nothing.
+CopyLook LookAtWorkingCopy(const std::filesystem::path& jet_file);
 
 /// Where a row of a working copy stands in its Jet file.
 struct JetPlace {
