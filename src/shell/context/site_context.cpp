@@ -43,7 +43,6 @@ void RequireNoOther(const fs::path& file) {
 }
 
 void RequireSite(Database& database, const fs::path& file) {
-  RequireNoOther(file);
   if (database.FindTable(kScheduleTable) == nullptr) {
     throw FileFaultText(file, fmt::format("is no site: it has no table {}", kScheduleTable));
   }
@@ -84,6 +83,7 @@ void OpenWorkDatabase() {
   // With a fault none is open.
   std::unique_ptr<Database> site = std::move(SiteContext.WorkDatabase);
   const fs::path file = PathOfSite();
+  RequireNoOther(file);
   if (!StandsOpen(site, file)) {
     site.reset();
     site = std::make_unique<Database>(OpenLive(file, UseOfSite()));

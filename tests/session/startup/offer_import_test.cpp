@@ -131,10 +131,11 @@ TEST_F(OfferedImport, KilledAtAnyMomentTheNextStartWorks) {
   EXPECT_GT(taken_over, 0);
 }
 
-TEST_F(OfferedImport, TheCommandLineIsToldTheCommandInstead) {
+TEST_F(OfferedImport, ARefusalNamesTheCommand) {
   MakeJet(kScheduleFile);
   StartOptions options;
   options.command_line = true;
+  options.jet = JetChoice::refuse;
   try {
     LoadSite(options);
     FAIL() << "no fault";
