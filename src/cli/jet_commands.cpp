@@ -94,7 +94,8 @@ void Check(const std::string& name) {
   for (const std::string& line : report.lines) text += line + "\n";
   for (const std::string& warning : report.warnings) text += "warning: " + warning + "\n";
   for (const std::string& damage : report.damages) text += "damage: " + damage + "\n";
-  text += TextOfSession(name, !report.damages.empty());
+  // Damage that lies in no table of the user is in nobody's way.
+  text += TextOfSession(name, !report.damages.empty() && !jet::DamageOfTables(*file).empty());
   WriteResult(text);
   if (!report.damages.empty()) {
     throw Fault(FaultKind::file, fmt::format("{}: {} damages found", name, report.damages.size()));

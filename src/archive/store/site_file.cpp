@@ -10,7 +10,9 @@ namespace rbt {
 
 SiteFile::SiteFile(ArchiveUse use) : database_(SiteContext.WorkDatabase.get()) {
   if (database_ == nullptr) throw Fault(FaultKind::database, "no site database is open");
-  if (!database_->IsPrivateCopy() && database_->MayBeWritten()) {
+  // Another program may have made a working copy anew.
+  const bool is_old_copy = SiteIsWorkingCopy() && database_->HasMoved();
+  if (!database_->IsPrivateCopy() && database_->MayBeWritten() && !is_old_copy) {
     if (use == ArchiveUse::writes && SiteIsAnotherCopy()) Check_JSyukei();
     return;
   }

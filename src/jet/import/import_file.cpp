@@ -203,6 +203,13 @@ void RequireFree(const fs::path& target) {
 
 }  // namespace
 
+std::vector<std::string> DamageOfTables(JetFile& file) {
+  ImportReport report;
+  const auto fault = PassOverFaultsOfContent([&] { CheckWhatIsTaken(file, ReadCatalog(file), report); });
+  if (fault) report.damages.emplace_back(fault->what());
+  return std::move(report.damages);
+}
+
 ImportReport ImportTables(JetFile& file, const FileInWork& work, const fs::path& target, OnDamage on_damage,
                           const ImportExtras& extras) {
   ImportReport report;

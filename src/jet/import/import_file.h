@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "jet/import/import_report.h"
 #include "jet/jet_file.h"
@@ -32,6 +33,9 @@ inline constexpr int kImportVersion = 1;
 
 /// What becomes of an import in place when the check finds damage in what is to be taken.
 enum class OnDamage { refuse, take };
+
+/// What the check finds in the tables that an import takes: what keeps it from being taken in place.
+std::vector<std::string> DamageOfTables(JetFile& file);
 
 /// A row that was taken.
 struct TakenRow {

@@ -43,6 +43,7 @@ void Note(std::string_view section, const fs::path& path, std::string_view text)
 
 std::vector<fs::path> JetFilesAmong(std::initializer_list<std::string> family_paths) {
   std::vector<fs::path> files;
+  files.reserve(family_paths.size());
   for (const std::string& path : family_paths) {
     fs::path file = MapPath(path);
     if (jet::IsJetFile(file)) files.push_back(std::move(file));

@@ -8,7 +8,6 @@
 #include <fmt/format.h>
 
 #include "jet/import/import_file.h"
-#include "jet/jet_file.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "platform/system/message.h"
@@ -16,6 +15,7 @@
 #include "shell/live/saved_here.h"
 #include "shell/live/source_note.h"
 #include "shell/live/working_copy.h"
+#include "store/database_file.h"
 
 namespace rbt {
 
@@ -60,7 +60,7 @@ Database OpenCopyOnlyReading(const fs::path& file, bool for_reading) {
     std::error_code there_is_none;
     fs::remove(copy, there_is_none);
   }
-  RenewWorkingCopy(file, copy, archive);
+  RenewWorkingCopy(file, copy, copy == archive ? WorkingCopyBeside(file) : archive);
   return OpenAs(copy, for_reading);
 }
 
@@ -101,17 +101,16 @@ Database OpenInPlace(const fs::path& file, bool only_read, bool for_reading) {
   }
 }
 
+/// What kind of file it is the store looks at itself: to open beside it a file that it has open would lose
+/// its locks.
 Database Open(const fs::path& file, const LiveUse& use, bool for_reading) {
-  if (!jet::IsJetFile(file)) return OpenAs(file, for_reading);
-  switch (use.jet) {
-    case JetChoice::read_in_place:
-      return OpenInPlace(file, use.only_read, for_reading);
-    case JetChoice::import:
-      if (!use.only_read) ImportInPlace(file);
-      break;
-    case JetChoice::refuse:
-      break;
+  try {
+    return OpenAs(file, for_reading);
+  } catch (const JetFileFault&) {
+    if (use.jet == JetChoice::refuse || (use.jet == JetChoice::import && use.only_read)) throw;
   }
+  if (use.jet == JetChoice::read_in_place) return OpenInPlace(file, use.only_read, for_reading);
+  ImportInPlace(file);
   return OpenAs(file, for_reading);
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/live/origins.h"
 
-#include <initializer_list>
-
 #include <fmt/format.h>
 
 #include "data/quoted_text.h"
@@ -16,25 +14,19 @@ namespace {
 constexpr std::string_view kTables = "~jet_tables";
 constexpr std::string_view kRows = "~jet_rows";
 
-TableDef Numbers(std::string_view name, std::initializer_list<std::string_view> fields) {
-  TableDef table{std::string(name), {}, {}};
-  table.fields.reserve(fields.size());
-  for (const std::string_view field : fields) {
-    table.fields.emplace_back();
-    table.fields.back().name = field;
-  }
-  return table;
-}
-
 TableDef TablesLayout() {
-  TableDef table = Numbers(kTables, {"number", "name"});
-  table.fields.back().type = FieldType::text;
-  table.fields.back().size = 64;
-  return table;
+  return {std::string(kTables), {{"number", FieldType::integer32}, {"name", FieldType::text, 64}}, {}};
 }
 
 /// A table of its own, without a key: to note a row costs as little as can be.
-TableDef RowsLayout() { return Numbers(kRows, {"of_table", "of_row", "page", "slot"}); }
+TableDef RowsLayout() {
+  return {std::string(kRows),
+          {{"of_table", FieldType::integer32},
+           {"of_row", FieldType::integer32},
+           {"page", FieldType::integer32},
+           {"slot", FieldType::integer32}},
+          {}};
+}
 
 TableDef Made(Database& working_copy, TableDef table) {
   working_copy.CreateTable(table);

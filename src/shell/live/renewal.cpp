@@ -227,15 +227,17 @@ class Making {
   LongReading reading_;
 };
 
-/// True where the copy stands for the bytes that were read, and is noted as of now.
+/// True where the copy stands for the bytes that were read; how the file stands is noted anew.
 bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
   std::optional<Database> open = OpenIfCopy(copy, false);
   if (!open || !open->MayBeWritten()) return false;
   std::optional<SourceNote> note = ReadSourceNote(*open);
   if (!note->TellsBytesOf(original)) return false;
+  if (note->stamp == original.stamp.text && note->settled == original.settled) return true;
   note->stamp = original.stamp.text;
   note->settled = original.settled;
-  WriteSourceNote(*open, *note);
+  // Without the note the bytes are compared again next time.
+  PassOverFaults(FaultKind::locked, [&] { WriteSourceNote(*open, *note); });
   return true;
 }
 

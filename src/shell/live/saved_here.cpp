@@ -39,8 +39,10 @@ bool IsOfTallies(const TableDef& table) {
 
 /// The tables of saved tallies that a database has.
 std::vector<TableDef> ArchiveOf(Database& database) {
+  const std::vector<TableDef> all = ArchiveTables();
   std::vector<TableDef> tables;
-  for (const TableDef& known : ArchiveTables()) {
+  tables.reserve(all.size());
+  for (const TableDef& known : all) {
     auto table = database.FindTable(known.name);
     if (table != nullptr && IsOfTallies(*table)) tables.push_back(std::move(*table));
   }
@@ -84,14 +86,11 @@ Digests DigestsOf(Database& database) {
 }
 
 TableDef TalliesLayout() {
-  TableDef table{std::string(kTallies), {}, {}};
-  for (const auto& [name, size] : {std::pair{kDate, 8}, {kTime, 6}, {std::string_view("digest"), 64}}) {
-    table.fields.emplace_back();
-    table.fields.back().name = name;
-    table.fields.back().type = FieldType::text;
-    table.fields.back().size = size;
-  }
-  return table;
+  return {std::string(kTallies),
+          {{std::string(kDate), FieldType::text, 8},
+           {std::string(kTime), FieldType::text, 6},
+           {"digest", FieldType::text, 64}},
+          {}};
 }
 
 Digests NotedDigests(Database& working_copy) {

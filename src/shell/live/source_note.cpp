@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/live/source_note.h"
 
+#include <cstdlib>
 #include <unistd.h>
 
 #include <fmt/format.h>
@@ -19,21 +20,14 @@ constexpr std::string_view kSelect = "SELECT * FROM [~jet_source]";
 std::string CurrentVersion() { return std::to_string(jet::kImportVersion); }
 
 TableDef Layout() {
-  const auto text = [](std::string_view name, int size) {
-    FieldDef field;
-    field.name = name;
-    field.type = FieldType::text;
-    field.size = size;
-    return field;
-  };
-  FieldDef settled;
-  settled.name = "settled";
-  settled.type = FieldType::boolean;
-  FieldDef refused;
-  refused.name = "refused";
   return {std::string(kTable),
-          {text("version", 20), text("stamp", 255), settled, text("size", 20), text("digest", 64),
-           text("mark", 60), refused},
+          {{"version", FieldType::text, 20},
+           {"stamp", FieldType::text, 255},
+           {"settled", FieldType::boolean},
+           {"size", FieldType::text, 20},
+           {"digest", FieldType::text, 64},
+           {"mark", FieldType::text, 60},
+           {"refused", FieldType::integer32}},
           {}};
 }
 
@@ -75,7 +69,7 @@ std::optional<SourceNote> ReadSourceNote(Database& database) {
   return SourceNote{.version = text("version"),
                     .stamp = text("stamp"),
                     .settled = row.Int32(row.Field("settled")).value_or(0) != 0,
-                    .size = static_cast<std::int64_t>(std::strtoll(text("size").c_str(), nullptr, 10)),
+                    .size = std::strtoll(text("size").c_str(), nullptr, 10),
                     .digest = text("digest"),
                     .mark = text("mark"),
                     .refused = row.Int32(row.Field("refused")).value_or(0)};
