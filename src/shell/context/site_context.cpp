@@ -48,8 +48,6 @@ void RequireSite(Database& database, const fs::path& file) {
   }
 }
 
-bool IsWorkingCopy(Database& open, const fs::path& file) { return !MarkOfCopy(open, file).empty(); }
-
 }  // namespace
 
 SiteContextData SiteContext;
@@ -96,7 +94,7 @@ void OpenWorkDatabase() {
 bool SiteStandsOpen() { return StandsFor(*SiteContext.WorkDatabase, PathOfSite()); }
 
 bool SiteIsWorkingCopy() {
-  return SiteContext.WorkDatabase && IsWorkingCopy(*SiteContext.WorkDatabase, PathOfSite());
+  return SiteContext.WorkDatabase && SiteContext.WorkDatabase->File() != PathOfSite();
 }
 
 bool SiteIsAnotherCopy() {
@@ -118,7 +116,7 @@ void OpenMasterDatabase() {
 }
 
 bool MasterIsWorkingCopy() {
-  return SiteContext.MasterDatabase && IsWorkingCopy(*SiteContext.MasterDatabase, MapPath(kMasterDatabase));
+  return SiteContext.MasterDatabase && SiteContext.MasterDatabase->File() != MapPath(kMasterDatabase);
 }
 
 bool MasterIsOutdated() {

@@ -13,7 +13,6 @@
 #include "platform/system/message.h"
 #include "shell/live/renewal.h"
 #include "shell/live/saved_here.h"
-#include "shell/live/source_note.h"
 #include "shell/live/working_copy.h"
 #include "store/database_file.h"
 
@@ -31,11 +30,11 @@ Database OpenAs(const fs::path& file, bool for_reading) {
 /// system notes of it.
 std::optional<Database> OpenUpToDate(const fs::path& copy, const fs::path& file, bool for_reading,
                                      bool by_bytes) {
-  std::optional<Database> open = OpenIfCopy(copy, for_reading);
-  if (!open) return open;
-  const std::optional<SourceNote> note = ReadSourceNote(*open);
-  if (!note->Tells(StampOf(file)) && !(by_bytes && note->TellsBytesOf(file))) open.reset();
-  return open;
+  std::optional<OpenedCopy> opened = OpenIfCopy(copy, for_reading);
+  if (!opened) return std::nullopt;
+  const SourceNote& note = opened->note;
+  if (!note.Tells(StampOf(file)) && !(by_bytes && note.TellsBytesOf(file))) return std::nullopt;
+  return std::move(opened->database);
 }
 
 /// Something may have been saved in the one since the other was made.
@@ -66,7 +65,6 @@ Database OpenCopyOnlyReading(const fs::path& file, bool for_reading) {
 
 Database OpenCopy(const fs::path& file, bool for_reading) {
   const fs::path copy = ArchiveCopyOf(file);
-  if (auto open = OpenUpToDate(copy, file, for_reading, false)) return std::move(*open);
   const fs::path beside = WorkingCopyBeside(file);
   RenewWorkingCopy(file, copy, copy == beside ? WorkingCopyInCache(file) : beside);
   return OpenAs(copy, for_reading);
@@ -74,11 +72,11 @@ Database OpenCopy(const fs::path& file, bool for_reading) {
 
 /// What was saved while the file was read in place goes into what takes its place.
 void TakeOverSaved(const fs::path& file) {
-  std::optional<Database> copy = OpenIfCopy(ArchiveCopyOf(file), true);
+  std::optional<OpenedCopy> copy = OpenIfCopy(ArchiveCopyOf(file), true);
   if (!copy) return;
   Database store = Database::Open(file);
   Transaction transaction(store);
-  WriteSavedHere(store, ReadSavedHere(*copy));
+  WriteSavedHere(store, ReadSavedHere(copy->database));
   transaction.Commit();
 }
 
@@ -104,6 +102,10 @@ Database OpenInPlace(const fs::path& file, bool only_read, bool for_reading) {
 /// What kind of file it is the store looks at itself: to open beside it a file that it has open would lose
 /// its locks.
 Database Open(const fs::path& file, const LiveUse& use, bool for_reading) {
+  if (use.jet == JetChoice::read_in_place) {
+    // A copy that tells how the file stands tells that it is a Jet file, too.
+    if (auto open = OpenUpToDate(ArchiveCopyOf(file), file, for_reading, false)) return std::move(*open);
+  }
   try {
     return OpenAs(file, for_reading);
   } catch (const JetFileFault&) {

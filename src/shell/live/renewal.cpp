@@ -23,7 +23,6 @@
 #include "shell/live/copy_lock.h"
 #include "shell/live/origins.h"
 #include "shell/live/saved_here.h"
-#include "shell/live/source_note.h"
 #include "shell/live/working_copy.h"
 
 namespace rbt {
@@ -99,8 +98,8 @@ class OldCopy {
     const auto fault = PassOverFaultsIf(IsNotHeld, [&] {
       open_ = OpenIfCopy(copy, false);
       if (!open_) return;
-      KeepFromWriting();
-      saved = ReadSavedHere(*open_);
+      KeepFromWriting(open_->database);
+      saved = ReadSavedHere(open_->database);
     });
     if (!fault && saved) return saved;
     nobody_writes_.reset();
@@ -111,15 +110,15 @@ class OldCopy {
  private:
   static bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
 
-  void KeepFromWriting() {
-    if (open_->MayBeWritten()) {
-      nobody_writes_.emplace(*open_);
+  void KeepFromWriting(Database& database) {
+    if (database.MayBeWritten()) {
+      nobody_writes_.emplace(database);
     } else {
-      open_->Hold();
+      database.Hold();
     }
   }
 
-  std::optional<Database> open_;
+  std::optional<OpenedCopy> open_;
   std::optional<Transaction> nobody_writes_;
 };
 
@@ -229,21 +228,20 @@ class Making {
 
 /// True where the copy stands for the bytes that were read; how the file stands is noted anew.
 bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
-  std::optional<Database> open = OpenIfCopy(copy, false);
-  if (!open || !open->MayBeWritten()) return false;
-  std::optional<SourceNote> note = ReadSourceNote(*open);
-  if (!note->TellsBytesOf(original)) return false;
-  if (note->stamp == original.stamp.text && note->settled == original.settled) return true;
-  note->stamp = original.stamp.text;
-  note->settled = original.settled;
+  std::optional<OpenedCopy> opened = OpenIfCopy(copy, false);
+  if (!opened || !opened->database.MayBeWritten() || !opened->note.TellsBytesOf(original)) return false;
+  SourceNote& note = opened->note;
+  if (note.stamp == original.stamp.text && note.settled == original.settled) return true;
+  note.stamp = original.stamp.text;
+  note.settled = original.settled;
   // Without the note the bytes are compared again next time.
-  PassOverFaults(FaultKind::locked, [&] { WriteSourceNote(*open, *note); });
+  PassOverFaults(FaultKind::locked, [&] { WriteSourceNote(opened->database, note); });
   return true;
 }
 
 bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy) {
-  std::optional<Database> open = OpenIfCopy(copy, true);
-  return open && ReadSourceNote(*open)->Tells(StampOf(jet_file));
+  const std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
+  return opened && opened->note.Tells(StampOf(jet_file));
 }
 
 /// A file that was written a moment ago may be in the midst of being written: then it looks damaged.

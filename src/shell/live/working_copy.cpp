@@ -2,8 +2,7 @@
 #include "shell/live/working_copy.h"
 
 #include <system_error>
-
-#include <fmt/format.h>
+#include <utility>
 
 #include "platform/fault.h"
 #include "platform/files/file_sync.h"
@@ -12,7 +11,6 @@
 #include "platform/pass_over_faults.h"
 #include "platform/system/paths.h"
 #include "shell/live/saved_here.h"
-#include "shell/live/source_note.h"
 
 namespace rbt {
 
@@ -33,10 +31,11 @@ fs::path WholePath(const fs::path& file) {
   return error ? fs::absolute(file) : whole;
 }
 
-CopyState StateOf(const std::optional<SourceNote>& note, const fs::path& jet_file) {
-  if (!note) return CopyState::foreign;
-  return note->Tells(StampOf(jet_file)) || note->TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
+CopyState StateOf(const SourceNote& note, const fs::path& jet_file) {
+  return note.Tells(StampOf(jet_file)) || note.TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
 }
+
+bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
 
 }  // namespace
 
@@ -52,16 +51,15 @@ fs::path ArchiveCopyOf(const fs::path& file) {
   return TakesFiles(FolderOf(file)) ? WorkingCopyBeside(file) : WorkingCopyInCache(file);
 }
 
-std::optional<Database> OpenIfCopy(const fs::path& copy, bool for_reading) {
-  std::optional<Database> open;
-  if (!IsTaken(copy)) return open;
-  const auto is_not_held = [](const Fault& fault) { return fault.Kind() != FaultKind::locked; };
-  const auto fault = PassOverFaultsIf(is_not_held, [&] {
-    open = for_reading ? Database::OpenReadOnly(copy) : Database::Open(copy);
-    if (!ReadSourceNote(*open)) open.reset();
+std::optional<OpenedCopy> OpenIfCopy(const fs::path& copy, bool for_reading) {
+  std::optional<OpenedCopy> opened;
+  if (!IsTaken(copy)) return opened;
+  PassOverFaultsIf(IsNotHeld, [&] {
+    Database database = for_reading ? Database::OpenReadOnly(copy) : Database::Open(copy);
+    std::optional<SourceNote> note = ReadSourceNote(database);
+    if (note) opened.emplace(std::move(database), std::move(*note));
   });
-  if (fault) open.reset();
-  return open;
+  return opened;
 }
 
 CopyLook LookAtWorkingCopy(const fs::path& jet_file) {
@@ -69,14 +67,12 @@ CopyLook LookAtWorkingCopy(const fs::path& jet_file) {
   look.copy = ArchiveCopyOf(jet_file);
   if (!IsTaken(look.copy)) return look;
   look.state = CopyState::foreign;
-  std::optional<Database> open = OpenIfCopy(look.copy, true);
-  if (!open) return look;
-  const auto is_not_held = [](const Fault& fault) { return fault.Kind() != FaultKind::locked; };
-  PassOverFaultsIf(is_not_held, [&] {
-    const std::optional<SourceNote> note = ReadSourceNote(*open);
-    look.saved_tallies = CountSavedHere(*open);
-    look.refused_rows = note ? note->refused : 0;
-    look.state = StateOf(note, jet_file);
+  std::optional<OpenedCopy> opened = OpenIfCopy(look.copy, true);
+  if (!opened) return look;
+  PassOverFaultsIf(IsNotHeld, [&] {
+    look.saved_tallies = CountSavedHere(opened->database);
+    look.refused_rows = opened->note.refused;
+    look.state = StateOf(opened->note, jet_file);
   });
   return look;
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "shell/live/source_note.h"
 #include "store/database.h"
 
 namespace rbt {
@@ -19,9 +20,14 @@ std::filesystem::path WorkingCopyInCache(const std::filesystem::path& file);
 /// That of both which keeps what this user saves: the one beside the file where the folder takes files.
 std::filesystem::path ArchiveCopyOf(const std::filesystem::path& file);
 
-/// A database that stands under a working copy's name, opened; nothing where there is none, or where it
-/// cannot be read as one. Throws `locked`.
-std::optional<Database> OpenIfCopy(const std::filesystem::path& copy, bool for_reading);
+/// A working copy, opened, and what it notes of its Jet file.
+struct OpenedCopy {
+  Database database;
+  SourceNote note;
+};
+/// What stands under a working copy's name; nothing where there is none, or where it cannot be read as one.
+/// Throws `locked`.
+std::optional<OpenedCopy> OpenIfCopy(const std::filesystem::path& copy, bool for_reading);
 
 /// How the working copy of a Jet file stands.
 enum class CopyState {
