@@ -27,6 +27,7 @@
 #include "screens/menu/jsmenu.h"
 #include "screens/names/names_forms.h"
 #include "screens/names/touroku.h"
+#include "screens/panels/reading_notice.h"
 #include "session/menu/captions.h"
 #include "session/names/name_work.h"
 
@@ -76,6 +77,7 @@ void SetUpServices() {
   Services.LockPatience = kLockPatience;
   Services.WaitOn = AskToWaitOn;
   Services.OnWait = NoteWaits();
+  Services.OnLongReading = ShowLongReadings();
   Services.ProgramFolder = QCoreApplication::applicationDirPath().toStdString();
   Services.Colours = AskColour;
   Services.PendingEvents = ProcessEventsWithoutInput;

@@ -25,7 +25,7 @@
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
-#include "session/startup/offer_import.h"
+#include "session/startup/jet_files.h"
 #include "session/startup/sibling_programs.h"
 #include "shell/calendar/new_era_function.h"
 #include "shell/context/fixed_stock.h"
@@ -36,6 +36,8 @@
 namespace rbt {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 /// The program that reads newer sites is looked for under one name and started under another.
 constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
@@ -49,9 +51,9 @@ void Step(Action action) {
   RunPendingEvents();
 }
 
-void OfferSharedImports() {
-  OfferImports({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
-                "\\RBK\\DATA\\JSyukeiORG.mdb"});
+void SettleSharedJetFiles() {
+  SettleJetFiles({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb",
+                  "\\RBK\\DATA\\MTTeijyaku_ORG.mdb", "\\RBK\\DATA\\JSyukeiORG.mdb"});
 }
 
 void OpenFixedStock() {
@@ -78,7 +80,7 @@ void BindSite(const StartOptions& options) {
   }
   SelectSite(name);
   if (!options.command_line) {
-    OfferImports({SiteContext.SiteFolder + SiteContext.SelectedDbName, CompanionDatabasePath()});
+    SettleJetFiles({SiteContext.SiteFolder + SiteContext.SelectedDbName, CompanionDatabasePath()});
     // By now this user may have come to another right to it.
     SiteContext.WorkDatabase.reset();
   }
@@ -109,6 +111,12 @@ void TellWhatIsOnlyRead(const StartOptions& options) {
                   "集計と印字はできますが、保存や設定の変更はできません。\n\n{}",
                   fmt::join(files, "\n")));
   SiteContext.ToldOfCopy = true;
+}
+
+fs::path SiteFile() { return MapPath("\\RBK\\DATA\\" + SiteContext.SelectedDbName); }
+
+void TellHowItIsRead(const StartOptions& options) {
+  if (!options.command_line) TellOfReadingInPlace(SiteFile());
 }
 
 void TellUnreadable(const UnreadableSettings& places) {
@@ -203,10 +211,11 @@ MenuState DescribeMenu(const StartOptions& options) {
   return state;
 }
 
-/// Number and name of the bound site, "001　試験工事".
+/// Number and name of the bound site, "001　試験工事", and whether its file is only read.
 std::string SiteLabel() {
   const SiteHead head = ReadSiteHead(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
-  return fmt::format("{:03}　{}", head.number, head.name);
+  const bool in_place = IsWorkingCopy(*SiteContext.WorkDatabase, SiteFile());
+  return fmt::format("{:03}　{}{}", head.number, head.name, in_place ? "　（Jet 形式・読むだけ）" : "");
 }
 
 void ForgetHoops() {
@@ -273,10 +282,11 @@ LoadResult LoadSite(const StartOptions& options) {
   Step([&] { note(LoadGridColours()); });
   Selection.StartMode = options.start_mode;
   Step([&] { note(LoadTallySettings(registry)); });
-  if (!options.command_line) Step(OfferSharedImports);
+  if (!options.command_line) Step(SettleSharedJetFiles);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
   TellWhatIsOnlyRead(options);
+  TellHowItIsRead(options);
   if (!ReadySite(options)) {
     result.hand_over_to = kNewerProgram;
     return result;
@@ -299,6 +309,7 @@ bool FollowSelectedSite(const StartOptions& options) {
   if (!site.IsNew() && !HaveJetFilesChanged()) return true;
   if (!ReadySite(options)) return false;
   Step(ProbeShapes);
+  TellHowItIsRead(options);
   site.NoteReady();
   return true;
 }

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <map>
 #include <string>
+
+#include "shell/live/live_database.h"
 
 namespace rbt {
 
@@ -23,6 +27,8 @@ struct RunStateData {
   bool FaultEndsProgram = false;    ///< load or activation runs: its fault ends the program
   bool HasWaited = false;           ///< the running action has waited for a file that another program held
   bool GaveUpWaiting = false;       ///< ... and the user has given that up: what becomes of it is known
+  /// What was chosen in this run for the real Jet files of a folder.
+  std::map<std::filesystem::path, JetChoice> JetChoices;
 };
 
 extern RunStateData RunState;
