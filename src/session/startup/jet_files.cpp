@@ -15,6 +15,7 @@
 #include "platform/system/message.h"
 #include "shell/context/run_state.h"
 #include "shell/live/jet_folder.h"
+#include "shell/live/live_database.h"
 
 namespace rbt {
 
@@ -55,14 +56,6 @@ JetChoice ChoiceFor(const fs::path& file) {
   return choice;
 }
 
-void TellWhatIsMissing(const jet::ImportReport& report) {
-  if (report.Refused() == 0 && report.warnings.empty()) return;
-  MsgBox(fmt::format("{}：取り込めなかった行 {} 行、注意 {} 件\n\n詳しくは {} を見て下さい。",
-                     NameOf(report.target), report.Refused(), report.warnings.size(),
-                     jet::ReportFile(report.target).string()),
-         kTitle);
-}
-
 /// Whoever chose in an earlier run need not think of it now.
 void TellWhatWasTaken(const fs::path& file) {
   if (RunState.JetChoices.contains(FolderOf(file))) return;
@@ -73,9 +66,8 @@ void TellWhatWasTaken(const fs::path& file) {
 
 void TakeOver(const fs::path& file) {
   const auto fault = PassOverFaults(FaultKind::file, [&] {
-    const jet::ImportReport report = jet::ImportJetFileInPlace(file);
+    OpenLive(file, {.jet = JetChoice::import});
     TellWhatWasTaken(file);
-    TellWhatIsMissing(report);
   });
   if (!fault) return;
   MsgBox(fmt::format("{} を取り込めなかったので、今回は元のファイルをそのまま読みます。\n\n{}", NameOf(file),

@@ -37,8 +37,6 @@ namespace rbt {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 /// The program that reads newer sites is looked for under one name and started under another.
 constexpr std::string_view kNewerProgramMark = "C:\\RBK\\DATA\\rbtallyS.exe";
 constexpr std::string_view kNewerProgram = "\\rbk\\rbtally1S.exe";
@@ -52,8 +50,8 @@ void Step(Action action) {
 }
 
 void SettleSharedJetFiles() {
-  SettleJetFiles({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb",
-                  "\\RBK\\DATA\\MTTeijyaku_ORG.mdb", "\\RBK\\DATA\\JSyukeiORG.mdb"});
+  SettleJetFiles({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
+                  "\\RBK\\DATA\\JSyukeiORG.mdb"});
 }
 
 void OpenFixedStock() {
@@ -113,10 +111,8 @@ void TellWhatIsOnlyRead(const StartOptions& options) {
   SiteContext.ToldOfCopy = true;
 }
 
-fs::path SiteFile() { return MapPath("\\RBK\\DATA\\" + SiteContext.SelectedDbName); }
-
 void TellHowItIsRead(const StartOptions& options) {
-  if (!options.command_line) TellOfReadingInPlace(SiteFile());
+  if (!options.command_line) TellOfReadingInPlace(PathOfSite());
 }
 
 void TellUnreadable(const UnreadableSettings& places) {
@@ -214,8 +210,8 @@ MenuState DescribeMenu(const StartOptions& options) {
 /// Number and name of the bound site, "001　試験工事", and whether its file is only read.
 std::string SiteLabel() {
   const SiteHead head = ReadSiteHead(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
-  const bool in_place = IsWorkingCopy(*SiteContext.WorkDatabase, SiteFile());
-  return fmt::format("{:03}　{}{}", head.number, head.name, in_place ? "　（Jet 形式・読むだけ）" : "");
+  return fmt::format("{:03}　{}{}", head.number, head.name,
+                     SiteIsWorkingCopy() ? "　（Jet 形式・読むだけ）" : "");
 }
 
 void ForgetHoops() {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Starts on real Jet files that are read where they are: what was interrupted, what has no room or no rights, and
-// what other programs change meanwhile.
+// Starts on real Jet files that are read where they are: what was interrupted, what has no room or no rights,
+// and what other programs change meanwhile.
 #include <algorithm>
 #include <map>
 #include <string>
@@ -34,7 +34,8 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* kDatabases[] = {kScheduleFile, kCompanionFile, kMasterFile, kFixedStockFile, kTemplateFile};
+constexpr const char* kDatabases[] = {kScheduleFile, kCompanionFile, kMasterFile, kFixedStockFile,
+                                      kTemplateFile};
 
 /// A site of real Jet files throughout; its schedule has one row of six D19 whose form is found by a start.
 class LiveSite : public ::testing::Test {
