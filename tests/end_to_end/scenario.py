@@ -190,7 +190,7 @@ class World:
         for path in sorted((self.root / "DATA").iterdir()):
             if path.suffix.lower() == ".mdb":
                 subprocess.run([self.program.parent / "store_to_jet", version, path, folder / path.name], check=True)
-            else:
+            elif path.is_file():
                 shutil.copy(path, folder)
 
     def hold(self, words):

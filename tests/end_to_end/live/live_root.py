@@ -161,8 +161,9 @@ def is_ours(name):
 
 def changes(before, after):
     """What became of the files of others, and what came to stand beside them that is not ours."""
-    told = [f"{name} is gone" for name in before if name not in after]
-    told += [f"{name} is another" for name in before if name in after and before[name] != after[name]]
+    theirs = [name for name in before if not is_ours(name)]
+    told = [f"{name} is gone" for name in theirs if name not in after]
+    told += [f"{name} is another" for name in theirs if name in after and before[name] != after[name]]
     return told + [f"{name} is new" for name in after if name not in before and not is_ours(name)]
 
 
