@@ -87,7 +87,7 @@ void TellOfReadingInPlace(const fs::path& site) {
   if (!jet::IsJetFile(site) || WasToldOfReading(site)) return;
   MsgBox(fmt::format("「{}」は元のままの Jet 形式なので、読むだけにします。\n"
                      "集計と印字には元のファイルの今の内容を使い、元のファイルには何も書き込みません。\n\n"
-                     "保存した集計は、このプログラムの中にだけ残ります。",
+                     "保存した集計は、このプログラムの中にだけ残り、ほかのプログラムからは見えません。",
                      NameOf(site)),
          kReadingTitle);
   NoteToldOfReading(site);

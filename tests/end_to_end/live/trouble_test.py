@@ -263,11 +263,6 @@ class Damage(LiveSite):
         self.assertEqual(done.json(), self.right())
 
 
-class Notice(LiveSite):
-    def test_a_short_import_is_not_told_of(self):
-        self.assertEqual(self.live.run("tally", "bulk").errors, "")
-
-
 if __name__ == "__main__":
     PROGRAM = sys.argv.pop(1)
     unittest.main()

@@ -13,6 +13,7 @@
 #include "shell/context/site_context.h"
 #include "shell/live/jet_folder.h"
 #include "support/child_process.h"
+#include "support/fault_of.h"
 #include "support/jet_site.h"
 #include "support/looking_only.h"
 #include "support/sample.h"
@@ -185,6 +186,16 @@ TEST_F(JetFiles, TheCommandLineIsAskedNothing) {
   EXPECT_TRUE(IsJet(kScheduleFile));
 }
 
+TEST_F(JetFiles, TheCommandLineThatRefusesThemNamesTheCommandThatTakesThemOver) {
+  MakeJet(kScheduleFile);
+  StartOptions options;
+  options.command_line = true;
+  options.jet = JetChoice::refuse;
+  EXPECT_THAT(FaultTextOf([&] { LoadSite(options); }), HasSubstr("to take it over: rbtally import "));
+  EXPECT_THAT(site_.Messages(), IsEmpty());
+  EXPECT_TRUE(IsJet(kScheduleFile));
+}
+
 TEST_F(JetFiles, KilledAtAnyMomentOfTheImportTheNextStartWorks) {
   site_.AddRow({{"太さ", Value{std::int64_t{19}}}});
   MakeJet(kScheduleFile);
@@ -225,7 +236,7 @@ TEST_F(ReadingInPlace, IsToldOnceForEachSite) {
   EXPECT_EQ(site_.Messages()[0].buttons, MessageButtons::ok);
   EXPECT_THAT(site_.Messages()[0].text,
               AllOf(HasSubstr("「GENBA001.MDB」は元のままの Jet 形式なので、読むだけにします。"),
-                    HasSubstr("保存した集計は、このプログラムの中にだけ残ります。")));
+                    HasSubstr("保存した集計は、このプログラムの中にだけ残り、")));
   ActivateMenu({});
   EndRun();
   LoadSite({});
