@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QWidget>
 
+#include "desktop/form.h"
 #include "screens/panels/busy_notice.h"
 
 namespace rbt {
@@ -44,6 +45,7 @@ LongReadingHook ShowLongReadings() {
     if (auto* start = dynamic_cast<BusyNotice*>(window)) {
       start->Tell(WordsFor(file));
       start->adjustSize();
+      Center_Form(*start);
       start->repaint();
     } else {
       ShowIn(*window, WordsFor(file));
