@@ -312,7 +312,8 @@ bool FollowSelectedSite(const StartOptions& options) {
 
 void FollowReadableSite(const StartOptions& options) {
   if (FollowSelectedSite(options)) return;
-  throw FileFaultText(PathOfSite(), "needs the newer program");
+  // It is bound no more.
+  throw FileFaultText(FileOfSite(ChosenSite(options)), "needs the newer program");
 }
 
 MenuState ActivateMenu(const StartOptions& options) {

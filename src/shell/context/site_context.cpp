@@ -73,6 +73,11 @@ std::string SelectedSite() {
                                                : SiteContext.SiteFolder + SiteContext.SelectedDbName;
 }
 
+fs::path FileOfSite(std::string_view site) {
+  const std::string_view folder = site.starts_with('\\') ? std::string_view() : kDataFolder;
+  return MapPath(fmt::format("{}{}", folder, site));
+}
+
 fs::path PathOfSite() { return MapPath(SiteContext.SiteFolder + SiteContext.SelectedDbName); }
 
 LiveUse UseOfSite() { return {.jet = SiteContext.JetFiles, .only_read = SiteContext.OnlyRead}; }

@@ -55,7 +55,8 @@ std::string SiteNumberOf(std::string_view file_name);
 void SelectSite(std::string_view site);
 /// The bound site as `SelectSite` takes it.
 std::string SelectedSite();
-/// The file of the bound site.
+/// The file of a site as `SelectSite` takes it, and of the bound one.
+std::filesystem::path FileOfSite(std::string_view site);
 std::filesystem::path PathOfSite();
 /// How the databases of the bound site are opened.
 LiveUse UseOfSite();
