@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -231,7 +232,7 @@ TEST_F(LiveSite, WithASystemCallThatFailsIsAFaultOrRightAndStartsRightTheNextTim
 }
 
 TEST_F(LiveSite, WithoutRoomIsAFaultThatNamesTheOriginal) {
-  for (const std::uint64_t room : {4096, 40000}) {
+  for (const std::uint64_t room : {std::uint64_t{4096}, std::uint64_t{40000}}) {
     EXPECT_TRUE(WithFilesOfAtMost(room, [] {
       EXPECT_THAT(FaultTextOf([] { Tally(); }), AllOf(HasSubstr(".MDB"), HasSubstr("the working copy of")));
     })) << room;
