@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
+#include <thread>
+#include <vector>
 
 #include "work.h"
 
@@ -66,6 +68,73 @@ Work Import(const Program& program) {
           .run = [command] { return CostOf({command}); },
           .counted = command};
 }
+
+/// The site once more, its databases real Jet files that are read where they are.
+class JetRoot {
+ public:
+  explicit JetRoot(const DemoSite& site) : site_(site), root_(site.Root().string() + "-jet") {}
+
+  const std::filesystem::path& Path() const { return root_; }
+  void Make() const {
+    if (std::filesystem::exists(root_)) return;
+    std::filesystem::create_directories(Data());
+    for (const auto& entry : std::filesystem::directory_iterator(site_.Root() / "DATA")) {
+      const std::filesystem::path target = Data() / entry.path().filename();
+      const std::string kind = entry.path().extension().string();
+      if (kind == ".MDB" || kind == ".mdb") {
+        CostOf({Command{RBTALLY_STORE_TO_JET, "4", entry.path(), target}});
+      } else {
+        std::filesystem::copy_file(entry.path(), target);
+      }
+    }
+  }
+  /// As it stands before the program has met it.
+  void Forget() const {
+    std::vector<std::filesystem::path> copies;
+    for (const auto& entry : std::filesystem::directory_iterator(Data())) {
+      if (entry.path().filename().string().find(".work") != std::string::npos) copies.push_back(entry.path());
+    }
+    for (const std::filesystem::path& copy : copies) std::filesystem::remove(copy);
+  }
+
+ private:
+  std::filesystem::path Data() const { return root_ / "DATA"; }
+
+  DemoSite site_;
+  std::filesystem::path root_;
+};
+
+Command BulkTally(const Program& program, const JetRoot& root) {
+  return {program.file, "tally", "bulk", "--root", root.Path().string()};
+}
+
+/// From the first sight of the files to the figures.
+Work FirstReadingInPlace(const Program& program) {
+  const JetRoot root(program.site);
+  const Command command = BulkTally(program, root);
+  return {.name = "Jet site in place, first, cold",
+          .begin = [root] { root.Make(); },
+          .ready = [root] { root.Forget(); },
+          .run = [command] { return CostOf({command}); },
+          .counted = command};
+}
+
+Work LaterReadingInPlace(const Program& program) {
+  const JetRoot root(program.site);
+  const Command command = BulkTally(program, root);
+  return {.name = "Jet site in place, later, cold",
+          .begin =
+              [root, command] {
+                root.Make();
+                CostOf({command});
+                // What is known of a file that was just written is looked at once more.
+                std::this_thread::sleep_for(DemoSite::kSettlingTime);
+                CostOf({command});
+                CostOf({command});
+              },
+          .run = [command] { return CostOf({command}); },
+          .counted = command};
+}
 #endif
 
 }  // namespace
@@ -89,7 +158,11 @@ std::vector<Work> ColdWorks(const DemoSite& site, const std::string& program_fil
 #ifdef RBTALLY_STORE_TO_JET
   // The writer of the tests, which makes the file, is no fast one.
   constexpr std::int64_t kMostRows = 100'000;
-  if (site.Rows() <= kMostRows) works.push_back(Import(program));
+  if (site.Rows() <= kMostRows) {
+    works.push_back(Import(program));
+    works.push_back(FirstReadingInPlace(program));
+    works.push_back(LaterReadingInPlace(program));
+  }
 #endif
   return works;
 }

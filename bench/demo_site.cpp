@@ -42,7 +42,6 @@ void DemoSite::MakeFresh() const {
 }
 
 void DemoSite::AwaitSettled() const {
-  constexpr std::chrono::milliseconds kSettlingTime{2'500};
   std::this_thread::sleep_until(fs::last_write_time(Schedule()) + kSettlingTime);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 
@@ -9,6 +10,9 @@ namespace rbt::bench {
 /// A demonstration root with one site of so many rows, below a folder that goes with the program.
 class DemoSite {
  public:
+  /// How old a file's time is when it tells for sure that nobody has changed the file since.
+  static constexpr std::chrono::milliseconds kSettlingTime{2'500};
+
   /// Makes it, its schedule as the programs that enter one leave it.
   explicit DemoSite(std::int64_t rows);
 

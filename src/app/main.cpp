@@ -27,6 +27,7 @@
 #include "screens/menu/jsmenu.h"
 #include "screens/names/names_forms.h"
 #include "screens/names/touroku.h"
+#include "screens/panels/reading_notice.h"
 #include "session/menu/captions.h"
 #include "session/names/name_work.h"
 
@@ -77,6 +78,7 @@ void SetUpServices() {
   Services.WaitOn = AskToWaitOn;
   Services.OnWait = NoteWaits();
   Services.OnWork = ShowWork();
+  Services.OnLongReading = ShowLongReadings();
   Services.ProgramFolder = QCoreApplication::applicationDirPath().toStdString();
   Services.Colours = AskColour;
   Services.PendingEvents = ProcessEventsOfWork;

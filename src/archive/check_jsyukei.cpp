@@ -15,6 +15,7 @@
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
+#include "shell/live/live_database.h"
 
 namespace rbt {
 
@@ -101,7 +102,7 @@ std::unique_ptr<Database> OpenTemplate() {
     MsgBox(kNoTemplateText, kNoTemplateTitle);
     return nullptr;
   }
-  return std::make_unique<Database>(Database::OpenReadOnly(MapPath(kTemplate)));
+  return std::make_unique<Database>(OpenLiveForReading(MapPath(kTemplate), UseOfSite()));
 }
 
 /// True where the site's tables are those of the template to the word: most have been brought up to it

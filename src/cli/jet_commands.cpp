@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Real Jet files: import, check, dump.
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -18,6 +20,7 @@
 #include "platform/text/cp932.h"
 #include "platform/text/csv.h"
 #include "shell/import/import_folder.h"
+#include "shell/live/working_copy.h"
 
 namespace rbt {
 
@@ -59,6 +62,30 @@ void Import(const fs::path& source, const fs::path& target, jet::OnDamage on_dam
   TellWhatIsMissing(report);
 }
 
+constexpr std::pair<CopyState, std::string_view> kStates[] = {
+    {CopyState::missing, "is not there yet and would be made"},
+    {CopyState::fresh, "is up to date"},
+    {CopyState::stale, "would be made anew: the Jet file has changed, or another version made it"},
+    {CopyState::foreign, "cannot be used: it would be set aside and made anew"},
+};
+
+/// What a session would do with the file.
+std::string TextOfSession(const fs::path& file, bool is_damaged) {
+  if (is_damaged) return "session: would not read it in place: it is damaged\n";
+  const CopyLook look = LookAtWorkingCopy(file);
+  const auto* const state =
+      std::ranges::find(kStates, look.state, &std::pair<CopyState, std::string_view>::first);
+  std::string text = "session: would read it in place\n";
+  text += fmt::format("session: its working copy {} {}\n", look.copy.string(), state->second);
+  if (look.saved_tallies > 0) {
+    text += fmt::format("session: tallies that are saved there alone: {}\n", look.saved_tallies);
+  }
+  if (look.refused_rows > 0) {
+    text += fmt::format("session: rows that it could not take, missing in tallies: {}\n", look.refused_rows);
+  }
+  return text;
+}
+
 void Check(const std::string& name) {
   const auto file = jet::JetFile::Open(name);
   jet::CheckReport report = jet::CheckFile(*file);
@@ -67,6 +94,8 @@ void Check(const std::string& name) {
   for (const std::string& line : report.lines) text += line + "\n";
   for (const std::string& warning : report.warnings) text += "warning: " + warning + "\n";
   for (const std::string& damage : report.damages) text += "damage: " + damage + "\n";
+  // Damage that lies in no table of the user is in nobody's way.
+  text += TextOfSession(name, !report.damages.empty() && !jet::DamageOfTables(*file).empty());
   WriteResult(text);
   if (!report.damages.empty()) {
     throw Fault(FaultKind::file, fmt::format("{}: {} damages found", name, report.damages.size()));

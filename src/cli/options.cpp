@@ -76,9 +76,16 @@ bool TakePercent(const std::string& text, double& percent) {
 void AddCommonOptions(CommandLine& line, CommonOptions& options) {
   line.RootOption();
   line.WaitOption();
-  line.TextOption("--site", "FILE", options.site, "schedule file name in place of the site STEEL.INI names");
+  line.TextOption(
+      "--site", "FILE", options.site,
+      "schedule file in place of the site STEEL.INI names: its name in DATA, or its path below the "
+      "root");
   line.NumberOption("--start-mode", "N", options.start_mode, "start mode of the calling program");
   line.Flag("--no-prepare", options.no_prepare, "write nothing of the site: classify a private copy");
+  line.WordOption(
+      "--jet", "", options.jet, {"read", "import", "refuse"},
+      "real Jet files: read them where they are and never write them, import them in their place, "
+      "or refuse them");
 }
 
 void AddSelectionOptions(CommandLine& line, SelectionOptions& options) {

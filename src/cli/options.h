@@ -18,9 +18,10 @@ class CommandLine;
 
 /// The options that every command on a site takes beside `--root`.
 struct CommonOptions {
-  std::string site;  ///< schedule file in place of 選択ＤＢ名; empty: as STEEL.INI says
+  std::string site;  ///< schedule file in place of 選択ＤＢ名, see `SiteOfOption`; empty: as STEEL.INI says
   std::int32_t start_mode = kNoStartMode;
-  bool no_prepare = false;  ///< leave the schedule as it stands
+  bool no_prepare = false;   ///< leave the schedule as it stands
+  std::string jet = "read";  ///< "read", "import" or "refuse": what becomes of real Jet files
 };
 
 /// The filters of a tally.

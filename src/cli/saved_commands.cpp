@@ -92,7 +92,7 @@ std::string ListCsv(const std::vector<SavedTally>& list) {
 
 void RunList(const SavedOptions& options) {
   OpenSiteOf(options);
-  const SiteFile site;
+  const SiteFile site(ArchiveUse::reads);
   const std::vector<SavedTally> list =
       options.kind.empty() ? AllSavedTallies(*site, Has13m()) : ListOfWord(options.kind);
   if (options.format == "json") return WriteResult(ListJson(list));

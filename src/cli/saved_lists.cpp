@@ -23,7 +23,7 @@ std::vector<std::string> SavedWords() {
 bool Has13m() { return Settings.Use13mColumn == 1; }
 
 std::vector<SavedTally> ListOfKind(TallyKind kind) {
-  const SiteFile site;
+  const SiteFile site(ArchiveUse::reads);
   return SavedTallies(*site, kind, Has13m());
 }
 
@@ -47,7 +47,7 @@ LoadedTally LoadNamed(const std::string& word, const std::string& name) {
   SiteContext.WorkDatabase->LetGo();  // what else there is to do keeps nobody waiting
   const std::vector<SavedTally> list = ListOfWord(word);
   const SavedTally& saved = RequireSaved(list, name);
-  const SiteFile site;
+  const SiteFile site(ArchiveUse::reads);
   LoadedTally loaded = LoadTally(*site, saved, Has13m());
   if (!loaded.has_rows) throw Fault(FaultKind::database, "データがありません");
   return loaded;

@@ -19,13 +19,18 @@ using Clock = std::chrono::steady_clock;
 /// How long a picture of the windows stands while the program waits.
 constexpr std::chrono::milliseconds kPaintedFor{200};
 
+/// As the user knows it: the working copy of a file that stays as it is bears that file's name.
+std::string NameOf(const std::filesystem::path& file) {
+  return (file.extension() == ".work" ? file.stem() : file.filename()).string();
+}
+
 }  // namespace
 
 bool AskToWaitOn(const std::filesystem::path& file) {
   ProcessEventsWithoutInput();
   const bool ends = RunState.FaultEndsProgram;
   const std::string text =
-      "「" + file.filename().string() +
+      "「" + NameOf(file) +
       "」は、ほかのプログラムが使用しています。\n使用が終わるのを待つときは「再試行」、" +
       (ends ? "このプログラムを終わるときは「終了」" : "この操作をやめるときは「中止」") + "を押して下さい。";
   const MessageButtons buttons = ends ? MessageButtons::retry_exit : MessageButtons::retry_abort;

@@ -32,6 +32,9 @@ constexpr Answer kCancel{MessageAnswer::cancel, QMessageBox::RejectRole, "キャ
 constexpr Answer kYes{MessageAnswer::yes, QMessageBox::YesRole, "はい(&Y)"};
 constexpr Answer kNo{MessageAnswer::no, QMessageBox::NoRole, "いいえ(&N)"};
 
+constexpr Answer kImport{MessageAnswer::yes, QMessageBox::YesRole, "取り込む(&I)"};
+constexpr Answer kRead{MessageAnswer::no, QMessageBox::NoRole, "そのまま読む(&R)"};
+
 constexpr Answer kRetry{MessageAnswer::retry, QMessageBox::AcceptRole, "再試行(&R)"};
 constexpr Answer kAbort{MessageAnswer::cancel, QMessageBox::RejectRole, "中止"};
 constexpr Answer kExit{MessageAnswer::cancel, QMessageBox::RejectRole, "終了"};
@@ -40,6 +43,7 @@ constexpr std::array kOkOnly{kOk};
 constexpr std::array kOkCancel{kOk, kCancel};
 constexpr std::array kYesNo{kYes, kNo};
 constexpr std::array kYesNoCancel{kYes, kNo, kCancel};
+constexpr std::array kImportRead{kImport, kRead};
 constexpr std::array kRetryAbort{kRetry, kAbort};
 constexpr std::array kRetryExit{kRetry, kExit};
 
@@ -53,6 +57,8 @@ std::span<const Answer> Answers(MessageButtons buttons) {
       return kYesNo;
     case MessageButtons::yes_no_cancel:
       return kYesNoCancel;
+    case MessageButtons::import_or_read:
+      return kImportRead;
     case MessageButtons::retry_abort:
       return kRetryAbort;
     case MessageButtons::retry_exit:
@@ -76,9 +82,15 @@ QMessageBox::Icon Sign(MessageButtons buttons) {
     case MessageButtons::yes_no:
     case MessageButtons::yes_no_default_no:
     case MessageButtons::yes_no_cancel:
+    case MessageButtons::import_or_read:
       break;
   }
   return QMessageBox::Question;
+}
+
+/// The last answer is the default in place of the first.
+bool CautionIsDefault(MessageButtons buttons) {
+  return buttons == MessageButtons::yes_no_default_no || buttons == MessageButtons::import_or_read;
 }
 
 QString PlainText(std::string_view text) {
@@ -111,7 +123,7 @@ MessageAnswer ShowMessage(std::string_view text, std::string_view title, Message
   for (const Answer& answer : answers) {
     QPushButton* button = box.addButton(QString::fromUtf8(answer.caption), answer.role);
     button->setObjectName(QString::fromUtf8(answer.caption));
-    if (cautious == nullptr || buttons == MessageButtons::yes_no_default_no) box.setDefaultButton(button);
+    if (cautious == nullptr || CautionIsDefault(buttons)) box.setDefaultButton(button);
     cautious = button;
   }
   box.setEscapeButton(cautious);

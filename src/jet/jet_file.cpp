@@ -246,6 +246,10 @@ void JetFile::ReadPage(std::uint32_t number, unsigned char* to) {
 PageView JetFile::Page(std::uint32_t number) {
   if (number >= page_count_)
     Damaged(number, fmt::format("is not in the file, which has {} pages", page_count_));
+  if (handle_ == nullptr) {
+    const std::size_t size = layout_->page_size;
+    return {std::span(memory_).subspan(number * size, size), &name_, number};
+  }
   auto found = cache_.find(number);
   if (found != cache_.end()) {
     ages_.splice(ages_.end(), ages_, found->second.age);

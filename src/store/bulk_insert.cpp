@@ -61,6 +61,8 @@ class BulkInsert::Impl {
     return std::nullopt;
   }
 
+  std::int64_t LastRow() const { return sqlite3_last_insert_rowid(connection_.Handle()); }
+
   void NumberFrom(std::uint32_t last) const {
     const auto counts = std::find_if(table_.fields.begin(), table_.fields.end(),
                                      [&](const FieldDef& field) { return IsAutonumberKey(table_, field); });
@@ -104,6 +106,8 @@ BulkInsert::BulkInsert(Database& database, const TableDef& table)
 BulkInsert::~BulkInsert() = default;
 
 std::optional<std::string> BulkInsert::Append(std::span<const Value> values) { return impl_->Append(values); }
+
+std::int64_t BulkInsert::LastRow() const { return impl_->LastRow(); }
 
 void BulkInsert::NumberFrom(std::uint32_t last) { impl_->NumberFrom(last); }
 

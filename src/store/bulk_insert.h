@@ -26,6 +26,8 @@ class BulkInsert {
   /// refused: a value that its field cannot hold, a null in a key, a key that is there already. What the file
   /// is not able to take throws `database`.
   std::optional<std::string> Append(std::span<const Value> values);
+  /// The number of the row that was taken last, by which the store knows it in its table.
+  std::int64_t LastRow() const;
   /// Lets the autonumber key, if the table has one, go on behind `last`, its row there or not. 0 and numbers
   /// that a LONG does not hold tell nothing of the next one.
   void NumberFrom(std::uint32_t last);

@@ -77,8 +77,8 @@ class Database {
   /// True when they would change a row; nothing is written.
   bool WouldChangeTogether(std::span<const std::string> updates);
 
-  /// Tables in the order of their creation, internal ones left out; one whose key was added or dropped is
-  /// new.
+  /// Tables in the order of their creation, internal ones (see `IsInternalTable`) left out; one whose key was
+  /// added or dropped is new.
   std::vector<TableDef> TableDefs();
   /// Tables by their names, each with the words by which the file defines it and its indexes: what has equal
   /// words is equal. Quicker than to read the definitions.

@@ -52,10 +52,11 @@ void RequireRegularFile(const std::filesystem::path& file) {
 void RequireStoreMark(const std::filesystem::path& file, std::string_view first_bytes) {
   if (first_bytes.empty()) throw FileFaultText(file, "the file is empty, not a database");
   if (HasJetMark(first_bytes)) {
-    throw FileFaultText(
-        file, fmt::format("a real Jet file (Standard Jet DB), which is neither read nor written here; "
-                          "to take it over: rbtally import {0} {0}",
-                          ShellWord(file.string())));
+    throw JetFileFault(
+        FaultKind::file,
+        fmt::format("{0}: a real Jet file (Standard Jet DB), which is neither read nor written "
+                    "here; to take it over: rbtally import {1} {1}",
+                    file.string(), ShellWord(file.string())));
   }
   if (!first_bytes.starts_with(kStoreMark)) throw FileFaultText(file, "the file is not a database");
 }

@@ -8,6 +8,12 @@
 
 namespace rbt {
 
+/// The file is no database of the store but a real Jet file.
+class JetFileFault : public Fault {
+ public:
+  using Fault::Fault;
+};
+
 /// As many of a file's first bytes as tell a database.
 inline constexpr int kMarkBytes = 20;
 

@@ -62,7 +62,7 @@ std::string DefaultLiteral(const std::string& text) {
 }
 
 /// Tables that the file keeps for itself.
-bool IsInternal(std::string_view name) {
+bool IsOfTheFile(std::string_view name) {
   constexpr std::string_view kPrefix = "sqlite_";
   return EqualIgnoringCase(name.substr(0, kPrefix.size()), kPrefix);
 }
@@ -216,7 +216,7 @@ void SchemaCache::Renew() {
     std::string name = entries.Text(1);
     if (entries.Integer(0) == 0) {
       indexes_.push_back({std::move(name), entries.Text(2), entries.Text(3)});
-    } else if (!IsInternal(name)) {
+    } else if (!IsOfTheFile(name)) {
       std::string folded = FoldIdentifier(name);
       tables_.push_back({std::move(name), std::move(folded), entries.Text(3), nullptr});
     }
@@ -246,13 +246,17 @@ const TableDef* SchemaCache::Find(std::string_view table) const {
 std::vector<TableDef> SchemaCache::TableDefs() const {
   std::vector<TableDef> tables;
   tables.reserve(tables_.size());
-  for (Listed& listed : tables_) tables.push_back(Read(listed).def);
+  for (Listed& listed : tables_) {
+    if (!IsInternalTable(listed.name)) tables.push_back(Read(listed).def);
+  }
   return tables;
 }
 
 std::map<std::string, std::string> SchemaCache::TableTexts() const {
   std::map<std::string, std::string> texts;
-  for (const Listed& table : tables_) texts.emplace(table.name, table.sql);
+  for (const Listed& table : tables_) {
+    if (!IsInternalTable(table.name)) texts.emplace(table.name, table.sql);
+  }
   for (const ListedIndex& index : indexes_) {
     const auto table = texts.find(index.table);
     if (table != texts.end() && !index.sql.empty()) table->second += ";" + index.sql;

@@ -86,6 +86,12 @@ TEST_F(LockQuestion, WhereTheProgramCannotGoOnWithoutOffersItsEnd) {
   EXPECT_NE(site_.Messages()[0].text.find("「終了」"), std::string::npos);
 }
 
+TEST_F(LockQuestion, NamesTheFileThatAWorkingCopyStandsFor) {
+  site_.Answer(MessageAnswer::cancel);
+  EXPECT_FALSE(AskToWaitOn("/rbk/DATA/GENBA001.MDB.work"));
+  EXPECT_NE(site_.Messages()[0].text.find("「GENBA001.MDB」は"), std::string::npos);
+}
+
 TEST_F(LockQuestion, DropsTheKeysThatWerePressedDuringTheWait) {
   QLineEdit box;
   box.show();

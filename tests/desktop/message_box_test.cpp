@@ -69,6 +69,15 @@ TEST(MessageBox, OffersToTryAgainOrToGiveUpTheActionOrTheProgram) {
   EXPECT_EQ(exit.answers, "再試行(&R)|終了|");
 }
 
+TEST(MessageBox, OffersToTakeAFileOverOrToReadItAsItIsWhichIsTheDefault) {
+  const Seen enter = Show("a", "t", MessageButtons::import_or_read, Qt::Key_Return);
+  EXPECT_EQ(enter.answers, "取り込む(&I)|そのまま読む(&R)|");
+  EXPECT_EQ(enter.focused, "そのまま読む(&R)");
+  EXPECT_EQ(enter.sign, QMessageBox::Question);
+  EXPECT_EQ(enter.answer, MessageAnswer::no);
+  EXPECT_EQ(Show("a", "t", MessageButtons::import_or_read, Qt::Key_Escape).answer, MessageAnswer::no);
+}
+
 TEST(MessageBox, BearsASignForWhatItTells) {
   const std::pair<MessageButtons, QMessageBox::Icon> signs[] = {
       {MessageButtons::ok, QMessageBox::Information},

@@ -55,6 +55,14 @@ TEST_F(BulkInserts, AppendRowsWithTheNumbersThatTheyBring) {
             "3=null 7=梁");
 }
 
+TEST_F(BulkInserts, TellTheNumberByWhichTheStoreKnowsTheLastRow) {
+  BulkInsert counted(database_, Counted());
+  counted.Append(Row{std::int64_t{7}, "梁"});
+  EXPECT_EQ(counted.LastRow(), 7);
+  counted.Append(Row{std::int64_t{3}, "柱"});
+  EXPECT_EQ(counted.LastRow(), 3);
+}
+
 TEST_F(BulkInserts, ConvertByTheFieldsType) {
   BulkInsert insert(database_, Weights());
   EXPECT_EQ(insert.Append(Row{"12", 1.23456}), std::nullopt);

@@ -333,5 +333,20 @@ TEST_F(Tables, are_made_whole_or_not_at_all) {
   ExpectFault(FaultKind::database, "no fields", [&] { site.CreateTable({"T", {}, {}}); });
 }
 
+TEST_F(Tables, of_the_programs_own_are_reached_by_their_names_and_listed_nowhere) {
+  Database made = Database::CreateDatabase(file_);
+  made.CreateTable(EveryType());
+  const auto texts = made.TableTexts();
+  TableDef own{"~own", {}, {}};
+  own.fields.resize(1);
+  own.fields[0].name = "number";
+  made.CreateTable(own);
+  made.Execute("INSERT INTO [~own] ([number]) VALUES (7)");
+  EXPECT_TRUE(made.HasRows("SELECT * FROM [~own] WHERE [number] = 7"));
+  EXPECT_NE(made.FindTable("~own"), nullptr);
+  EXPECT_EQ(made.TableTexts(), texts);
+  EXPECT_EQ(made.TableDefs().size(), 1U);
+}
+
 }  // namespace
 }  // namespace rbt

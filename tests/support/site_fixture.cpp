@@ -97,7 +97,9 @@ SiteFixture::SiteFixture() {
   Services.Messages = [this](std::string_view text, std::string_view title, MessageButtons buttons) {
     messages_.push_back({std::string(text), std::string(title), buttons});
     if (answers_.empty()) {
-      if (buttons == MessageButtons::yes_no_default_no) return MessageAnswer::no;
+      const bool cautious =
+          buttons == MessageButtons::yes_no_default_no || buttons == MessageButtons::import_or_read;
+      if (cautious) return MessageAnswer::no;
       const bool asks = buttons == MessageButtons::yes_no || buttons == MessageButtons::yes_no_cancel;
       return asks ? MessageAnswer::yes : MessageAnswer::ok;
     }

@@ -9,14 +9,21 @@
 
 #include "data/bar_tables.h"
 #include "data/diameters.h"
+#include "jet/jet_file.h"
 #include "platform/fault.h"
 #include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
 #include "platform/files/system_error.h"
 #include "platform/numbers/value.h"
 #include "platform/system/paths.h"
+#include "shell/context/site_context.h"
+#include "shell/live/working_copy.h"
 #include "tally/site_sum.h"
 
 namespace rbt {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -153,15 +160,15 @@ void WriteRecords(Database& hozon, const TallyTable& kept) {
   }
 }
 
-void Remove(const std::filesystem::path& file) {
+void Remove(const fs::path& file) {
   std::error_code error;
-  std::filesystem::remove(file, error);
+  fs::remove(file, error);
   if (error) throw FileFault(file, "cannot be deleted", error.value());
 }
 
 /// A save that was killed over a stored sum leaves the journal of its changes. Beside another file of that
 /// name it would put old pages into it.
-void RemoveJournal(const std::filesystem::path& file) { Remove(file.string() + "-journal"); }
+void RemoveJournal(const fs::path& file) { Remove(file.string() + "-journal"); }
 
 void WriteWhole(Database& hozon, const TallyTable& kept) {
   Transaction whole(hozon);
@@ -170,17 +177,32 @@ void WriteWhole(Database& hozon, const TallyTable& kept) {
   whole.Commit();
 }
 
+fs::path CopyOfSum() { return ArchiveCopyOf(MapPath(kHozonFile)); }
+
+bool IsThere(const fs::path& file) {
+  return file == MapPath(kHozonFile) ? FamilyFileExists(kHozonFile) : IsTaken(file);
+}
+
 }  // namespace
+
+fs::path FileOfSum() {
+  fs::path copy = CopyOfSum();
+  // A sum that was begun there goes on there.
+  if (MasterIsWorkingCopy() || SiteIsWorkingCopy() || IsTaken(copy)) return copy;
+  fs::path file = MapPath(kHozonFile);
+  return jet::IsJetFile(file) ? copy : file;
+}
 
 void Make_Hozon(Database& hozon) { hozon.Execute(kMakeTable); }
 
 void Save_Hozon(const TallyTable& sum) {
   const TallyTable kept = KeptForSum(sum);
-  const std::filesystem::path file = MapPath(kHozonFile);
-  if (FamilyFileExists(kHozonFile)) {
+  const fs::path file = FileOfSum();
+  if (IsThere(file)) {
     Database hozon = Database::Open(file);
     return WriteWhole(hozon, kept);
   }
+  MakeFolders(FolderOf(file));
   FileInWork work(file);
   {
     Database hozon = Database::CreateDatabase(work.Path());
@@ -192,18 +214,21 @@ void Save_Hozon(const TallyTable& sum) {
 
 TallyTable Load_Hozon() {
   TallyTable sum;
-  if (!FamilyFileExists(kHozonFile)) return sum;
-  Database hozon = Database::OpenReadOnly(MapPath(kHozonFile));
+  const fs::path file = FileOfSum();
+  if (!IsThere(file)) return sum;
+  Database hozon = Database::OpenReadOnly(file);
   if (hozon.FindTable("T_hozon") == nullptr) return sum;
   for (Records records(hozon.OpenSnapshot(kRecords)); !records->Eof(); records->MoveNext()) records.Read(sum);
   return sum;
 }
 
 void Delete_Hozon() {
-  const std::filesystem::path file = MapPath(kHozonFile);
-  // The file first: without its journal it would be a sum that is half another one.
-  Remove(file);
-  RemoveJournal(file);
+  for (const fs::path& file : {MapPath(kHozonFile), CopyOfSum()}) {
+    if (jet::IsJetFile(file)) continue;
+    // The file first: without its journal it would be a sum that is half another one.
+    Remove(file);
+    RemoveJournal(file);
+  }
 }
 
 }  // namespace rbt

@@ -128,11 +128,27 @@ void MakeTable(const JetFile& file, const TableMapping& mapping, Database& datab
   }
 }
 
+/// Copies the rows of one table; the report gets what became of them.
+void CopyRows(JetFile& file, const TableMapping& mapping, Database& database, const FileInWork& work,
+              const ImportExtras& extras, ImportReport& report) {
+  RowCopy copy(file, mapping, database, report.warnings);
+  const std::string a_row = "a row of " + mapping.source.name;
+  while (copy.ReadNext()) {
+    OnTarget(work, report.target, a_row, [&] {
+      const auto number = copy.Append();
+      if (number && extras.row_taken) extras.row_taken({mapping.source.name, *number, copy.Place()});
+    });
+  }
+  OnTarget(work, report.target, "", [&] { copy.Finish(); });
+  report.tables.push_back(copy.Result());
+}
+
 void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const FileInWork& work,
-                ImportReport& report) {
+                const ImportExtras& extras, ImportReport& report) {
   const auto on_target = [&](auto step) { return OnTarget(work, report.target, "", step); };
   Database database = on_target([&] { return Database::CreateDatabase(work.Path()); });
   Transaction transaction(database);
+  if (extras.begin) on_target([&] { extras.begin(database); });
   for (const CatalogEntry& entry : entries) {
     if (!IsUserTable(entry)) {
       NoteNotTaken(entry, report);
@@ -142,12 +158,12 @@ void CopyTables(JetFile& file, const std::vector<CatalogEntry>& entries, const F
     report.warnings.insert(report.warnings.end(), mapping.warnings.begin(), mapping.warnings.end());
     report.not_taken.insert(report.not_taken.end(), mapping.not_taken.begin(), mapping.not_taken.end());
     MakeTable(file, mapping, database, work, report.target);
-    RowCopy copy(file, mapping, database, report.warnings);
-    const std::string a_row = "a row of " + entry.name;
-    while (copy.ReadNext()) OnTarget(work, report.target, a_row, [&] { copy.Append(); });
-    on_target([&] { copy.Finish(); });
-    report.tables.push_back(copy.Result());
+    CopyRows(file, mapping, database, work, extras, report);
   }
+  if (report.tables.empty()) {
+    report.warnings.push_back(fmt::format("{}: no table was taken", report.source.string()));
+  }
+  if (extras.end) extras.end(database, report);
   on_target([&] { transaction.Commit(); });
 }
 
@@ -170,18 +186,11 @@ void RequireSound(const ImportReport& report) {
 /// Writes everything into `work`; the report names `target`, where it will stand.
 ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target,
                   OnDamage on_damage) {
-  ImportReport report;
-  report.source = source;
-  report.target = target;
-  if (const auto note = NoteOnLockFile(source)) report.warnings.push_back(*note);
+  const auto note = NoteOnLockFile(source);
   const FileState before(source);
   const auto file = JetFile::Open(source);
-  const std::vector<CatalogEntry> entries = ReadCatalog(*file);
-  CheckWhatIsTaken(*file, entries, report);
-  if (on_damage == OnDamage::refuse) RequireSound(report);
-  CopyTables(*file, entries, work, report);
-  if (report.tables.empty())
-    report.warnings.push_back(fmt::format("{}: no table was taken", source.string()));
+  ImportReport report = ImportTables(*file, work, target, on_damage);
+  if (note) report.warnings.insert(report.warnings.begin(), *note);
   if (!(FileState(source) == before)) {
     throw FileFaultText(source, "was changed by another program while it was read; nothing was imported");
   }
@@ -193,6 +202,25 @@ void RequireFree(const fs::path& target) {
 }
 
 }  // namespace
+
+std::vector<std::string> DamageOfTables(JetFile& file) {
+  ImportReport report;
+  const auto fault = PassOverFaultsOfContent([&] { CheckWhatIsTaken(file, ReadCatalog(file), report); });
+  if (fault) report.damages.emplace_back(fault->what());
+  return std::move(report.damages);
+}
+
+ImportReport ImportTables(JetFile& file, const FileInWork& work, const fs::path& target, OnDamage on_damage,
+                          const ImportExtras& extras) {
+  ImportReport report;
+  report.source = file.Name();
+  report.target = target;
+  const std::vector<CatalogEntry> entries = ReadCatalog(file);
+  CheckWhatIsTaken(file, entries, report);
+  if (on_damage == OnDamage::refuse) RequireSound(report);
+  CopyTables(file, entries, work, extras, report);
+  return report;
+}
 
 ImportReport ImportJetFile(const fs::path& source, const fs::path& target) {
   RequireFree(target);

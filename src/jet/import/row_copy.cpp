@@ -91,14 +91,17 @@ bool RowCopy::ReadNext() {
   return true;
 }
 
-void RowCopy::Append() {
+std::optional<std::int64_t> RowCopy::Append() {
   const auto refusal = insert_.Append(values_);
   if (!refusal) {
     ++imported_.rows;
-  } else if (++imported_.refused <= kMostNamedRefusals) {
-    imported_.refused_rows.push_back(
-        fmt::format("{}: {}", RowName(mapping_, places_[next_ - 1], next_, values_), *refusal));
+    return insert_.LastRow();
   }
+  if (++imported_.refused <= kMostNamedRefusals) {
+    imported_.refused_rows.push_back(
+        fmt::format("{}: {}", RowName(mapping_, Place(), next_, values_), *refusal));
+  }
+  return std::nullopt;
 }
 
 void RowCopy::Finish() { insert_.NumberFrom(mapping_.source.last_autonumber); }

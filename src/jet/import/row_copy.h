@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,9 +25,12 @@ class RowCopy {
 
   /// Reads a row; false behind the last one.
   bool ReadNext();
-  /// Appends the row that was read. One with a value that the store cannot hold, or with a key that is there
-  /// already, is refused and named; what the file to write is not able to take throws.
-  void Append();
+  /// Appends the row that was read; returns its number in the store. One with a value that the store cannot
+  /// hold, or with a key that is there already, is refused and named, and has none; what the file to write is
+  /// not able to take throws.
+  std::optional<std::int64_t> Append();
+  /// Where the row that was read stands in the Jet file.
+  RowPointer Place() const { return places_[next_ - 1]; }
   /// An autonumber goes on behind the last number that the Jet file has given, its row gone or not.
   void Finish();
   const ImportedTable& Result() const { return imported_; }

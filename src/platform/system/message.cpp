@@ -17,6 +17,7 @@ MessageAnswer DefaultAnswer(MessageButtons buttons) {
     case MessageButtons::yes_no_cancel:
       return MessageAnswer::yes;
     case MessageButtons::yes_no_default_no:
+    case MessageButtons::import_or_read:
       return MessageAnswer::no;
     case MessageButtons::retry_abort:
     case MessageButtons::retry_exit:

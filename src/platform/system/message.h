@@ -18,6 +18,8 @@ enum class MessageButtons {
   ok_to_warning,  ///< ok alone, under a warning sign, as are those below
   retry_abort,    ///< whether to go on waiting, or to give up the action; aborting is `cancel`
   retry_exit,     ///< the same, giving up the program
+  /// Whether a file is taken over, `yes`, or read as it is, `no`: the default.
+  import_or_read,
 };
 enum class MessageAnswer { ok, cancel, yes, no, retry };
 

@@ -11,6 +11,7 @@
 #include "platform/print/printer_list.h"
 #include "platform/system/clock.h"
 #include "platform/system/colour_choice.h"
+#include "platform/system/long_reading.h"
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/patience.h"
@@ -41,6 +42,8 @@ struct ServicesData {
   int WorkThatMustFinish = 0;
   /// `WorkPace()`: about a millisecond of work.
   int WorkPace = 100'000;
+  /// `TellOfLongReading()`.
+  LongReadingHook OnLongReading = TellLongReadingOnStandardError;
   /// `StatementLimit()`.
   std::chrono::milliseconds StatementLimit{600'000};
   /// `ChooseColour()`: without a desktop nothing is chosen.

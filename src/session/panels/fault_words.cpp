@@ -33,6 +33,8 @@ constexpr Telling kTellings[] = {
      "この現場は、新しい形式を読むプログラムで集計して下さい。"},
     {FaultKind::file, "rbtally import", "変換していないデータベースです。",
      "下に示したコマンドで取り込んでから、もう一度操作して下さい。"},
+    {FaultKind::file, "keeps changing", "ほかのプログラムが書き込みを続けています。",
+     "書き込みが終わってから、もう一度操作して下さい。"},
     {FaultKind::file, "code page 932", "設定ファイルの文字コードが違います。",
      "UTF-8 で保存し直してから、もう一度始めて下さい。"},
     {std::nullopt, "does not exist", "ファイルが見つかりません。",

@@ -25,7 +25,7 @@
 #include "platform/system/message.h"
 #include "platform/system/paths.h"
 #include "platform/system/process.h"
-#include "session/startup/offer_import.h"
+#include "session/startup/jet_files.h"
 #include "session/startup/sibling_programs.h"
 #include "shell/calendar/new_era_function.h"
 #include "shell/context/fixed_stock.h"
@@ -49,9 +49,9 @@ void Step(Action action) {
   RunPendingEvents();
 }
 
-void OfferSharedImports() {
-  OfferImports({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
-                "\\RBK\\DATA\\JSyukeiORG.mdb"});
+void SettleSharedJetFiles() {
+  SettleJetFiles({"\\RBK\\DATA\\SORANO.MDB", "\\RBK\\DATA\\MTTeijyaku.mdb", "\\RBK\\DATA\\MTTeijyaku_ORG.mdb",
+                  "\\RBK\\DATA\\JSyukeiORG.mdb"});
 }
 
 void OpenFixedStock() {
@@ -78,7 +78,7 @@ void BindSite(const StartOptions& options) {
   }
   SelectSite(name);
   if (!options.command_line) {
-    OfferImports({"\\RBK\\DATA\\" + name, CompanionDatabasePath()});
+    SettleJetFiles({SiteContext.SiteFolder + SiteContext.SelectedDbName, CompanionDatabasePath()});
     // By now this user may have come to another right to it.
     SiteContext.WorkDatabase.reset();
   }
@@ -109,6 +109,10 @@ void TellWhatIsOnlyRead(const StartOptions& options) {
                   "集計と印字はできますが、保存や設定の変更はできません。\n\n{}",
                   fmt::join(files, "\n")));
   SiteContext.ToldOfCopy = true;
+}
+
+void TellHowItIsRead(const StartOptions& options) {
+  if (!options.command_line) TellOfReadingInPlace(PathOfSite());
 }
 
 void TellUnreadable(const UnreadableSettings& places) {
@@ -149,7 +153,7 @@ void ResetAccumulation(const StartOptions& options) {
   RunState.AccumulateFlag = 0;
   if (options.command_line || options.keep_accumulation) return;
   if (MayBeReplaced(RegistryFile())) SaveSetting(kAccumulateFlagKey, 0);
-  if (TakesFiles(FolderOf(MapPath(kHozonFile)))) Delete_Hozon();
+  if (TakesFiles(FolderOf(MapPath(kHozonFile))) || MasterIsWorkingCopy()) Delete_Hozon();
 }
 
 void ProbeShapes() {
@@ -203,10 +207,11 @@ MenuState DescribeMenu(const StartOptions& options) {
   return state;
 }
 
-/// Number and name of the bound site, "001　試験工事".
+/// Number and name of the bound site, "001　試験工事", and whether its file is only read.
 std::string SiteLabel() {
   const SiteHead head = ReadSiteHead(*SiteContext.MasterDatabase, SiteContext.SelectedDbName);
-  return fmt::format("{:03}　{}", head.number, head.name);
+  return fmt::format("{:03}　{}{}", head.number, head.name,
+                     SiteIsWorkingCopy() ? "　（Jet 形式・読むだけ）" : "");
 }
 
 void ForgetHoops() {
@@ -225,11 +230,11 @@ class NewSite {
     if (!ready_ && IsNew()) SelectSite("");
   }
 
-  bool IsNew() const { return SiteContext.SelectedDbName != bound_; }
+  bool IsNew() const { return SelectedSite() != bound_; }
   void NoteReady() { ready_ = true; }
 
  private:
-  std::string bound_ = SiteContext.SelectedDbName;
+  std::string bound_ = SelectedSite();
   bool ready_ = false;
 };
 
@@ -249,8 +254,12 @@ bool ReadySite(const StartOptions& options) {
   Step(ReadSiteNames);
   Step(ReadMaker);
   Step(ReadGrades);
+  NoteSiteReadied();
   return true;
 }
+
+/// Jet files that other programs work on have changed: what was read of them at the load is so no more.
+bool HaveJetFilesChanged() { return SiteIsAnotherCopy() || MasterIsOutdated(); }
 
 }  // namespace
 
@@ -259,6 +268,7 @@ LoadResult LoadSite(const StartOptions& options) {
   RequireSteelIni();
   const RegistryReading registry;
   SiteContext.OnlyRead = !options.prepare;
+  SiteContext.JetFiles = options.jet;
   SiteContext.ClassifiedAt.reset();
   if (options.prepare) ClearOldLeftovers();
   UnreadableSettings unreadable;
@@ -268,10 +278,11 @@ LoadResult LoadSite(const StartOptions& options) {
   Step([&] { note(LoadGridColours()); });
   Selection.StartMode = options.start_mode;
   Step([&] { note(LoadTallySettings(registry)); });
-  if (!options.command_line) Step(OfferSharedImports);
+  if (!options.command_line) Step(SettleSharedJetFiles);
   Step(OpenFixedStock);
   Step([&] { BindSite(options); });
   TellWhatIsOnlyRead(options);
+  TellHowItIsRead(options);
   if (!ReadySite(options)) {
     result.hand_over_to = kNewerProgram;
     return result;
@@ -291,16 +302,18 @@ LoadResult LoadSite(const StartOptions& options) {
 bool FollowSelectedSite(const StartOptions& options) {
   NewSite site;
   Step([&] { BindSite(options); });
-  if (!site.IsNew()) return true;
+  if (!site.IsNew() && !HaveJetFilesChanged()) return true;
   if (!ReadySite(options)) return false;
   Step(ProbeShapes);
+  TellHowItIsRead(options);
   site.NoteReady();
   return true;
 }
 
 void FollowReadableSite(const StartOptions& options) {
   if (FollowSelectedSite(options)) return;
-  throw FileFaultText(MapPath("\\RBK\\DATA\\" + ChosenSite(options)), "needs the newer program");
+  // It is bound no more.
+  throw FileFaultText(FileOfSite(ChosenSite(options)), "needs the newer program");
 }
 
 MenuState ActivateMenu(const StartOptions& options) {

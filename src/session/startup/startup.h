@@ -7,6 +7,7 @@
 #include "data/start_mode.h"
 #include "session/startup/menu_state.h"
 #include "session/startup/start_mode.h"
+#include "shell/live/live_database.h"
 
 namespace rbt {
 
@@ -16,9 +17,13 @@ struct StartOptions {
   /// False: nothing of the site is written. What a tally needs of its classification is worked out on a
   /// private copy.
   bool prepare = true;
-  std::string site;  ///< schedule file name in place of 選択ＤＢ名; empty: as STEEL.INI says
+  /// Schedule file in place of 選択ＤＢ名: its name in DATA, or a family path, `\RBK\...`; empty: as
+  /// STEEL.INI says.
+  std::string site;
   /// No menu follows: no sibling is asked for, hozon.MDB and the stored flag of the accumulation stay.
   bool command_line = false;
+  /// What becomes of the real Jet files among the site's databases.
+  JetChoice jet = JetChoice::read_in_place;
   /// A menu waits for this start: hozon.MDB and the stored flag of its accumulation stay.
   bool keep_accumulation = false;
 };

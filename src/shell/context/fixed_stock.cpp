@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "jet/jet_file.h"
 #include "platform/files/file_in_work.h"
 #include "platform/files/file_sync.h"
 #include "platform/files/files.h"
@@ -12,6 +13,7 @@
 #include "platform/pass_over_faults.h"
 #include "platform/system/paths.h"
 #include "shell/context/site_context.h"
+#include "shell/live/live_database.h"
 #include "store/database_file.h"
 
 namespace rbt {
@@ -42,6 +44,8 @@ void ProvideFixedStockDatabase() {
   if (FamilyFileExists(kFixedStockDatabase)) return;
   const std::filesystem::path original = MapPath(kFixedStockTemplate);
   if (!FamilyFileExists(kFixedStockTemplate)) throw FileFaultText(original, "does not exist");
+  // Among real Jet files none of ours stands under a name that other programs look for.
+  if (jet::IsJetFile(original) && SiteContext.JetFiles != JetChoice::refuse) return;
   const std::filesystem::path file = MapPath(kFixedStockDatabase);
   if (SiteContext.OnlyRead || !TakesFiles(FolderOf(file))) return;
   FileInWork copy(file);
@@ -57,12 +61,13 @@ void OpenFixedStockDatabase() {
   SiteContext.FixedStockTable.reset();
   SiteContext.FixedStockReadAt.reset();
   SiteContext.FixedStockDatabase.reset();
-  SiteContext.FixedStockDatabase = std::make_unique<Database>(Database::OpenReadOnly(MapPath(FileInUse())));
+  SiteContext.FixedStockDatabase =
+      std::make_unique<Database>(OpenLiveForReading(MapPath(FileInUse()), UseOfSite()));
 }
 
 void ReadFixedStockTable() {
-  if (SiteContext.FixedStockDatabase && SiteContext.FixedStockDatabase->HasMoved()) OpenFixedStockDatabase();
   if (!SiteContext.FixedStockDatabase) return;
+  if (!StandsFor(*SiteContext.FixedStockDatabase, MapPath(FileInUse()))) OpenFixedStockDatabase();
   Database& database = *SiteContext.FixedStockDatabase;
   database.Hold();
   const std::optional<FileState> state = database.State();

@@ -3,7 +3,11 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
+#include <map>
 #include <string>
+
+#include "shell/live/live_database.h"
 
 namespace rbt {
 
@@ -26,6 +30,8 @@ struct RunStateData {
   bool GaveUpWaiting = false;       ///< ... and the user has given that up: what becomes of it is known
   std::chrono::steady_clock::time_point WorkBegan;  ///< since when the action works without asking the user
   bool WorkStopped = false;  ///< the user has stopped the action: what it still does to end, it does
+  /// What was chosen in this run for the real Jet files of a folder.
+  std::map<std::filesystem::path, JetChoice> JetChoices;
 };
 
 extern RunStateData RunState;

@@ -104,8 +104,9 @@ void RefreshAtActivation(const StartModeTraits& start_mode) {
 }
 
 void HoldClassifiedSchedule(const StartModeTraits& start_mode) {
-  if (IsCopyOfWhatStands()) return;
-  if (SiteContext.WorkDatabase->IsPrivateCopy() || SiteContext.WorkDatabase->HasMoved()) OpenWorkDatabase();
+  const bool stands = SiteStandsOpen();
+  if (stands && IsCopyOfWhatStands()) return;
+  if (!stands || SiteContext.WorkDatabase->IsPrivateCopy()) OpenWorkDatabase();
   Database& schedule = *SiteContext.WorkDatabase;
   schedule.Hold();
   if (IsKnownAsClassified(schedule)) return;

@@ -73,6 +73,10 @@ struct TableDef {
   friend bool operator==(const TableDef&, const TableDef&) = default;
 };
 
+/// True for the name of a table that the program keeps for itself in a file: statements reach it by its name,
+/// lists of the file's tables leave it out.
+inline bool IsInternalTable(std::string_view name) { return name.starts_with('~'); }
+
 /// The declared type of a column, as it stands in CREATE TABLE: "TEXT(50)", "CURRENCY", ...
 std::string DeclaredType(const FieldDef& field);
 /// The field that a declared type describes; Jet's own words (long, Double, TEXT, COUNTER, ...) too. Nothing

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "data/shapes.h"
-#include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "shell/context/run_state.h"
 #include "shell/context/site_context.h"
@@ -22,7 +21,7 @@ namespace {
 
 std::vector<std::int32_t> MarkedNumbersOfSite() {
   if (SiteContext.NameDatabase) return MarkedNumbers(*SiteContext.NameDatabase);
-  Database companion = Database::OpenReadOnly(MapPath(CompanionDatabasePath()));
+  Database companion = OpenCompanionForReading();
   return MarkedNumbers(companion);
 }
 

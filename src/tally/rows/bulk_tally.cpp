@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "data/shapes.h"
-#include "platform/system/paths.h"
 #include "platform/system/process.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -49,7 +48,7 @@ void Jyuuryo_Syukei() {
   FoldRows(table, site, BulkStatement(Selection, RunState.HasHoopRows), rules);
   RunPendingEvents();
   if (!LeavesSpiralsOut(Selection)) {
-    Database companion = Database::OpenReadOnly(MapPath(CompanionDatabasePath()));
+    Database companion = OpenCompanionForReading();
     FoldSpirals(table, ReadSpirals(companion), Selection);
   }
   CloseSums(table, BulkClosingRules());

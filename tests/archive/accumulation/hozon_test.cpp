@@ -6,7 +6,10 @@
 
 #include "archive/accumulation/hozon_samples.h"
 #include "platform/fault.h"
+#include "platform/files/files.h"
+#include "shell/context/site_context.h"
 #include "support/fault_of.h"
+#include "support/jet_writer.h"
 
 namespace rbt::test {
 
@@ -16,6 +19,8 @@ using testing::ElementsAre;
 
 class Hozon : public testing::Test {
  protected:
+  ~Hozon() override { SiteContext = SiteContextData{}; }
+
   std::filesystem::path File() const { return root_.Data("hozon.MDB"); }
   Database Open() const { return Database::Open(File()); }
   std::int64_t Count(const std::string& condition) const {
@@ -119,6 +124,31 @@ TEST_F(Hozon, IsGoneOnceDeleted) {
   Save_Hozon(SampleSum(1));
   Delete_Hozon();
   EXPECT_FALSE(std::filesystem::exists(File()));
+}
+
+TEST_F(Hozon, AmongJetFilesStandsUnderANameThatNoOtherProgramLooksFor) {
+  WriteJetFile(root_.Data("SORANO.MDB"), jet::JetVersion::jet4, {});
+  OpenMasterDatabase();
+  Save_Hozon(SampleSum(3));
+  EXPECT_FALSE(std::filesystem::exists(File()));
+  EXPECT_TRUE(std::filesystem::exists(root_.Data("hozon.MDB.work")));
+  EXPECT_EQ(Load_Hozon(), KeptForSum(SampleSum(3)));
+  SiteContext.MasterDatabase.reset();
+  EXPECT_EQ(Load_Hozon(), KeptForSum(SampleSum(3))) << "a sum goes on where it was begun";
+  Delete_Hozon();
+  EXPECT_EQ(Load_Hozon(), TallyTable());
+  EXPECT_FALSE(std::filesystem::exists(root_.Data("hozon.MDB.work")));
+}
+
+TEST_F(Hozon, OfAnotherProgramIsNeitherReadNorWrittenNorDeleted) {
+  WriteJetFile(File(), jet::JetVersion::jet4, {});
+  const std::string bytes = ReadFileBytes(File());
+  EXPECT_EQ(Load_Hozon(), TallyTable());
+  Save_Hozon(SampleSum(3));
+  EXPECT_EQ(Load_Hozon(), KeptForSum(SampleSum(3)));
+  Delete_Hozon();
+  EXPECT_EQ(Load_Hozon(), TallyTable());
+  EXPECT_EQ(ReadFileBytes(File()), bytes);
 }
 
 }  // namespace rbt::test

@@ -40,6 +40,8 @@ TEST(FaultWords, GoByTheCauseBeforeTheKind) {
        "「STEEL.INI」\n現場が選ばれていません。"},
       {FaultKind::file, "/r/DATA/GENBA002.MDB: needs the newer program",
        "「GENBA002.MDB」\n新しい形式の現場です。\nこの現場は、新しい形式を読むプログラムで"},
+      {FaultKind::file, "/r/DATA/X.MDB: keeps changing while it is read; try again when nobody writes it",
+       "「X.MDB」\nほかのプログラムが書き込みを続けています。\n書き込みが終わってから"},
       {FaultKind::file, "/r/DATA/X.MDB: cannot be opened: File name too long",
        "「X.MDB」\nファイルの場所の名前が長すぎます。"},
       {FaultKind::file, "/r/DATA/X.MDB: cannot be opened: Too many levels of symbolic links",

@@ -11,6 +11,7 @@
 #include "shell/context/site_context.h"
 #include "store/database_impl.h"
 #include "support/fault_of.h"
+#include "support/jet_writer.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -165,6 +166,33 @@ TEST_F(FixedStock, OfASiteThatIsOnlyReadIsThatOfTheOriginalWhereNoCopyWasMade) {
   OpenFixedStockDatabase();
   ReadFixedStockTable();
   EXPECT_EQ(GetFixedStockLength(4200, 13), -1);
+}
+
+TEST_F(FixedStock, OfJetFilesIsReadFromTheTemplateAndNoneIsMadeUnderTheNameOfTheOther) {
+  MakeTable("MTTeijyaku_ORG.mdb");
+  Database::Open(root.Data("MTTeijyaku_ORG.mdb"))
+      .Execute(
+          "INSERT INTO 固定定尺テーブル (太さ, 開始切り寸, 終了切り寸, 材質, 定尺) VALUES (19, 4200, 0, 1, "
+          "4500)");
+  const auto tables = [&] {
+    Database store = Database::Open(root.Data("MTTeijyaku_ORG.mdb"));
+    return test::JetTablesOf(store);
+  }();
+  std::filesystem::remove(root.Data("MTTeijyaku_ORG.mdb"));
+  test::WriteJetFile(root.Data("MTTeijyaku_ORG.mdb"), jet::JetVersion::jet4, tables);
+  const auto read = [] {
+    ProvideFixedStockDatabase();
+    OpenFixedStockDatabase();
+    ReadFixedStockTable();
+    return GetFixedStockLength(4200, 19);
+  };
+  EXPECT_EQ(read(), 4500);
+  EXPECT_FALSE(std::filesystem::exists(root.Data("MTTeijyaku.mdb")));
+  auto changed = tables;
+  changed[0].rows[0].back() = std::int64_t{5000};
+  test::WriteJetFile(root.Data("MTTeijyaku_ORG.mdb"), jet::JetVersion::jet4, changed);
+  ReadFixedStockTable();
+  EXPECT_EQ(GetFixedStockLength(4200, 19), 5000) << "what another program changes is seen by the next tally";
 }
 
 }  // namespace

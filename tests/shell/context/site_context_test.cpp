@@ -8,6 +8,7 @@
 #include "platform/files/files.h"
 #include "platform/system/paths.h"
 #include "support/fault_of.h"
+#include "support/jet_writer.h"
 #include "support/root_folder.h"
 
 namespace rbt {
@@ -120,6 +121,72 @@ TEST_F(Site, ThatIsOnlyReadIsOpenedSo) {
   SiteContext.OnlyRead = true;
   OpenWorkDatabase();
   EXPECT_FALSE(SiteContext.WorkDatabase->MayBeWritten());
+}
+
+TEST_F(Site, AnywhereBelowTheRootHasItsCompanionBesideIt) {
+  SelectSite("\\RBK\\OLD\\GENBA007.MDB");
+  EXPECT_EQ(SiteContext.SelectedDbName, "GENBA007.MDB");
+  EXPECT_EQ(SiteContext.SiteNumberText, "007");
+  EXPECT_EQ(CompanionDatabasePath(), "\\RBK\\OLD\\HIROI007.mdb");
+  EXPECT_EQ(SelectedSite(), "\\RBK\\OLD\\GENBA007.MDB");
+  EXPECT_EQ(PathOfSite(), root / "OLD" / "GENBA007.MDB");
+  SelectSite("GENBA007.MDB");
+  EXPECT_EQ(SelectedSite(), "GENBA007.MDB");
+  EXPECT_EQ(PathOfSite(), root.Data("GENBA007.MDB"));
+}
+
+class JetSite : public Site {
+ protected:
+  void PutJet(const std::string& name, int lines) const {
+    test::JetTable schedule{"加工テーブル", {}, {}};
+    schedule.fields.resize(1);
+    schedule.fields[0].name = "行No";
+    for (int line = 1; line <= lines; ++line) schedule.rows.push_back({Value{std::int64_t{line}}});
+    test::WriteJetFile(root.Data(name), jet::JetVersion::jet4, {schedule});
+  }
+  static std::int64_t Lines() {
+    return SiteContext.WorkDatabase->OpenSnapshot("SELECT * FROM 加工テーブル").RecordCount();
+  }
+};
+
+TEST_F(JetSite, IsReadWhereItIsAndFollowedWhenItChanges) {
+  PutJet("GENBA001.MDB", 2);
+  SelectSite("GENBA001.MDB");
+  OpenWorkDatabase();
+  EXPECT_TRUE(SiteIsWorkingCopy());
+  EXPECT_EQ(Lines(), 2);
+  EXPECT_TRUE(SiteIsAnotherCopy());
+  NoteSiteReadied();
+  EXPECT_FALSE(SiteIsAnotherCopy());
+  PutJet("GENBA001.MDB", 3);
+  EXPECT_FALSE(SiteStandsOpen());
+  OpenWorkDatabase();
+  EXPECT_EQ(Lines(), 3);
+  EXPECT_TRUE(SiteIsAnotherCopy()) << "what the load makes of a site has to be made of it again";
+}
+
+TEST_F(JetSite, IsRefusedWhereThatIsTheChoice) {
+  PutJet("GENBA001.MDB", 2);
+  SiteContext.JetFiles = JetChoice::refuse;
+  SelectSite("GENBA001.MDB");
+  EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }), testing::HasSubstr("a real Jet file"));
+}
+
+TEST_F(JetSite, IsNoneOfTheFamilysOtherDatabasesAndNoCopyIsMadeOfThem) {
+  PutJet("SORANO.MDB", 2);
+  SelectSite("SORANO.MDB");
+  EXPECT_THAT(test::FaultTextOf([] { OpenWorkDatabase(); }), testing::HasSubstr("is no site but SORANO.MDB"));
+  EXPECT_FALSE(std::filesystem::exists(root.Data("SORANO.MDB.work")));
+}
+
+TEST_F(JetSite, OfTheMasterIsOutdatedWhenThatChanges) {
+  PutJet("SORANO.MDB", 2);
+  OpenMasterDatabase();
+  EXPECT_TRUE(MasterIsWorkingCopy());
+  PutJet("SORANO.MDB", 3);
+  EXPECT_TRUE(MasterIsOutdated());
+  OpenMasterDatabase();
+  EXPECT_EQ(SiteContext.MasterDatabase->OpenSnapshot("SELECT * FROM 加工テーブル").RecordCount(), 3);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/preparation/classified_schedule.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include <gmock/gmock.h>
@@ -11,6 +12,7 @@
 #include "shell/context/site_context.h"
 #include "shell/preparation/preparation.h"
 #include "support/fault_of.h"
+#include "support/jet_writer.h"
 #include "support/site_fixture.h"
 
 namespace rbt::test {
@@ -205,6 +207,54 @@ TEST_F(ClassifiedSchedules, WithFloorsOfASiteThatIsOnlyReadAreThoseOfACopy) {
         SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル WHERE IsNull(階) OR IsNull(部位)"));
     EXPECT_THAT(site_.Column("階"), ElementsAre("null"));
   }
+}
+
+TEST_F(ClassifiedSchedules, OfAJetFileAreReadAnewWhenItHasChangedSinceTheLastTally) {
+  SiteContext.WorkDatabase.reset();
+  auto tables = [&] {
+    Database store = Database::Open(site_.Data(kScheduleFile));
+    return JetTablesOf(store);
+  }();
+  const auto put = [&] {
+    std::filesystem::remove(site_.Data(kScheduleFile));
+    WriteJetFile(site_.Data(kScheduleFile), jet::JetVersion::jet4, tables);
+  };
+  put();
+  OpenWorkDatabase();
+  { const ClassifiedSchedule first(kUsual); }
+  EXPECT_EQ(Ours(), "1/6");
+  JetTable& schedule = *std::ranges::find(tables, "加工テーブル", &JetTable::name);
+  const auto bars = std::ranges::find(schedule.fields, "本数", &FieldDef::name) - schedule.fields.begin();
+  schedule.rows[0][static_cast<std::size_t>(bars)] = std::int64_t{4};
+  put();
+  const std::string jet = Bytes();
+  {
+    const ClassifiedSchedule second(kUsual);
+    EXPECT_EQ(Ours(), "1/12");
+  }
+  EXPECT_EQ(Bytes(), jet);
+}
+
+TEST_F(ClassifiedSchedules, OfAJetFileThatIsOnlyReadAreThoseOfACopyThatFollowsIt) {
+  SiteContext.WorkDatabase.reset();
+  const auto tables = [&] {
+    Database store = Database::Open(site_.Data(kScheduleFile));
+    return JetTablesOf(store);
+  }();
+  const auto put = [&](const std::vector<JetTable>& with) {
+    std::filesystem::remove(site_.Data(kScheduleFile));
+    WriteJetFile(site_.Data(kScheduleFile), jet::JetVersion::jet4, with);
+  };
+  put(tables);
+  SiteContext.OnlyRead = true;
+  OpenWorkDatabase();
+  { const ClassifiedSchedule first(kUsual); }
+  EXPECT_EQ(Ours(), "1/6");
+  auto without_rows = tables;
+  std::ranges::find(without_rows, "加工テーブル", &JetTable::name)->rows.clear();
+  put(without_rows);
+  const ClassifiedSchedule second(kUsual);
+  EXPECT_FALSE(SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル"));
 }
 
 }  // namespace

@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: MIT
+#include "shell/live/renewal.h"
+
+#include <chrono>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "jet/import/import_file.h"
+#include "platform/fault.h"
+#include "platform/files/file_in_work.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/system_error.h"
+#include "platform/pass_over_faults.h"
+#include "platform/system/long_reading.h"
+#include "platform/system/message.h"
+#include "platform/text/characters.h"
+#include "shell/live/copy_lock.h"
+#include "shell/live/origins.h"
+#include "shell/live/saved_here.h"
+#include "shell/live/working_copy.h"
+
+namespace rbt {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kMostReadAgain = 3;
+constexpr std::string_view kTitle = "Jet ファイルの読み込み";
+
+/// Tells of a long reading, once.
+class LongReading {
+ public:
+  explicit LongReading(fs::path file) : file_(std::move(file)) {}
+
+  /// Cheap enough for each row.
+  void Look() {
+    constexpr int kRowsBetween = 256;
+    if (told_ || ++looks_ % kRowsBetween != 1) return;
+    if (Clock::now() - begin_ < std::chrono::milliseconds(300)) return;
+    told_ = true;
+    TellOfLongReading(file_);
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  fs::path file_;
+  Clock::time_point begin_ = Clock::now();
+  int looks_ = 0;
+  bool told_ = false;
+};
+
+fs::path With(const fs::path& file, std::string_view ending) {
+  fs::path name = file;
+  name += ending;
+  return name;
+}
+
+fs::path FreeBadName(const fs::path& copy) {
+  fs::path bad = With(copy, ".bad");
+  for (int number = 2; IsTaken(bad); ++number) bad = With(copy, fmt::format(".bad{}", number));
+  return bad;
+}
+
+/// What is to be told when nothing is held any more.
+using Messages = std::vector<std::string>;
+
+/// It may hold tallies that nobody else has.
+void SetAside(const fs::path& copy, const fs::path& jet_file, Messages& messages) {
+  const fs::path bad = FreeBadName(copy);
+  if (::rename(copy.c_str(), bad.c_str()) != 0) throw FileFault(copy, "cannot be renamed");
+  std::error_code there_is_none;
+  fs::rename(With(copy, "-journal"), With(bad, "-journal"), there_is_none);
+  messages.push_back(
+      fmt::format("{} は {} の作業用の写しとして使えないので、{} という名前で残し、写しを作り直します。\n"
+                  "ここで保存した集計があった場合は、残したファイルの中だけにあります。",
+                  copy.string(), jet_file.filename().string(), bad.filename().string()));
+}
+
+/// The new tables do not take what was saved in the old ones.
+class SavedNotTaken : public Fault {
+ public:
+  using Fault::Fault;
+};
+
+/// What was saved, out of the old copy; nobody writes that while this lives.
+class OldCopy {
+ public:
+  /// Nothing where the copy cannot be read.
+  std::optional<SavedHere> TakeFrom(const fs::path& copy) {
+    std::optional<SavedHere> saved;
+    const auto fault = PassOverFaultsIf(IsNotHeld, [&] {
+      open_ = OpenIfCopy(copy, false);
+      if (!open_) return;
+      KeepFromWriting(open_->database);
+      saved = ReadSavedHere(open_->database);
+    });
+    if (!fault && saved) return saved;
+    nobody_writes_.reset();
+    open_.reset();
+    return std::nullopt;
+  }
+
+ private:
+  static bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
+
+  void KeepFromWriting(Database& database) {
+    if (database.MayBeWritten()) {
+      nobody_writes_.emplace(database);
+    } else {
+      database.Hold();
+    }
+  }
+
+  std::optional<OpenedCopy> open_;
+  std::optional<Transaction> nobody_writes_;
+};
+
+/// Rows that the store does not take are missing in every tally.
+void NoteWhatIsMissing(const jet::ImportReport& report, Messages& messages) {
+  if (report.Refused() == 0) return;
+  std::string first;
+  for (const jet::ImportedTable& table : report.tables) {
+    if (first.empty() && table.refused > 0) first = table.name + "：" + table.refused_rows.front();
+  }
+  messages.push_back(fmt::format("{}：取り込めない行が {} 行あり、集計に入りません。\n\n{}",
+                                 report.source.filename().string(), report.Refused(), first));
+}
+
+/// The making of a copy out of what was read.
+class Making {
+ public:
+  /// `other` is where saved things come from when there is no copy yet.
+  Making(const fs::path& jet_file, const fs::path& copy, fs::path other, Messages& messages)
+      : jet_file_(jet_file), copy_(copy), other_(std::move(other)), messages_(messages), reading_(jet_file) {}
+
+  void Make(JetOriginal original) {
+    SourceNote note = NoteOf(original);
+    const auto jet = jet::JetFile::FromBytes(std::move(original.bytes), jet_file_.string());
+    try {
+      Import(*jet, note);
+    } catch (const SavedNotTaken&) {
+      // It stays where it is.
+      if (IsTaken(copy_)) SetAside(copy_, jet_file_, messages_);
+      other_.clear();
+      Import(*jet, note);
+    }
+  }
+
+ private:
+  void Import(jet::JetFile& jet, SourceNote& note) {
+    const WorkPlace place(FolderOf(copy_));
+    FileInWork work(copy_, place, ReadOnlyTarget::replaced);
+    OldCopy old;
+    std::optional<OriginsWriter> origins;
+    jet::ImportExtras extras;
+    extras.begin = [&](Database& target) { origins.emplace(target); };
+    extras.row_taken = [&](const jet::TakenRow& row) {
+      reading_.Look();
+      origins->Note(row);
+    };
+    extras.end = [&](Database& target, const jet::ImportReport& report) {
+      origins.reset();
+      note.refused = static_cast<std::int64_t>(report.Refused());
+      NamingCopy(work, [&] {
+        WriteSourceNote(target, note);
+        NoteTalliesOfOriginal(target);
+        TakeOver(target, SavedIn(old));
+      });
+    };
+    const jet::ImportReport report = jet::ImportTables(jet, work, copy_, jet::OnDamage::refuse, extras);
+    PutInPlace(work);
+    NoteWhatIsMissing(report, messages_);
+  }
+
+  /// Runs a step whose faults name the copy in place of the file in work.
+  template <typename Step>
+  void NamingCopy(const FileInWork& work, Step step) const {
+    try {
+      step();
+    } catch (const SavedNotTaken&) {
+      throw;
+    } catch (const Fault& fault) {
+      throw jet::TargetFault(fault.Kind(), ReplaceAll(fault.Where(), work.Path().string(), copy_.string()));
+    }
+  }
+
+  SavedHere SavedIn(OldCopy& old) {
+    const bool is_there = IsTaken(copy_);
+    std::optional<SavedHere> saved = old.TakeFrom(is_there ? copy_ : other_);
+    if (saved) return std::move(*saved);
+    if (is_there) SetAside(copy_, jet_file_, messages_);
+    return {};
+  }
+
+  static void TakeOver(Database& target, const SavedHere& saved) {
+    if (const auto fault = PassOverFaultsOfContent([&] { WriteSavedHere(target, saved); })) {
+      throw SavedNotTaken(fault->Kind(), fault->Where());
+    }
+  }
+
+  void PutInPlace(FileInWork& work) const {
+    std::error_code error;
+    if (!IsTaken(copy_)) {
+      // Whoever may write the Jet file may write the copy.
+      const fs::perms as_original = fs::status(jet_file_, error).permissions();
+      if (!error) {
+        fs::permissions(work.Path(), as_original | fs::perms::owner_read | fs::perms::owner_write, error);
+      }
+    }
+    // Beside another file the journal of a killed save would put old pages into it.
+    fs::remove(With(copy_, "-journal"), error);
+    work.Replace();
+  }
+
+  const fs::path& jet_file_;
+  const fs::path& copy_;
+  fs::path other_;
+  Messages& messages_;
+  LongReading reading_;
+};
+
+/// True where the copy stands for the bytes that were read; how the file stands is noted anew.
+bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
+  std::optional<OpenedCopy> opened = OpenIfCopy(copy, false);
+  if (!opened || !opened->database.MayBeWritten() || !opened->note.TellsBytesOf(original)) return false;
+  SourceNote& note = opened->note;
+  if (note.stamp == original.stamp.text && note.settled == original.settled) return true;
+  note.stamp = original.stamp.text;
+  note.settled = original.settled;
+  // Without the note the bytes are compared again next time.
+  PassOverFaults(FaultKind::locked, [&] { WriteSourceNote(opened->database, note); });
+  return true;
+}
+
+bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy) {
+  const std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
+  return opened && opened->note.Tells(StampOf(jet_file));
+}
+
+/// A file that was written a moment ago may be in the midst of being written: then it looks damaged.
+bool LiesInTheJetFile(const Fault& fault) {
+  return fault.Kind() == FaultKind::file && dynamic_cast<const jet::TargetFault*>(&fault) == nullptr;
+}
+
+void Renew(const fs::path& jet_file, const fs::path& copy, const fs::path& other,
+           const ReadHook& behind_reading, Messages& messages) {
+  constexpr std::chrono::milliseconds kPause{100};
+  const CopyLock lock(copy);
+  if (IsMadeMeanwhile(jet_file, copy)) return;
+  Making making(jet_file, copy, other, messages);
+  for (int again = 0;; ++again) {
+    std::optional<JetOriginal> original = ReadOriginal(jet_file, behind_reading);
+    if (original && IsOnlyNoted(copy, *original)) return;
+    if (original) {
+      const bool settled = original->settled;
+      const auto may_pass = [&](const Fault& fault) {
+        return again < kMostReadAgain && !settled && LiesInTheJetFile(fault);
+      };
+      if (!PassOverFaultsIf(may_pass, [&] { making.Make(std::move(*original)); })) return;
+    } else if (again == kMostReadAgain) {
+      throw FileFaultText(jet_file, "keeps changing while it is read; try again when nobody writes it");
+    }
+    std::this_thread::sleep_for(kPause);
+  }
+}
+
+void Tell(const Messages& messages) {
+  for (const std::string& message : messages) MsgBox(message, kTitle);
+}
+
+}  // namespace
+
+void RenewWorkingCopy(const fs::path& jet_file, const fs::path& copy, const fs::path& other,
+                      const ReadHook& behind_reading) {
+  MakeFolders(FolderOf(copy));
+  Messages messages;
+  try {
+    Renew(jet_file, copy, other, behind_reading, messages);
+  } catch (const Fault&) {
+    Tell(messages);
+    throw;
+  }
+  Tell(messages);
+}
+
+}  // namespace rbt

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "shell/live/working_copy.h"
+
+#include <system_error>
+#include <utility>
+
+#include "platform/fault.h"
+#include "platform/files/file_sync.h"
+#include "platform/files/files.h"
+#include "platform/files/sha256.h"
+#include "platform/pass_over_faults.h"
+#include "platform/system/paths.h"
+#include "shell/live/saved_here.h"
+
+namespace rbt {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path CopyName(const fs::path& file) {
+  fs::path name = file.filename();
+  name += ".work";
+  return name;
+}
+
+/// The whole path without links, so that a site is one however it is come to.
+fs::path WholePath(const fs::path& file) {
+  std::error_code error;
+  fs::path whole = fs::weakly_canonical(file, error);
+  return error ? fs::absolute(file) : whole;
+}
+
+CopyState StateOf(const SourceNote& note, const fs::path& jet_file) {
+  return note.Tells(StampOf(jet_file)) || note.TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
+}
+
+bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
+
+}  // namespace
+
+fs::path WorkingCopyBeside(const fs::path& file) { return FolderOf(file) / CopyName(file); }
+
+fs::path WorkingCopyInCache(const fs::path& file) {
+  constexpr std::size_t kEnoughDigits = 24;
+  const std::string digest = Sha256Of(WholePath(file).string());
+  return CacheFolder() / ("live-" + digest.substr(0, kEnoughDigits)) / CopyName(file);
+}
+
+fs::path ArchiveCopyOf(const fs::path& file) {
+  return TakesFiles(FolderOf(file)) ? WorkingCopyBeside(file) : WorkingCopyInCache(file);
+}
+
+std::optional<OpenedCopy> OpenIfCopy(const fs::path& copy, bool for_reading) {
+  std::optional<OpenedCopy> opened;
+  if (!IsTaken(copy)) return opened;
+  PassOverFaultsIf(IsNotHeld, [&] {
+    Database database = for_reading ? Database::OpenReadOnly(copy) : Database::Open(copy);
+    std::optional<SourceNote> note = ReadSourceNote(database);
+    if (note) opened.emplace(std::move(database), std::move(*note));
+  });
+  return opened;
+}
+
+CopyLook LookAtWorkingCopy(const fs::path& jet_file) {
+  CopyLook look;
+  look.copy = ArchiveCopyOf(jet_file);
+  if (!IsTaken(look.copy)) return look;
+  look.state = CopyState::foreign;
+  std::optional<OpenedCopy> opened = OpenIfCopy(look.copy, true);
+  if (!opened) return look;
+  PassOverFaultsIf(IsNotHeld, [&] {
+    look.saved_tallies = CountSavedHere(opened->database);
+    look.refused_rows = opened->note.refused;
+    look.state = StateOf(opened->note, jet_file);
+  });
+  return look;
+}
+
+}  // namespace rbt

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "platform/files/sha256.h"
+
+#include <gtest/gtest.h>
+
+namespace rbt {
+namespace {
+
+// The examples of the standard.
+TEST(Sha256, IsThatOfTheStandard) {
+  EXPECT_EQ(Sha256Of(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+  EXPECT_EQ(Sha256Of("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+  EXPECT_EQ(Sha256Of(std::string(1'000'000, 'a')),
+            "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+}  // namespace
+}  // namespace rbt

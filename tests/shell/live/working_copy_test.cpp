@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "shell/live/working_copy.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "shell/live/live_site.h"
+
+namespace rbt::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class WorkingCopy : public testing::Test {
+ protected:
+  CopyLook Look() const { return LookAtWorkingCopy(site.File()); }
+
+  LiveSite site;
+};
+
+TEST_F(WorkingCopy, IsMissingAtFirstAndLookingMakesNone) {
+  site.PutJet(3);
+  EXPECT_EQ(Look().state, CopyState::missing);
+  EXPECT_EQ(Look().copy, site.Copy());
+  EXPECT_EQ(site.Names().size(), 1U);
+}
+
+TEST_F(WorkingCopy, IsFreshUntilItsFileChanges) {
+  site.PutJet(3);
+  site.Open();
+  EXPECT_EQ(Look().state, CopyState::fresh);
+  site.PutJet(4);
+  const std::string before = ReadFileBytes(site.Copy());
+  EXPECT_EQ(Look().state, CopyState::stale);
+  EXPECT_EQ(ReadFileBytes(site.Copy()), before);
+}
+
+TEST_F(WorkingCopy, OfAnotherVersionOfTheImportIsStale) {
+  site.PutJet(3);
+  site.Open().Execute("UPDATE [~jet_source] SET [version]='0'");
+  EXPECT_EQ(Look().state, CopyState::stale);
+  site.Open();
+  EXPECT_EQ(Look().state, CopyState::fresh);
+}
+
+TEST_F(WorkingCopy, TellsHowManyTalliesNobodyElseHas) {
+  site.PutJet(3, 1, {{"20261120", "080000", "本館"}});
+  {
+    Database open = site.Open();
+    EXPECT_EQ(Look().saved_tallies, 0U);
+    LiveSite::Save(open, {"20261121", "090000", "別館"});
+  }
+  EXPECT_EQ(Look().saved_tallies, 1U);
+}
+
+TEST_F(WorkingCopy, IsForeignWhereItIsNone) {
+  site.PutJet(3);
+  WriteFileAtomically(site.Copy(), "no copy");
+  EXPECT_EQ(Look().state, CopyState::foreign);
+  EXPECT_EQ(ReadFileBytes(site.Copy()), "no copy");
+}
+
+TEST_F(WorkingCopy, InTheCacheIsOneForAllWaysToTheFile) {
+  site.PutJet(3);
+  fs::create_directory_symlink(site.Root() / "DATA", site.Root() / "LINK");
+  EXPECT_EQ(WorkingCopyInCache(site.Root() / "LINK" / "GENBA001.MDB"), WorkingCopyInCache(site.File()));
+  EXPECT_NE(WorkingCopyInCache(site.Data("GENBA002.MDB")).parent_path(),
+            WorkingCopyInCache(site.File()).parent_path());
+  EXPECT_EQ(WorkingCopyInCache(site.File()).filename(), "GENBA001.MDB.work");
+}
+
+}  // namespace
+}  // namespace rbt::test
