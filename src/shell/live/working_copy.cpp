@@ -57,7 +57,7 @@ std::optional<OpenedCopy> OpenIfCopy(const fs::path& copy, bool for_reading) {
   PassOverFaultsIf(IsNotHeld, [&] {
     Database database = for_reading ? Database::OpenReadOnly(copy) : Database::Open(copy);
     std::optional<SourceNote> note = ReadSourceNote(database);
-    if (note) opened.emplace(std::move(database), std::move(*note));
+    if (note) opened = OpenedCopy{std::move(database), std::move(*note)};
   });
   return opened;
 }
