@@ -64,6 +64,10 @@ std::size_t LimitedSupply::MostLengths() const {
 }
 
 void LimitedSupply::MakeQuickPlan(Pace& pace) {
+  if (HasLots() && ConsiderEveryPlan()) {
+    if (!best_) Refuse();
+    return;
+  }
   for (std::size_t length = 0; length < supply_.lengths.size(); ++length) {
     if (HoldsAll(problem_, groups_, {length})) Keep(MakePlans({length}, Method::per_row, pace));
   }
