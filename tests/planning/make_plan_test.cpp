@@ -14,6 +14,7 @@
 #include "planning/problem_samples.h"
 #include "planning/solve/brute_force.h"
 #include "planning/solve/cover_lp.h"
+#include "planning/solve/needed_bars.h"
 #include "planning/verify/verify.h"
 
 namespace rbt::planning {
@@ -105,7 +106,7 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
   for (std::uint64_t seed = 1; seed <= 250; ++seed) {
     Problem problem = TinyProblem(seed, true);
     if (problem.groups.empty()) continue;
-    const Micros least = test::BruteForce(problem, problem.groups[0]).LeastCost();
+    const Micros least = test::NeededBars(problem).LeastCost();
     if (problem.options.max_lengths > 0 ||
         std::ranges::any_of(problem.supplies[0].lengths, [](const auto& l) { return l.least_lot > 0; })) {
       EXPECT_EQ(CostOrRefusal(problem, kGoOn), least) << seed;
@@ -131,6 +132,16 @@ TEST(MakePlan, IsNotRefusedWhereOtherLengthsThanTheCheapestFillTheirLots) {
   lengths[1].least_lot = 21 * lengths[1].table_weight;
   EXPECT_EQ(CostOrRefusal(problem, kGoOn), test::BruteForce::kNever)
       << "no bars are bought just to fill a lot";
+}
+
+TEST(MakePlan, BuysNoBarOnTinyProblemsThatOnlyFillsALot) {
+  // Ten pieces of 1.0 m go on one bar of 12.0 m; a lot of six would be filled by spreading them.
+  Problem problem = test::OneGroup({{1000, 10}}, {12000});
+  StockLength& length = problem.supplies[0].lengths[0];
+  length.least_lot = 6 * length.table_weight;
+  EXPECT_EQ(CostOrRefusal(problem, kGoOn), test::BruteForce::kNever);
+  length.least_lot = length.table_weight;
+  EXPECT_EQ(CostOrRefusal(problem, kGoOn), length.cost);
 }
 
 TEST(MakePlan, IsNoFurtherFromTheLeastCostThanItsBoundSaysOnTinyProblems) {

@@ -77,10 +77,15 @@ LimitedSupply::LimitedSupply(const Problem& problem, std::size_t supply, int mos
 }
 
 void LimitedSupply::MakeQuickPlan(Pace& pace) {
+  // Of few pieces every plan is looked at: one that would only fill a lot is none.
+  if (HasLots() && ConsiderEveryPlan()) {
+    if (BestOf(most_) == nullptr) Refuse();
+    return;
+  }
   if (FindQuickPlan(pace)) return;
   // A refusal is no answer for want of time; none of this takes long.
   Pace patience(nullptr);
-  if (!ConsiderEveryPlan()) SearchFullLots(false, patience);
+  if (HasLots() || !ConsiderEveryPlan()) SearchFullLots(false, patience);
   if (BestOf(most_) == nullptr) Refuse();
 }
 
