@@ -59,11 +59,11 @@ TEST_F(PaperTable, TheFrameIsRuledFromItsFirstRowToTheTopOfItsLast) {
 TEST_F(PaperTable, CaptionsStandInTheirColumnsByMeasuredWidth) {
   DrawCaptions(pen_, kAll, kPlace, 1);
   page_.Printer.EndDoc();
-  constexpr float kY = 2000 + 250 + 40;
-  EXPECT_EQ(page_.TextAt(500 + 150, kY), "ｍ");
-  EXPECT_EQ(page_.TextAt(500 + 450 + (750 - 500) / 2.0F, kY), "本 数");
-  EXPECT_EQ(page_.TextAt(500 + 2190 - 40 - 500, kY), "重 量");
-  EXPECT_EQ(page_.TextAt(500 + 1500 + 450 - 120, kY), "備考");
+  constexpr float kHeadingY = 2000 + 250 + 40;
+  EXPECT_EQ(page_.TextAt(500 + 150, kHeadingY), "ｍ");
+  EXPECT_EQ(page_.TextAt(500 + 450 + (750 - 500) / 2.0F, kHeadingY), "本 数");
+  EXPECT_EQ(page_.TextAt(500 + 2190 - 40 - 500, kHeadingY), "重 量");
+  EXPECT_EQ(page_.TextAt(500 + 1500 + 450 - 120, kHeadingY), "備考");
 }
 
 TEST_F(PaperTable, WideAndHalfWidthCaptionsHaveTheSameMiddleAndTheSameEnd) {
