@@ -21,7 +21,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kShownAfter{1};
-constexpr std::chrono::milliseconds kPaintedFor{50};
+constexpr std::chrono::milliseconds kPanelPaintedFor{50};
 
 /// The window that the running action works in; null before there is one.
 QWidget* WindowAtWork() {
@@ -97,7 +97,7 @@ class WorkWatch : public QObject {
     const Clock::time_point now = Clock::now();
     if (now - RunState.WorkBegan < kShownAfter) return false;
     const bool may_stop = news.may_stop && !RunState.WorkStopped;
-    if (panel_ && panel_->OffersStop() == may_stop && now - painted_ < kPaintedFor) return false;
+    if (panel_ && panel_->OffersStop() == may_stop && now - painted_ < kPanelPaintedFor) return false;
     Paint(may_stop, news.page,
           std::chrono::duration_cast<std::chrono::milliseconds>(now - RunState.WorkBegan));
     // Asked for too late it is asked for in vain.

@@ -117,7 +117,7 @@ struct Remainder {
   ByIndex<std::int64_t> left;
 };
 
-Remainder Without(CuttingTask task, const std::vector<Pattern>& patterns) {
+Remainder RemainderBehind(CuttingTask task, const std::vector<Pattern>& patterns) {
   ByIndex<std::int64_t> left = DemandOf(task);
   for (const Pattern& pattern : patterns) {
     for (std::size_t i = 0; i < task.items.size(); ++i) {
@@ -186,7 +186,7 @@ void OfferMixtures(const Supply& supply, const CuttingTask& task, const Candidat
   for (std::int64_t bars = most - 1; bars > 0 && !pace.Stopped(); bars -= stride) {
     std::vector<Pattern> patterns = base.patterns;
     for (Pattern& pattern : patterns) pattern.bars = std::min(pattern.bars, bars);
-    const Remainder remainder = Without(task, patterns);
+    const Remainder remainder = RemainderBehind(task, patterns);
     const Cutting cutting = CutGreedily(remainder.task, remainder.left);
     pace.Spend(GreedySteps(remainder.task, cutting));
     const Candidate rest = MakeCandidate(supply, Method::greedy, remainder.task, cutting);

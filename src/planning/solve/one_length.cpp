@@ -12,7 +12,7 @@
 namespace rbt::planning {
 namespace {
 
-constexpr double kUnit = 1e6;  // micros in a cost unit
+constexpr double kMicrosOfUnit = 1e6;  // micros in a cost unit
 /// Far more than arithmetic adds to a bound.
 constexpr double kSlack = 1e-9;
 
@@ -68,11 +68,11 @@ bool OneLengthPlans::CannotCostLess(Micros below, Pace& pace) const {
   }
   if (bound >= below) return true;
   if (alone_.options.effort == Effort::greedy || !LinearProgramsAreSolved()) return false;
-  auto others = static_cast<double>(bound) / kUnit;
-  const double enough = static_cast<double>(below) / kUnit;
+  auto others = static_cast<double>(bound) / kMicrosOfUnit;
+  const double enough = static_cast<double>(below) / kMicrosOfUnit;
   for (const CuttingTask& task : tasks) {
     if (pace.Stopped() || !HasRoomForColumns(task)) return false;
-    const double material = static_cast<double>(ProveMaterialBound(task).bound) / kUnit;
+    const double material = static_cast<double>(ProveMaterialBound(task).bound) / kMicrosOfUnit;
     others -= material;
     Columns columns(task, pace);
     columns.Offer(CutGreedily(task, DemandOf(task)));

@@ -12,7 +12,7 @@ namespace rbt {
 
 namespace {
 
-constexpr int kMargin = 10;
+constexpr int kFrameMargin = 10;
 constexpr int kRadius = 4;
 
 QString LossText(double percent) { return QString::number(percent, 'f', 3); }
@@ -34,8 +34,8 @@ QSize AdvicePicture::minimumSizeHint() const { return {260, 160}; }
 QRect AdvicePicture::PlotRect() const {
   const int line = fontMetrics().height();
   const int beside = fontMetrics().horizontalAdvance(LossText(100.0));
-  return rect().adjusted(kMargin + beside, kMargin + 3 * line, -(kMargin + beside / 2),
-                         -(kMargin + 2 * line));
+  return rect().adjusted(kFrameMargin + beside, kFrameMargin + 3 * line, -(kFrameMargin + beside / 2),
+                         -(kFrameMargin + 2 * line));
 }
 
 QPoint AdvicePicture::PlaceOf(const AdviceMark& mark) const {
@@ -51,7 +51,7 @@ QPoint AdvicePicture::PlaceOf(const AdviceMark& mark) const {
 void AdvicePicture::PaintAxes(QPainter& painter) const {
   const QRect plot = PlotRect();
   const int line = fontMetrics().height();
-  painter.drawText(QRect(kMargin, kMargin, width() - 2 * kMargin, line), Qt::AlignCenter,
+  painter.drawText(QRect(kFrameMargin, kFrameMargin, width() - 2 * kFrameMargin, line), Qt::AlignCenter,
                    Text(curve_.steel) + QStringLiteral("　定尺の種類とロス %"));
   painter.drawLine(plot.bottomLeft(), plot.bottomRight());
   painter.drawLine(plot.topLeft(), plot.bottomLeft());

@@ -23,7 +23,7 @@ constexpr int kMostAdvised = 8;
 constexpr double kMilligramsPerKilogram = 1e6;
 constexpr std::array<std::string_view, 6> kCaptions{"選択", "鋼材", "種類", "㎏", "ロス %", "定尺 mm"};
 
-constexpr std::array<ControlHint, 3> kHints{{
+constexpr std::array<ControlHint, 3> kAdviceHints{{
     {"dbgAdvice", "矢印で移る、Enter でその定尺だけを買う計画にする"},
     {"cmdTake", "選んだ行の定尺だけを買う計画にする"},
     {"cmdExit", "調べるのをやめる、次に計画に戻る"},
@@ -138,6 +138,6 @@ void PlanAdvicePresenter::TurnBack() {
 
 std::span<const std::string_view> AdviceCaptions() { return kCaptions; }
 
-std::span<const ControlHint> AdviceHints() { return kHints; }
+std::span<const ControlHint> AdviceHints() { return kAdviceHints; }
 
 }  // namespace rbt

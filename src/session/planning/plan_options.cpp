@@ -8,7 +8,7 @@
 namespace rbt {
 namespace {
 
-constexpr std::string_view kTitle = "計画の条件";
+constexpr std::string_view kOptionsTitle = "計画の条件";
 
 }  // namespace
 
@@ -48,7 +48,7 @@ void PlanOptionsPresenter::Take() {
   for (const PlanField& field : PlanFields()) {
     if (field.control.empty() || field.take(taken, texts_.at(field.control))) continue;
     to_mend_ = field.control;
-    MsgBox(field.wrong, kTitle, MessageButtons::ok_to_warning);
+    MsgBox(field.wrong, kOptionsTitle, MessageButtons::ok_to_warning);
     return;
   }
   taken_ = std::move(taken);

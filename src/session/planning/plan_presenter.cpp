@@ -13,7 +13,6 @@
 namespace rbt {
 namespace {
 
-constexpr std::string_view kTitle = "切断・購買計画";
 constexpr std::string_view kBestSoFar = "途中までの最良の計画です";
 constexpr std::string_view kStoppedToPrint = "印字のために改善をやめました。途中までの最良の計画です";
 
@@ -32,7 +31,7 @@ PlanPresenter::~PlanPresenter() = default;
 PlanScreenView PlanPresenter::View() const {
   const planning::Outcome& outcome = plan_.outcome;
   PlanScreenView view;
-  view.title = std::string(kTitle) + (parts_.subject.empty() ? "" : "　" + parts_.subject);
+  view.title = std::string(kPlanTitle) + (parts_.subject.empty() ? "" : "　" + parts_.subject);
   view.rows = PlanRows(outcome);
   view.totals = {view.rows.size() - 1};
   view.colours = AlternateColours();

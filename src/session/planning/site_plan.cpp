@@ -16,9 +16,7 @@
 namespace rbt {
 namespace {
 
-constexpr std::string_view kTitle = "切断・購買計画";
-
-void Tell(const std::string& text) { MsgBox(text, kTitle, MessageButtons::ok_to_warning); }
+void Tell(const std::string& text) { MsgBox(text, kPlanTitle, MessageButtons::ok_to_warning); }
 
 SitePlan PlanRequested(const PlanChoices& choices, const PlanRequest& request) {
   planning::Problem problem = TalliedProblem(request);

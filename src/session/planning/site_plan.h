@@ -3,12 +3,16 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "planning/outcome/outcome.h"
 #include "planning/problem/problem.h"
 #include "session/planning/plan_choices.h"
 
 namespace rbt {
+
+/// What the plan's screen and its messages are called.
+inline constexpr std::string_view kPlanTitle = "切断・購買計画";
 
 /// A plan of the bound site to begin with: the one that a search would begin with.
 struct SitePlan {

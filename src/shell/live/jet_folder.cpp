@@ -24,7 +24,7 @@ constexpr std::string_view kImport = "2";
 constexpr std::string_view kTold = "1";
 
 /// A path may hold characters that no key may.
-std::string KeyOf(const fs::path& path) {
+std::string FolderKey(const fs::path& path) {
   constexpr std::size_t kEnoughDigits = 24;
   std::error_code error;
   const fs::path whole = fs::weakly_canonical(path, error);
@@ -32,11 +32,11 @@ std::string KeyOf(const fs::path& path) {
 }
 
 std::string Noted(std::string_view section, const fs::path& path) {
-  return RegistryText(kApp, section, KeyOf(path)).value_or("");
+  return RegistryText(kApp, section, FolderKey(path)).value_or("");
 }
 
 void Note(std::string_view section, const fs::path& path, std::string_view text) {
-  PassOverFaults(FaultKind::file, [&] { SetRegistryText(kApp, section, KeyOf(path), text); });
+  PassOverFaults(FaultKind::file, [&] { SetRegistryText(kApp, section, FolderKey(path), text); });
 }
 
 }  // namespace

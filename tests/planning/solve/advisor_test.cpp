@@ -19,7 +19,7 @@ using test::RandomProblem;
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
 
-Micros CostOf(const Problem& problem, const Plan& plan, std::size_t supply) {
+Micros CostOfSupply(const Problem& problem, const Plan& plan, std::size_t supply) {
   Micros cost = 0;
   for (std::size_t g = 0; g < problem.groups.size(); ++g) {
     if (problem.groups[g].supply != supply) continue;
@@ -30,7 +30,7 @@ Micros CostOf(const Problem& problem, const Plan& plan, std::size_t supply) {
   return cost;
 }
 
-Problem SampleOf(std::uint64_t seed) {
+Problem AdvisedSample(std::uint64_t seed) {
   Problem problem = RandomProblem(seed);
   problem.options.effort = seed % 4 == 3 ? Effort::greedy : Effort::full;
   problem.options.advise = 4;
@@ -39,13 +39,13 @@ Problem SampleOf(std::uint64_t seed) {
 
 TEST(Advise, CostsNoMoreThanThePlanWhereItsLengthsAreAllowed) {
   for (std::uint64_t seed = 1; seed <= 40; ++seed) {
-    Problem problem = SampleOf(seed);
+    Problem problem = AdvisedSample(seed);
     problem.options.advise = 19;
     const Plan plan = SolvePlan(problem, nullptr, nullptr);
     ASSERT_THAT(plan.advice, SizeIs(problem.supplies.size()));
     for (std::size_t s = 0; s < plan.advice.size(); ++s) {
       ASSERT_FALSE(plan.advice[s].curve.empty()) << seed;
-      EXPECT_LE(plan.advice[s].curve.back().cost, CostOf(problem, plan, s)) << seed;
+      EXPECT_LE(plan.advice[s].curve.back().cost, CostOfSupply(problem, plan, s)) << seed;
     }
   }
 }
@@ -59,7 +59,7 @@ std::optional<Micros> Advised(const Plan& plan, std::size_t supply, int count) {
 
 TEST(Advise, CostsNoMoreThanThePlanOfAsManyLengthsNorThanThePointBefore) {
   for (std::uint64_t seed = 1; seed <= 30; ++seed) {
-    Problem problem = SampleOf(seed);
+    Problem problem = AdvisedSample(seed);
     // Pieces on rest bars may need a length that is not bought.
     for (Supply& supply : problem.supplies) supply.rests.clear();
     const Plan advised = SolvePlan(problem, nullptr, nullptr);
@@ -70,7 +70,7 @@ TEST(Advise, CostsNoMoreThanThePlanOfAsManyLengthsNorThanThePointBefore) {
       for (std::size_t s = 0; s < problem.supplies.size(); ++s) {
         const std::optional<Micros> cost = Advised(advised, s, count);
         ASSERT_TRUE(cost) << seed;
-        EXPECT_LE(*cost, CostOf(problem, limited, s)) << seed << ": " << count;
+        EXPECT_LE(*cost, CostOfSupply(problem, limited, s)) << seed << ": " << count;
         EXPECT_LE(*cost, Advised(advised, s, count - 1).value_or(*cost)) << seed << ": " << count;
       }
     }
@@ -79,7 +79,7 @@ TEST(Advise, CostsNoMoreThanThePlanOfAsManyLengthsNorThanThePointBefore) {
 
 TEST(Advise, HoldsEveryPieceByTheLengthsOfEachSet) {
   for (std::uint64_t seed = 1; seed <= 40; ++seed) {
-    const Problem problem = SampleOf(seed);
+    const Problem problem = AdvisedSample(seed);
     for (const Advice& advice : SolvePlan(problem, nullptr, nullptr).advice) {
       const auto supply = std::ranges::find(problem.supplies, advice.steel, &Supply::steel);
       const auto index = static_cast<std::size_t>(supply - problem.supplies.begin());
@@ -110,7 +110,7 @@ TEST(Advise, RanksByMoneyWhereThatIsTheAim) {
 }
 
 TEST(Advise, IsToldSteelBySteelAndKeptAsFarAsItIsCompleteWhenItIsStopped) {
-  Problem problem = SampleOf(2);
+  Problem problem = AdvisedSample(2);
   ASSERT_THAT(problem.supplies, SizeIs(2));
   bool stop = false;
   std::vector<Advice> told;

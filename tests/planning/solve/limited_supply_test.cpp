@@ -19,7 +19,7 @@ using test::RandomProblem;
 constexpr int kMost = 4;
 
 /// Pieces of one steel in one or two scopes; small problems are where whole bars and bars in parts differ.
-Problem SampleOf(std::uint64_t seed, bool lots = false) {
+Problem LimitedSample(std::uint64_t seed, bool lots = false) {
   RandomKind kind;
   kind.most_cuts = seed % 3 == 0 ? 30 : 6;
   kind.supplies = 1;
@@ -31,7 +31,7 @@ Problem SampleOf(std::uint64_t seed, bool lots = false) {
   return problem;
 }
 
-Micros CostOf(const Problem& problem, const Plan& plan) {
+Micros CostOfPlan(const Problem& problem, const Plan& plan) {
   Micros cost = 0;
   for (std::size_t g = 0; g < plan.groups.size(); ++g) {
     const std::vector<StockLength>& lengths = problem.supplies[problem.groups[g].supply].lengths;
@@ -47,7 +47,7 @@ Micros CostOf(const Problem& problem, const Plan& plan) {
 std::optional<Micros> CostOfLengths(Problem problem, int most) {
   problem.options.max_lengths = most;
   try {
-    return CostOf(problem, SolvePlan(problem, nullptr, nullptr));
+    return CostOfPlan(problem, SolvePlan(problem, nullptr, nullptr));
   } catch (const Refusal&) {
     return std::nullopt;
   }
@@ -66,24 +66,25 @@ void ExpectMoreLengthsToCostNoMore(const Problem& problem, std::uint64_t seed) {
 }
 
 TEST(LimitedSupply, CostsNoMoreWhereMoreLengthsAreAllowed) {
-  for (std::uint64_t seed = 1; seed <= 120; ++seed) ExpectMoreLengthsToCostNoMore(SampleOf(seed), seed);
+  for (std::uint64_t seed = 1; seed <= 120; ++seed) ExpectMoreLengthsToCostNoMore(LimitedSample(seed), seed);
 }
 
 TEST(LimitedSupply, CostsNoMoreWhereMoreLengthsAreAllowedThatHaveLots) {
-  for (std::uint64_t seed = 1; seed <= 60; ++seed) ExpectMoreLengthsToCostNoMore(SampleOf(seed, true), seed);
+  for (std::uint64_t seed = 1; seed <= 60; ++seed)
+    ExpectMoreLengthsToCostNoMore(LimitedSample(seed, true), seed);
 }
 
 TEST(LimitedSupply, CostsNoMoreThanOneLengthThatAloneIsAllowed) {
   int compared = 0;
   for (std::uint64_t seed = 1; seed <= 60; ++seed) {
-    const Problem problem = SampleOf(seed);
+    const Problem problem = LimitedSample(seed);
     if (problem.groups.empty()) continue;
     const std::optional<Micros> limited = CostOfLengths(problem, 1 + static_cast<int>(seed % 2));
     for (std::size_t length = 0; length < problem.supplies[0].lengths.size(); ++length) {
       if (!HoldsAll(problem, GroupsOf(problem, 0), {length})) continue;
       Problem alone = problem;
       alone.supplies[0].lengths = {problem.supplies[0].lengths[length]};
-      EXPECT_LE(limited, CostOf(alone, SolvePlan(alone, nullptr, nullptr))) << seed << ": " << length;
+      EXPECT_LE(limited, CostOfPlan(alone, SolvePlan(alone, nullptr, nullptr))) << seed << ": " << length;
       ++compared;
     }
   }
@@ -112,7 +113,7 @@ TEST(LimitedSupply, TakesOneLengthWhereTwoAreNoCheaper) {
   for (const StockLength& length : problem.supplies[0].lengths) {
     Problem alone = problem;
     alone.supplies[0].lengths = {length};
-    EXPECT_LE(*one, CostOf(alone, SolvePlan(alone, nullptr, nullptr))) << length.mm;
+    EXPECT_LE(*one, CostOfPlan(alone, SolvePlan(alone, nullptr, nullptr))) << length.mm;
   }
 }
 
