@@ -88,7 +88,8 @@ class Search {
       if (MissingBars() == 0) best.cost = 0;
     } else if (MissingBars() <= pieces_ && bars_tried_ <= kMostBarsTried) {
       for (std::size_t r = 0; r < supply_.rests.size(); ++r) TryRest(r, best);
-      for (std::size_t l = 0; l < supply_.lengths.size(); ++l) TryLength(l, best);
+      // The longer of equals stays.
+      for (std::size_t l = supply_.lengths.size(); l-- > 0;) TryLength(l, best);
     }
     const Micros cost = best.cost;
     known_.emplace(state_, std::move(best));
