@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <ranges>
 #include <utility>
 
 #include "planning/problem/bar_rule.h"
@@ -107,12 +108,20 @@ class Search {
     return cost;
   }
 
+  /// The longer of equally cheap bars stay.
+  bool IsCheaper(const Purchase& bought, const Purchase& other) const {
+    const Micros cost = CostOf(bought);
+    const Micros others_cost = CostOf(other);
+    if (cost != others_cost) return cost < others_cost;
+    return std::ranges::lexicographical_compare(std::views::reverse(other), std::views::reverse(bought));
+  }
+
   /// Null where no purchase keeps the limits.
   const Way* Cheapest(const std::vector<Way>& ways) const {
     const Way* best = nullptr;
     for (const Way& way : ways) {
       if (!KeepsLimits(way.bought)) continue;
-      if (best == nullptr || CostOf(way.bought) < CostOf(best->bought)) best = &way;
+      if (best == nullptr || IsCheaper(way.bought, best->bought)) best = &way;
     }
     return best;
   }

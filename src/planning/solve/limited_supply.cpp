@@ -90,7 +90,8 @@ void LimitedSupply::MakeQuickPlan(Pace& pace) {
 }
 
 bool LimitedSupply::FindQuickPlan(Pace& pace) {
-  for (std::size_t length = 0; length < supply_.lengths.size(); ++length) {
+  // The longer of equals stays.
+  for (std::size_t length = supply_.lengths.size(); length-- > 0;) {
     if (HoldsAll(problem_, groups_, {length})) Keep(MakePlans({length}, Method::per_row, pace));
   }
   if (BestOf(1) == nullptr) {

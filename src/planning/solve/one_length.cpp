@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
+#include <utility>
 
 #include "planning/solve/columns.h"
 #include "planning/solve/greedy.h"
@@ -42,6 +42,7 @@ std::optional<std::vector<Candidate>> OneLengthPlans::Make(std::size_t length, M
   std::vector<GroupSolver> solvers;
   solvers.reserve(alone_.groups.size());
   std::vector<std::pair<Micros, std::size_t>> gains;
+  gains.reserve(alone_.groups.size());
   for (const Group& group : alone_.groups) solvers.emplace_back(alone_, group);
   for (std::size_t g = 0; g < solvers.size(); ++g) {
     solvers[g].MakeQuickPlan(RestsFor(alone_.supplies[0], solvers, g), pace);
