@@ -24,15 +24,6 @@ std::int64_t Nanoseconds(const timespec& time) {
   return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-FileStamp StampOfStatus(const struct stat& status) {
-  const std::int64_t written = Nanoseconds(status.st_mtim);
-  const std::int64_t touched = Nanoseconds(status.st_ctim);
-  return {.text = fmt::format("size {} written {} touched {} device {} file {}", status.st_size, written,
-                              touched, status.st_dev, status.st_ino),
-          .size = status.st_size,
-          .touched = std::max(written, touched)};
-}
-
 FileStamp StampOfOpen(const FileDescriptor& open, const fs::path& name) {
   struct stat status {};
   if (::fstat(open.Number(), &status) != 0) throw FileFault(name, "cannot be read");
@@ -59,6 +50,15 @@ Bytes ReadBytes(const FileDescriptor& open, std::int64_t size, const fs::path& n
 bool FileStamp::HasSettled(fs::file_time_type now) const {
   const auto since_1970 = fs::file_time_type::clock::to_sys(now).time_since_epoch();
   return since_1970 >= std::chrono::nanoseconds(touched) + kSettlingTime;
+}
+
+FileStamp StampOfStatus(const struct stat& status) {
+  const std::int64_t written = Nanoseconds(status.st_mtim);
+  const std::int64_t touched = Nanoseconds(status.st_ctim);
+  return {.text = fmt::format("size {} written {} touched {} file {}", status.st_size, written, touched,
+                              status.st_ino),
+          .size = status.st_size,
+          .touched = std::max(written, touched)};
 }
 
 std::optional<FileStamp> StampOf(const fs::path& file) {
