@@ -24,19 +24,10 @@ std::int64_t Nanoseconds(const timespec& time) {
   return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-FileStamp StampOf(const struct stat& status) {
-  const std::int64_t written = Nanoseconds(status.st_mtim);
-  const std::int64_t touched = Nanoseconds(status.st_ctim);
-  return {.text = fmt::format("size {} written {} touched {} device {} file {}", status.st_size, written,
-                              touched, status.st_dev, status.st_ino),
-          .size = status.st_size,
-          .touched = std::max(written, touched)};
-}
-
-FileStamp StampOf(const FileDescriptor& open, const fs::path& name) {
+FileStamp StampOfOpen(const FileDescriptor& open, const fs::path& name) {
   struct stat status {};
   if (::fstat(open.Number(), &status) != 0) throw FileFault(name, "cannot be read");
-  return StampOf(status);
+  return StampOfStatus(status);
 }
 
 /// Fewer bytes than expected where the file has become shorter.
@@ -61,23 +52,32 @@ bool FileStamp::HasSettled(fs::file_time_type now) const {
   return since_1970 >= std::chrono::nanoseconds(touched) + kSettlingTime;
 }
 
+FileStamp StampOfStatus(const struct stat& status) {
+  const std::int64_t written = Nanoseconds(status.st_mtim);
+  const std::int64_t touched = Nanoseconds(status.st_ctim);
+  return {.text = fmt::format("size {} written {} touched {} file {}", status.st_size, written, touched,
+                              status.st_ino),
+          .size = status.st_size,
+          .touched = std::max(written, touched)};
+}
+
 std::optional<FileStamp> StampOf(const fs::path& file) {
   struct stat status {};
   if (::stat(file.c_str(), &status) != 0) return std::nullopt;
-  return StampOf(status);
+  return StampOfStatus(status);
 }
 
 std::optional<JetOriginal> ReadOriginal(const fs::path& file, const ReadHook& behind_reading) {
   const FileDescriptor open(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
   if (!open.IsOpen()) throw FileFault(file, "cannot be opened");
   JetOriginal original;
-  original.stamp = StampOf(open, file);
+  original.stamp = StampOfOpen(open, file);
   original.settled = original.stamp.HasSettled();
   original.bytes = ReadBytes(open, original.stamp.size, file);
   if (behind_reading) behind_reading();
   const std::optional<FileStamp> named = StampOf(file);
   const bool stands = std::cmp_equal(original.bytes.size(), original.stamp.size) &&
-                      StampOf(open, file).text == original.stamp.text && named &&
+                      StampOfOpen(open, file).text == original.stamp.text && named &&
                       named->text == original.stamp.text;
   if (!stands) return std::nullopt;
   original.digest = Sha256Of(original.bytes);

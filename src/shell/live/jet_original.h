@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <sys/stat.h>
 
 #include "platform/numbers/value.h"
 
@@ -24,6 +25,9 @@ struct FileStamp {
   bool HasSettled(std::filesystem::file_time_type now = std::filesystem::file_time_type::clock::now()) const;
   static constexpr std::chrono::nanoseconds kSettlingTime = std::chrono::seconds(2);
 };
+/// By the system's notes of a file. The device is left out: machines that share a folder number it each in
+/// their own way.
+FileStamp StampOfStatus(const struct stat& status);
 /// Nothing where there is no such file.
 std::optional<FileStamp> StampOf(const std::filesystem::path& file);
 

@@ -221,7 +221,7 @@ TEST_F(ClassifiedSchedules, OfAJetFileAreReadAnewWhenItHasChangedSinceTheLastTal
   };
   put();
   OpenWorkDatabase();
-  { const ClassifiedSchedule first(kUsual); }
+  { const ClassifiedSchedule first(kUsualStart); }
   EXPECT_EQ(Ours(), "1/6");
   JetTable& schedule = *std::ranges::find(tables, "加工テーブル", &JetTable::name);
   const auto bars = std::ranges::find(schedule.fields, "本数", &FieldDef::name) - schedule.fields.begin();
@@ -229,7 +229,7 @@ TEST_F(ClassifiedSchedules, OfAJetFileAreReadAnewWhenItHasChangedSinceTheLastTal
   put();
   const std::string jet = Bytes();
   {
-    const ClassifiedSchedule second(kUsual);
+    const ClassifiedSchedule second(kUsualStart);
     EXPECT_EQ(Ours(), "1/12");
   }
   EXPECT_EQ(Bytes(), jet);
@@ -248,12 +248,12 @@ TEST_F(ClassifiedSchedules, OfAJetFileThatIsOnlyReadAreThoseOfACopyThatFollowsIt
   put(tables);
   SiteContext.OnlyRead = true;
   OpenWorkDatabase();
-  { const ClassifiedSchedule first(kUsual); }
+  { const ClassifiedSchedule first(kUsualStart); }
   EXPECT_EQ(Ours(), "1/6");
   auto without_rows = tables;
   std::ranges::find(without_rows, "加工テーブル", &JetTable::name)->rows.clear();
   put(without_rows);
-  const ClassifiedSchedule second(kUsual);
+  const ClassifiedSchedule second(kUsualStart);
   EXPECT_FALSE(SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル"));
 }
 

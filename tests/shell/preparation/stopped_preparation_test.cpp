@@ -9,7 +9,7 @@
 namespace rbt::test {
 namespace {
 
-const StartModeTraits kUsual = TraitsOfStartMode(kNoStartMode);
+const StartModeTraits kStartInWork = TraitsOfStartMode(kNoStartMode);
 
 class StoppedPreparation : public testing::Test {
  protected:
@@ -43,24 +43,24 @@ class StoppedPreparation : public testing::Test {
 
 TEST_F(StoppedPreparation, AtLoadLeavesTheFileByteForByte) {
   StopEverywhere(
-      stopper_, [this] { OpenFresh(); }, [] { ClassifyAtLoad(kUsual); }, [this] { ExpectFresh(); });
+      stopper_, [this] { OpenFresh(); }, [] { ClassifyAtLoad(kStartInWork); }, [this] { ExpectFresh(); });
 }
 
 TEST_F(StoppedPreparation, BeforeATallyLeavesTheFileByteForByte) {
   StopEverywhere(
-      stopper_, [this] { OpenFresh(); }, [] { const ClassifiedSchedule held(kUsual); },
+      stopper_, [this] { OpenFresh(); }, [] { const ClassifiedSchedule held(kStartInWork); },
       [this] { ExpectFresh(); });
 }
 
 TEST_F(StoppedPreparation, IsDoneByTheNextOne) {
   OpenFresh();
   stopper_.StopAt(5);
-  EXPECT_EQ(FaultOf([] { ClassifyAtLoad(kUsual); }), FaultKind::stopped);
+  EXPECT_EQ(FaultOf([] { ClassifyAtLoad(kStartInWork); }), FaultKind::stopped);
   stopper_.StopAt(0);
-  ClassifyAtLoad(kUsual);
+  ClassifyAtLoad(kStartInWork);
   const std::string prepared = BytesOf(File());
   OpenFresh();
-  ClassifyAtLoad(kUsual);
+  ClassifyAtLoad(kStartInWork);
   EXPECT_TRUE(BytesOf(File()) == prepared);
 }
 
