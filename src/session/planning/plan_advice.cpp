@@ -60,8 +60,8 @@ std::optional<Place> PlaceOf(const std::vector<OutcomeAdvice>& advice, std::size
 
 }  // namespace
 
-PlanAdvicePresenter::PlanAdvicePresenter(PlanChoices choices)
-    : choices_(std::move(choices)), problem_(AdvisedProblem(choices_)) {}
+PlanAdvicePresenter::PlanAdvicePresenter(PlanChoices choices, PlanSearch::Work make_plan)
+    : choices_(std::move(choices)), problem_(AdvisedProblem(choices_)), search_(std::move(make_plan)) {}
 
 PlanAdvicePresenter::~PlanAdvicePresenter() = default;
 

@@ -48,7 +48,7 @@ class PlanAdvicePresenter {
  public:
   /// Reads the site by the choices, but for the sets that were taken before; no more lengths are compared
   /// than the choices let a plan buy. Throws what `RequestOf` and `TalliedProblem` throw.
-  explicit PlanAdvicePresenter(PlanChoices choices);
+  explicit PlanAdvicePresenter(PlanChoices choices, PlanSearch::Work make_plan = planning::MakePlan);
   PlanAdvicePresenter(const PlanAdvicePresenter&) = delete;
   PlanAdvicePresenter& operator=(const PlanAdvicePresenter&) = delete;
   /// Stops the search and waits for its end.

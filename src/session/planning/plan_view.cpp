@@ -36,7 +36,7 @@ std::string Yen(std::int64_t micros) {
 std::string Percent(double percent) { return FormatNumber(percent, "0.000") + " %"; }
 
 std::string LossText(const planning::Figures& figures) {
-  const std::string text = Percent(figures.loss_percent);
+  std::string text = Percent(figures.loss_percent);
   if (!figures.tally) return text;
   return text + "（集計 " + FormatNumber(figures.tally->loss_rate_percent, "0.00") + " %）";
 }

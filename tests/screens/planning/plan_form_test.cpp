@@ -111,6 +111,20 @@ TEST_F(PlanWindow, EnterOnAnEmptyCellShowsNothing) {
   EXPECT_FALSE(ShowsPatterns());
 }
 
+TEST(PlanPicture, DrawsTheEndThatIsCutOff) {
+  PlanPicture picture;
+  picture.resize(600, 200);
+  PlanBarView bar;
+  bar.stock_mm = 12000;
+  bar.marks = {8000};
+  bar.cuts = {6000};
+  picture.Show({bar}, 12000);
+  const QImage without = picture.grab().toImage();
+  bar.trim_mm = 2000;
+  picture.Show({bar}, 12000);
+  EXPECT_NE(picture.grab().toImage(), without);
+}
+
 TEST_F(PlanWindow, PrintsItsSheetsByTheirKeys) {
   Key(Qt::Key_F1);
   Key(Qt::Key_F3);

@@ -47,6 +47,15 @@ TEST(PlanGrid, MakesItsColumnsAsWideAsTheirFigures) {
   EXPECT_EQ(grid.columnWidth(5), narrow) << "a plan that stands has the room it needs";
 }
 
+TEST(PlanGrid, StripesItsRowsAsTheTallyDoes) {
+  PlanGrid grid;
+  PlanScreenView view = View("12");
+  view.colours = RowColours{0x030201, 0};
+  grid.Show(view);
+  EXPECT_EQ(grid.model()->index(1, 0).data(Qt::BackgroundRole).value<QColor>(), QColor(1, 2, 3));
+  EXPECT_FALSE(grid.model()->index(2, 0).data(Qt::BackgroundRole).isValid());
+}
+
 TEST(PlanGrid, KeepsItsCellAndItsSumInSightWhenItGetsLower) {
   PlanGrid grid;
   grid.Show(View("12"));

@@ -2,6 +2,7 @@
 #include "session/planning/plan_advice.h"
 
 #include <chrono>
+#include <latch>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -133,6 +134,31 @@ TEST_F(PlanAdvice, StopsTheSearchBeforeItIsLeft) {
   screen.TurnBack();
   EXPECT_TRUE(screen.View().left);
   EXPECT_FALSE(screen.Taken());
+}
+
+TEST_F(PlanAdvice, ShowsEachCurveAsItComes) {
+  PlanAdvicePresenter screen(Choices(),
+                             [](const planning::Problem& problem, const planning::StopSignal& signal,
+                                const planning::PlanListener& listener) {
+                               planning::Plan plan = planning::MakeFirstPlan(problem);
+                               plan.advice = {{{16, 1, false}, {{1, {5500}, 110'000}}}};
+                               listener(plan, 2, 4);
+                               while (signal() == planning::Stopped::no) std::this_thread::yield();
+                               return plan;
+                             });
+  std::latch news(1);
+  screen.Search([&] {
+    if (!news.try_wait()) news.count_down();
+  });
+  news.wait();
+  screen.TakeNews();
+  EXPECT_TRUE(screen.View().searching);
+  ASSERT_THAT(screen.View().rows, SizeIs(1));
+  EXPECT_EQ(screen.View().rows[0][4], "15.789") << "110 m for 95 m of pieces";
+  screen.TurnBack();
+  while (screen.View().searching) screen.TakeNews();
+  EXPECT_EQ(screen.View().progress, "途中まで比べました");
+  EXPECT_THAT(screen.View().rows, SizeIs(1));
 }
 
 TEST_F(PlanAdvice, HasNothingToCompareWhereNothingIsToPlan) {
