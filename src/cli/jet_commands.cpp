@@ -20,6 +20,7 @@
 #include "platform/text/cp932.h"
 #include "platform/text/csv.h"
 #include "shell/import/import_folder.h"
+#include "shell/live/import_saved.h"
 #include "shell/live/working_copy.h"
 
 namespace rbt {
@@ -57,7 +58,7 @@ void Import(const fs::path& source, const fs::path& target, jet::OnDamage on_dam
   std::error_code not_there;
   const bool in_place = fs::equivalent(source, target, not_there);
   const jet::ImportReport report =
-      in_place ? jet::ImportJetFileInPlace(source, on_damage) : jet::ImportJetFile(source, target);
+      in_place ? ImportInPlaceWithSaved(source, on_damage) : jet::ImportJetFile(source, target);
   WriteResult(jet::ReportText(report));
   TellWhatIsMissing(report);
 }

@@ -184,12 +184,12 @@ void RequireSound(const ImportReport& report) {
 }
 
 /// Writes everything into `work`; the report names `target`, where it will stand.
-ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target,
-                  OnDamage on_damage) {
+ImportReport Copy(const fs::path& source, const FileInWork& work, const fs::path& target, OnDamage on_damage,
+                  const ImportExtras& extras = {}) {
   const auto note = NoteOnLockFile(source);
   const FileState before(source);
   const auto file = JetFile::Open(source);
-  ImportReport report = ImportTables(*file, work, target, on_damage);
+  ImportReport report = ImportTables(*file, work, target, on_damage, extras);
   if (note) report.warnings.insert(report.warnings.begin(), *note);
   if (!(FileState(source) == before)) {
     throw FileFaultText(source, "was changed by another program while it was read; nothing was imported");
@@ -243,7 +243,7 @@ fs::path ReportFile(const fs::path& file) {
   return report;
 }
 
-ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage) {
+ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage, const ImportExtras& extras) {
   // A link stays, and what it leads to is replaced.
   const fs::path file = fs::is_symlink(name) ? fs::canonical(name) : name;
   const SoleImport sole(file);
@@ -253,7 +253,7 @@ ImportReport ImportJetFileInPlace(const fs::path& name, OnDamage on_damage) {
   RequireKeepable(file, kept);
   const WorkPlace place(FolderOf(file));
   FileInWork work(file, place, ReadOnlyTarget::replaced);
-  ImportReport report = Copy(file, work, file, on_damage);
+  ImportReport report = Copy(file, work, file, on_damage, extras);
   const bool kept_now = KeepUnder(file, kept);
   try {
     // Before the swap: what was refused is not to be forgotten, whatever happens behind it.

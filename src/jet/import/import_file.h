@@ -60,8 +60,9 @@ ImportReport ImportTables(JetFile& file, const FileInWork& work, const std::file
 /// as `NAME.MDB.jet` beside it, where nothing else may stand yet, and the report as `NAME.MDB.jet.txt`. At
 /// every moment a whole file stands under the name; after a fault nothing has changed. A file that another
 /// program has open, or is importing, throws `file`, too, and so does one with damage, unless that is to be
-/// taken.
-ImportReport ImportJetFileInPlace(const std::filesystem::path& file, OnDamage on_damage = OnDamage::refuse);
+/// taken. What `extras` writes is in the file when it takes the name.
+ImportReport ImportJetFileInPlace(const std::filesystem::path& file, OnDamage on_damage = OnDamage::refuse,
+                                  const ImportExtras& extras = {});
 /// Where the Jet file is kept then.
 std::filesystem::path KeptJetFile(const std::filesystem::path& file);
 /// Where the report stands then.

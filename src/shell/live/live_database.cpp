@@ -11,8 +11,8 @@
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "platform/system/message.h"
+#include "shell/live/import_saved.h"
 #include "shell/live/renewal.h"
-#include "shell/live/saved_here.h"
 #include "shell/live/working_copy.h"
 #include "store/database_file.h"
 
@@ -70,19 +70,8 @@ Database OpenCopy(const fs::path& file, bool for_reading) {
   return OpenAs(copy, for_reading);
 }
 
-/// What was saved while the file was read in place goes into what takes its place.
-void TakeOverSaved(const fs::path& file) {
-  std::optional<OpenedCopy> copy = OpenIfCopy(ArchiveCopyOf(file), true);
-  if (!copy) return;
-  Database store = Database::Open(file);
-  Transaction transaction(store);
-  WriteSavedHere(store, ReadSavedHere(copy->database));
-  transaction.Commit();
-}
-
 void ImportInPlace(const fs::path& file) {
-  const jet::ImportReport report = jet::ImportJetFileInPlace(file);
-  TakeOverSaved(file);
+  const jet::ImportReport report = ImportInPlaceWithSaved(file);
   if (report.Refused() == 0 && report.warnings.empty()) return;
   MsgBox(fmt::format("{}：取り込めなかった行 {} 行、注意 {} 件\n\n詳しくは {} を見て下さい。",
                      report.target.filename().string(), report.Refused(), report.warnings.size(),
@@ -107,7 +96,9 @@ Database Open(const fs::path& file, const LiveUse& use, bool for_reading) {
     if (auto open = OpenUpToDate(ArchiveCopyOf(file), file, for_reading, false)) return std::move(*open);
   }
   try {
-    return OpenAs(file, for_reading);
+    Database store = OpenAs(file, for_reading);
+    TellOfSavedElsewhere(store, file);
+    return store;
   } catch (const JetFileFault&) {
     if (use.jet == JetChoice::refuse || (use.jet == JetChoice::import && use.only_read)) throw;
   }

@@ -21,6 +21,8 @@
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
 #include "shell/live/copy_lock.h"
+#include "shell/live/joined_saved.h"
+#include "shell/live/old_copy.h"
 #include "shell/live/origins.h"
 #include "shell/live/saved_here.h"
 #include "shell/live/working_copy.h"
@@ -87,39 +89,6 @@ void SetAside(const fs::path& copy, const fs::path& jet_file, Messages& messages
 class SavedNotTaken : public Fault {
  public:
   using Fault::Fault;
-};
-
-/// What was saved, out of the old copy; nobody writes that while this lives.
-class OldCopy {
- public:
-  /// Nothing where the copy cannot be read.
-  std::optional<SavedHere> TakeFrom(const fs::path& copy) {
-    std::optional<SavedHere> saved;
-    const auto fault = PassOverFaultsIf(IsNotHeld, [&] {
-      open_ = OpenIfCopy(copy, false);
-      if (!open_) return;
-      KeepFromWriting(open_->database);
-      saved = ReadSavedHere(open_->database);
-    });
-    if (!fault && saved) return saved;
-    nobody_writes_.reset();
-    open_.reset();
-    return std::nullopt;
-  }
-
- private:
-  static bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
-
-  void KeepFromWriting(Database& database) {
-    if (database.MayBeWritten()) {
-      nobody_writes_.emplace(database);
-    } else {
-      database.Hold();
-    }
-  }
-
-  std::optional<OpenedCopy> open_;
-  std::optional<Transaction> nobody_writes_;
 };
 
 /// Rows that the store does not take are missing in every tally.
@@ -193,8 +162,8 @@ class Making {
 
   SavedHere SavedIn(OldCopy& old) {
     const bool is_there = IsTaken(copy_);
-    std::optional<SavedHere> saved = old.TakeFrom(is_there ? copy_ : other_);
-    if (saved) return std::move(*saved);
+    std::optional<SavedAndJoined> taken = old.TakeFrom(is_there ? copy_ : other_);
+    if (taken) return std::move(taken->saved);
     if (is_there) SetAside(copy_, jet_file_, messages_);
     return {};
   }

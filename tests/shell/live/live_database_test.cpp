@@ -7,9 +7,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "jet/import/import_file.h"
 #include "jet/jet_file.h"
 #include "jet/table.h"
 #include "platform/fault.h"
+#include "shell/live/import_saved.h"
 #include "shell/live/live_site.h"
 #include "shell/live/working_copy.h"
 #include "store/database_file.h"
@@ -223,6 +225,68 @@ TEST_F(LiveDatabase, ImportedTakesThePlaceOfTheFileAndWhatWasSavedComesAlong) {
   EXPECT_EQ(site.LinesOf(imported), 3);
   EXPECT_THAT(site.Tallies(imported), ElementsAre("20261121 090000 本館: 1"));
   EXPECT_TRUE(fs::exists(site.Data("GENBA001.MDB.jet")));
+}
+
+TEST_F(LiveDatabase, ImportedHasWhatWasSavedBeforeItTakesThePlaceOfTheFile) {
+  site.PutJet(3);
+  {
+    Database open = site.Open();
+    LiveSite::Save(open, {"20261121", "090000", "本館"});
+  }
+  ImportInPlaceWithSaved(site.File());
+  Database imported = Database::Open(site.File());
+  EXPECT_THAT(site.Tallies(imported), ElementsAre("20261121 090000 本館: 1"));
+  EXPECT_THAT(site.Names(), ElementsAre("GENBA001.MDB", "GENBA001.MDB.jet", "GENBA001.MDB.jet.txt"));
+  EXPECT_THAT(site.messages, IsEmpty());
+}
+
+TEST_F(LiveDatabase, IsNotImportedWhileWhatWasSavedCannotGoWithIt) {
+  site.PutJet(3);
+  {
+    Database open = site.Open();
+    LiveSite::Save(open, {"20261121", "090000", "本館"});
+  }
+  std::vector<JetTable> tables;
+  std::vector<TableDef> archive = ArchiveTables();
+  for (TableDef& table : archive) {
+    if (table.name != "重量集計名称") continue;
+    for (FieldDef& field : table.fields) {
+      if (field.name == "作成日") field.size = 4;
+    }
+    tables.push_back({table.name, table.fields, {}});
+  }
+  WriteJetFile(site.File(), jet::JetVersion::jet4, tables);
+  const std::string before = ReadFileBytes(site.File());
+  const std::string fault = FaultTextOf([&] { ImportInPlaceWithSaved(site.File()); });
+  EXPECT_THAT(fault, HasSubstr(site.Copy().string()));
+  EXPECT_EQ(ReadFileBytes(site.File()), before);
+  EXPECT_TRUE(fs::exists(site.Copy()));
+}
+
+TEST_F(LiveDatabase, ImportedLeavesACopyThatCannotBeReadAndSaysSo) {
+  site.PutJet(3);
+  WriteFileAtomically(site.Copy(), "no copy");
+  ImportInPlaceWithSaved(site.File());
+  EXPECT_THAT(site.messages, ElementsAre(HasSubstr(site.Copy().string())));
+  EXPECT_EQ(ReadFileBytes(site.Copy()), "no copy");
+}
+
+TEST_F(LiveDatabase, OfTheStoreTellsOfTalliesThatOnlyAWorkingCopyBesideItHolds) {
+  site.PutJet(3);
+  {
+    Database open = site.Open();
+    LiveSite::Save(open, {"20261121", "090000", "本館"});
+  }
+  jet::ImportJetFileInPlace(site.File());
+  site.Open();
+  EXPECT_THAT(site.messages, ElementsAre(AllOf(HasSubstr("1 件"), HasSubstr(site.Copy().string()))));
+  {
+    Database store = Database::Open(site.File());
+    LiveSite::Save(store, {"20261121", "090000", "本館"});
+  }
+  site.messages.clear();
+  site.Open();
+  EXPECT_THAT(site.messages, IsEmpty()) << "it has them";
 }
 
 TEST_F(LiveDatabase, AFileOfTheStoreInPlaceOfTheJetFileIsOpenedItself) {
