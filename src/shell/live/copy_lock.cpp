@@ -26,9 +26,16 @@ bool IsNamed(const FileDescriptor& open, const fs::path& name) {
          locked.st_ino == named.st_ino && locked.st_dev == named.st_dev;
 }
 
+/// One that a killed program of another user has left locks as well for those who may only read it.
 std::unique_ptr<FileDescriptor> OpenLockFile(const fs::path& file) {
-  auto open = std::make_unique<FileDescriptor>(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+  constexpr mode_t kForAll = 0666;
+  auto open = std::make_unique<FileDescriptor>(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kForAll));
+  if (!open->IsOpen() && errno == EACCES) {
+    open = std::make_unique<FileDescriptor>(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  }
   if (!open->IsOpen()) throw FileFault(file, "cannot be made");
+  // Whatever this user's mask leaves out. Of another's file the rights stay his, and some shares know none.
+  static_cast<void>(::fchmod(open->Number(), kForAll));
   return open;
 }
 

@@ -30,6 +30,18 @@ FileStamp StampOfOpen(const FileDescriptor& open, const fs::path& name) {
   return StampOfStatus(status);
 }
 
+/// The format ends there; 0 at a certain place in front tells a file of Jet 3.
+void RefuseBySize(const FileDescriptor& open, std::int64_t size, const fs::path& name) {
+  constexpr off_t kVersionAt = 0x14;
+  constexpr std::int64_t kGigabyte = std::int64_t{1} << 30;
+  unsigned char version = 0;
+  const bool is_jet3 = ::pread(open.Number(), &version, 1, kVersionAt) == 1 && version == 0;
+  const int gigabytes = is_jet3 ? 1 : 2;
+  if (size <= gigabytes * kGigabyte) return;
+  throw FileFaultText(name, fmt::format("is larger than the {} GB at which a file of Jet {} ends", gigabytes,
+                                        is_jet3 ? 3 : 4));
+}
+
 /// Fewer bytes than expected where the file has become shorter.
 Bytes ReadBytes(const FileDescriptor& open, std::int64_t size, const fs::path& name) {
   Bytes bytes(static_cast<std::size_t>(size));
@@ -73,6 +85,7 @@ std::optional<JetOriginal> ReadOriginal(const fs::path& file, const ReadHook& be
   JetOriginal original;
   original.stamp = StampOfOpen(open, file);
   original.settled = original.stamp.HasSettled();
+  RefuseBySize(open, original.stamp.size, file);
   original.bytes = ReadBytes(open, original.stamp.size, file);
   if (behind_reading) behind_reading();
   const std::optional<FileStamp> named = StampOf(file);

@@ -42,7 +42,8 @@ struct JetOriginal {
 /// Called when the bytes have been read, before it is looked whether they still stand: for tests.
 using ReadHook = std::function<void()>;
 
-/// Reads a whole file without locking it. Nothing when it was changed meanwhile. Throws `file`.
+/// Reads a whole file without locking it. Nothing when it was changed meanwhile. Throws `file`, also for one
+/// that is larger than its format allows.
 std::optional<JetOriginal> ReadOriginal(const std::filesystem::path& file,
                                         const ReadHook& behind_reading = {});
 

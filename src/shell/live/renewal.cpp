@@ -224,10 +224,14 @@ void Renew(const fs::path& jet_file, const fs::path& copy, const fs::path& other
   const CopyLock lock(copy);
   if (IsMadeMeanwhile(jet_file, copy)) return;
   Making making(jet_file, copy, other, messages);
+  std::string digest_before;
   for (int again = 0;; ++again) {
     std::optional<JetOriginal> original = ReadOriginal(jet_file, behind_reading);
     if (original && IsOnlyNoted(copy, *original)) return;
-    if (original) {
+    // Between two pages of a save a young file looks sound and holds half of it.
+    const bool has_come_to_rest = original && (original->settled || original->digest == digest_before);
+    digest_before = original ? original->digest : "";
+    if (has_come_to_rest) {
       const bool settled = original->settled;
       const auto may_pass = [&](const Fault& fault) {
         return again < kMostReadAgain && !settled && LiesInTheJetFile(fault);

@@ -31,12 +31,12 @@ std::string Picture(const Presented& js) {
   return text;
 }
 
-struct Intent {
+struct StoppedIntent {
   const char* name;
   void (*run)(Presented& js);
 };
 
-constexpr Intent kIntents[] = {
+constexpr StoppedIntent kIntents[] = {
     {"hoops", [](Presented& js) { js.presenter->CycleHoops(); }},
     {"plates", [](Presented& js) { js.presenter->CyclePlates(); }},
     {"again", [](Presented& js) { js.presenter->Recalculate(); }},
@@ -73,7 +73,7 @@ class StoppedTally : public testing::TestWithParam<const ResultScreen*> {};
 
 TEST_P(StoppedTally, LeavesTheScreenTheSelectionAndTheFileAsTheyWere) {
   constexpr int kPace = 25;  // a small site's statements are short
-  for (const Intent& intent : kIntents) {
+  for (const StoppedIntent& intent : kIntents) {
     if (!GetParam()->IsScoped() && intent.name == std::string("range")) continue;
     Presented js(*GetParam());
     WorkStopper stopper(kPace);
