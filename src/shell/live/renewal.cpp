@@ -241,7 +241,7 @@ bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
 
 bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy) {
   const std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
-  return opened && opened->note.Tells(StampOf(jet_file));
+  return opened && opened->note.StandsFor(jet_file);
 }
 
 /// A file that was written a moment ago may be in the midst of being written: then it looks damaged.

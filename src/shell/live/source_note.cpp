@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "jet/import/import_file.h"
+#include "jet/lock_file.h"
 #include "platform/files/files.h"
 #include "platform/files/sha256.h"
 
@@ -41,6 +42,10 @@ std::string NewMark() {
 
 bool SourceNote::Tells(const std::optional<FileStamp>& now) const {
   return now && settled && version == CurrentVersion() && stamp == now->text;
+}
+
+bool SourceNote::StandsFor(const std::filesystem::path& jet_file) const {
+  return Tells(StampOf(jet_file)) && (!jet::IsOpenElsewhere(jet_file) || TellsBytesOf(jet_file));
 }
 
 bool SourceNote::TellsBytesOf(const JetOriginal& original) const {

@@ -32,7 +32,7 @@ fs::path WholePath(const fs::path& file) {
 }
 
 CopyState StateOf(const SourceNote& note, const fs::path& jet_file) {
-  return note.Tells(StampOf(jet_file)) || note.TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
+  return note.StandsFor(jet_file) || note.TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
 }
 
 bool IsNotHeld(const Fault& fault) { return fault.Kind() != FaultKind::locked; }
