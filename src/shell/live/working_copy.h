@@ -14,7 +14,8 @@
 namespace rbt {
 
 /// The working copy of a file that stays as it is: `NAME.MDB.work` beside it, or that name in a folder of the
-/// user's cache that belongs to the file's whole path.
+/// user's cache that belongs to the file's whole path. A copy that was made when the file was spelled in
+/// another letter case goes on under its name.
 std::filesystem::path WorkingCopyBeside(const std::filesystem::path& file);
 std::filesystem::path WorkingCopyInCache(const std::filesystem::path& file);
 /// That of both which keeps what this user saves: the one beside the file where the folder takes files.
