@@ -54,6 +54,7 @@ fs::path WholePath(const fs::path& file) {
 }
 
 CopyState StateOf(const SourceNote& note, const fs::path& jet_file) {
+  if (!note.IsOfThisVersion()) return CopyState::outdated;
   return note.StandsFor(jet_file) || note.TellsBytesOf(jet_file) ? CopyState::fresh : CopyState::stale;
 }
 

@@ -32,10 +32,11 @@ std::optional<OpenedCopy> OpenIfCopy(const std::filesystem::path& copy, bool for
 
 /// How the working copy of a Jet file stands.
 enum class CopyState {
-  missing,  ///< there is none yet: a session makes it
-  fresh,    ///< a session takes it as it is
-  stale,    ///< the Jet file has changed, or another version of the program made it: a session makes it anew
-  foreign,  ///< what stands under its name is none, or is damaged: a session sets it aside
+  missing,   ///< there is none yet: a session makes it
+  fresh,     ///< a session takes it as it is
+  stale,     ///< the Jet file has changed: a session makes it anew
+  outdated,  ///< another version of the program made it: a session makes it anew
+  foreign,   ///< what stands under its name is none, or is damaged: a session sets it aside
 };
 
 struct CopyLook {

@@ -35,10 +35,10 @@ TEST_F(WorkingCopy, IsFreshUntilItsFileChanges) {
   EXPECT_EQ(ReadFileBytes(site.Copy()), before);
 }
 
-TEST_F(WorkingCopy, OfAnotherVersionOfTheImportIsStale) {
+TEST_F(WorkingCopy, OfAnotherVersionOfTheImportIsOutdated) {
   site.PutJet(3);
   site.Open().Execute("UPDATE [~jet_source] SET [version]='0'");
-  EXPECT_EQ(Look().state, CopyState::stale);
+  EXPECT_EQ(Look().state, CopyState::outdated);
   site.Open();
   EXPECT_EQ(Look().state, CopyState::fresh);
 }
