@@ -171,6 +171,7 @@ class Making {
       NamingCopy(work, [&] {
         WriteSourceNote(target, note);
         NoteTalliesOfOriginal(target);
+        NoteMarksOfOriginal(target);
         TakeOver(target, SavedIn(old));
       });
     };
