@@ -166,6 +166,7 @@ class Making {
       origins->Note(row);
     };
     extras.end = [&](Database& target, const jet::ImportReport& report) {
+      origins->Finish();
       origins.reset();
       note.refused = static_cast<std::int64_t>(report.Refused());
       NamingCopy(work, [&] {

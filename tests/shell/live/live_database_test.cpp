@@ -83,6 +83,14 @@ TEST_P(LiveJetFile, KnowsOfEachRowItsPageAndSlotThere) {
   EXPECT_FALSE(JetPlaceOf(open, "形状テーブル", 1));
 }
 
+TEST_F(LiveDatabase, FindsThePlaceOfARowWithoutALookAtAllOthers) {
+  site.PutJet(3);
+  Database open = site.Open();
+  const auto rows = open.FindTable("~jet_rows");
+  ASSERT_THAT(rows->indexes, testing::SizeIs(1));
+  EXPECT_THAT(rows->indexes.front().fields, ElementsAre("of_table", "of_row"));
+}
+
 TEST_F(LiveDatabase, ListsNoneOfTheTablesThatTheCopyKeepsForItself) {
   site.PutJet(1);
   Database open = site.Open();
