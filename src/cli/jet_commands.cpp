@@ -66,7 +66,8 @@ void Import(const fs::path& source, const fs::path& target, jet::OnDamage on_dam
 constexpr std::pair<CopyState, std::string_view> kStates[] = {
     {CopyState::missing, "is not there yet and would be made"},
     {CopyState::fresh, "is up to date"},
-    {CopyState::stale, "would be made anew: the Jet file has changed, or another version made it"},
+    {CopyState::stale, "would be made anew: the Jet file has changed"},
+    {CopyState::outdated, "would be made anew: another version of the program made it"},
     {CopyState::foreign, "cannot be used: it would be set aside and made anew"},
 };
 

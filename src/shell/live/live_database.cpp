@@ -33,7 +33,7 @@ std::optional<Database> OpenUpToDate(const fs::path& copy, const fs::path& file,
   std::optional<OpenedCopy> opened = OpenIfCopy(copy, for_reading);
   if (!opened) return std::nullopt;
   const SourceNote& note = opened->note;
-  if (!note.Tells(StampOf(file)) && !(by_bytes && note.TellsBytesOf(file))) return std::nullopt;
+  if (!note.StandsFor(file) && !(by_bytes && note.TellsBytesOf(file))) return std::nullopt;
   return std::move(opened->database);
 }
 
@@ -117,7 +117,7 @@ bool StandsFor(Database& open, const fs::path& file) {
   if (!open.IsPrivateCopy() && open.HasMoved()) return false;
   if (open.File() == file) return true;
   const std::optional<SourceNote> note = ReadSourceNote(open);
-  return note && note->Tells(StampOf(file));
+  return note && note->StandsFor(file);
 }
 
 std::string MarkOfCopy(Database& open, const fs::path& file) {

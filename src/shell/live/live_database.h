@@ -32,7 +32,8 @@ Database OpenLiveForReading(const std::filesystem::path& file, const LiveUse& us
 
 /// True where an open database, or the private copy of one, is what stands for `file` now: its name still
 /// leads to it, and no Jet file behind it has changed since it was read. Costs a look at what the system
-/// notes of the file, and in working copies the reading of one row.
+/// notes of the file, and in working copies the reading of one row; of the whole file only while another
+/// program has it open.
 bool StandsFor(Database& open, const std::filesystem::path& file);
 
 /// Tells one working copy of a Jet file from every other, one that was made anew from the one before; empty

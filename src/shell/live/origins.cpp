@@ -18,7 +18,7 @@ TableDef TablesLayout() {
   return {std::string(kTables), {{"number", FieldType::integer32}, {"name", FieldType::text, 64}}, {}};
 }
 
-/// A table of its own, without a key: to note a row costs as little as can be.
+/// A table of its own, without a key: to note a row costs as little as can be. The index comes at the end.
 TableDef RowsLayout() {
   return {std::string(kRows),
           {{"of_table", FieldType::integer32},
@@ -42,7 +42,8 @@ void Append(BulkInsert& insert, const std::vector<Value>& values) {
 }  // namespace
 
 OriginsWriter::OriginsWriter(Database& working_copy)
-    : tables_(working_copy, Made(working_copy, TablesLayout())),
+    : working_copy_(working_copy),
+      tables_(working_copy, Made(working_copy, TablesLayout())),
       rows_(working_copy, Made(working_copy, RowsLayout())) {}
 
 void OriginsWriter::Note(const jet::TakenRow& row) {
@@ -53,6 +54,10 @@ void OriginsWriter::Note(const jet::TakenRow& row) {
   values_.assign({Value{number_}, Value{row.number}, Value{std::int64_t{row.place.page}},
                   Value{std::int64_t{row.place.slot}}});
   Append(rows_, values_);
+}
+
+void OriginsWriter::Finish() {
+  working_copy_.AppendIndex(kRows, {.name = "by_row", .unique = true, .fields = {"of_table", "of_row"}});
 }
 
 std::optional<JetPlace> JetPlaceOf(Database& working_copy, std::string_view table, std::int64_t row) {

@@ -19,8 +19,11 @@ class OriginsWriter {
   explicit OriginsWriter(Database& working_copy);
 
   void Note(const jet::TakenRow& row);
+  /// Makes what is noted quick to look up; nothing is noted behind it.
+  void Finish();
 
  private:
+  Database& working_copy_;
   BulkInsert tables_;
   BulkInsert rows_;
   std::string table_;

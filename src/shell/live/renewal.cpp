@@ -135,11 +135,13 @@ class Making {
       origins->Note(row);
     };
     extras.end = [&](Database& target, const jet::ImportReport& report) {
+      origins->Finish();
       origins.reset();
       note.refused = static_cast<std::int64_t>(report.Refused());
       NamingCopy(work, [&] {
         WriteSourceNote(target, note);
         NoteTalliesOfOriginal(target);
+        NoteMarksOfOriginal(target);
         TakeOver(target, SavedIn(old));
       });
     };
@@ -210,7 +212,7 @@ bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
 
 bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy) {
   const std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
-  return opened && opened->note.Tells(StampOf(jet_file));
+  return opened && opened->note.StandsFor(jet_file);
 }
 
 /// A file that was written a moment ago may be in the midst of being written: then it looks damaged.

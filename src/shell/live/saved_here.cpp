@@ -11,10 +11,12 @@
 
 #include "data/quoted_text.h"
 #include "data/table_layouts.h"
+#include "platform/fault.h"
 #include "platform/files/sha256.h"
 #include "platform/pass_over_faults.h"
 #include "platform/text/characters.h"
 #include "shell/live/free_place.h"
+#include "store/bulk_insert.h"
 
 namespace rbt {
 
@@ -28,6 +30,7 @@ constexpr std::string_view kTallies = "~jet_tallies";
 constexpr std::string_view kRegistered = "登録名";
 constexpr std::string_view kRegisteredNumber = "登録AN";
 constexpr std::string_view kMark = "表示番号";
+constexpr std::string_view kMarks = "~jet_marks";
 
 /// Date and time of a save.
 using Moment = std::pair<std::string, std::string>;
@@ -146,30 +149,55 @@ std::vector<KeptTally> ReadTallies(Database& working_copy, const std::vector<Tab
 
 bool HasMarks(Database& database) {
   const auto table = database.FindTable(kRegistered);
-  return table != nullptr && table->FindField(kRegisteredNumber) != nullptr &&
-         table->FindField(kMark) != nullptr;
+  const auto has = [&](std::string_view field) { return table->FindField(field) != nullptr; };
+  return table != nullptr && has(kRegisteredNumber) && has(kRegistered) && has(kMark);
 }
 
-std::vector<std::pair<Value, Value>> ReadMarks(Database& companion) {
-  std::vector<std::pair<Value, Value>> marks;
+TableDef MarksLayout() {
+  return {std::string(kMarks), {{"number", FieldType::text, 255}, {"mark", FieldType::text, 255}}, {}};
+}
+
+/// All marks, those of the Jet file as well.
+std::vector<KeptMark> AllMarks(Database& companion) {
+  std::vector<KeptMark> marks;
   if (!HasMarks(companion)) return marks;
-  Recordset row = companion.OpenSnapshot(
-      fmt::format("SELECT {0}, {1} FROM {2} WHERE Not IsNull({0})", kRegisteredNumber, kMark, kRegistered));
-  for (; !row.Eof(); row.MoveNext()) marks.emplace_back(row.Get(FieldHandle{0}), row.Get(FieldHandle{1}));
+  Recordset row = companion.OpenSnapshot(fmt::format("SELECT {0}, {1}, {2} FROM {1} WHERE Not IsNull({0})",
+                                                     kRegisteredNumber, kRegistered, kMark));
+  for (; !row.Eof(); row.MoveNext()) {
+    marks.push_back({row.Get(FieldHandle{0}), row.Get(FieldHandle{1}), row.Get(FieldHandle{2})});
+  }
   return marks;
 }
 
-/// Names that are gone take their marks with them.
-void WriteMarks(Database& companion, const std::vector<std::pair<Value, Value>>& marks) {
+std::vector<KeptMark> MarksSetHere(Database& companion) {
+  std::map<std::string, std::string> noted;
+  if (companion.FindTable(kMarks) != nullptr) {
+    Recordset row = companion.OpenSnapshot(fmt::format("SELECT [number], [mark] FROM [{}]", kMarks));
+    for (; !row.Eof(); row.MoveNext())
+      noted[TextOf(row.Get(FieldHandle{0}))] = TextOf(row.Get(FieldHandle{1}));
+  }
+  std::vector<KeptMark> marks = AllMarks(companion);
+  std::erase_if(marks, [&](const KeptMark& mark) {
+    const auto found = noted.find(TextOf(mark.number));
+    return found != noted.end() && found->second == TextOf(mark.mark);
+  });
+  return marks;
+}
+
+/// A number that leads to another name by now is another name's. Names that are gone take their marks with
+/// them.
+void WriteMarks(Database& companion, const std::vector<KeptMark>& marks) {
   if (marks.empty() || !HasMarks(companion)) return;
-  std::map<std::string, Value> by_number;
-  for (const auto& [number, mark] : marks) by_number[TextOf(number)] = mark;
+  using NumberAndName = std::pair<std::string, std::string>;
+  std::map<NumberAndName, Value> by_name;
+  for (const KeptMark& mark : marks) by_name[{TextOf(mark.number), TextOf(mark.name)}] = mark.mark;
   Recordset row = companion.OpenDynaset(fmt::format("SELECT * FROM {}", kRegistered));
   const FieldHandle number = row.Field(kRegisteredNumber);
+  const FieldHandle name = row.Field(kRegistered);
   const FieldHandle mark = row.Field(kMark);
   for (; !row.Eof(); row.MoveNext()) {
-    const auto found = by_number.find(TextOf(row.Get(number)));
-    if (found == by_number.end() || row.Get(mark) == found->second) continue;
+    const auto found = by_name.find({TextOf(row.Get(number)), TextOf(row.Get(name))});
+    if (found == by_name.end() || row.Get(mark) == found->second) continue;
     row.Edit();
     row.Set(mark, found->second);
     row.Update();
@@ -269,11 +297,22 @@ void NoteTalliesOfOriginal(Database& working_copy) {
   }
 }
 
+void NoteMarksOfOriginal(Database& working_copy) {
+  if (!HasMarks(working_copy)) return;
+  working_copy.CreateTable(MarksLayout());
+  BulkInsert notes(working_copy, MarksLayout());
+  for (const KeptMark& mark : AllMarks(working_copy)) {
+    const std::vector<Value> note{Value{TextOf(mark.number)}, Value{TextOf(mark.mark)}};
+    if (const auto refused = notes.Append(note))
+      throw Fault(FaultKind::database, "the mark of a name: " + *refused);
+  }
+}
+
 SavedHere ReadSavedHere(Database& working_copy) {
   SavedHere saved;
   saved.tables = ArchiveOf(working_copy);
   saved.tallies = ReadTallies(working_copy, saved.tables);
-  saved.marks = ReadMarks(working_copy);
+  saved.marks = MarksSetHere(working_copy);
   return saved;
 }
 

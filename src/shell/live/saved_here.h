@@ -23,19 +23,27 @@ struct KeptTally {
   std::vector<std::pair<std::string, NamedValues>> rows;  ///< of the other tables, with their names
 };
 
+/// A mark of a registered name that did not come with the Jet file.
+struct KeptMark {
+  Value number;  ///< 登録AN
+  Value name;    ///< 登録名
+  Value mark;    ///< 表示番号
+};
+
 /// What was saved in a working copy and is not in its Jet file.
 struct SavedHere {
   std::vector<TableDef> tables;  ///< of the archive, as the copy has them
   std::vector<KeptTally> tallies;
-  /// 表示番号 of the registered names, by 登録AN.
-  std::vector<std::pair<Value, Value>> marks;
+  std::vector<KeptMark> marks;
 };
 
 /// Notes in a working copy which tallies came with the Jet file, and how they stood.
 void NoteTalliesOfOriginal(Database& working_copy);
+/// Notes in a working copy how the registered names were marked when they came with the Jet file.
+void NoteMarksOfOriginal(Database& working_copy);
 
 /// Reads what was saved in a working copy. A tally that was changed here, be it by a new name, was saved
-/// here.
+/// here; a mark that stands as it came was not.
 SavedHere ReadSavedHere(Database& working_copy);
 /// How many tallies that are.
 std::size_t CountSavedHere(Database& working_copy);
@@ -43,7 +51,7 @@ std::size_t CountSavedHere(Database& working_copy);
 /// Writes it beside the rows of another import of the Jet file. Archive tables and fields that the file lacks
 /// are made. A tally whose moment, or whose name among those of its kind, is taken by one that is there goes
 /// under its name with "(控え)", and a number behind that where this is taken too; a moment that is taken
-/// goes on by seconds until one is free.
+/// goes on by seconds until one is free. A mark goes to the name whose number and text it was set for.
 void WriteSavedHere(Database& fresh, const SavedHere& saved);
 
 }  // namespace rbt

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "jet/import/import_file.h"
+#include "jet/lock_file.h"
 #include "platform/files/files.h"
 #include "platform/files/sha256.h"
 
@@ -39,17 +40,23 @@ std::string NewMark() {
 
 }  // namespace
 
+bool SourceNote::IsOfThisVersion() const { return version == CurrentVersion(); }
+
 bool SourceNote::Tells(const std::optional<FileStamp>& now) const {
-  return now && settled && version == CurrentVersion() && stamp == now->text;
+  return now && settled && IsOfThisVersion() && stamp == now->text;
+}
+
+bool SourceNote::StandsFor(const std::filesystem::path& jet_file) const {
+  return Tells(StampOf(jet_file)) && (!jet::IsOpenElsewhere(jet_file) || TellsBytesOf(jet_file));
 }
 
 bool SourceNote::TellsBytesOf(const JetOriginal& original) const {
-  return version == CurrentVersion() && size == original.stamp.size && digest == original.digest;
+  return IsOfThisVersion() && size == original.stamp.size && digest == original.digest;
 }
 
 bool SourceNote::TellsBytesOf(const std::filesystem::path& file) const {
   const std::optional<FileStamp> now = StampOf(file);
-  return now && version == CurrentVersion() && size == now->size && digest == Sha256Of(ReadFileBytes(file));
+  return now && IsOfThisVersion() && size == now->size && digest == Sha256Of(ReadFileBytes(file));
 }
 
 SourceNote NoteOf(const JetOriginal& original) {

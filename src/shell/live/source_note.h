@@ -21,8 +21,13 @@ struct SourceNote {
   std::string mark;          ///< tells this copy from any other that is ever made
   std::int64_t refused = 0;  ///< rows that the store could not take
 
+  /// False for a copy that another version of the import made: it is no more than what was saved in it.
+  bool IsOfThisVersion() const;
   /// True where nothing tells of a change: the file stands as it was noted.
   bool Tells(const std::optional<FileStamp>& now) const;
+  /// The same for a Jet file itself. While another program has it open a share may put off its times: then
+  /// the bytes are compared, too.
+  bool StandsFor(const std::filesystem::path& jet_file) const;
   /// True for a file of the noted size whose bytes are the noted ones.
   bool TellsBytesOf(const std::filesystem::path& file) const;
   bool TellsBytesOf(const JetOriginal& original) const;

@@ -14,7 +14,8 @@
 namespace rbt {
 
 /// The working copy of a file that stays as it is: `NAME.MDB.work` beside it, or that name in a folder of the
-/// user's cache that belongs to the file's whole path.
+/// user's cache that belongs to the file's whole path. A copy that was made when the file was spelled in
+/// another letter case goes on under its name.
 std::filesystem::path WorkingCopyBeside(const std::filesystem::path& file);
 std::filesystem::path WorkingCopyInCache(const std::filesystem::path& file);
 /// That of both which keeps what this user saves: the one beside the file where the folder takes files.
@@ -31,10 +32,11 @@ std::optional<OpenedCopy> OpenIfCopy(const std::filesystem::path& copy, bool for
 
 /// How the working copy of a Jet file stands.
 enum class CopyState {
-  missing,  ///< there is none yet: a session makes it
-  fresh,    ///< a session takes it as it is
-  stale,    ///< the Jet file has changed, or another version of the program made it: a session makes it anew
-  foreign,  ///< what stands under its name is none, or is damaged: a session sets it aside
+  missing,   ///< there is none yet: a session makes it
+  fresh,     ///< a session takes it as it is
+  stale,     ///< the Jet file has changed: a session makes it anew
+  outdated,  ///< another version of the program made it: a session makes it anew
+  foreign,   ///< what stands under its name is none, or is damaged: a session sets it aside
 };
 
 struct CopyLook {

@@ -137,34 +137,67 @@ TEST_F(CarriedOver, WhatTheFilesTablesDoNotTakeStaysInTheOldCopyWhichIsSetAside)
   EXPECT_EQ(site.messages.size(), 1U);
 }
 
-TEST_F(CarriedOver, MarksOfRegisteredNamesSurviveByTheirNumbers) {
-  const std::filesystem::path companion = site.Data("HIROI001.mdb");
-  const auto put = [&](std::int64_t names) {
+/// A registered name as the Jet file has it, or as the working copy shows it.
+struct MarkedName {
+  std::int64_t number;
+  std::string name;
+  Value mark;
+};
+
+class CarriedOverMarks : public CarriedOver {
+ protected:
+  std::filesystem::path Companion() const { return site.Data("HIROI001.mdb"); }
+
+  void Put(const std::vector<MarkedName>& names) const {
     std::vector<JetTable> tables;
     for (const TableDef& table : CompanionFileTables()) {
       JetTable jet{table.name, table.fields, {}};
-      for (std::int64_t number = 1; table.name == "登録名" && number <= names; ++number) {
-        std::vector<Value> row(table.fields.size());
-        row[static_cast<std::size_t>(table.FindField("登録AN") - table.fields.data())] = number;
-        jet.rows.push_back(std::move(row));
+      if (table.name == "登録名") {
+        for (const MarkedName& name : names)
+          jet.rows.push_back({Value{name.number}, Value{name.name}, name.mark});
       }
       tables.push_back(std::move(jet));
     }
-    WriteJetFile(companion, jet::JetVersion::jet3, tables);
-  };
-  put(3);
-  {
-    Database open = OpenLive(companion, {});
-    open.Execute("UPDATE 登録名 SET 表示番号=1 WHERE 登録AN=2");
+    WriteJetFile(Companion(), jet::JetVersion::jet3, tables);
   }
-  put(4);
-  Database open = OpenLive(companion, {});
-  std::vector<std::string> marks;
-  Recordset rows = open.OpenSnapshot("SELECT 登録AN, 表示番号 FROM 登録名 ORDER BY 登録AN");
-  for (; !rows.Eof(); rows.MoveNext()) {
-    marks.push_back(TextOf(rows.Get(FieldHandle{0})) + ":" + TextOf(rows.Get(FieldHandle{1})));
+  void Mark(std::int64_t number) const {
+    OpenLive(Companion(), {}).Execute("UPDATE 登録名 SET 表示番号=1 WHERE 登録AN=" + std::to_string(number));
   }
-  EXPECT_THAT(marks, ElementsAre("1:", "2:1", "3:", "4:"));
+  std::vector<std::string> Marks() const {
+    Database open = OpenLive(Companion(), {});
+    std::vector<std::string> marks;
+    Recordset rows = open.OpenSnapshot("SELECT 登録AN, 表示番号 FROM 登録名 ORDER BY 登録AN");
+    for (; !rows.Eof(); rows.MoveNext()) {
+      marks.push_back(TextOf(rows.Get(FieldHandle{0})) + ":" + TextOf(rows.Get(FieldHandle{1})));
+    }
+    return marks;
+  }
+
+  const Value none{std::int64_t{0}};
+  const Value set{std::int64_t{1}};
+};
+
+TEST_F(CarriedOverMarks, SurviveByTheNumbersOfTheirNames) {
+  Put({{1, "柱", {}}, {2, "梁", {}}, {3, "壁", {}}});
+  Mark(2);
+  Put({{1, "柱", {}}, {2, "梁", {}}, {3, "壁", {}}, {4, "床", {}}});
+  EXPECT_THAT(Marks(), ElementsAre("1:", "2:1", "3:", "4:"));
+  Put({{1, "柱", {}}, {2, "梁", {}}});
+  EXPECT_THAT(Marks(), ElementsAre("1:", "2:1")) << "and again";
+}
+
+TEST_F(CarriedOverMarks, LeaveThoseOfTheFileToTheFile) {
+  Put({{1, "柱", set}, {2, "梁", none}, {3, "壁", none}});
+  Mark(2);
+  Put({{1, "柱", none}, {2, "梁", none}, {3, "壁", set}});
+  EXPECT_THAT(Marks(), ElementsAre("1:0", "2:1", "3:1"));
+}
+
+TEST_F(CarriedOverMarks, DoNotPassToAnotherNameOfTheirNumber) {
+  Put({{1, "柱", none}, {2, "梁", none}});
+  Mark(2);
+  Put({{1, "柱", none}, {2, "床", none}, {3, "梁", none}});
+  EXPECT_THAT(Marks(), ElementsAre("1:0", "2:0", "3:0"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "shell/live/live_database.h"
 
 #include <chrono>
+#include <fcntl.h>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -11,8 +12,10 @@
 #include "jet/jet_file.h"
 #include "jet/table.h"
 #include "platform/fault.h"
+#include "platform/files/file_descriptor.h"
 #include "shell/live/import_saved.h"
 #include "shell/live/live_site.h"
+#include "shell/live/source_note.h"
 #include "shell/live/working_copy.h"
 #include "store/database_file.h"
 #include "support/fault_of.h"
@@ -82,6 +85,14 @@ TEST_P(LiveJetFile, KnowsOfEachRowItsPageAndSlotThere) {
   EXPECT_FALSE(JetPlaceOf(open, "形状テーブル", 1));
 }
 
+TEST_F(LiveDatabase, FindsThePlaceOfARowWithoutALookAtAllOthers) {
+  site.PutJet(3);
+  Database open = site.Open();
+  const auto rows = open.FindTable("~jet_rows");
+  ASSERT_THAT(rows->indexes, testing::SizeIs(1));
+  EXPECT_THAT(rows->indexes.front().fields, ElementsAre("of_table", "of_row"));
+}
+
 TEST_F(LiveDatabase, ListsNoneOfTheTablesThatTheCopyKeepsForItself) {
   site.PutJet(1);
   Database open = site.Open();
@@ -124,6 +135,34 @@ TEST_F(LiveDatabase, FollowsAChangeThatKeepsSizeAndTimeOfTheFile) {
   ASSERT_EQ(fs::file_size(site.File()), size);
   Database again = site.Open();
   EXPECT_EQ(site.BarsOf(again), 6);
+}
+
+TEST_F(LiveDatabase, BelievesNoTimesOfAFileThatAnotherProgramHasOpen) {
+  site.PutJet(3, 1);
+  Database open = site.Open();
+  site.PutJet(3, 2);
+  // As a share leaves the times of a file until it is closed.
+  open.Execute("UPDATE [~jet_source] SET [settled]=-1, [stamp]='" + StampOf(site.File())->text + "'");
+  EXPECT_TRUE(StandsFor(open, site.File()));
+  const FileDescriptor lock_file(::open(site.Data("GENBA001.ldb").c_str(), O_RDWR | O_CREAT, 0666));
+  struct flock all {};
+  all.l_type = F_WRLCK;
+  ASSERT_EQ(::fcntl(lock_file.Number(), F_OFD_SETLK, &all), 0);
+  EXPECT_FALSE(StandsFor(open, site.File()));
+  EXPECT_EQ(LookAtWorkingCopy(site.File()).state, CopyState::stale);
+  Database again = site.Open();
+  EXPECT_EQ(site.BarsOf(again), 6);
+}
+
+TEST_F(LiveDatabase, OfAFileThatAnotherProgramHasOpenStandsByItsBytes) {
+  site.PutJet(3, 1);
+  Database open = site.Open();
+  open.Execute("UPDATE [~jet_source] SET [settled]=-1");
+  const FileDescriptor lock_file(::open(site.Data("GENBA001.ldb").c_str(), O_RDWR | O_CREAT, 0666));
+  struct flock all {};
+  all.l_type = F_WRLCK;
+  ASSERT_EQ(::fcntl(lock_file.Number(), F_OFD_SETLK, &all), 0);
+  EXPECT_TRUE(StandsFor(open, site.File()));
 }
 
 TEST_F(LiveDatabase, OfAFileThatHasSettledIsKnownToStand) {

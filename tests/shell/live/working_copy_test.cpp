@@ -35,10 +35,10 @@ TEST_F(WorkingCopy, IsFreshUntilItsFileChanges) {
   EXPECT_EQ(ReadFileBytes(site.Copy()), before);
 }
 
-TEST_F(WorkingCopy, OfAnotherVersionOfTheImportIsStale) {
+TEST_F(WorkingCopy, OfAnotherVersionOfTheImportIsOutdated) {
   site.PutJet(3);
   site.Open().Execute("UPDATE [~jet_source] SET [version]='0'");
-  EXPECT_EQ(Look().state, CopyState::stale);
+  EXPECT_EQ(Look().state, CopyState::outdated);
   site.Open();
   EXPECT_EQ(Look().state, CopyState::fresh);
 }
@@ -58,6 +58,40 @@ TEST_F(WorkingCopy, IsForeignWhereItIsNone) {
   WriteFileAtomically(site.Copy(), "no copy");
   EXPECT_EQ(Look().state, CopyState::foreign);
   EXPECT_EQ(ReadFileBytes(site.Copy()), "no copy");
+}
+
+TEST_F(WorkingCopy, GoesOnWhenItsFileIsSpelledInAnotherLetterCase) {
+  site.PutJet(3);
+  {
+    Database open = site.Open();
+    LiveSite::Save(open, {"20261121", "090000", "本館"});
+  }
+  const fs::path renamed = site.Data("Genba001.mdb");
+  const fs::path in_cache = WorkingCopyInCache(site.File()).parent_path();
+  fs::rename(site.File(), renamed);
+  EXPECT_EQ(WorkingCopyInCache(renamed).parent_path(), in_cache);
+  Database open = OpenLive(renamed, {});
+  EXPECT_EQ(open.File(), site.Copy());
+  EXPECT_EQ(LiveSite::Tallies(open).size(), 1U);
+  EXPECT_EQ(site.Names().size(), 2U);
+}
+
+TEST_F(WorkingCopy, InTheCacheGoesOnWhenItsFileIsSpelledInAnotherLetterCase) {
+  site.PutJet(3);
+  const fs::path copy = site.Open({.only_read = true}).File();
+  ASSERT_EQ(copy, WorkingCopyInCache(site.File()));
+  const fs::path renamed = site.Data("GENBA001.mdb");
+  fs::rename(site.File(), renamed);
+  EXPECT_EQ(WorkingCopyInCache(renamed), copy);
+}
+
+TEST_F(WorkingCopy, OfAnotherFileIsTakenByNoneWhoseNameDiffersInLetterCase) {
+  site.PutJet(3);
+  site.Open();
+  const fs::path other = site.Data("genba001.mdb");
+  fs::copy_file(site.File(), other);
+  EXPECT_EQ(WorkingCopyBeside(other), site.Data("genba001.mdb.work"));
+  EXPECT_NE(WorkingCopyInCache(other), WorkingCopyInCache(site.File()));
 }
 
 TEST_F(WorkingCopy, InTheCacheIsOneForAllWaysToTheFile) {
