@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A Jet file whose folder could not be written for a time has two working copies.
 #include <chrono>
+#include <optional>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/system/paths.h"
 #include "shell/live/live_site.h"
+#include "shell/live/second_copy.h"
 #include "shell/live/working_copy.h"
 #include "support/looking_only.h"
 
@@ -66,6 +68,21 @@ TEST_F(TwoCopies, AreJoinedThoughTheOneBesideTheFileIsUpToDate) {
   site.Open();
   SaveWithoutRight(in_cache);
   EXPECT_THAT(Tallies(), ElementsAre(in_cache_text));
+}
+
+TEST_F(TwoCopies, AreToldApartByWhatOnlyTheOtherHolds) {
+  site.Open();
+  EXPECT_THAT(SecondCopies(site.File()), IsEmpty());
+  SaveWithoutRight(in_cache);
+  const auto look = [&] {
+    const std::vector<SecondCopy> copies = SecondCopies(site.File());
+    return copies.size() == 1 && copies.front().copy == WorkingCopyInCache(site.File())
+               ? std::optional(copies.front().lacking)
+               : std::nullopt;
+  };
+  EXPECT_EQ(look(), 1U);
+  site.Open();
+  EXPECT_EQ(look(), 0U) << "they are joined";
 }
 
 TEST_F(TwoCopies, AreJoinedInTheCacheToo) {
