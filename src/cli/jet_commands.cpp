@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -21,6 +22,7 @@
 #include "platform/text/csv.h"
 #include "shell/import/import_folder.h"
 #include "shell/live/import_saved.h"
+#include "shell/live/second_copy.h"
 #include "shell/live/working_copy.h"
 
 namespace rbt {
@@ -71,6 +73,24 @@ constexpr std::pair<CopyState, std::string_view> kStates[] = {
     {CopyState::foreign, "cannot be used: it would be set aside and made anew"},
 };
 
+/// Working copies that are not the one a session takes.
+std::string TextOfSecondCopies(const std::vector<SecondCopy>& copies) {
+  std::string text;
+  for (const SecondCopy& second : copies) {
+    text +=
+        second.is_readable
+            ? fmt::format("session: another working copy {}, with tallies that are saved there alone: {}\n",
+                          second.copy.string(), second.lacking)
+            : fmt::format("session: another working copy {}, which cannot be read\n", second.copy.string());
+  }
+  return text;
+}
+
+/// A file of the store that took a Jet file's place may lack what was saved while that was read in place.
+void TellOfCopiesBesideStore(const fs::path& file) {
+  if (!jet::IsJetFile(file)) WriteResult(TextOfSecondCopies(SecondCopies(file)));
+}
+
 /// What a session would do with the file.
 std::string TextOfSession(const fs::path& file, bool is_damaged) {
   if (is_damaged) return "session: would not read it in place: it is damaged\n";
@@ -79,6 +99,7 @@ std::string TextOfSession(const fs::path& file, bool is_damaged) {
       std::ranges::find(kStates, look.state, &std::pair<CopyState, std::string_view>::first);
   std::string text = "session: would read it in place\n";
   text += fmt::format("session: its working copy {} {}\n", look.copy.string(), state->second);
+  text += TextOfSecondCopies(SecondCopies(file));
   if (look.saved_tallies > 0) {
     text += fmt::format("session: tallies that are saved there alone: {}\n", look.saved_tallies);
   }
@@ -89,6 +110,7 @@ std::string TextOfSession(const fs::path& file, bool is_damaged) {
 }
 
 void Check(const std::string& name) {
+  TellOfCopiesBesideStore(name);
   const auto file = jet::JetFile::Open(name);
   jet::CheckReport report = jet::CheckFile(*file);
   if (const auto note = jet::NoteOnLockFile(name)) report.warnings.push_back(*note);

@@ -18,6 +18,7 @@
 #include "platform/system/message.h"
 #include "shell/live/joined_saved.h"
 #include "shell/live/old_copy.h"
+#include "shell/live/second_copy.h"
 #include "shell/live/working_copy.h"
 
 namespace rbt {
@@ -72,16 +73,6 @@ class SavedInCopies {
   std::optional<SavedAndJoined> all_;
 };
 
-std::size_t CountLacking(const SavedAndJoined& store, const fs::path& copy) {
-  std::size_t lacking = 0;
-  PassOverFaultsIf([](const Fault&) { return true; },
-                   [&] {
-                     std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
-                     if (opened) lacking = LackingTallies(store, ReadSavedAndJoined(opened->database)).size();
-                   });
-  return lacking;
-}
-
 }  // namespace
 
 jet::ImportReport ImportInPlaceWithSaved(const fs::path& file, jet::OnDamage on_damage) {
@@ -100,14 +91,10 @@ jet::ImportReport ImportInPlaceWithSaved(const fs::path& file, jet::OnDamage on_
 }
 
 void TellOfSavedElsewhere(Database& store, const fs::path& file) {
-  std::optional<SavedAndJoined> there;
-  for (const fs::path& copy : {WorkingCopyBeside(file), WorkingCopyInCache(file)}) {
-    if (!IsTaken(copy)) continue;
-    if (!there) there = ReadSavedAndJoined(store);
-    const std::size_t lacking = CountLacking(*there, copy);
-    if (lacking == 0) continue;
+  for (const SecondCopy& second : SecondCopies(file, &store)) {
+    if (second.lacking == 0) continue;
     MsgBox(fmt::format("{} にない集計が {} 件、作業用の写し {} に残っています。", file.filename().string(),
-                       lacking, copy.string()),
+                       second.lacking, second.copy.string()),
            kTitleOfImport);
   }
 }

@@ -12,6 +12,7 @@
 #include "platform/files/files.h"
 #include "platform/system/message.h"
 #include "shell/live/import_saved.h"
+#include "shell/live/joined_saved.h"
 #include "shell/live/renewal.h"
 #include "shell/live/working_copy.h"
 #include "store/database_file.h"
@@ -26,6 +27,12 @@ Database OpenAs(const fs::path& file, bool for_reading) {
   return for_reading ? Database::OpenReadOnly(file) : Database::Open(file);
 }
 
+/// The working copy in the other place.
+fs::path OtherCopyOf(const fs::path& file, const fs::path& copy) {
+  fs::path beside = WorkingCopyBeside(file);
+  return copy == beside ? WorkingCopyInCache(file) : beside;
+}
+
 /// Nothing where it is not up to date. `by_bytes`: a file whose bytes are the noted ones stands, whatever the
 /// system notes of it.
 std::optional<Database> OpenUpToDate(const fs::path& copy, const fs::path& file, bool for_reading,
@@ -37,36 +44,41 @@ std::optional<Database> OpenUpToDate(const fs::path& copy, const fs::path& file,
   return std::move(opened->database);
 }
 
-/// Something may have been saved in the one since the other was made.
-bool IsYounger(const fs::path& a, const fs::path& b) {
-  std::error_code error;
-  const auto time_of_a = fs::last_write_time(a, error);
-  if (error) return false;
-  const auto time_of_b = fs::last_write_time(b, error);
-  return error || time_of_a > time_of_b;
+/// Nothing where either cannot be read as a working copy.
+struct TwoCopies {
+  SavedAndJoined archive;
+  SavedAndJoined other;
+};
+std::optional<TwoCopies> ReadBoth(const fs::path& archive, const fs::path& other) {
+  std::optional<OpenedCopy> of_archive = OpenIfCopy(archive, true);
+  std::optional<OpenedCopy> of_other = OpenIfCopy(other, true);
+  if (!of_archive || !of_other) return std::nullopt;
+  return TwoCopies{ReadSavedAndJoined(of_archive->database), ReadSavedAndJoined(of_other->database)};
 }
 
-/// One that goes on standing for the file as long as nobody writes: into the folder nothing is written.
+/// One that goes on standing for the file as long as nobody writes: into the folder nothing is written. What
+/// was saved in the cache while the folder could not be written is there alone until somebody may write.
 Database OpenCopyOnlyReading(const fs::path& file, bool for_reading) {
   const fs::path archive = ArchiveCopyOf(file);
-  if (auto open = OpenUpToDate(archive, file, for_reading, true)) return std::move(*open);
   const fs::path copy = WorkingCopyInCache(file);
-  if (copy != archive && !IsYounger(archive, copy)) {
-    if (auto open = OpenUpToDate(copy, file, for_reading, true)) return std::move(*open);
+  const std::optional<TwoCopies> both = copy == archive ? std::nullopt : ReadBoth(archive, copy);
+  const bool holds_its_own = both && !LackingTallies(both->archive, both->other).empty();
+  if (!holds_its_own) {
+    auto open = OpenUpToDate(archive, file, for_reading, true);
+    if (open && (copy != archive || HasJoined(*open, WorkingCopyBeside(file)))) return std::move(*open);
   }
-  // What the archive holds by now is in none that was made before.
-  if (copy != archive && IsYounger(archive, copy)) {
+  // All that it holds is from the archive, which holds something else by now.
+  if (both && !holds_its_own && !HaveSameTallies(both->archive, both->other)) {
     std::error_code there_is_none;
     fs::remove(copy, there_is_none);
   }
-  RenewWorkingCopy(file, copy, copy == archive ? WorkingCopyBeside(file) : archive);
+  RenewWorkingCopy(file, copy, OtherCopyOf(file, copy));
   return OpenAs(copy, for_reading);
 }
 
 Database OpenCopy(const fs::path& file, bool for_reading) {
   const fs::path copy = ArchiveCopyOf(file);
-  const fs::path beside = WorkingCopyBeside(file);
-  RenewWorkingCopy(file, copy, copy == beside ? WorkingCopyInCache(file) : beside);
+  RenewWorkingCopy(file, copy, OtherCopyOf(file, copy));
   return OpenAs(copy, for_reading);
 }
 
@@ -93,7 +105,9 @@ Database OpenInPlace(const fs::path& file, bool only_read, bool for_reading) {
 Database Open(const fs::path& file, const LiveUse& use, bool for_reading) {
   if (use.jet == JetChoice::read_in_place) {
     // A copy that tells how the file stands tells that it is a Jet file, too.
-    if (auto open = OpenUpToDate(ArchiveCopyOf(file), file, for_reading, false)) return std::move(*open);
+    const fs::path copy = ArchiveCopyOf(file);
+    auto open = OpenUpToDate(copy, file, for_reading, false);
+    if (open && HasJoined(*open, OtherCopyOf(file, copy))) return std::move(*open);
   }
   try {
     Database store = OpenAs(file, for_reading);

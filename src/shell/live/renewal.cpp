@@ -85,6 +85,14 @@ void SetAside(const fs::path& copy, const fs::path& jet_file, Messages& messages
                   copy.string(), jet_file.filename().string(), bad.filename().string()));
 }
 
+/// It is left to the user, as another program may need it.
+std::string TextOfOtherThatStays(const fs::path& other, const fs::path& jet_file) {
+  return fmt::format(
+      "{} の作業用の写しがもう一つありますが、そこに保存した集計は引き継げませんでした。\n"
+      "{} はそのまま残します。",
+      jet_file.filename().string(), other.string());
+}
+
 /// The new tables do not take what was saved in the old ones.
 class SavedNotTaken : public Fault {
  public:
@@ -102,10 +110,16 @@ void NoteWhatIsMissing(const jet::ImportReport& report, Messages& messages) {
                                  report.source.filename().string(), report.Refused(), first));
 }
 
+/// The copy that is made anew and that in the other place.
+struct OldCopies {
+  OldCopy copy;
+  OldCopy other;
+};
+
 /// The making of a copy out of what was read.
 class Making {
  public:
-  /// `other` is where saved things come from when there is no copy yet.
+  /// What was saved in `other` is joined.
   Making(const fs::path& jet_file, const fs::path& copy, fs::path other, Messages& messages)
       : jet_file_(jet_file), copy_(copy), other_(std::move(other)), messages_(messages), reading_(jet_file) {}
 
@@ -115,18 +129,23 @@ class Making {
     try {
       Import(*jet, note);
     } catch (const SavedNotTaken&) {
-      // It stays where it is.
-      if (IsTaken(copy_)) SetAside(copy_, jet_file_, messages_);
-      other_.clear();
+      TakesNothing();
       Import(*jet, note);
     }
   }
 
  private:
+  /// What was saved stays where it is.
+  void TakesNothing() {
+    if (IsTaken(copy_)) SetAside(copy_, jet_file_, messages_);
+    if (IsTaken(other_)) messages_.push_back(TextOfOtherThatStays(other_, jet_file_));
+    other_.clear();
+  }
+
   void Import(jet::JetFile& jet, SourceNote& note) {
     const WorkPlace place(FolderOf(copy_));
     FileInWork work(copy_, place, ReadOnlyTarget::replaced);
-    OldCopy old;
+    OldCopies old;
     std::optional<OriginsWriter> origins;
     jet::ImportExtras extras;
     extras.begin = [&](Database& target) { origins.emplace(target); };
@@ -142,7 +161,9 @@ class Making {
         WriteSourceNote(target, note);
         NoteTalliesOfOriginal(target);
         NoteMarksOfOriginal(target);
-        TakeOver(target, SavedIn(old));
+        const SavedAndJoined saved = SavedIn(old);
+        TakeOver(target, saved.saved);
+        if (!saved.joined.empty()) NoteJoined(target, saved.joined);
       });
     };
     const jet::ImportReport report = jet::ImportTables(jet, work, copy_, jet::OnDamage::refuse, extras);
@@ -162,12 +183,19 @@ class Making {
     }
   }
 
-  SavedHere SavedIn(OldCopy& old) {
-    const bool is_there = IsTaken(copy_);
-    std::optional<SavedAndJoined> taken = old.TakeFrom(is_there ? copy_ : other_);
-    if (taken) return std::move(taken->saved);
-    if (is_there) SetAside(copy_, jet_file_, messages_);
-    return {};
+  SavedAndJoined SavedIn(OldCopies& old) {
+    std::optional<SavedAndJoined> saved = old.copy.TakeFrom(copy_);
+    if (!saved && IsTaken(copy_)) SetAside(copy_, jet_file_, messages_);
+    if (!IsTaken(other_)) return saved ? std::move(*saved) : SavedAndJoined{};
+    const std::string standing = StandingOf(other_);
+    const std::optional<SavedAndJoined> more = old.other.TakeFrom(other_);
+    if (!more && !(saved && saved->joined.contains(standing))) {
+      messages_.push_back(TextOfOtherThatStays(other_, jet_file_));
+    }
+    if (!saved) saved = more ? SavedAndJoined{more->saved, {}} : SavedAndJoined{};
+    if (more) Join(*saved, *more);
+    saved->joined.insert(standing);
+    return std::move(*saved);
   }
 
   static void TakeOver(Database& target, const SavedHere& saved) {
@@ -197,22 +225,40 @@ class Making {
   LongReading reading_;
 };
 
-/// True where the copy stands for the bytes that were read; how the file stands is noted anew.
-bool IsOnlyNoted(const fs::path& copy, const JetOriginal& original) {
-  std::optional<OpenedCopy> opened = OpenIfCopy(copy, false);
-  if (!opened || !opened->database.MayBeWritten() || !opened->note.TellsBytesOf(original)) return false;
-  SourceNote& note = opened->note;
-  if (note.stamp == original.stamp.text && note.settled == original.settled) return true;
-  note.stamp = original.stamp.text;
-  note.settled = original.settled;
-  // Without the note the bytes are compared again next time.
-  PassOverFaults(FaultKind::locked, [&] { WriteSourceNote(opened->database, note); });
+/// True where the copy holds what was saved in the other one, as far as that can be read; that this was
+/// looked at is noted.
+bool HoldsAllOf(OpenedCopy& copy, const fs::path& other) {
+  if (HasJoined(copy.database, other)) return true;
+  const std::string standing = StandingOf(other);
+  std::optional<OpenedCopy> opened = OpenIfCopy(other, true);
+  if (!opened) return false;
+  const SavedAndJoined there = ReadSavedAndJoined(opened->database);
+  if (!LackingTallies(ReadSavedAndJoined(copy.database), there).empty()) return false;
+  if (!standing.empty()) NoteJoined(copy.database, {standing});
   return true;
 }
 
-bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy) {
-  const std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
-  return opened && opened->note.StandsFor(jet_file);
+/// True where the copy stands for the bytes that were read; how the file stands is noted anew.
+bool IsOnlyNoted(const fs::path& copy, const fs::path& other, const JetOriginal& original) {
+  std::optional<OpenedCopy> opened = OpenIfCopy(copy, false);
+  if (!opened || !opened->database.MayBeWritten() || !opened->note.TellsBytesOf(original)) return false;
+  bool holds_all = false;
+  // Without the note the bytes are compared again next time.
+  const auto fault = PassOverFaults(FaultKind::locked, [&] {
+    holds_all = HoldsAllOf(*opened, other);
+    SourceNote& note = opened->note;
+    const bool stands = note.stamp == original.stamp.text && note.settled == original.settled;
+    if (!holds_all || stands) return;
+    note.stamp = original.stamp.text;
+    note.settled = original.settled;
+    WriteSourceNote(opened->database, note);
+  });
+  return fault.has_value() || holds_all;
+}
+
+bool IsMadeMeanwhile(const fs::path& jet_file, const fs::path& copy, const fs::path& other) {
+  std::optional<OpenedCopy> opened = OpenIfCopy(copy, true);
+  return opened && opened->note.StandsFor(jet_file) && HasJoined(opened->database, other);
 }
 
 /// A file that was written a moment ago may be in the midst of being written: then it looks damaged.
@@ -224,12 +270,12 @@ void Renew(const fs::path& jet_file, const fs::path& copy, const fs::path& other
            const ReadHook& behind_reading, Messages& messages) {
   constexpr std::chrono::milliseconds kPause{100};
   const CopyLock lock(copy);
-  if (IsMadeMeanwhile(jet_file, copy)) return;
+  if (IsMadeMeanwhile(jet_file, copy, other)) return;
   Making making(jet_file, copy, other, messages);
   std::string digest_before;
   for (int again = 0;; ++again) {
     std::optional<JetOriginal> original = ReadOriginal(jet_file, behind_reading);
-    if (original && IsOnlyNoted(copy, *original)) return;
+    if (original && IsOnlyNoted(copy, other, *original)) return;
     // Between two pages of a save a young file looks sound and holds half of it.
     const bool has_come_to_rest = original && (original->settled || original->digest == digest_before);
     digest_before = original ? original->digest : "";
