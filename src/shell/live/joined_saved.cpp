@@ -94,14 +94,15 @@ bool HaveSameTallies(const SavedAndJoined& a, const SavedAndJoined& b) {
   return DigestsOfTallies(a.saved) == DigestsOfTallies(b.saved);
 }
 
-std::string StandingOf(const std::filesystem::path& other) {
+Standing StandingOf(const std::filesystem::path& other) {
   const std::optional<FileStamp> stamp = StampOf(other);
-  if (!stamp || !stamp->HasSettled()) return {};
-  return Sha256Of(fmt::format("{}\n{}", other.string(), stamp->text));
+  if (!stamp) return {};
+  return {.digest = Sha256Of(fmt::format("{}\n{}", other.string(), stamp->text)),
+          .settled = stamp->HasSettled()};
 }
 
 bool HasJoined(Database& working_copy, const std::filesystem::path& other) {
-  return !IsTaken(other) || ReadJoined(working_copy).contains(StandingOf(other));
+  return !IsTaken(other) || ReadJoined(working_copy).contains(StandingOf(other).digest);
 }
 
 }  // namespace rbt

@@ -31,9 +31,12 @@ void Join(SavedAndJoined& copy, const SavedAndJoined& other);
 /// Whatever their order.
 bool HaveSameTallies(const SavedAndJoined& a, const SavedAndJoined& b);
 
-/// Tells how another copy stands, for `SavedAndJoined::joined`; empty where there is none, or where its next
-/// change could look the same.
-std::string StandingOf(const std::filesystem::path& other);
+/// How another copy stands.
+struct Standing {
+  std::string digest;    ///< for `SavedAndJoined::joined`; empty where there is none
+  bool settled = false;  ///< its next change cannot look the same
+};
+Standing StandingOf(const std::filesystem::path& other);
 /// True where the other copy holds nothing that a working copy has not looked at, or is not there.
 bool HasJoined(Database& working_copy, const std::filesystem::path& other);
 

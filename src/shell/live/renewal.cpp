@@ -187,14 +187,15 @@ class Making {
     std::optional<SavedAndJoined> saved = old.copy.TakeFrom(copy_);
     if (!saved && IsTaken(copy_)) SetAside(copy_, jet_file_, messages_);
     if (!IsTaken(other_)) return saved ? std::move(*saved) : SavedAndJoined{};
-    const std::string standing = StandingOf(other_);
+    const Standing standing = StandingOf(other_);
     const std::optional<SavedAndJoined> more = old.other.TakeFrom(other_);
-    if (!more && !(saved && saved->joined.contains(standing))) {
+    if (!more && !(saved && saved->joined.contains(standing.digest))) {
       messages_.push_back(TextOfOtherThatStays(other_, jet_file_));
     }
     if (!saved) saved = more ? SavedAndJoined{more->saved, {}} : SavedAndJoined{};
     if (more) Join(*saved, *more);
-    saved->joined.insert(standing);
+    // What cannot be read is told once.
+    if (standing.settled || !more) saved->joined.insert(standing.digest);
     return std::move(*saved);
   }
 
@@ -205,17 +206,32 @@ class Making {
   }
 
   void PutInPlace(FileInWork& work) const {
-    std::error_code error;
-    if (!IsTaken(copy_)) {
-      // Whoever may write the Jet file may write the copy.
-      const fs::perms as_original = fs::status(jet_file_, error).permissions();
-      if (!error) {
-        fs::permissions(work.Path(), as_original | fs::perms::owner_read | fs::perms::owner_write, error);
-      }
-    }
+    RequireNobodySaves();
+    const fs::perms rights = RightsOfCopy();
     // Beside another file the journal of a killed save would put old pages into it.
+    std::error_code error;
     fs::remove(With(copy_, "-journal"), error);
     work.Replace();
+    fs::permissions(copy_, rights, error);
+  }
+
+  /// In a copy that may only be read nobody can be kept from writing, and what he writes would go into a file
+  /// without a name.
+  void RequireNobodySaves() const {
+    if (!IsTaken(copy_) || MayBeReplaced(copy_) || !IsTaken(With(copy_, "-journal"))) return;
+    throw jet::TargetFault(FaultKind::locked,
+                           copy_.string() + ": another user's program is saving in it, or was killed there");
+  }
+
+  /// Whoever may write the Jet file may write the copy, whoever has made it.
+  fs::perms RightsOfCopy() const {
+    fs::perms rights = fs::perms::owner_read | fs::perms::owner_write;
+    for (const fs::path* const file : {&jet_file_, &copy_}) {
+      std::error_code error;
+      const fs::perms of_file = fs::status(*file, error).permissions();
+      if (!error && of_file != fs::perms::unknown) rights |= of_file;
+    }
+    return rights;
   }
 
   const fs::path& jet_file_;
@@ -229,12 +245,12 @@ class Making {
 /// looked at is noted.
 bool HoldsAllOf(OpenedCopy& copy, const fs::path& other) {
   if (HasJoined(copy.database, other)) return true;
-  const std::string standing = StandingOf(other);
+  const Standing standing = StandingOf(other);
   std::optional<OpenedCopy> opened = OpenIfCopy(other, true);
   if (!opened) return false;
   const SavedAndJoined there = ReadSavedAndJoined(opened->database);
   if (!LackingTallies(ReadSavedAndJoined(copy.database), there).empty()) return false;
-  if (!standing.empty()) NoteJoined(copy.database, {standing});
+  if (standing.settled) NoteJoined(copy.database, {standing.digest});
   return true;
 }
 

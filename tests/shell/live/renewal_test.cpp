@@ -17,6 +17,7 @@
 #include "shell/live/working_copy.h"
 #include "store/database_impl.h"
 #include "support/fault_of.h"
+#include "support/looking_only.h"
 
 namespace rbt::test {
 namespace {
@@ -165,6 +166,38 @@ TEST_F(Renewal, LetsNoJournalOfAnotherFileComeBesideTheCopy) {
   WriteFileAtomically(site.Data("GENBA001.MDB.work-journal"), "of a copy that somebody has deleted");
   Renew();
   EXPECT_THAT(site.Names(), ElementsAre("GENBA001.MDB", "GENBA001.MDB.work"));
+}
+
+TEST_F(Renewal, GivesTheCopyTheRightsOfTheFileThoughTheOneBeforeHadFewer) {
+  site.PutJet(3);
+  site.Open();
+  fs::permissions(site.Copy(), fs::perms{0640});
+  site.PutJet(4);
+  fs::permissions(site.File(), fs::perms{0664});
+  site.Open();
+  EXPECT_EQ(fs::status(site.Copy()).permissions(), fs::perms{0664});
+}
+
+TEST_F(Renewal, DoesNotReplaceACopyThatMayOnlyBeReadWhileAnotherUserSavesInIt) {
+  site.PutJet(3);
+  Database others = site.Open();
+  site.PutJet(4);
+  fs::permissions(site.Root().Path(), fs::perms{0755});
+  fs::permissions(site.File().parent_path(), fs::perms{0777});
+  fs::permissions(site.Copy(), fs::perms{0444});
+  fs::create_directories(site.Root() / "OTHER");
+  const LookingOnly as_another_user({site.Root() / "OTHER"});
+  {
+    Transaction save(others);
+    LiveSite::Save(others, {"20261121", "090000", "本館"});
+    EXPECT_THAT(FaultTextOf([&] { Renew(); }), HasSubstr(site.Copy().string() + ": another user's program"));
+    save.Commit();
+  }
+  EXPECT_FALSE(others.HasMoved());
+  Renew();
+  Database open = Database::OpenReadOnly(site.Copy());
+  EXPECT_EQ(site.LinesOf(open), 4);
+  EXPECT_THAT(LiveSite::Tallies(open), SizeIs(1));
 }
 
 TEST_F(Renewal, TellsOfRowsThatTheStoreDoesNotTake) {

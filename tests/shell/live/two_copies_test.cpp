@@ -133,10 +133,11 @@ TEST_F(TwoCopies, ForReadingStaysWhileNothingIsSavedInTheArchive) {
   EXPECT_EQ(mark(), first);
 }
 
-TEST_F(TwoCopies, ThatCannotBeReadIsToldAndStays) {
+TEST_F(TwoCopies, ThatCannotBeReadIsToldOnceAndStays) {
   const fs::path other = WorkingCopyInCache(site.File());
   fs::create_directories(other.parent_path());
   WriteFileAtomically(other, "no copy");
+  site.Open();
   site.Open();
   EXPECT_THAT(site.messages, ElementsAre(HasSubstr(other.string())));
   EXPECT_EQ(ReadFileBytes(other), "no copy");
