@@ -187,10 +187,11 @@ bool IsThere(const fs::path& file) {
 
 fs::path FileOfSum() {
   fs::path copy = CopyOfSum();
-  // A sum that was begun there goes on there.
-  if (MasterIsWorkingCopy() || SiteIsWorkingCopy() || IsTaken(copy)) return copy;
   fs::path file = MapPath(kHozonFile);
-  return jet::IsJetFile(file) ? copy : file;
+  // A sum that was begun goes on where it is, whichever site is bound by now.
+  if (IsTaken(copy) || jet::IsJetFile(file)) return copy;
+  if (IsThere(file)) return file;
+  return MasterIsWorkingCopy() || SiteIsWorkingCopy() ? copy : file;
 }
 
 void Make_Hozon(Database& hozon) { hozon.Execute(kMakeTable); }
