@@ -40,8 +40,8 @@ std::vector<std::string> DamageOfTables(JetFile& file);
 /// A row that was taken.
 struct TakenRow {
   const std::string& table;
-  std::int64_t number;  ///< of the row in the store's table
-  RowPointer place;     ///< in the Jet file
+  std::int64_t number = 0;  ///< of the row in the store's table
+  RowPointer place;         ///< in the Jet file
 };
 /// What an import does beside taking tables, in the same transaction. What is not set is not done.
 struct ImportExtras {
