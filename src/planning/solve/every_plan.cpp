@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <functional>
 #include <map>
-#include <ranges>
 #include <utility>
 
 #include "planning/problem/bar_rule.h"
@@ -113,7 +112,7 @@ class Search {
     const Micros cost = CostOf(bought);
     const Micros others_cost = CostOf(other);
     if (cost != others_cost) return cost < others_cost;
-    return std::ranges::lexicographical_compare(std::views::reverse(other), std::views::reverse(bought));
+    return std::lexicographical_compare(other.rbegin(), other.rend(), bought.rbegin(), bought.rend());
   }
 
   /// Null where no purchase keeps the limits.
