@@ -25,8 +25,9 @@ struct EveryPlan {
   std::optional<std::vector<Candidate>> cheapest = std::nullopt;
 };
 
-/// Looks at every plan of a supply's groups that can do without none of its bars, where these have few pieces:
-/// a bar whose pieces the others would take is bought to fill a lot alone, and no plan has such a one.
+/// Looks at every plan of a supply's groups that can do without none of its bars, where these have few
+/// pieces: a bar whose pieces the others would take is bought to fill a lot alone, and no plan has such a
+/// one.
 EveryPlan TryEveryPlan(const Problem& problem, std::span<const std::size_t> groups,
                        const PurchaseLimits& limits);
 
