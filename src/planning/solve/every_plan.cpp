@@ -3,22 +3,27 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
 #include <map>
 #include <utility>
 
 #include "planning/problem/bar_rule.h"
+#include "planning/solve/spare_bar.h"
 
 namespace rbt::planning {
 namespace {
 
 constexpr std::int64_t kFewPieces = 12;
-/// Bars that are filled, and purchases that are compared, before it is given up: a fraction of a second.
-constexpr int kMostSteps = 400'000;
+/// Bars that are filled one way or another before it is given up: a fraction of a second.
+constexpr int kMostBarsTried = 400'000;
+constexpr Micros kNever = std::numeric_limits<Micros>::max();
 
-/// What is left to cut, and the rest bars that are left.
+/// What is left to cut, the rest bars that are left, and the bars that were bought of each length, as far as
+/// that matters: bars beyond the least number are all alike.
 struct State {
   std::vector<std::int64_t> pieces;
   std::vector<std::int64_t> rests;
+  std::vector<std::int64_t> bought;
 
   friend auto operator<=>(const State&, const State&) = default;
 };
@@ -26,36 +31,21 @@ struct State {
 /// (index of a cut, how many), by rising index.
 using Pieces = std::vector<std::pair<std::size_t, int>>;
 
-/// How many bars of each length are bought.
-using Purchase = std::vector<std::int64_t>;
-
-bool IsWithin(const Purchase& purchase, const Purchase& other) {
-  return std::ranges::equal(purchase, other, std::less_equal());
-}
-
-/// A purchase from which all that is left can be cut, and the bar to cut next.
-struct Way {
-  Purchase bought;
+/// The best bar to cut next, and what that bar and all later ones cost.
+struct Step {
+  Micros cost = kNever;
   bool rest = false;
   std::size_t bar = 0;  ///< index into the supply's lengths or rests
   Pieces pieces = {};
 };
 
-/// Adds a way unless a lesser purchase is known; those that it makes needless go.
-void AddWay(std::vector<Way>& ways, Way way) {
-  const auto does = [&](const Way& known) { return IsWithin(known.bought, way.bought); };
-  if (std::ranges::any_of(ways, does)) return;
-  std::erase_if(ways, [&](const Way& known) { return IsWithin(way.bought, known.bought); });
-  ways.push_back(std::move(way));
-}
-
 /// Plans are built bar by bar: the next one takes the first piece that is left, so that plans that differ in
-/// the order of their bars alone are looked at once. A purchase without a needless bar leaves one for the
-/// pieces behind each of its bars, too: only those are kept for what is left.
+/// the order of their bars alone are looked at once.
 class Search {
  public:
   Search(const Problem& problem, std::span<const std::size_t> groups, const PurchaseLimits& limits)
-      : rule_(problem.options.bar),
+      : problem_(problem),
+        rule_(problem.options.bar),
         mix_(problem.options.mix),
         supply_(problem.supplies[problem.groups[groups.front()].supply]),
         limits_(limits) {
@@ -67,19 +57,23 @@ class Search {
       }
     }
     state_.rests = AllRests(supply_);
+    state_.bought.assign(supply_.lengths.size(), 0);
     patterns_.resize(groups.size());
   }
 
   EveryPlan Run() {
     if (pieces_ > kFewPieces) return {};
-    const Way* const best = Cheapest(Ways());
-    if (steps_ > kMostSteps) return {};
+    const State start = state_;
+    const bool is_plan = Least() != kNever;
+    if (bars_tried_ > kMostBarsTried) return {};
     EveryPlan result{true};
-    if (best == nullptr) return result;
-    Purchase bought = best->bought;
-    while (pieces_ > 0) Take(bought);
+    if (!is_plan) return result;
+    state_ = start;
+    while (pieces_ > 0) Take(known_.at(state_));
     result.cheapest.emplace();
     for (std::vector<Pattern>& patterns : patterns_) {
+      // Among those without such a bar others may be the cheapest.
+      if (FillsLots() && HasSpareBar(problem_, patterns)) return {};
       result.cheapest->push_back(MakeCandidate(supply_, Method::columns, std::move(patterns)));
     }
     return result;
@@ -91,74 +85,53 @@ class Search {
     int mm;
   };
 
-  bool KeepsLimits(const Purchase& bought) const {
-    std::size_t used = 0;
-    for (std::size_t l = 0; l < bought.size(); ++l) {
-      if (bought[l] == 0) continue;
-      ++used;
-      if (bought[l] < limits_.least_bars[l]) return false;
+  Micros Least() {
+    if (const auto known = known_.find(state_); known != known_.end()) return known->second.cost;
+    Step best;
+    if (pieces_ == 0) {
+      if (MissingBars() == 0) best.cost = 0;
+    } else if (MissingBars() <= pieces_ && bars_tried_ <= kMostBarsTried) {
+      for (std::size_t r = 0; r < supply_.rests.size(); ++r) TryRest(r, best);
+      // The longer of equals stays.
+      for (std::size_t l = supply_.lengths.size(); l-- > 0;) TryLength(l, best);
     }
-    return used <= limits_.most_lengths;
-  }
-
-  Micros CostOf(const Purchase& bought) const {
-    Micros cost = 0;
-    for (std::size_t l = 0; l < bought.size(); ++l) cost += bought[l] * supply_.lengths[l].cost;
+    const Micros cost = best.cost;
+    known_.emplace(state_, std::move(best));
     return cost;
   }
 
-  /// The longer of equally cheap bars stay.
-  bool IsCheaper(const Purchase& bought, const Purchase& other) const {
-    const Micros cost = CostOf(bought);
-    const Micros others_cost = CostOf(other);
-    if (cost != others_cost) return cost < others_cost;
-    return std::lexicographical_compare(other.rbegin(), other.rend(), bought.rbegin(), bought.rend());
-  }
-
-  /// Null where no purchase keeps the limits.
-  const Way* Cheapest(const std::vector<Way>& ways) const {
-    const Way* best = nullptr;
-    for (const Way& way : ways) {
-      if (!KeepsLimits(way.bought)) continue;
-      if (best == nullptr || IsCheaper(way.bought, best->bought)) best = &way;
+  /// Bars that are still to be bought of lengths that are bought already; each takes a piece.
+  std::int64_t MissingBars() const {
+    std::int64_t missing = 0;
+    for (std::size_t l = 0; l < state_.bought.size(); ++l) {
+      if (state_.bought[l] > 0) missing += limits_.least_bars[l] - state_.bought[l];
     }
-    return best;
+    return missing;
   }
 
-  /// From which purchases, none of them within another, all that is left can be cut.
-  const std::vector<Way>& Ways() {
-    if (const auto known = known_.find(state_); known != known_.end()) return known->second;
-    std::vector<Way> ways;
-    if (pieces_ == 0) {
-      ways.push_back({Purchase(supply_.lengths.size())});
-    } else if (steps_ <= kMostSteps) {
-      for (std::size_t r = 0; r < supply_.rests.size(); ++r) TryRest(r, ways);
-      for (std::size_t l = 0; l < supply_.lengths.size(); ++l) TryLength(l, ways);
-    }
-    return known_.emplace(state_, std::move(ways)).first->second;
-  }
-
-  void TryRest(std::size_t rest, std::vector<Way>& ways) {
+  void TryRest(std::size_t rest, Step& best) {
     if (state_.rests[rest] == 0) return;
     --state_.rests[rest];
     TryContents(supply_.rests[rest].mm, [&](const Pieces& pieces) {
-      for (const Way& later : Ways()) {
-        ++steps_;
-        AddWay(ways, {later.bought, true, rest, pieces});
-      }
+      const Micros cost = Least();
+      if (cost < best.cost) best = {cost, true, rest, pieces};
     });
     ++state_.rests[rest];
   }
 
-  void TryLength(std::size_t length, std::vector<Way>& ways) {
+  void TryLength(std::size_t length, Step& best) {
+    const auto used = static_cast<std::size_t>(
+        std::ranges::count_if(state_.bought, [](std::int64_t bars) { return bars > 0; }));
+    const std::int64_t before = state_.bought[length];
+    if (before == 0 && used >= limits_.most_lengths) return;
+    state_.bought[length] = std::min(before + 1, limits_.least_bars[length]);
     TryContents(supply_.lengths[length].mm, [&](const Pieces& pieces) {
-      for (const Way& later : Ways()) {
-        ++steps_;
-        Way way{later.bought, false, length, pieces};
-        ++way.bought[length];
-        AddWay(ways, std::move(way));
-      }
+      const Micros later = Least();
+      if (later == kNever) return;
+      const Micros cost = later + supply_.lengths[length].cost;
+      if (cost < best.cost) best = {cost, false, length, pieces};
     });
+    state_.bought[length] = before;
   }
 
   using Use = std::function<void(const Pieces& pieces)>;
@@ -179,7 +152,7 @@ class Search {
     ++pieces.back().second;
     --state_.pieces[cut];
     --pieces_;
-    ++steps_;
+    ++bars_tried_;
     use(pieces);
     const int left = room - cuts_[cut].mm - rule_.kerf;
     for (std::size_t next = cut; next < cuts_.size() && cuts_[next].group == cuts_[cut].group; ++next) {
@@ -192,20 +165,27 @@ class Search {
     if (another) pieces.pop_back();
   }
 
-  /// Cuts the next bar of a purchase, which is one of those known for what is left.
-  void Take(Purchase& bought) {
-    const std::vector<Way>& ways = known_.at(state_);
-    const Way& way = *std::ranges::find(ways, bought, &Way::bought);
-    Pattern pattern{way.rest ? supply_.rests[way.bar].mm : supply_.lengths[way.bar].mm, way.rest, 1, {}};
-    for (const auto& [cut, count] : way.pieces) {
+  void Take(const Step& step) {
+    Pattern pattern{step.rest ? supply_.rests[step.bar].mm : supply_.lengths[step.bar].mm, step.rest, 1, {}};
+    for (const auto& [cut, count] : step.pieces) {
       pattern.pieces.emplace_back(cuts_[cut].mm, count);
       state_.pieces[cut] -= count;
       pieces_ -= count;
     }
-    --(way.rest ? state_.rests : bought)[way.bar];
-    patterns_[cuts_[way.pieces.front().first].group].push_back(std::move(pattern));
+    if (step.rest) {
+      --state_.rests[step.bar];
+    } else {
+      std::int64_t& bought = state_.bought[step.bar];
+      bought = std::min(bought + 1, limits_.least_bars[step.bar]);
+    }
+    patterns_[cuts_[step.pieces.front().first].group].push_back(std::move(pattern));
   }
 
+  bool FillsLots() const {
+    return std::ranges::any_of(limits_.least_bars, [](std::int64_t bars) { return bars > 1; });
+  }
+
+  const Problem& problem_;
   const BarRule& rule_;
   const int mix_;
   const Supply& supply_;
@@ -213,8 +193,8 @@ class Search {
   std::vector<GroupCut> cuts_;  ///< of all groups, group by group
   State state_;
   std::int64_t pieces_ = 0;  ///< that are left, of all cuts
-  int steps_ = 0;
-  std::map<State, std::vector<Way>> known_;
+  int bars_tried_ = 0;
+  std::map<State, Step> known_;
   std::vector<std::vector<Pattern>> patterns_;  ///< by group
 };
 

@@ -20,14 +20,13 @@ struct PurchaseLimits {
 
 /// What came of looking at every plan.
 struct EveryPlan {
-  bool finished = false;  ///< false: there are too many, nothing is known
+  bool finished = false;  ///< false: nothing is known
   /// The cheapest plan, a candidate for each group; nothing where no plan keeps the limits.
   std::optional<std::vector<Candidate>> cheapest = std::nullopt;
 };
 
-/// Looks at every plan of a supply's groups that can do without none of its bars, where these have few
-/// pieces: a bar whose pieces the others would take is bought to fill a lot alone, and no plan has such a
-/// one.
+/// Looks at every plan of a supply's groups whose bars all carry a piece, where these have few pieces.
+/// Nothing is known where the cheapest has a bar that only fills a lot, see `HasSpareBar`.
 EveryPlan TryEveryPlan(const Problem& problem, std::span<const std::size_t> groups,
                        const PurchaseLimits& limits);
 
