@@ -14,8 +14,6 @@ namespace rbt::planning {
 namespace {
 
 constexpr std::int64_t kFewPieces = 12;
-/// Bars that are filled one way or another before it is given up: a fraction of a second.
-constexpr int kMostBarsTried = 400'000;
 constexpr Micros kNever = std::numeric_limits<Micros>::max();
 
 /// What is left to cut, the rest bars that are left, and the bars that were bought of each length, as far as
@@ -65,8 +63,8 @@ class Search {
     if (pieces_ > kFewPieces) return {};
     const State start = state_;
     const bool is_plan = Least() != kNever;
-    if (bars_tried_ > kMostBarsTried) return {};
-    EveryPlan result{true};
+    if (bars_tried_ > limits_.most_tried) return {};
+    EveryPlan result{true, bars_tried_};
     if (!is_plan) return result;
     state_ = start;
     while (pieces_ > 0) Take(known_.at(state_));
@@ -90,7 +88,7 @@ class Search {
     Step best;
     if (pieces_ == 0) {
       if (MissingBars() == 0) best.cost = 0;
-    } else if (MissingBars() <= pieces_ && bars_tried_ <= kMostBarsTried) {
+    } else if (MissingBars() <= pieces_ && bars_tried_ <= limits_.most_tried) {
       for (std::size_t r = 0; r < supply_.rests.size(); ++r) TryRest(r, best);
       // The longer of equals stays.
       for (std::size_t l = supply_.lengths.size(); l-- > 0;) TryLength(l, best);

@@ -16,11 +16,14 @@ namespace rbt::planning {
 struct PurchaseLimits {
   std::size_t most_lengths = 0;
   std::vector<std::int64_t> least_bars;  ///< of each length that is bought at all, at least 1
+  /// Bars that may be filled one way or another before it is given up.
+  int most_tried = 0;
 };
 
 /// What came of looking at every plan.
 struct EveryPlan {
   bool finished = false;  ///< false: nothing is known
+  int tried = 0;          ///< bars that were filled for it
   /// The cheapest plan, a candidate for each group; nothing where no plan keeps the limits.
   std::optional<std::vector<Candidate>> cheapest = std::nullopt;
 };

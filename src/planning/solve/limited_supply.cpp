@@ -21,6 +21,8 @@ namespace rbt::planning {
 namespace {
 
 /// Sets of so few lengths are tried besides the lengths that a plan without limits buys.
+/// What a supply is worth until every plan of it is seen: a small part of a second.
+constexpr int kTriedForEveryPlan = 60'000;
 constexpr std::size_t kSetsForLots = 3;
 /// Sets from which greedy plans are made to fill the lots, and how many of them are tried by columns.
 constexpr int kGreedySets = 40;
@@ -160,6 +162,7 @@ void LimitedSupply::ConsiderOneLength(Pace& pace) {
 
 bool LimitedSupply::ConsiderEveryPlan() {
   PurchaseLimits limits;
+  limits.most_tried = kTriedForEveryPlan;
   for (std::size_t l = 0; l < supply_.lengths.size(); ++l) {
     const StockLength& length = supply_.lengths[l];
     const Milligrams lot = length.least_lot - kept_[l] + length.table_weight - 1;
@@ -170,6 +173,7 @@ bool LimitedSupply::ConsiderEveryPlan() {
     const EveryPlan every = TryEveryPlan(problem_, groups_, limits);
     if (every.cheapest) Keep(*every.cheapest);
     if (!every.finished) return false;
+    limits.most_tried -= every.tried;
   }
   return true;
 }
