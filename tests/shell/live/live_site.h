@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <fmt/format.h>
+
 #include "data/table_layouts.h"
 #include "platform/files/files.h"
 #include "platform/system/services.h"
@@ -83,10 +85,10 @@ class LiveSite {
     for (; !names.Eof(); names.MoveNext()) {
       const std::string date = *names.Text(names.Field("作成日"));
       const std::string time = *names.Text(names.Field("作成時間"));
-      Recordset rows = site.OpenSnapshot("SELECT Sum([6000mm]) FROM 重量集計 WHERE 作成日='" + date +
-                                         "' AND 作成時間='" + time + "'");
-      found.push_back(date + " " + time + " " + *names.Text(names.Field("重量集計名称")) + ": " +
-                      TextOf(rows.Get(FieldHandle{0})));
+      Recordset rows = site.OpenSnapshot(
+          fmt::format("SELECT Sum([6000mm]) FROM 重量集計 WHERE 作成日='{}' AND 作成時間='{}'", date, time));
+      found.push_back(fmt::format("{} {} {}: {}", date, time, *names.Text(names.Field("重量集計名称")),
+                                  TextOf(rows.Get(FieldHandle{0}))));
     }
     return found;
   }
