@@ -20,9 +20,9 @@
 namespace rbt::planning {
 namespace {
 
-/// Sets of so few lengths are tried besides the lengths that a plan without limits buys.
-/// What a supply is worth until every plan of it is seen: a small part of a second.
+/// Bars that are filled to look at every plan of a supply before that is given up: a small part of a second.
 constexpr int kTriedForEveryPlan = 60'000;
+/// Sets of so few lengths are tried besides the lengths that a plan without limits buys.
 constexpr std::size_t kSetsForLots = 3;
 /// Sets from which greedy plans are made to fill the lots, and how many of them are tried by columns.
 constexpr int kGreedySets = 40;

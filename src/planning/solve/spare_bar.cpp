@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <set>
 #include <utility>
@@ -30,10 +31,18 @@ class Laying {
 
   bool Fits(std::vector<OpenBar> bars) {
     bars_ = std::move(bars);
-    return FitsFrom(0);
+    return HaveRoom() && FitsFrom(0);
   }
 
  private:
+  /// False where all the bars together are too short, which most are.
+  bool HaveRoom() const {
+    std::int64_t room = 0;
+    for (const OpenBar& bar : bars_) room += std::max(bar.mm, bar.room) + rule_.kerf;
+    for (const int piece : pieces_) room -= piece + rule_.kerf;
+    return room >= 0;
+  }
+
   bool FitsFrom(std::size_t piece) {
     if (piece == pieces_.size()) return true;
     std::set<OpenBar> tried;  // bars that stand alike take the piece alike
