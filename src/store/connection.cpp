@@ -23,8 +23,8 @@
 namespace rbt {
 namespace {
 
-/// Rows of a mid-size site stay in memory between the statements of one run. Of a larger one no size would keep
-/// any: each walk over all rows drives out what the one before has left.
+/// Rows of a mid-size site stay in memory between the statements of one run. Of a larger one no size would
+/// keep any: each walk over all rows drives out what the one before has left.
 constexpr const char* kCacheSize = "PRAGMA cache_size=-8192";
 /// Opens the read transaction of a connection and, while it stands at its row, keeps it open.
 constexpr std::string_view kHold = "SELECT 1 UNION ALL SELECT rootpage FROM sqlite_master";

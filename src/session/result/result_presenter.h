@@ -21,8 +21,8 @@ enum class SheetBody { with_ulbon, deformed_alone };
 /// A result screen without its window: what each of the user's intents does, and what the screen shows then.
 /// A tally's grid of diameters by weights is narrowed, raised, printed and passed on; a scoped screen asks
 /// for its range first. An intent that the screen cannot serve now has its button out of sight or out of
-/// reach. Every intent may throw what its tally, report or setting throws; the view is whole all the same, and
-/// as it was before where the user has stopped the tally.
+/// reach. Every intent may throw what its tally, report or setting throws; the view is whole all the same,
+/// and as it was before where the user has stopped the tally.
 class ResultPresenter {
  public:
   /// Loads: binds the site, sets the selection's defaults, then runs the tally and fills the grid, or fills
