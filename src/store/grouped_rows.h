@@ -11,6 +11,8 @@
 
 namespace rbt {
 
+class GatheredGroups;
+
 /// The groups of a SELECT with GROUP BY, read forward: those that a snapshot gives, in its order, with its
 /// faults. Fields that are grouped by and sums of whole numbers are grouped without sorting all rows;
 /// whatever else there is, the snapshot itself gives.
@@ -33,11 +35,14 @@ class GroupedRows {
   std::optional<std::string> Text(FieldHandle field) const;
 
  private:
-  class Groups;
+  friend class SharedScan;
+  /// Without groups the snapshot gives them.
+  GroupedRows(Database& database, std::string_view jet_sql, std::unique_ptr<GatheredGroups> groups);
+
   Database& database_;
   std::string text_;
-  std::unique_ptr<Groups> groups_;       ///< grouped here
-  std::unique_ptr<Recordset> snapshot_;  ///< where they could not be
+  std::unique_ptr<GatheredGroups> groups_;  ///< grouped here
+  std::unique_ptr<Recordset> snapshot_;     ///< where they could not be
 };
 
 }  // namespace rbt

@@ -2,6 +2,7 @@
 #include "store/row_taker.h"
 
 #include <exception>
+#include <vector>
 
 #include "store/dialect/translate.h"
 
@@ -11,7 +12,7 @@ namespace {
 /// What the statement gets as its parameter.
 struct Taker {
   const RowTaker& take;
-  std::exception_ptr thrown;
+  std::exception_ptr& thrown;
 };
 constexpr const char* kTakerType = "rbt::Taker";
 
@@ -31,16 +32,24 @@ void NoResult(sqlite3_context*) {}
 
 }  // namespace
 
-void TakeRows(Statement& statement, const RowTaker& take) {
-  Taker taker{take, nullptr};
-  sqlite3_bind_pointer(statement.Handle(), 1, &taker, kTakerType, nullptr);
+void TakeRows(Statement& statement, std::span<const RowTaker> takers) {
+  std::exception_ptr thrown;
+  std::vector<Taker> bound;
+  bound.reserve(takers.size());
+  for (const RowTaker& take : takers) {
+    bound.push_back({take, thrown});
+    sqlite3_bind_pointer(statement.Handle(), static_cast<int>(bound.size()), &bound.back(), kTakerType,
+                         nullptr);
+  }
   try {
     while (statement.Step()) continue;
   } catch (const Fault&) {
-    if (taker.thrown) std::rethrow_exception(taker.thrown);
+    if (thrown) std::rethrow_exception(thrown);
     throw;
   }
 }
+
+void TakeRows(Statement& statement, const RowTaker& take) { TakeRows(statement, std::span(&take, 1)); }
 
 void RegisterRowTaker(sqlite3* connection) {
   // For statements of our own: no schema calls it.

@@ -25,6 +25,7 @@ class RowWalk::Impl {
       : database_(database),
         text_(jet_sql),
         table_(select.tables.front()),
+        asked_of_scan_(std::move(select.rows_of_scan)),
         rows_(database.impl().Connected().Prepare(select.sql, jet_sql)) {
     columns_.reserve(select.columns.size());
     for (const auto& column : select.columns) columns_.push_back({column.name, FoldIdentifier(column.name)});
@@ -45,10 +46,14 @@ class RowWalk::Impl {
 
   void Run(const RowTaker& take) { TakeRows(rows_, take); }
 
+  const std::optional<RowsOfScan>& AskedOfScan() const { return asked_of_scan_; }
+  const std::string& TableName() const { return table_; }
+
  private:
   Database& database_;
   std::string text_;
   std::string table_;
+  std::optional<RowsOfScan> asked_of_scan_;
   Statement rows_;
   std::vector<Column> columns_;
 };
@@ -90,6 +95,13 @@ FieldHandle RowWalk::Field(std::string_view name) const {
   if (!field) impl_->ThrowNotFound(name);
   return *field;
 }
+
+const RowsOfScan* RowWalk::AskedOfScan() const {
+  const auto& asked = impl_->AskedOfScan();
+  return asked ? &*asked : nullptr;
+}
+
+const std::string& RowWalk::TableName() const { return impl_->TableName(); }
 
 void RowWalk::Run(const std::function<void(const WalkedRow& row)>& take) {
   impl_->Run([&](sqlite3_value** values) { take(WalkedRow(*this, values)); });

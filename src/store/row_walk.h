@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "store/database.h"
@@ -15,6 +16,7 @@ struct sqlite3_value;
 namespace rbt {
 
 class RowWalk;
+struct RowsOfScan;
 
 /// The row that a walk has come to, as long as it is taken.
 class WalkedRow {
@@ -27,6 +29,7 @@ class WalkedRow {
 
  private:
   friend class RowWalk;
+  friend class SharedScan;
   WalkedRow(const RowWalk& walk, sqlite3_value** values) : walk_(walk), values_(values) {}
 
   const RowWalk& walk_;
@@ -52,7 +55,13 @@ class RowWalk {
 
  private:
   friend class WalkedRow;
+  friend class SharedScan;
   class Impl;
+
+  /// What the walk asks of a scan of its table; null where only its own statement gives its rows in order.
+  const RowsOfScan* AskedOfScan() const;
+  const std::string& TableName() const;
+
   std::unique_ptr<Impl> impl_;
 };
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "store/grouped_rows.h"
 
+#include <memory>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,7 @@
 #include "platform/fault.h"
 #include "platform/pass_over_faults.h"
 #include "store/plain_file.h"
+#include "store/shared_scan.h"
 #include "support/fault_of.h"
 #include "support/temporary_folder.h"
 
@@ -72,6 +75,14 @@ class GroupingRows : public ::testing::Test {
   static std::vector<std::string> Snapshot(Database& site, const std::string& sql) {
     return LinesOrFault(Columns(site, sql),
                         [&] { return std::make_unique<Recordset>(site.OpenSnapshot(sql)); });
+  }
+  static std::vector<std::string> OfScan(SharedScan& scan, Database& site, const std::string& sql) {
+    try {
+      GroupedRows groups = scan.Groups(sql);
+      return Lines(groups, Columns(site, sql));
+    } catch (const Fault& fault) {
+      return {fault.what()};
+    }
   }
   static int Columns(Database& site, const std::string& sql) {
     int columns = 0;
@@ -213,6 +224,100 @@ TEST_F(GroupingRows, keeps_many_groups_apart) {
   const std::vector<std::string> lines = Grouped(site, sql);
   EXPECT_EQ(lines.size(), 5003U);
   EXPECT_EQ(lines, Snapshot(site, sql));
+}
+
+/// What stands in the first field of each row that a walk hands over.
+class Seen {
+ public:
+  Seen(Database& site, const std::string& sql) : walk_(site, sql) {}
+
+  void JoinIn(SharedScan& scan) {
+    scan.AddWalk(walk_, [this](const WalkedRow& row) {
+      lines_.push_back(ShownOrFault([&] { return row.Double(FieldHandle{0}); }));
+    });
+  }
+  const std::vector<std::string>& Lines() const { return lines_; }
+
+ private:
+  RowWalk walk_;
+  std::vector<std::string> lines_;
+};
+
+TEST_F(GroupingRows, gives_in_one_scan_what_each_of_several_statements_gives_alone) {
+  int together = 0;
+  for (unsigned seed = 1; seed <= 100; ++seed) {
+    RandomTable table(seed);
+    Database site = Site(table.Sql());
+    const std::vector<std::string> statements = {table.Select(), table.Select(), table.Select()};
+    SharedScan scan(site);
+    Seen seen(site, "SELECT m FROM T WHERE a > 0");
+    seen.JoinIn(scan);
+    for (const std::string& sql : statements) scan.AddGroups(sql);
+    const bool was_read = scan.Run();
+    together += static_cast<int>(was_read);
+    for (const std::string& sql : statements) {
+      EXPECT_EQ(OfScan(scan, site, sql), Snapshot(site, sql)) << seed << ": " << sql;
+    }
+    if (!was_read) continue;
+    std::vector<std::string> alone;
+    RowWalk walk(site, "SELECT m FROM T WHERE a > 0");
+    walk.Run([&](const WalkedRow& row) {
+      alone.push_back(ShownOrFault([&] { return row.Double(FieldHandle{0}); }));
+    });
+    EXPECT_EQ(seen.Lines(), alone) << seed;
+  }
+  EXPECT_EQ(together, 100);
+}
+
+TEST_F(GroupingRows, reads_nothing_in_one_scan_where_statements_cannot_share_it) {
+  Database site = Site(std::string(kTable) +
+                       "CREATE TABLE U(a LONG, n SHORT); INSERT INTO U VALUES(5,6);"
+                       "INSERT INTO T VALUES(2,'x',0.5,1,10),(1,'X',1.5,2,7)");
+  const std::string of_t = "SELECT a, SUM(n) FROM T GROUP BY a";
+  for (const char* other : {"SELECT a, SUM(n) FROM U GROUP BY a", "SELECT a, SUM(d) FROM T GROUP BY a",
+                            "SELECT a, SUM(n) FROM T GROUP BY a ORDER BY a DESC"}) {
+    SharedScan scan(site);
+    Seen seen(site, "SELECT a FROM T");
+    seen.JoinIn(scan);
+    scan.AddGroups(of_t);
+    scan.AddGroups(other);
+    EXPECT_FALSE(scan.Run()) << other;
+    EXPECT_THAT(seen.Lines(), ElementsAre()) << other;
+    for (const std::string& sql : {of_t, std::string(other)}) {
+      EXPECT_EQ(OfScan(scan, site, sql), Snapshot(site, sql)) << sql;
+    }
+  }
+  SharedScan in_own_order(site);
+  Seen seen(site, "SELECT a FROM T ORDER BY a");
+  seen.JoinIn(in_own_order);
+  EXPECT_FALSE(in_own_order.Run());
+  EXPECT_FALSE(SharedScan(site).Run());
+}
+
+TEST_F(GroupingRows, gives_the_groups_of_a_scan_once_and_reads_them_anew_then) {
+  Database site = Site(std::string(kTable) + "INSERT INTO T VALUES(2,'x',0.5,1,10)");
+  const std::string sql = "SELECT a, SUM(n) FROM T GROUP BY a";
+  SharedScan scan(site);
+  scan.AddGroups(sql);
+  ASSERT_TRUE(scan.Run());
+  site.Execute("UPDATE T SET n = 7");
+  EXPECT_EQ(scan.Groups(sql).Int32(FieldHandle{1}), 1);
+  EXPECT_EQ(scan.Groups(sql).Int32(FieldHandle{1}), 7);
+}
+
+TEST_F(GroupingRows, ends_a_shared_scan_by_what_one_of_its_takers_throws) {
+  Database site = Site(std::string(kTable) + "INSERT INTO T VALUES(2,'x',0.5,1,10),(3,'x',0.5,1,10)");
+  SharedScan scan(site);
+  scan.AddGroups("SELECT a, SUM(n) FROM T GROUP BY a");
+  const RowWalk walk(site, "SELECT a FROM T");
+  int rows = 0;
+  scan.AddWalk(walk, [&](const WalkedRow&) {
+    ++rows;
+    throw std::runtime_error("enough");
+  });
+  EXPECT_THROW(scan.Run(), std::runtime_error);
+  EXPECT_EQ(rows, 1);
+  EXPECT_EQ(scan.Groups("SELECT a, SUM(n) FROM T GROUP BY a").Int32(FieldHandle{0}), 2);
 }
 
 }  // namespace

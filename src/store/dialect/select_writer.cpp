@@ -2,6 +2,7 @@
 #include "store/dialect/select_writer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -40,7 +41,7 @@ std::optional<RowsToGroup::Key> KeyOf(const FieldDef& field) {
 
 SelectWriter::SelectWriter(const Select& select, const Scope& scope)
     : select_(select), scope_(scope), table_(scope.Table(select.table)), writer_(scope.Statement(), &table_) {
-  if (select.where) where_ = fmt::format(" WHERE {}", writer_.Condition(*select.where));
+  if (select.where) condition_ = writer_.Condition(*select.where);
   grouped_ = !select.group_by.empty() || std::ranges::any_of(select.items, [](const SelectItem& item) {
     return HasAggregate(*item.value);
   });
@@ -99,10 +100,14 @@ void SelectWriter::WriteOrder() {
   }
 }
 
+std::string SelectWriter::Where() const {
+  return condition_.empty() ? std::string() : fmt::format(" WHERE {}", condition_);
+}
+
 std::string SelectWriter::Body(const std::string& columns) const {
   // An index would change the order in which doubles are added up, and with it the last digit.
   const std::string_view scan = grouped_ && writer_.DependsOnRowOrder() ? " NOT INDEXED" : "";
-  std::string sql = fmt::format("SELECT {} FROM {}{}{}", columns, QuoteName(table_.name), scan, where_);
+  std::string sql = fmt::format("SELECT {} FROM {}{}{}", columns, QuoteName(table_.name), scan, Where());
   std::vector<std::string> keys;
   keys.reserve(group_.size());
   for (const FieldDef* const field : group_) keys.push_back(SortKey(*field));
@@ -119,7 +124,7 @@ std::string SelectWriter::Sql(const std::vector<std::string>& columns) const {
 /// Each row on its own. Without an index, and without an order of the statement's own, SQLite has no other
 /// way through a table than row by row.
 std::string SelectWriter::Walked(const std::vector<std::string>& columns, std::string_view order) const {
-  const std::string source = fmt::format("FROM {}{}", QuoteName(table_.name), where_);
+  const std::string source = fmt::format("FROM {}{}", QuoteName(table_.name), Where());
   if (select_.order_by.empty() && table_.indexes.empty()) {
     return fmt::format("SELECT {}(?1, {}) {}", kEachRow, fmt::join(columns, ", "), source);
   }
@@ -135,6 +140,11 @@ std::string SelectWriter::Walked(const std::vector<std::string>& columns, std::s
 
 std::string SelectWriter::WalkSql(const std::vector<std::string>& columns) const {
   return Walked(columns, fmt::format("{}", fmt::join(order_, ", ")));
+}
+
+std::optional<RowsOfScan> SelectWriter::ScannedRows(std::vector<std::string> values) const {
+  if (!select_.order_by.empty()) return std::nullopt;
+  return RowsOfScan{condition_, std::move(values)};
 }
 
 /// The field of whole numbers whose plain sum an item is; null for anything else.
@@ -170,8 +180,8 @@ std::optional<RowsToGroup> SelectWriter::RowsOfGroups() const {
       return std::nullopt;
     }
   }
-  rows.handed = handed.size();
   rows.sql = Walked(handed, RowNumberOf(table_));
+  rows.rows = {condition_, std::move(handed)};
   return rows;
 }
 

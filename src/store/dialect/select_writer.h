@@ -37,6 +37,9 @@ class SelectWriter {
   std::string WalkSql(const std::vector<std::string>& columns) const;
   /// Nothing where the groups are more than fields and sums of whole numbers, or not in their own order.
   std::optional<RowsToGroup> RowsOfGroups() const;
+  /// What the statement asks of each row in a scan of the table; nothing where its rows come in an order of
+  /// its own.
+  std::optional<RowsOfScan> ScannedRows(std::vector<std::string> values) const;
   /// The statement that gives the number of rows.
   std::string CountSql() const;
 
@@ -44,6 +47,7 @@ class SelectWriter {
   void WriteColumns();
   void WriteGroups();
   void WriteOrder();
+  std::string Where() const;
   std::string Body(const std::string& columns) const;
   std::string Walked(const std::vector<std::string>& columns, std::string_view order) const;
   const FieldDef* SummedField(const Expression& item) const;
@@ -54,7 +58,7 @@ class SelectWriter {
   ExpressionWriter writer_;
   bool grouped_ = false;
   std::vector<Column> columns_;
-  std::string where_;
+  std::string condition_;
   std::vector<const FieldDef*> group_;
   std::vector<std::string> order_;
 };

@@ -47,6 +47,7 @@ SelectStatement TranslateSelect(const Select& select, const Scope& scope, const 
   statement.sql = options.walked ? writer.WalkSql(columns) : writer.Sql(columns);
   statement.count_sql = writer.CountSql();
   if (options.rows_to_group) statement.rows_to_group = writer.RowsOfGroups();
+  if (options.walked) statement.rows_of_scan = writer.ScannedRows(std::move(columns));
   return statement;
 }
 

@@ -20,14 +20,20 @@ class SchemaSource {
   virtual const TableDef* Find(std::string_view table) const = 0;
 };
 
+/// What a SELECT over one table asks of each row, for a scan that serves several. SQLite's dialect.
+struct RowsOfScan {
+  std::string condition;            ///< empty: every row
+  std::vector<std::string> values;  ///< handed over of each row
+};
+
 /// The rows of a grouping SELECT before they are grouped, for a hand that groups them itself. The fields that
 /// are grouped by come first, then those that are summed up.
 struct RowsToGroup {
   enum class Key { whole, real, text };
 
-  std::string sql;         ///< walked, see `TranslateOptions`
-  std::vector<Key> keys;   ///< the fields grouped by, as listed
-  std::size_t handed = 0;  ///< the number of fields in all
+  std::string sql;        ///< walked, see `TranslateOptions`
+  std::vector<Key> keys;  ///< the fields grouped by, as listed
+  RowsOfScan rows;
   /// Of each result column the field that it shows, or whose sum.
   std::vector<std::size_t> columns;
 };
@@ -46,6 +52,8 @@ struct SelectStatement {
   /// Where it was asked for and the statement has nothing but fields that it groups by and sums of fields of
   /// whole numbers.
   std::optional<RowsToGroup> rows_to_group = std::nullopt;
+  /// Of a walked statement whose rows come in table order.
+  std::optional<RowsOfScan> rows_of_scan = std::nullopt;
 };
 
 /// INSERT, UPDATE or DELETE.
