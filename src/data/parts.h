@@ -11,6 +11,8 @@ inline constexpr int kNoPart = 0;
 inline constexpr int kCutPart = 2;
 /// The part of the slit bars.
 inline constexpr int kSlitPart = 3;
+/// Cuts of this part count in the tallies by groups at the thicker of the bar and the one it is welded to.
+inline constexpr int kThickerCutPart = 5;
 inline constexpr int kLastNamedPart = 10;
 inline constexpr int kOtherParts = 11;
 inline constexpr std::string_view kOtherPartsLabel = "その他";

@@ -118,7 +118,7 @@ GroupStatements ShapeStatements(const SelectionData& selection, bool has_hoop_ro
       "SUM(伸総計) As 合計伸総計,SUM(圧接) As 合計圧接, SUM(ネジ数) AS 合計ネジ数,SUM(定着板数) AS "
       "合計定着板数,予備5 FROM 加工テーブル "
       " WHERE ( 太さ > 0 AND 合計 > 0 AND Not IsNull(形状No) AND 伸定尺 is not NULL ",
-      "SELECT 太さ,圧接太さ,SUM(切断) AS 合計切断数 "
+      "SELECT 部位,太さ,圧接太さ,SUM(切断) AS 合計切断数 "
       "FROM 加工テーブル WHERE ( 太さ > 0 AND 合計 > 0 AND Not IsNull(形状No) AND 伸定尺 is not NULL "};
   const std::string_view kinds = TextOfMask(kKindClauses, selection.MaterialKindMask);
   // For an unknown mask nothing closes the parenthesis: the store refuses the statement.
@@ -158,7 +158,7 @@ GroupStatements PageShapeStatementsSoFar(const SelectionData& selection, LineRan
       "SUM(伸総計) As 合計伸総計,SUM(圧接) As 合計圧接,SUM(ネジ数) As 合計ネジ数,SUM(定着板数) As "
       "合計定着板数,予備5 "
       "FROM 加工テーブル ",
-      "SELECT 太さ,圧接太さ,SUM(切断) AS 合計切断数 FROM 加工テーブル "};
+      "SELECT 部位,太さ,圧接太さ,SUM(切断) AS 合計切断数 FROM 加工テーブル "};
   Append(statements, where);
   Append(statements, HoopClause(selection.HoopMode));
   Append(statements, KindClauseByPage(selection.MaterialKindMask));

@@ -12,15 +12,13 @@ namespace rbt {
 /// The two statements of a tally by groups. Neither has its closing clause yet.
 struct GroupStatements {
   std::string main;  ///< pieces by diameter, weld diameter, shape, length, dimensions and stock
-  std::string cuts;  ///< cuts by diameter and weld diameter
+  std::string cuts;  ///< cuts by part, diameter and weld diameter
 };
 
 /// What closes a main statement and a cut statement.
 inline constexpr std::string_view kGroupByPieces = " GROUP BY 太さ,圧接太さ,形状No,伸切寸,予備5,伸定尺 ";
-inline constexpr std::string_view kGroupByWeld = " GROUP BY 太さ,圧接太さ ";
-/// 部位 5 and 2 of the cut statement, walked one after the other.
-inline constexpr std::string_view kCutsOfPart5 = " AND 部位=5";
-inline constexpr std::string_view kCutsOfPart2 = " AND 部位=2 ";
+inline constexpr std::string_view kGroupByPartAndWeld =
+    " AND (部位=5 OR 部位=2) GROUP BY 部位,太さ,圧接太さ ";
 
 /// Rows of the shape tally, and of the shape by page and line tally.
 std::string ShapeRows(const SelectionData& selection);

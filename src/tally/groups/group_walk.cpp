@@ -2,63 +2,69 @@
 #include "tally/groups/group_walk.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <fmt/format.h>
 
 #include "data/diameters.h"
-#include "platform/pass_over_faults.h"
-#include "store/row_walk.h"
+#include "data/parts.h"
 #include "tally/count_cells.h"
-#include "tally/groups/group_statements.h"
 
 namespace rbt {
 namespace {
 
 template <typename FoldGroup>
-void ForEachGroup(Database& site, std::string_view statement, FoldGroup fold_group) {
-  GroupedRows groups(site, statement);
+void ForEachGroup(SharedScan& scan, std::string_view statement, FoldGroup fold_group) {
+  GroupedRows groups = scan.Groups(statement);
   const BarGroupReader reader(groups);
   for (; !groups.Eof(); groups.MoveNext()) fold_group(reader.Read(groups));
 }
 
-/// The diameter code that a cut counts at; that of the weld is not 0.
-using CutDiameter = std::int32_t (*)(std::int32_t diameter_code, std::int32_t weld_diameter_code);
+/// The cuts of one 部位 at one diameter and weld diameter; null codes are 0.
+struct CutGroup {
+  std::int32_t part = 0;
+  std::int32_t diameter_code = 0;
+  std::int32_t weld_diameter_code = 0;
+  std::optional<std::int32_t> cuts;
+};
 
-void FoldCutsOfPart(TallyTable& table, Database& site, const std::string& statement,
-                    CutDiameter cut_diameter) {
-  GroupedRows groups(site, statement);
+std::vector<CutGroup> ReadCuts(SharedScan& scan, std::string_view statement) {
+  GroupedRows groups = scan.Groups(statement);
+  const FieldHandle part = groups.Field("部位");
   const FieldHandle diameter = groups.Field("太さ");
   const FieldHandle weld_diameter = groups.Field("圧接太さ");
   const FieldHandle cuts = groups.Field("合計切断数");
+  std::vector<CutGroup> found;
   for (; !groups.Eof(); groups.MoveNext()) {
-    const std::int32_t own = groups.Int32(diameter).value_or(0);
-    const std::int32_t weld = groups.Int32(weld_diameter).value_or(0);
-    const int d = DiameterIndex(weld == 0 ? own : cut_diameter(own, weld));
-    AddCount(table.CutCount, d, groups.Int32(cuts), "合計切断数");
+    found.push_back({groups.Int32(part).value_or(0), groups.Int32(diameter).value_or(0),
+                     groups.Int32(weld_diameter).value_or(0), groups.Int32(cuts)});
   }
+  return found;
+}
+
+/// The diameter code that a cut counts at.
+std::int32_t CutDiameter(const CutGroup& group) {
+  if (group.weld_diameter_code == 0) return group.diameter_code;
+  return group.part == kThickerCutPart ? std::max(group.diameter_code, group.weld_diameter_code)
+                                       : group.weld_diameter_code;
 }
 
 }  // namespace
 
-bool MayHoldTexts(Database& site, std::span<const std::string_view> columns, std::string_view rows) {
-  bool is_plain = false;
-  // What faults here faults in `RequireNumbers` too, in its own words.
-  PassOverFaults([&] {
-    RowWalk walk(site, fmt::format("SELECT * FROM 加工テーブル {}", rows), columns);
-    std::vector<FieldHandle> fields;
-    fields.reserve(columns.size());
-    for (const std::string_view column : columns) {
-      if (const auto field = walk.FindField(column)) fields.push_back(*field);
-    }
-    bool all = true;
-    walk.Run([&](const WalkedRow& row) {
-      for (const FieldHandle field : fields) all = all && row.IsPlain(field);
-    });
-    is_plain = all;
+PlainNumbers::PlainNumbers(Database& site, std::span<const std::string_view> columns, std::string_view rows)
+    : walk_(site, fmt::format("SELECT * FROM 加工テーブル {}", rows), columns) {
+  fields_.reserve(columns.size());
+  for (const std::string_view column : columns) {
+    if (const auto field = walk_.FindField(column)) fields_.push_back(*field);
+  }
+}
+
+void PlainNumbers::JoinIn(SharedScan& scan) {
+  scan.AddWalk(walk_, [this](const WalkedRow& row) {
+    for (const FieldHandle field : fields_) stand_ = stand_ && row.IsPlain(field);
   });
-  return !is_plain;
 }
 
 void RequireNumbers(Database& site, std::span<const std::string_view> columns, std::string_view rows) {
@@ -71,29 +77,28 @@ void RequireNumbers(Database& site, std::span<const std::string_view> columns, s
   if (!sums.empty()) site.HasRows(fmt::format("SELECT {} FROM 加工テーブル {}", sums, rows));
 }
 
-void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds) {
-  ForEachGroup(site, statement,
+void FoldUlbonGroups(TallyTable& table, SharedScan& scan, std::string_view statement, bool count_hoop_welds) {
+  ForEachGroup(scan, statement,
                [&](const BarGroup& group) { FoldUlbonGroup(table, group, count_hoop_welds); });
 }
 
-void FoldGroups(TallyTable& table, Database& site, std::string_view main_statement, const GroupRules& rules) {
+void FoldGroups(TallyTable& table, SharedScan& scan, std::string_view main_statement,
+                const GroupRules& rules) {
   GroupFold fold(table, rules);
-  ForEachGroup(site, std::string(main_statement).append(kGroupByPieces),
-               [&](const BarGroup& group) { fold.Add(group); });
+  ForEachGroup(scan, main_statement, [&](const BarGroup& group) { fold.Add(group); });
   fold.Finish();
 }
 
-void FoldCuts(TallyTable& table, Database& site, std::string_view cut_statement) {
-  const auto of_part = [&](std::string_view part) {
-    return std::string(cut_statement).append(part).append(kGroupByWeld);
+void FoldCuts(TallyTable& table, SharedScan& scan, std::string_view cut_statement) {
+  const auto groups = ReadCuts(scan, cut_statement);
+  const auto fold_part = [&](bool thicker) {
+    for (const CutGroup& group : groups) {
+      if ((group.part == kThickerCutPart) != thicker) continue;
+      AddCount(table.CutCount, DiameterIndex(CutDiameter(group)), group.cuts, "合計切断数");
+    }
   };
-  FoldCutsOfPart(table, site, of_part(kCutsOfPart5),
-                 [](std::int32_t diameter_code, std::int32_t weld_diameter_code) {
-                   return std::max(diameter_code, weld_diameter_code);
-                 });
-  FoldCutsOfPart(
-      table, site, of_part(kCutsOfPart2),
-      [](std::int32_t /*diameter_code*/, std::int32_t weld_diameter_code) { return weld_diameter_code; });
+  fold_part(true);
+  fold_part(false);
 }
 
 }  // namespace rbt

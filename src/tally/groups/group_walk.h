@@ -4,8 +4,9 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <vector>
 
-#include "store/database.h"
+#include "store/shared_scan.h"
 #include "tally/groups/group_fold.h"
 
 namespace rbt {
@@ -17,19 +18,33 @@ void RequireNumbers(Database& site, std::span<const std::string_view> columns, s
 /// The columns that only a row shows.
 inline constexpr std::array<std::string_view, 5> kColumnsOfRows = {"頁", "行", "部位", "予備2", "切断"};
 
-/// False when nothing stands in these columns that `RequireNumbers` could fault at: one quick look instead of
-/// several.
-bool MayHoldTexts(Database& site, std::span<const std::string_view> columns, std::string_view rows);
+/// Whether nothing stands in these columns that `RequireNumbers` could fault at: one quick look instead of
+/// several, which joins in a scan.
+class PlainNumbers {
+ public:
+  PlainNumbers(Database& site, std::span<const std::string_view> columns, std::string_view rows);
+
+  /// It must outlive the scan.
+  void JoinIn(SharedScan& scan);
+  /// After the scan.
+  bool Stand() const { return stand_; }
+
+ private:
+  RowWalk walk_;
+  std::vector<FieldHandle> fields_;
+  bool stand_ = true;
+};
 
 /// Adds every group of an Ulbon statement.
-void FoldUlbonGroups(TallyTable& table, Database& site, std::string_view statement, bool count_hoop_welds);
+void FoldUlbonGroups(TallyTable& table, SharedScan& scan, std::string_view statement, bool count_hoop_welds);
 
-/// Adds every group of a main statement, which has no closing clause yet.
-void FoldGroups(TallyTable& table, Database& site, std::string_view main_statement, const GroupRules& rules);
+/// Adds every group of a closed main statement.
+void FoldGroups(TallyTable& table, SharedScan& scan, std::string_view main_statement,
+                const GroupRules& rules);
 
-/// Adds the cuts of 部位 5 and 2 of a cut statement, which has no closing clause yet. A cut of 部位 5 counts
-/// at the thicker of the bar and the one that it is welded to, a cut of 部位 2 at the one that it is welded
-/// to however thin. Faults: `subscript out of range` for cuts at no deformed diameter.
-void FoldCuts(TallyTable& table, Database& site, std::string_view cut_statement);
+/// Adds the cuts of 部位 5 and 2 of a closed cut statement. A cut of 部位 5 counts at the thicker of the bar
+/// and the one that it is welded to, a cut of 部位 2 at the one that it is welded to however thin. Faults:
+/// `subscript out of range` for cuts at no deformed diameter.
+void FoldCuts(TallyTable& table, SharedScan& scan, std::string_view cut_statement);
 
 }  // namespace rbt

@@ -2,12 +2,16 @@
 #include "tally/groups/shape_tally.h"
 
 #include <array>
+#include <functional>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "data/bar_tables.h"
 #include "data/shapes.h"
+#include "platform/pass_over_faults.h"
 #include "platform/system/process.h"
 #include "shell/config/settings.h"
 #include "shell/context/run_state.h"
@@ -44,42 +48,83 @@ GroupRules RulesOfTally(double (*bar_weight)(int d, int l)) {
   return rules;
 }
 
-void RequireNumbersOfShapes(Database& site) {
-  constexpr std::string_view kRows = "WHERE 太さ > 0 AND 合計 > 0";
-  constexpr std::array<std::string_view, 6> kColumns = {"形状No",          kColumnsOfRows[0],
-                                                        kColumnsOfRows[1], kColumnsOfRows[2],
-                                                        kColumnsOfRows[3], kColumnsOfRows[4]};
-  if (!MayHoldTexts(site, kColumns, kRows)) return;
-  // A text lies in no range of shapes.
-  RequireNumbers(site, std::span(kColumns).first(1), kRows);
-  RequireNumbers(site, kColumnsOfRows, ShapeRows(Selection));
+struct Presence {
+  bool hoops = false;
+  bool anchor_plates = false;
+};
+
+/// What tells the two tallies by groups apart.
+struct GroupTally {
+  std::span<const std::string_view> numbers;  ///< columns of `rows` that must hold none but numbers
+  std::string rows;                           ///< a WHERE clause
+  std::function<void()> require_numbers;      ///< faults where they hold others
+  std::string ulbon;
+  std::function<Presence()> probe;
+  std::function<GroupStatements(const Presence&)> statements;  ///< closed
+  GroupRules rules;
+};
+
+GroupStatements Closed(GroupStatements statements) {
+  statements.main += kGroupByPieces;
+  statements.cuts += kGroupByPartAndWeld;
+  return statements;
 }
 
-void ProbeShapes(Database& site) {
-  if (!Selection.StartMode.probes_presence) return;
+/// What a tally reads, in one scan of the schedule. What faults here faults again when its turn comes, in its
+/// own words.
+struct EarlyLook {
+  explicit EarlyLook(Database& site, const GroupTally& tally) : scan(site) {
+    PassOverFaults([&] {
+      const Presence found = tally.probe();
+      PlainNumbers numbers(site, tally.numbers, tally.rows);
+      numbers.JoinIn(scan);
+      const GroupStatements statements = tally.statements(found);
+      for (const std::string& statement : {tally.ulbon, statements.main, statements.cuts}) {
+        scan.AddGroups(statement);
+      }
+      const bool was_read = scan.Run();
+      presence = found;
+      are_plain = was_read && numbers.Stand();
+    });
+  }
+
+  SharedScan scan;
+  std::optional<Presence> presence;  ///< nothing where it could not be told
+  bool are_plain = false;            ///< none but numbers, for certain
+};
+
+void RunTally(TallyTable& table, Database& site, const GroupTally& tally) {
+  EarlyLook look(site, tally);
+  if (!look.are_plain) tally.require_numbers();
+  FoldUlbonGroups(table, look.scan, tally.ulbon, tally.rules.count_hoop_welds);
+  RunPendingEvents();
+  const Presence presence = look.presence ? *look.presence : tally.probe();
+  RunState.HasHoopRows = presence.hoops;
+  RunState.HasAnchorPlateRows = presence.anchor_plates;
+  RunPendingEvents();
+  const GroupStatements statements = tally.statements(presence);
+  FoldGroups(table, look.scan, statements.main, tally.rules);
+  RunPendingEvents();
+  FoldCuts(table, look.scan, statements.cuts);
+  RunPendingEvents();
+  CloseSums(table, {});
+  TallyGrid = std::move(table);
+}
+
+Presence ProbeShapes(Database& site) {
+  if (!Selection.StartMode.probes_presence) return {};
   const std::string probe = ShapeProbeStatement(Selection);
-  RunState.HasHoopRows = site.HasRows(probe + std::string(kShapeHoopProbe));
-  RunState.HasAnchorPlateRows = site.HasRows(probe + std::string(kAnchorPlateClause));
+  return {site.HasRows(probe + std::string(kShapeHoopProbe)),
+          site.HasRows(probe + std::string(kAnchorPlateClause))};
 }
 
-void ProbePageShapes(Database& site, const LineRange& lines) {
-  if (!Selection.StartMode.probes_presence) return;
+Presence ProbePageShapes(Database& site, const LineRange& lines) {
+  if (!Selection.StartMode.probes_presence) return {};
   const std::string probe = PageShapeStatementsSoFar(Selection, lines).main;
   const auto has_rows = [&](std::string_view clause) {
     return site.HasRows(std::string(probe).append(clause).append(kGroupByPieces));
   };
-  RunState.HasHoopRows = has_rows(kPageShapeHoopProbe);
-  RunState.HasAnchorPlateRows = has_rows(kPageShapePlateProbe);
-}
-
-void FoldAndClose(TallyTable& table, Database& site, const GroupStatements& statements,
-                  const GroupRules& rules) {
-  FoldGroups(table, site, statements.main, rules);
-  RunPendingEvents();
-  FoldCuts(table, site, statements.cuts);
-  RunPendingEvents();
-  CloseSums(table, {});
-  TallyGrid = std::move(table);
+  return {has_rows(kPageShapeHoopProbe), has_rows(kPageShapePlateProbe)};
 }
 
 double WeightFromPageTable(int d, int l) {
@@ -91,19 +136,27 @@ double WeightFromPageTable(int d, int l) {
 void Keijou_Jyuuryo_Syukei() {
   TallyTable table = ClearedTable();
   Database& site = *SiteContext.WorkDatabase;
-  const GroupRules rules = RulesOfTally(BarWeight);
+  GroupRules rules = RulesOfTally(BarWeight);
   if (site.HasRows("SELECT * FROM 加工テーブル WHERE 予備2=3")) ++table.HighStrengthRowCount;
   GetStockLengthLimits();  // a limit that is no stock length faults here, even when the schedule's stock is
                            // kept
   JoinDimensions();
   RunPendingEvents();
-  RequireNumbersOfShapes(site);
-  FoldUlbonGroups(table, site, ShapeUlbonStatement(Selection), rules.count_hoop_welds);
-  RunPendingEvents();
-  ProbeShapes(site);
-  RunPendingEvents();
-  FoldAndClose(table, site, ShapeStatements(Selection, RunState.HasHoopRows, RunState.HasAnchorPlateRows),
-               rules);
+  static constexpr std::string_view kRows = "WHERE 太さ > 0 AND 合計 > 0";
+  static constexpr std::array<std::string_view, 6> kNumbers = {"形状No",          kColumnsOfRows[0],
+                                                               kColumnsOfRows[1], kColumnsOfRows[2],
+                                                               kColumnsOfRows[3], kColumnsOfRows[4]};
+  const auto require_numbers = [&] {
+    // A text lies in no range of shapes.
+    RequireNumbers(site, std::span(kNumbers).first(1), kRows);
+    RequireNumbers(site, kColumnsOfRows, ShapeRows(Selection));
+  };
+  const auto statements = [](const Presence& found) {
+    return Closed(ShapeStatements(Selection, found.hoops, found.anchor_plates));
+  };
+  RunTally(table, site,
+           {kNumbers, std::string(kRows), require_numbers, ShapeUlbonStatement(Selection),
+            [&] { return ProbeShapes(site); }, statements, std::move(rules)});
 }
 
 void PKeijou_Jyuuryo_Syukei(std::int32_t startPage, std::int32_t startLine, std::int32_t endPage,
@@ -111,15 +164,14 @@ void PKeijou_Jyuuryo_Syukei(std::int32_t startPage, std::int32_t startLine, std:
   TallyTable table = ClearedTable();
   Database& site = *SiteContext.WorkDatabase;
   ReadPlus();
-  const GroupRules rules = RulesOfTally(WeightFromPageTable);
+  GroupRules rules = RulesOfTally(WeightFromPageTable);
   const LineRange lines = LinesBetween(site, {{startPage, startLine}, {endPage, endLine}});
   const std::string rows = PageShapeRows(lines);
-  if (MayHoldTexts(site, kColumnsOfRows, rows)) RequireNumbers(site, kColumnsOfRows, rows);
-  FoldUlbonGroups(table, site, PageShapeUlbonStatement(Selection, lines), rules.count_hoop_welds);
-  RunPendingEvents();
-  ProbePageShapes(site, lines);
-  RunPendingEvents();
-  FoldAndClose(table, site, PageShapeStatements(Selection, lines), rules);
+  const auto statements = [&](const Presence&) { return Closed(PageShapeStatements(Selection, lines)); };
+  RunTally(table, site,
+           {kColumnsOfRows, rows, [&] { RequireNumbers(site, kColumnsOfRows, rows); },
+            PageShapeUlbonStatement(Selection, lines), [&] { return ProbePageShapes(site, lines); },
+            statements, std::move(rules)});
 }
 
 }  // namespace rbt
