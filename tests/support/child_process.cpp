@@ -14,7 +14,7 @@
 #include <iterator>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
-#include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <sys/prctl.h>
@@ -26,6 +26,7 @@
 #endif
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -105,19 +106,38 @@ int RunToEnding(const std::function<bool()>& action) {
   }
 }
 
-/// A child process that stops at each system call; killed with the object.
+/// Gives this process for good a filter that treats some system calls in a way of their own.
+bool FilterCalls(std::span<const long> calls, std::uint32_t treatment) {
+  constexpr auto kNumber = static_cast<std::uint32_t>(offsetof(seccomp_data, nr));
+  std::vector<sock_filter> program = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, kNumber)};
+  for (const long call : calls) {
+    program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<std::uint32_t>(call), 0, 1));
+    program.push_back(BPF_STMT(BPF_RET | BPF_K, treatment));
+  }
+  program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+  const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
+  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+         prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+}
+
+/// Which calls a child stops at.
+enum class Stops { at_changes, at_file_calls };
+
+/// A child process of one thread that stops before system calls; killed with the object.
 class TracedChild {
  public:
   explicit TracedChild(const std::function<void()>& action)
-      : TracedChild([&] { return Run([&] { return (action(), true); }); }, 0) {}
+      : TracedChild([&] { return Run([&] { return (action(), true); }); }, Stops::at_changes) {}
   /// The action's result is the exit status.
-  TracedChild(const std::function<int()>& action, int /*of_status*/) : child_(fork()) {
+  TracedChild(const std::function<int()>& action, Stops stops) : stops_(stops), child_(fork()) {
     if (child_ == 0) {
       if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(2);
       raise(SIGSTOP);
+      // The kernel picks the calls out: a stop at every other one would be most of the time.
+      if (!FilterCalls(CallsOf(stops), SECCOMP_RET_TRACE)) _exit(2);
       _exit(action());
     }
-    if (!Wait() || ptrace(PTRACE_SETOPTIONS, child_, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0)
+    if (!Wait() || ptrace(PTRACE_SETOPTIONS, child_, nullptr, PTRACE_O_TRACESECCOMP | PTRACE_O_EXITKILL) != 0)
       throw std::runtime_error(std::string("a child cannot be traced: ") + std::strerror(errno));
   }
   TracedChild(const TracedChild&) = delete;
@@ -128,13 +148,13 @@ class TracedChild {
     while (waitpid(child_, nullptr, 0) < 0 && errno == EINTR) continue;
   }
 
-  /// Goes on to the next system call that changes something; false when the action came to its end.
-  bool GoToChange() {
-    return GoTo([](const Call& call) { return IsChange(call); });
-  }
-  /// The same for every call that has to do with files.
-  bool GoToFileCall() {
-    return GoTo([](const Call& call) { return IsChange(call) || IsOneOf(kLooks, call.number); });
+  /// Goes on to the next call that it is to stop at; false when the action came to its end.
+  bool GoOn() {
+    for (;;) {
+      if (ptrace(PTRACE_CONT, child_, nullptr, nullptr) != 0) throw std::runtime_error("a child got lost");
+      if (!Wait()) return false;
+      if (status_ >> 8 == (SIGTRAP | PTRACE_EVENT_SECCOMP << 8) && IsMeant(NextCall())) return true;
+    }
   }
 
 #ifdef __x86_64__
@@ -144,10 +164,6 @@ class TracedChild {
     ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
     const bool writes = IsOneOf(kChanges, static_cast<long>(registers.orig_rax));
     registers.orig_rax = ~0ULL;  // no call
-    ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
-    ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr);
-    if (!Wait()) return;
-    ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
     registers.rax = static_cast<unsigned long long>(-static_cast<long long>(writes ? ENOSPC : EIO));
     ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
   }
@@ -169,15 +185,18 @@ class TracedChild {
     std::uint64_t third_argument;
   };
 
-  template <typename IsMeant>
-  bool GoTo(IsMeant is_meant) {
-    for (;;) {
-      if (ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr) != 0) throw std::runtime_error("a child got lost");
-      if (!Wait()) return false;
-      if (WSTOPSIG(status_) != (SIGTRAP | 0x80)) continue;
-      const std::optional<Call> call = EnteredCall();
-      if (call && !IsOnPipe(*call) && is_meant(*call)) return true;
-    }
+  static std::vector<long> CallsOf(Stops stops) {
+    std::vector<long> calls(std::begin(kChanges), std::end(kChanges));
+    calls.push_back(SYS_openat);
+    if (stops == Stops::at_file_calls) calls.insert(calls.end(), std::begin(kLooks), std::end(kLooks));
+    return calls;
+  }
+
+  bool IsMeant(const Call& call) const {
+    if (IsOnPipe(call)) return false;
+    // What may create a file changes; what opens one looks.
+    return call.number != SYS_openat || stops_ == Stops::at_file_calls ||
+           (call.third_argument & O_CREAT) != 0;
   }
 
   /// Until the child stops; false when it has ended.
@@ -194,13 +213,12 @@ class TracedChild {
     return false;
   }
 
-  /// The call that the child is about to make; nothing where one ends.
-  std::optional<Call> EnteredCall() const {
+  /// The call that the child is about to make.
+  Call NextCall() const {
     __ptrace_syscall_info info{};
     if (ptrace(static_cast<__ptrace_request>(PTRACE_GET_SYSCALL_INFO), child_, sizeof info, &info) <= 0)
       throw std::runtime_error("system calls of a child cannot be read");
-    if (info.op != PTRACE_SYSCALL_INFO_ENTRY) return std::nullopt;
-    return Call{static_cast<long>(info.entry.nr), info.entry.args[0], info.entry.args[2]};
+    return {static_cast<long>(info.seccomp.nr), info.seccomp.args[0], info.seccomp.args[2]};
   }
 
   /// The undefined-behaviour sanitizer tries by a pipe of its own whether memory can be read; that is no
@@ -213,11 +231,7 @@ class TracedChild {
     return readlink(descriptor.c_str(), target, 5) == 5 && std::strcmp(target, "pipe:") == 0;
   }
 
-  static bool IsChange(const Call& call) {
-    if (call.number == SYS_openat) return (call.third_argument & O_CREAT) != 0;
-    return IsOneOf(kChanges, call.number);
-  }
-
+  Stops stops_;
   pid_t child_;
   int status_ = 0;
   bool ended_ = false;
@@ -246,7 +260,7 @@ bool WithFilesOfAtMost(std::uint64_t bytes, const std::function<void()>& action)
 bool KilledBeforeChange(int n, const std::function<void()>& action) {
   TracedChild child(action);
   for (int change = 0; change < n; ++change) {
-    if (!child.GoToChange()) return false;
+    if (!child.GoOn()) return false;
   }
   return true;
 }
@@ -254,10 +268,10 @@ bool KilledBeforeChange(int n, const std::function<void()>& action) {
 void MeddleBeforeChange(int n, const std::function<void()>& action, const std::function<void()>& meddle) {
   TracedChild child(action);
   for (int change = 0; change < n; ++change) {
-    if (!child.GoToChange()) throw std::runtime_error("a child made fewer changes");
+    if (!child.GoOn()) throw std::runtime_error("a child made fewer changes");
   }
   meddle();
-  while (child.GoToChange()) continue;
+  while (child.GoOn()) continue;
 }
 
 int FailingCallStep(int usual) {
@@ -269,9 +283,9 @@ int FailingCallStep(int usual) {
 bool CanFailCalls() { return true; }
 
 Ending WithFailingCall(int n, const std::function<bool()>& action) {
-  TracedChild child([&] { return RunToEnding(action); }, 0);
+  TracedChild child([&] { return RunToEnding(action); }, Stops::at_file_calls);
   for (int call = 0; call < n; ++call) {
-    if (!child.GoToFileCall()) return Ending::too_few_calls;
+    if (!child.GoOn()) return Ending::too_few_calls;
   }
   child.FailCall();
   const int status = child.ToEnd();
@@ -294,20 +308,13 @@ Ending WithFailingCall(int, const std::function<bool()>&) { throw std::runtime_e
 #endif
 
 void ForbidHardLinks() {
-  constexpr auto kNumber = static_cast<std::uint32_t>(offsetof(seccomp_data, nr));
-  constexpr std::uint32_t kRefuse = SECCOMP_RET_ERRNO | EPERM;
+  constexpr long kLinks[] = {
+      SYS_linkat,
 #ifdef SYS_link
-  constexpr std::uint32_t kLink = SYS_link;
-#else
-  constexpr std::uint32_t kLink = SYS_linkat;
+      SYS_link,
 #endif
-  sock_filter program[] = {
-      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, kNumber),           BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, kLink, 1, 0),
-      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_linkat, 0, 1), BPF_STMT(BPF_RET | BPF_K, kRefuse),
-      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
   };
-  const sock_fprog filter{static_cast<unsigned short>(std::size(program)), program};
-  if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) != 0)
+  if (!FilterCalls(kLinks, SECCOMP_RET_ERRNO | EPERM))
     throw std::runtime_error(std::string("hard links cannot be forbidden: ") + std::strerror(errno));
 }
 
