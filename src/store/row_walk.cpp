@@ -68,6 +68,13 @@ std::optional<std::int32_t> WalkedRow::Int32(FieldHandle field) const {
   return ReadInt32(value, walk_.impl_->PlaceOf(field));
 }
 
+void WalkedRow::Int32s(std::span<const std::optional<FieldHandle>> fields,
+                       std::span<std::optional<std::int32_t>> numbers) const {
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    numbers[i] = fields[i] ? Int32(*fields[i]) : std::nullopt;
+  }
+}
+
 std::optional<double> WalkedRow::Double(FieldHandle field) const {
   sqlite3_value* const value = values_[field.index];
   if (sqlite3_value_type(value) == SQLITE_FLOAT) return sqlite3_value_double(value);

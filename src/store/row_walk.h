@@ -24,6 +24,9 @@ class WalkedRow {
   /// As those of `Recordset`.
   std::optional<std::int32_t> Int32(FieldHandle field) const;
   std::optional<double> Double(FieldHandle field) const;
+  /// Several at once, in their order; null for a field that is nothing. `numbers` is as long as `fields`.
+  void Int32s(std::span<const std::optional<FieldHandle>> fields,
+              std::span<std::optional<std::int32_t>> numbers) const;
   /// Null, or a whole number of 32 bits stored as one: nothing that reading or adding up could fault at.
   bool IsPlain(FieldHandle field) const;
 

@@ -22,6 +22,7 @@ enum Column : std::size_t {
   kPlates,
   kCuts,
   kKind,
+  kEnd,
 };
 
 constexpr std::array<std::string_view, 15> kColumns = {"頁",     "行",     "部位",     "太さ",   "圧接太さ",
@@ -43,28 +44,33 @@ BarRowReader::BarRowReader(const RowWalk& rows) {
 }
 
 BarRow BarRowReader::Read(const WalkedRow& found) const {
-  const auto number = [&](Column column) {
-    return fields_[column] ? found.Int32(*fields_[column]) : std::nullopt;
+  std::array<std::optional<std::int32_t>, kColumns.size()> numbers;
+  const auto read = [&](Column first, Column end) {
+    found.Int32s(std::span(fields_).subspan(first, end - first),
+                 std::span(numbers).subspan(first, end - first));
   };
   BarRow row;
-  row.page = number(kPage);
-  row.line = number(kLine);
+  read(kPage, kPart);
+  row.page = numbers[kPage];
+  row.line = numbers[kLine];
   At([&] { return PlaceOf(row); },
      [&] {
-       row.part = number(kPart);
-       row.diameter_code = number(kDiameter);
-       row.weld_diameter_code = number(kWeldDiameter);
-       row.shape = number(kShape);
-       row.pieces = number(kPieces);
-       row.cut_length_mm = number(kCutLength);
+       read(kPart, kStockLength);
        row.stock_length_m = found.Double(*fields_[kStockLength]);
-       row.stock_bars = number(kStockBars);
-       row.welds = number(kWelds);
-       row.threads = number(kThreads);
-       row.plates = number(kPlates);
-       row.cuts = number(kCuts);
-       row.kind = number(kKind);
+       read(kStockBars, kEnd);
      });
+  row.part = numbers[kPart];
+  row.diameter_code = numbers[kDiameter];
+  row.weld_diameter_code = numbers[kWeldDiameter];
+  row.shape = numbers[kShape];
+  row.pieces = numbers[kPieces];
+  row.cut_length_mm = numbers[kCutLength];
+  row.stock_bars = numbers[kStockBars];
+  row.welds = numbers[kWelds];
+  row.threads = numbers[kThreads];
+  row.plates = numbers[kPlates];
+  row.cuts = numbers[kCuts];
+  row.kind = numbers[kKind];
   return row;
 }
 
