@@ -25,6 +25,13 @@ void Include(std::vector<const FieldDef*>& fields, const FieldDef* field) {
   if (!Contains(fields, field)) fields.push_back(field);
 }
 
+std::size_t TimesIn(std::string_view sql, std::string_view word) {
+  std::size_t times = 0;
+  for (std::size_t at = sql.find(word); at != std::string_view::npos; at = sql.find(word, at + word.size()))
+    ++times;
+  return times;
+}
+
 /// Whether working a value out can end the statement: only functions of our own can, and not all of them.
 bool MayFault(std::string_view sql) {
   constexpr std::string_view kOwn = "jet_";
@@ -185,19 +192,23 @@ bool UpdateFusion::IsSeparable() const {
 }
 
 /// A field's value when all statements have run, of the row as it was. A query with a limit is not folded
-/// into the one that reads it.
+/// into the one that reads it. What is read once needs no query, which would cost more than it spares.
 std::string UpdateFusion::ValueOf(const FieldDef& field) const {
   const std::string name = QuoteName(field.name);
   std::string value = name;
   for (const Layer& layer : layers_) {
     const auto found = layer.settings.find(&field);
     if (found == layer.settings.end()) continue;
-    const std::string sql = SqlOf(found->second, name);
+    const Setting& setting = found->second;
+    const bool reads_itself = TimesIn(setting.cases, name) + TimesIn(setting.otherwise, name) > 0;
+    std::string sql = SqlOf(setting, reads_itself ? name : value);
     std::string below;
-    if (value != name) below = fmt::format("{} AS {}", value, name);
+    if (reads_itself && value != name) below = fmt::format("{} AS {}", value, name);
     for (std::size_t test = 0; test < tests_.size(); ++test) {
-      if (sql.find(TestName(test)) == std::string::npos) continue;
-      below += fmt::format("{}{} AS {}", below.empty() ? "" : ", ", tests_[test], TestName(test));
+      const std::string test_name = TestName(test);
+      const std::size_t times = TimesIn(sql, test_name);
+      if (times == 1) sql.replace(sql.find(test_name), test_name.size(), fmt::format("({})", tests_[test]));
+      if (times > 1) below += fmt::format("{}{} AS {}", below.empty() ? "" : ", ", tests_[test], test_name);
     }
     value = below.empty() ? sql : fmt::format("(SELECT {} FROM (SELECT {} LIMIT -1))", sql, below);
   }
