@@ -16,6 +16,7 @@
 #include "planning/solve/cover_lp.h"
 #include "planning/solve/needed_bars.h"
 #include "planning/verify/verify.h"
+#include "support/sample.h"
 
 namespace rbt::planning {
 namespace {
@@ -105,7 +106,7 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
   int refused = 0;
   int best = 0;
   int all = 0;
-  for (std::uint64_t seed = 1; seed <= 250; ++seed) {
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(250); ++seed) {
     Problem problem = TinyProblem(seed, true);
     if (problem.groups.empty()) continue;
     const Micros least = test::NeededBars(problem).LeastCost();

@@ -5,6 +5,20 @@
 
 namespace rbt::test {
 
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kSanitized = __has_feature(address_sanitizer);
+#else
+constexpr bool kSanitized = false;
+#endif
+
+}  // namespace
+
+std::uint64_t ProblemsOf(std::uint64_t all) { return kSanitized ? all / 4 : all; }
+
 int SampleStep(int many) { return std::getenv("RBTALLY_SAMPLE") == nullptr ? 1 : many; }
 
 void TryMoments(const std::function<bool(int)>& is_there) {

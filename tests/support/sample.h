@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 namespace rbt::test {
@@ -15,5 +16,9 @@ int SampleStep(int many);
 /// Tries the moments 1, 2, 3, ... until `is_there` says that the action came to its end before. Of a sample
 /// every eighth up to the end and each of the last eight.
 void TryMoments(const std::function<bool(int)>& is_there);
+
+/// How many random problems a law of answers is held against that takes long: all, but a fourth of them under
+/// sanitizers, which look at what the code does and not at what it answers.
+std::uint64_t ProblemsOf(std::uint64_t all);
 
 }  // namespace rbt::test

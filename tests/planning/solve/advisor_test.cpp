@@ -10,6 +10,7 @@
 #include "planning/problem_samples.h"
 #include "planning/solve/plan_maker.h"
 #include "planning/solve/row_plans.h"
+#include "support/sample.h"
 
 namespace rbt::planning {
 namespace {
@@ -38,7 +39,7 @@ Problem AdvisedSample(std::uint64_t seed) {
 }
 
 TEST(Advise, CostsNoMoreThanThePlanWhereItsLengthsAreAllowed) {
-  for (std::uint64_t seed = 1; seed <= 40; ++seed) {
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(40); ++seed) {
     Problem problem = AdvisedSample(seed);
     problem.options.advise = 19;
     const Plan plan = SolvePlan(problem, nullptr, nullptr);
@@ -58,7 +59,7 @@ std::optional<Micros> Advised(const Plan& plan, std::size_t supply, int count) {
 }
 
 TEST(Advise, CostsNoMoreThanThePlanOfAsManyLengthsNorThanThePointBefore) {
-  for (std::uint64_t seed = 1; seed <= 30; ++seed) {
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(30); ++seed) {
     Problem problem = AdvisedSample(seed);
     // Pieces on rest bars may need a length that is not bought.
     for (Supply& supply : problem.supplies) supply.rests.clear();
@@ -78,7 +79,7 @@ TEST(Advise, CostsNoMoreThanThePlanOfAsManyLengthsNorThanThePointBefore) {
 }
 
 TEST(Advise, HoldsEveryPieceByTheLengthsOfEachSet) {
-  for (std::uint64_t seed = 1; seed <= 40; ++seed) {
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(40); ++seed) {
     const Problem problem = AdvisedSample(seed);
     for (const Advice& advice : SolvePlan(problem, nullptr, nullptr).advice) {
       const auto supply = std::ranges::find(problem.supplies, advice.steel, &Supply::steel);

@@ -9,6 +9,7 @@
 #include "planning/problem/refusal.h"
 #include "planning/problem_samples.h"
 #include "planning/solve/plan_maker.h"
+#include "support/sample.h"
 
 namespace rbt::planning {
 namespace {
@@ -66,11 +67,12 @@ void ExpectMoreLengthsToCostNoMore(const Problem& problem, std::uint64_t seed) {
 }
 
 TEST(LimitedSupply, CostsNoMoreWhereMoreLengthsAreAllowed) {
-  for (std::uint64_t seed = 1; seed <= 120; ++seed) ExpectMoreLengthsToCostNoMore(LimitedSample(seed), seed);
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(120); ++seed)
+    ExpectMoreLengthsToCostNoMore(LimitedSample(seed), seed);
 }
 
 TEST(LimitedSupply, CostsNoMoreWhereMoreLengthsAreAllowedThatHaveLots) {
-  for (std::uint64_t seed = 1; seed <= 60; ++seed)
+  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(60); ++seed)
     ExpectMoreLengthsToCostNoMore(LimitedSample(seed, true), seed);
 }
 
