@@ -10,8 +10,8 @@
 
 namespace rbt {
 
-/// The tallies that stand on floors and parts, 階別集計 and 部位別集計: kept without memos, named without
-/// sub-project.
+/// The tallies that stand on floors and parts, 階別集計 and 部位別集計: the dialog offers no choice about
+/// memos, the name has no sub-project.
 constexpr bool IsOfFloors(TallyKind kind) { return kind == TallyKind::floor || kind == TallyKind::part; }
 
 /// The name that a save proposes: the kinds of bars, date and time, of the page tallies the range, and the

@@ -3,10 +3,8 @@
 
 #include <utility>
 
-#include <QEvent>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTimer>
 
 #include "desktop/form.h"
 #include "screens/panels/boxes.h"
@@ -54,7 +52,7 @@ void DetailFields::BindMemos() {
 }
 
 void DetailFields::BindDigit(QLineEdit& box, bool (DetailPresenter::*type)(std::string_view text)) {
-  box.installEventFilter(this);
+  SelectAtFocus(box);
   connect(&box, &QLineEdit::textEdited, this, [this, &box, type] {
     const std::string typed = TypedLast(box).toStdString();
     perform_([&](DetailPresenter& presenter) { (presenter.*type)(typed); });
@@ -78,15 +76,6 @@ void DetailFields::Show(const DetailView& view) {
   ShowText(*ui_->ToriJyuP, view.installed);
   (view.date_place == DatePlace::right ? ui_->Option2 : ui_->Option1)->setChecked(true);
   setEnabled(view.fields_enabled);
-}
-
-bool DetailFields::eventFilter(QObject* receiver, QEvent* event) {
-  if (event->type() == QEvent::FocusIn) {
-    // A click puts the cursor first and would take the selection away again.
-    auto* box = static_cast<QLineEdit*>(receiver);
-    QTimer::singleShot(0, box, [box] { box->selectAll(); });
-  }
-  return QFrame::eventFilter(receiver, event);
 }
 
 }  // namespace rbt

@@ -29,8 +29,6 @@ class DetailFields : public QFrame {
   void Bind(Perform perform);
   void Show(const DetailView& view);
 
-  bool eventFilter(QObject* receiver, QEvent* event) override;
-
  private:
   void BindMemos();
   /// A box of one digit: the presenter takes the key or leaves the box as it was.

@@ -2,7 +2,6 @@
 #include "screens/floorpart/floor_input_panel.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 
 #include "desktop/action.h"
 #include "desktop/texts.h"
@@ -27,7 +26,10 @@ bool IsShiftedMinus(const QEvent& event) {
 FloorInputPanel::FloorInputPanel(QWidget* parent)
     : RangePanel(parent), ui_(std::make_unique<Ui::FloorInputPanel>()) {
   ui_->setupUi(this);
-  for (QLineEdit* box : {ui_->txtStartKai, ui_->txtEndKai}) TakeNumberOnly(*box, kMostCharacters);
+  for (QLineEdit* box : {ui_->txtStartKai, ui_->txtEndKai}) {
+    TakeNumberOnly(*box, kMostCharacters);
+    SelectAtFocus(*box);
+  }
   SetBoxes({ui_->txtStartKai, ui_->txtEndKai});
 }
 
@@ -52,11 +54,6 @@ void FloorInputPanel::FocusRun() { ui_->cmdKaiJS->setFocus(); }
 
 bool FloorInputPanel::eventFilter(QObject* receiver, QEvent* event) {
   if (IsShiftedMinus(*event)) return true;
-  if (event->type() == QEvent::FocusIn) {
-    // A click puts the cursor first and would take the selection away again.
-    auto* box = static_cast<QLineEdit*>(receiver);
-    QTimer::singleShot(0, box, [box] { box->selectAll(); });
-  }
   return RangePanel::eventFilter(receiver, event);
 }
 

@@ -87,6 +87,7 @@ void FloorPartForm::Bind() {
     Do([installed](FloorPartPresenter& screen) { screen.ChooseWeight(installed); });
   });
   TakeNumberOnly(*ui_->Text1, kPercentCharacters);
+  SelectAtFocus(*ui_->Text1, SelectAt::getting_and_losing_focus);
   connect(ui_->Text1, &QLineEdit::textChanged, this,
           [this](const QString& text) { presenter_.TypeUplift(text.toStdString()); });
   connect(ui_->Text1, &QLineEdit::returnPressed, this,

@@ -14,6 +14,9 @@ namespace rbt {
 void ShowText(QLineEdit& box, std::string_view text);
 /// Puts the focus on a box and selects it.
 void FocusText(QLineEdit& box);
+/// Selects a box's text whenever the focus comes to it, by a click too; if asked for, also when it goes.
+enum class SelectAt { getting_focus, getting_and_losing_focus };
+void SelectAtFocus(QLineEdit& box, SelectAt when = SelectAt::getting_focus);
 /// The control's room stays its own while it is out of sight.
 void KeepRoomOf(QWidget& control);
 void ShowButton(QPushButton& button, const ButtonView& view);

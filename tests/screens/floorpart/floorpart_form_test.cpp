@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The floor and part forms by their keys: input, result, print buttons, the way out.
+#include <QMouseEvent>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -24,6 +25,18 @@ struct NotReadyKey {
 void ExpectNotReady(FloorPartDriver& form, const NotReadyKey& row) {
   form.Key(row.key);
   EXPECT_EQ(form.Message(), std::string("「") + row.name + "」は、まだご利用いただけません。");
+}
+
+/// A click that brings the focus.
+void ClickInto(QLineEdit& box) {
+  const QPointF place(3, 3);
+  box.setFocus(Qt::MouseFocusReason);
+  QMouseEvent press(QEvent::MouseButtonPress, place, box.mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
+                    {});
+  QApplication::sendEvent(&box, &press);
+  QMouseEvent release(QEvent::MouseButtonRelease, place, box.mapToGlobal(place), Qt::LeftButton, {}, {});
+  QApplication::sendEvent(&box, &release);
+  Settle();
 }
 
 }  // namespace
@@ -135,6 +148,16 @@ TEST(FloorBoxesOfTheForm, UpLeadsBackAndSelects) {
   form.Key(Qt::Key_Up);
   EXPECT_EQ(form.Focused(), "txtStartKai");
   EXPECT_EQ(form.Box("txtStartKai")->selectedText(), "2");
+}
+
+TEST(FloorBoxesOfTheForm, AreSelectedByAClick) {
+  FloorPartDriver form(kFloorScreen);
+  form.Open();
+  form.Type("25");
+  form.Box("txtEndKai")->setFocus();
+  ClickInto(*form.Box("txtStartKai"));
+  Settle();
+  EXPECT_EQ(form.Box("txtStartKai")->selectedText(), "25");
 }
 
 TEST(FloorBoxesOfTheForm, TakeAMinusWithoutShift) {
@@ -298,6 +321,20 @@ TEST(FloorPartForms, RaiseByAPercentage) {
     EXPECT_EQ(form.Cell(screen == &kFloorScreen ? 0 : 3, 1), "149");
     EXPECT_TRUE(form.Button("cmdExit")->isEnabled());
   }
+}
+
+TEST(FloorPartForms, SelectThePercentageWhenItsBoxGetsTheFocusAndWhenItLosesIt) {
+  FloorPartDriver form(kFloorScreen);
+  form.OpenWithResult();
+  form.Key(Qt::Key_F5);
+  form.Type("12");
+  form.Button("Command2")->setFocus();
+  Settle();
+  EXPECT_EQ(form.Box("Text1")->selectedText(), "12");
+  form.Box("Text1")->deselect();
+  ClickInto(*form.Box("Text1"));
+  Settle();
+  EXPECT_EQ(form.Box("Text1")->selectedText(), "12");
 }
 
 TEST(FloorPartForms, RaiseByTheButtonToo) {
