@@ -42,6 +42,18 @@ std::string Currency::ToText() const {
   return text;
 }
 
+Currency Currency::operator*(Currency other) const {
+  __extension__ using Wide = __int128;
+  const Wide product = static_cast<Wide>(units_) * other.units_;
+  Wide units = product / kUnits;
+  const Wide rest = product < 0 ? -(product % kUnits) : product % kUnits;
+  const bool is_odd = units % 2 != 0;
+  if (2 * rest > kUnits || (2 * rest == kUnits && is_odd)) units += product < 0 ? -1 : 1;
+  const auto narrow = static_cast<std::int64_t>(units);
+  if (narrow != units) Overflow("a product");
+  return Currency(narrow);
+}
+
 Currency Currency::operator-() const { return Currency() - *this; }
 
 Currency& Currency::operator+=(Currency other) {

@@ -26,6 +26,8 @@ class Currency {
   /// Shortest decimal text: "12", "-0.5", "3.1416".
   std::string ToText() const;
 
+  /// To four places, halves to even.
+  Currency operator*(Currency other) const;
   Currency operator-() const;
   Currency& operator+=(Currency other);
   Currency& operator-=(Currency other);

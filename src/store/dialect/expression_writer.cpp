@@ -215,6 +215,14 @@ WrittenValue ExpressionWriter::WriteArithmetic(const Arithmetic& node, Place) {
   const bool of_wholes =
       node.sign != ArithmeticOperator::divide && IsWhole(left.value) && IsWhole(right.value);
   WrittenValue written;
+  // Doubles would put a half of a kilogram now above and now below itself.
+  if (node.sign == ArithmeticOperator::multiply && left.value == ValueClass::currency &&
+      right.value == ValueClass::currency) {
+    written.sql = fmt::format("jet_multiply_currency({}, {})", left.sql, right.sql);
+    written.value = ValueClass::currency;
+    written.may_fault = true;
+    return written;
+  }
   written.sql = fmt::format(fmt::runtime(form->format), AsDouble(left), AsDouble(right));
   written.value = whole_result || of_wholes ? ValueClass::whole : ValueClass::real;
   written.may_fault = form->may_fault || left.may_fault || right.may_fault;

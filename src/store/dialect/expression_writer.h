@@ -20,7 +20,7 @@ enum class ValueClass {
   boolean,
   whole,     ///< BYTE, SHORT, LONG and what + - * \ MOD make of them, in 64 bits
   real,      ///< a double; arithmetic that a CURRENCY or a DOUBLE takes part in is done in doubles
-  currency,  ///< a CURRENCY column, or the sum, smallest or largest of one
+  currency,  ///< a CURRENCY column, the product of two, or the sum, smallest or largest of one
   date,
   text,
   other,  ///< DECIMAL, BINARY, OLE: may be selected and tested for null

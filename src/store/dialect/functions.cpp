@@ -197,6 +197,13 @@ void ToText(sqlite3_context* context, int, sqlite3_value** arguments) {
   ResultText(context, text);
 }
 
+void MultiplyCurrency(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNullArgument(arguments[0]) || IsNullArgument(arguments[1])) return;
+  const Currency product = Currency::FromDouble(NumberArgument(arguments[0], "*")) *
+                           Currency::FromDouble(NumberArgument(arguments[1], "*"));
+  sqlite3_result_double(context, product.ToDouble());
+}
+
 struct CurrencySum {
   std::int64_t ten_thousandths;
   bool has_value;
@@ -255,13 +262,21 @@ struct Scalar {
   ScalarFunction function;
 };
 constexpr Scalar kScalars[] = {
-    {"jet_number", 1, Guarded<Number>},       {"jet_concatenate", -1, Guarded<Concatenate>},
-    {"jet_divide", 2, Guarded<Divide>},       {"jet_quotient", 2, Guarded<Quotient>},
-    {"jet_remainder", 2, Guarded<Remainder>}, {"jet_fix", 1, Guarded<FixNumber>},
-    {"jet_int", 1, Guarded<IntNumber>},       {"jet_val", 1, Guarded<Val>},
-    {"jet_to_whole", 4, Guarded<ToWhole>},    {"jet_to_currency", 2, Guarded<ToCurrency>},
-    {"jet_to_real", 2, Guarded<ToReal>},      {"jet_to_single", 2, Guarded<ToSingle>},
-    {"jet_to_text", 3, Guarded<ToText>},      {"jet_summand", 2, Guarded<Summand>},
+    {"jet_number", 1, Guarded<Number>},
+    {"jet_concatenate", -1, Guarded<Concatenate>},
+    {"jet_divide", 2, Guarded<Divide>},
+    {"jet_quotient", 2, Guarded<Quotient>},
+    {"jet_remainder", 2, Guarded<Remainder>},
+    {"jet_fix", 1, Guarded<FixNumber>},
+    {"jet_int", 1, Guarded<IntNumber>},
+    {"jet_val", 1, Guarded<Val>},
+    {"jet_to_whole", 4, Guarded<ToWhole>},
+    {"jet_to_currency", 2, Guarded<ToCurrency>},
+    {"jet_to_real", 2, Guarded<ToReal>},
+    {"jet_to_single", 2, Guarded<ToSingle>},
+    {"jet_to_text", 3, Guarded<ToText>},
+    {"jet_summand", 2, Guarded<Summand>},
+    {"jet_multiply_currency", 2, Guarded<MultiplyCurrency>},
 };
 
 struct Aggregate {

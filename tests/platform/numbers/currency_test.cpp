@@ -30,6 +30,17 @@ TEST(Currency, ReachesItsLimitsAndOverflowsBeyond) {
   EXPECT_THROW(Currency::FromInteger(std::numeric_limits<std::int64_t>::max() / 10000 + 1), Fault);
 }
 
+TEST(Currency, MultipliesToFourPlacesHalvesToEven) {
+  EXPECT_EQ(Currency::FromInteger(50000) * Units(89500), Currency::FromInteger(447500));
+  EXPECT_EQ(Units(1) * Units(5000), Units(0));  // half a ten-thousandth
+  EXPECT_EQ(Units(3) * Units(5000), Units(2));  // one and a half
+  EXPECT_EQ(Units(-3) * Units(5000), Units(-2));
+  EXPECT_EQ(Units(-1) * Units(5001), Units(-1));
+  EXPECT_EQ(Units(std::numeric_limits<std::int64_t>::min()) * Units(10000),
+            Units(std::numeric_limits<std::int64_t>::min()));
+  EXPECT_THROW(Units(std::numeric_limits<std::int64_t>::max()) * Units(10001), Fault);
+}
+
 TEST(Currency, WritesItsShortestDecimal) {
   EXPECT_EQ(Units(120000).ToText(), "12");
   EXPECT_EQ(Units(-5000).ToText(), "-0.5");

@@ -191,6 +191,12 @@ TEST_F(NameSummary, RoundsTheUnroundedSumUnlessItCaps) {
   EXPECT_EQ(Summary(kCapped).front(), "1 0 119 21");
 }
 
+// 50 m of 8.95 kg are 447.5 kg; a product of doubles lies below.
+TEST_F(NameSummary, TakesAnExactHalfOfAKilogramUp) {
+  AddRow(Number(1), {{"太さ", Number(38)}, {"合計", Number(10)}, {"伸切寸", Number(5000)}});
+  EXPECT_THAT(Summary().front(), testing::EndsWith(" 448"));
+}
+
 TEST_F(NameSummary, GivesANameThatHasNoRowsAnyMoreZero) {
   AddRow(Number(1));
   EXPECT_EQ(Summary().front(), "1 0 27 27");
