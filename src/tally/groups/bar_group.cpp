@@ -31,7 +31,7 @@ BarGroup BarGroupReader::Read(const GroupedRows& groups) const {
   group.dimensions = groups.Text(dimensions_);
   if (stock_length_) group.stock_length_m = groups.Double(*stock_length_).value_or(0.0);
   group.pieces = Currency::FromDouble(groups.Double(pieces_).value_or(0.0));
-  group.welds = groups.Int32(welds_);
+  group.welds = groups.Double(welds_);
   group.threads = groups.Int32(threads_);
   group.plates = groups.Int32(plates_);
   return group;

@@ -20,7 +20,7 @@ struct BarGroup {
   std::optional<std::string> dimensions;           ///< 予備5
   double stock_length_m = 0.0;                     ///< 伸定尺; 0 where the statement does not ask for it
   Currency pieces;                                 ///< 合計本数, a whole number
-  std::optional<std::int32_t> welds;               ///< 合計圧接
+  std::optional<double> welds;                     ///< 合計圧接, of any size: not all that are read count
   std::optional<std::int32_t> threads;             ///< 合計ネジ数
   std::optional<std::int32_t> plates;              ///< 合計定着板数
 };

@@ -7,6 +7,8 @@
 #include "data/diameters.h"
 #include "data/shapes.h"
 #include "platform/fault.h"
+#include "platform/numbers/number_words.h"
+#include "platform/text/characters.h"
 #include "tally/count_cells.h"
 
 namespace rbt {
@@ -21,6 +23,16 @@ double InstalledMetres(const BarGroup& group) {
 int WeldRow(const BarGroup& group, int row, int (*row_of_diameter)(int)) {
   const bool welded_to_thicker = group.weld_diameter_code && *group.weld_diameter_code > group.diameter_code;
   return welded_to_thicker ? row_of_diameter(*group.weld_diameter_code) : row;
+}
+
+/// As the store groups texts: which of its rows a group shows the text of is no matter.
+bool AreSameDimensions(const std::optional<std::string>& a, const std::optional<std::string>& b) {
+  return a.has_value() == b.has_value() && (!a || EqualIgnoringCase(*a, *b));
+}
+
+/// The sum of the welds is asked for where it counts, and so is its range.
+std::int32_t WeldsOf(const BarGroup& group) {
+  return ToInt32(group.welds.value_or(0.0), "加工テーブル.合計圧接");
 }
 
 bool CountsWelds(const BarGroup& group, bool count_hoop_welds) {
@@ -45,7 +57,7 @@ void AddUlbonGroup(TallyTable& table, const BarGroup& group, bool count_hoop_wel
   table.UlbonLengthM[u] += InstalledMetres(group);
   table.UlbonWeight[u] = table.UlbonLengthM[u] * UnitWeight(u);
   if (CountsWelds(group, count_hoop_welds)) {
-    AddCount(table.UlbonWeldCount, WeldRow(group, u, UlbonIndex), group.welds.value_or(0), "合計圧接");
+    AddCount(table.UlbonWeldCount, WeldRow(group, u, UlbonIndex), WeldsOf(group), "合計圧接");
   }
   AddCount(table.UlbonThreadCount, u, group.threads, "合計ネジ数");
   AddCount(table.UlbonPlateCount, u, group.plates, "合計定着板数");
@@ -77,7 +89,7 @@ void GroupFold::Add(const BarGroup& group) {
 bool GroupFold::HasSamePieces(const BarGroup& group) const {
   const BarGroup& held = *held_;
   return held.diameter_code == group.diameter_code && held.shape == group.shape &&
-         held.cut_length_mm == group.cut_length_mm && held.dimensions == group.dimensions &&
+         held.cut_length_mm == group.cut_length_mm && AreSameDimensions(held.dimensions, group.dimensions) &&
          (!rules_.keep_schedule_stock || held.stock_length_m == group.stock_length_m);
 }
 
@@ -85,7 +97,7 @@ bool GroupFold::HasSamePieces(const BarGroup& group) const {
 void GroupFold::CountWeldsThreadsPlates(const BarGroup& group) {
   const int d = DiameterIndex(group.diameter_code);
   if (CountsWelds(group, rules_.count_hoop_welds)) {
-    AddCount(table_.WeldCount, WeldRow(group, d, DiameterIndex), group.welds.value_or(0), "合計圧接");
+    AddCount(table_.WeldCount, WeldRow(group, d, DiameterIndex), WeldsOf(group), "合計圧接");
   }
   AddCount(table_.ThreadCount, d, group.threads, "合計ネジ数");
   AddCount(table_.PlateCount, d, group.plates, "合計定着板数");

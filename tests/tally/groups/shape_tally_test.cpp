@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/groups/shape_tally.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
@@ -54,6 +55,23 @@ TEST(Keijou_Jyuuryo_Syukei, KeepsPiecesOfOtherDimensionsApart) {
   // 3 x 2.0 m fit one bar of 6.0 m, 4 x 2.0 m one of 8.0 m
   EXPECT_EQ(TallyGrid.BarCount[3][5], 1);
   EXPECT_EQ(TallyGrid.BarCount[3][9], 1);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, TakesDimensionsOfOtherLetterCaseForTheSameWhicheverRowComesFirst) {
+  for (const char* letters : {"aaa", "aAA", "AaA", "AAa"}) {
+    ScheduleSite site;
+    for (std::size_t row = 0; row < 3; ++row) {
+      // The third is welded to its own diameter: a group of the store's by itself.
+      site.AddRow({{"伸切寸", Number(2000)},
+                   {"合計", Number(1)},
+                   {"圧接", Number(row == 2 ? 1 : 0)},
+                   {"圧接太さ", Number(row == 2 ? 19 : 0)},
+                   {"寸法1", Value{std::string(1, letters[row])}}});
+    }
+    TallyShapes();
+    EXPECT_EQ(TallyGrid.BarCount[3][5], 1) << letters;  // three pieces of 2.0 m on a bar of 6.0 m
+    EXPECT_EQ(TallyGrid.TotalStockWeight, Kg(14)) << letters;
+  }
 }
 
 TEST(Keijou_Jyuuryo_Syukei, BringsTheDimensionTextUpToDate) {
@@ -199,6 +217,16 @@ TEST(Keijou_Jyuuryo_Syukei, DropsTheWeldsOfHoopsByTheSetting) {
   TallyShapes();
   EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
   EXPECT_EQ(TallyGrid.BarCount[3][1], 5);
+}
+
+TEST(Keijou_Jyuuryo_Syukei, IsNotEndedByASumOfWeldsThatDoNotCount) {
+  ScheduleSite site;
+  for (int row = 0; row < 2; ++row) site.AddRow(With(kHoops, {{"圧接", Number(2147483647)}}));
+  EXPECT_THAT(test::FaultTextOf([] { TallyShapes(); }), testing::HasSubstr("overflow: "));
+  SaveSetting("Kakou", "重量集計", "溶接フープの圧接数", "0");
+  TallyShapes();
+  EXPECT_EQ(TallyGrid.TotalWeldCount, 0);
+  EXPECT_EQ(TallyGrid.BarCount[3][1], 9);
 }
 
 TEST(Keijou_Jyuuryo_Syukei, ShowsAllShapesPlatesOutAndPlatesOnly) {
