@@ -125,7 +125,10 @@ bool MasterIsWorkingCopy() {
 }
 
 bool MasterIsOutdated() {
-  return MasterIsWorkingCopy() && !StandsFor(*SiteContext.MasterDatabase, MapPath(kMasterDatabase));
+  if (!MasterIsWorkingCopy()) return false;
+  const fs::path file = MapPath(kMasterDatabase);
+  // Of a file that is too young to tell by its times the bytes tell.
+  return !StandsFor(*SiteContext.MasterDatabase, file) && !HoldsBytesOf(*SiteContext.MasterDatabase, file);
 }
 
 std::string CompanionDatabasePath() {

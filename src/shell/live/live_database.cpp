@@ -134,6 +134,12 @@ bool StandsFor(Database& open, const fs::path& file) {
   return note && note->StandsFor(file);
 }
 
+bool HoldsBytesOf(Database& open, const fs::path& file) {
+  if (open.File() == file) return true;
+  const std::optional<SourceNote> note = ReadSourceNote(open);
+  return note && note->TellsBytesOf(file);
+}
+
 std::string MarkOfCopy(Database& open, const fs::path& file) {
   if (open.File() == file) return {};
   const std::optional<SourceNote> note = ReadSourceNote(open);

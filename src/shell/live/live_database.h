@@ -35,6 +35,8 @@ Database OpenLiveForReading(const std::filesystem::path& file, const LiveUse& us
 /// notes of the file, and in working copies the reading of one row; of the whole file only while another
 /// program has it open.
 bool StandsFor(Database& open, const std::filesystem::path& file);
+/// True where what was read of `file` is what stands in it now, by its bytes: the whole file is read.
+bool HoldsBytesOf(Database& open, const std::filesystem::path& file);
 
 /// Tells one working copy of a Jet file from every other, one that was made anew from the one before; empty
 /// for a file of the store.

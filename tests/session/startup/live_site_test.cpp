@@ -148,6 +148,13 @@ TEST_F(LiveSite, OfAWindowIsReadyToTallyAfterLoadAndActivation) {
   EXPECT_EQ(Originals(), originals_);
 }
 
+TEST_F(LiveSite, IsToldOfOnceWhateverTheAgeOfItsMasterFile) {
+  fs::remove(site_.Data(kTemplateFile));
+  fs::last_write_time(site_.Data(kMasterFile), fs::file_time_type::clock::now());
+  EXPECT_EQ(Tally(), 6);
+  EXPECT_THAT(site_.Messages(), ::testing::SizeIs(1));
+}
+
 TEST_F(LiveSite, OfAWindowIsTakenInAnewAtAnActivation) {
   LoadSite({});
   ActivateMenu({});
