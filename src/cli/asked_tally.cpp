@@ -10,6 +10,7 @@
 #include "platform/system/message.h"
 #include "platform/text/characters.h"
 #include "session/names/name_work.h"
+#include "session/result/range_rules.h"
 #include "shell/context/site_context.h"
 #include "shell/preparation/classified_schedule.h"
 #include "tally/floorpart/floor_range.h"
@@ -41,6 +42,19 @@ PositionRange PositionsOf(const SelectionOptions& options) {
   return {options.from.value_or(whole.first), options.to.value_or(whole.last)};
 }
 
+/// What the screen would not take is tallied as it stands all the same, but never without a word.
+void TakeAskedPositions(const SelectionOptions& options) {
+  const PositionRange positions = PositionsOf(options);
+  TakePositions(Selection, positions);
+  if (!options.from && !options.to) return;
+  if (const auto refusal = PositionsRefusal(*SiteContext.WorkDatabase, positions)) MsgBox(refusal->text);
+}
+
+void TakeAskedNames(const SelectionOptions& options) {
+  HoldMarks(*SiteContext.NameDatabase, options.names);
+  if (MarkedNumbers(*SiteContext.NameDatabase).empty()) MsgBox(kNoNameChosen);
+}
+
 void TakeAskedFloors(const SelectionOptions& options) {
   if (!SiteContext.WorkDatabase->HasRows("SELECT * FROM 加工テーブル")) {
     throw Fault(FaultKind::database, "集計データがありません");
@@ -65,11 +79,11 @@ void TakeRange(TallyRange range, const SelectionOptions& options) {
     case TallyRange::shapes:
       return TakeShapes(Selection, ShapesOf(options));
     case TallyRange::positions:
-      return TakePositions(Selection, PositionsOf(options));
+      return TakeAskedPositions(options);
     case TallyRange::floors:
       return TakeAskedFloors(options);
     case TallyRange::names:
-      return HoldMarks(*SiteContext.NameDatabase, options.names);
+      return TakeAskedNames(options);
     case TallyRange::whole_site:
       return;
   }

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 #include "data/start_mode.h"
 
 namespace rbt {
+
+/// Told where a tally of names finds none marked.
+inline constexpr std::string_view kNoNameChosen = "登録名を選択して下さい";
 
 /// What the program does before its first form where it was started for registered names: the load of the
 /// menu, but an accumulation of the menu that waits for it goes on. False for a site that a newer program

@@ -202,7 +202,7 @@ void NamesPresenter::SendToTally(TallyOfNames tally) {
   // away yet.
   FollowChosenSite();
   if (MarkedNumbers(Names()).empty()) {
-    MsgBox("登録名を選択して下さい\r　　", "登録名未選択");
+    MsgBox(std::string(kNoNameChosen) + "\r　　", "登録名未選択");
     return;
   }
   const bool by_shape = tally == TallyOfNames::by_shape;

@@ -28,12 +28,8 @@ class PositionInput : public RangeInput {
   bool GivesWay() const override { return true; }
 
   std::optional<RangeRefusal> Refusal(std::size_t box) const override {
-    Database& site = *SiteContext.WorkDatabase;
-    const ScheduleRows rows{
-        [&site](std::int32_t page) { return site.HasRows(RowsOfPage(page)); },
-        [&site](const SchedulePosition& position) { return site.HasRows(RowsOfPosition(position)); }};
     const PositionRange entered{{Number(0), Number(1)}, {Number(2), Number(3)}};
-    return PositionRefusal(static_cast<PositionBox>(box), entered, rows);
+    return PositionRefusal(static_cast<PositionBox>(box), entered, RowsOf(*SiteContext.WorkDatabase));
   }
 
   void WriteTo(SelectionData& selection) const override {

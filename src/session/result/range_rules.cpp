@@ -45,6 +45,21 @@ std::optional<RangeRefusal> PositionRefusal(PositionBox box, const PositionRange
   return std::nullopt;
 }
 
+ScheduleRows RowsOf(Database& schedule) {
+  return {
+      [&schedule](std::int32_t page) { return schedule.HasRows(RowsOfPage(page)); },
+      [&schedule](const SchedulePosition& position) { return schedule.HasRows(RowsOfPosition(position)); }};
+}
+
+std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered) {
+  const ScheduleRows rows = RowsOf(schedule);
+  for (const PositionBox box :
+       {PositionBox::start_page, PositionBox::start_line, PositionBox::end_page, PositionBox::end_line}) {
+    if (auto refusal = PositionRefusal(box, entered, rows)) return refusal;
+  }
+  return std::nullopt;
+}
+
 std::optional<RangeRefusal> ShapeRangeRefusal(const ShapeRange& entered, const ShapeRange& whole) {
   if (entered.first < whole.first) {
     return RangeRefusal{"形状Noの最小値より小さい値は、入力できません", kInputError, kLeftBox, whole.first};

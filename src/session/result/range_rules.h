@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "data/shapes.h"
+#include "store/database.h"
 #include "tally/schedule_positions.h"
 
 namespace rbt {
@@ -33,6 +34,11 @@ struct ScheduleRows {
 /// The test that Enter in one box makes. Nothing when the box passes.
 std::optional<RangeRefusal> PositionRefusal(PositionBox box, const PositionRange& entered,
                                             const ScheduleRows& rows);
+
+/// Those of a schedule, which must outlive them.
+ScheduleRows RowsOf(Database& schedule);
+/// The same over all boxes of a schedule: of the first that does not pass.
+std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered);
 
 /// The tests that Enter in the right box makes: the smallest shape first, then the largest, then the order.
 std::optional<RangeRefusal> ShapeRangeRefusal(const ShapeRange& entered, const ShapeRange& whole);

@@ -70,6 +70,11 @@ class Root:
         return output
 
 
+def words_of_tally(kind):
+    """Without a name that is chosen a tally of names has something to say."""
+    return ["tally", kind, "--format", "json"] + (["--names", "1"] if kind == "names" else [])
+
+
 def kinds_of(program):
     text = subprocess.run([program, "tally", "--help"], capture_output=True, text=True, check=True).stdout
     return re.search(r"KIND[^{\n]*\{([^}]*)\}", text)[1].split(",")
@@ -78,7 +83,7 @@ def kinds_of(program):
 def commands(program):
     """What gives figures: (name, words without the start mode)."""
     for kind in kinds_of(program):
-        yield f"tally {kind}", ["tally", kind, "--format", "json"]
+        yield f"tally {kind}", words_of_tally(kind)
     yield "plan", ["plan", "--effort", "greedy", "--format", "json"]
     yield "report", ["report", "ulbon", "--trace", "/dev/stdout"]
     yield "stock", ["stock", "4200", "10", "19", "--format", "json"]
@@ -245,7 +250,7 @@ def prepare_alone(site, root):
 def pairs_of_tallies(root, right):
     """Sixty-four pairs of tallies at once, on a site that is as they want it."""
     wrong = []
-    tallies = [(f"tally {kind}", ["tally", kind, "--format", "json"]) for kind in kinds_of(root.program)]
+    tallies = [(f"tally {kind}", words_of_tally(kind)) for kind in kinds_of(root.program)]
     with Alone(root) as site:
         prepare_alone(site, root)
         for pair in range(TALLY_PAIRS):
