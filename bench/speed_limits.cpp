@@ -17,7 +17,7 @@ constexpr Limit kLimits[] = {
     {"bulk tally, cold", kSite, Figure::syncs, 0, 0},
     {"bulk tally, cold", kLargest, Figure::x_bare, 1.0, 0.5},
     {"bulk tally, cold", kLargest, Figure::peak_mb, 60, 60},
-    {"shape tally, cold", kSite, Figure::x_bare, 3.8, 2.2},
+    {"shape tally, cold", kSite, Figure::x_bare, 3.0, 2.2},
     {"shape tally, cold", kSite, Figure::syncs, 0, 0},
     {"shape tally, cold", kLargest, Figure::peak_mb, 65, 60},
     {"fresh site prepared, cold", kSite, Figure::x_bare, 4.5, 3.0},
@@ -27,7 +27,7 @@ constexpr Limit kLimits[] = {
     {"activation that changes nothing", kSite, Figure::x_bare, 0.06, 0.02},
     {"filter to redraw, bulk", kSite, Figure::x_bare, 1.4, 0.8},
     {"filter to redraw, page", kSite, Figure::x_bare, 1.6, 1.0},
-    {"filter to redraw, shape", kSite, Figure::x_bare, 3.6, 2.4},
+    {"filter to redraw, shape", kSite, Figure::x_bare, 3.2, 2.4},
 };
 
 }  // namespace
