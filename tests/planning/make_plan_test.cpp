@@ -50,6 +50,20 @@ TEST(MakePlan, KeepsEveryPromiseOverRandomProblems) {
   }
 }
 
+TEST(MakePlan, KeepsEveryPromiseWithMoreRestBarsThanAnyGroupNeeds) {
+  constexpr std::int64_t kMany = 999'999'999;
+  int with_rests = 0;
+  for (std::uint64_t seed = 300; seed <= 360; ++seed) {
+    Problem problem = RandomProblem(seed);
+    for (Supply& supply : problem.supplies) {
+      for (RestBar& rest : supply.rests) rest.count = kMany;
+      with_rests += static_cast<int>(supply.rests.size());
+    }
+    EXPECT_THAT(FindFaults(problem, SolvePlan(problem, kGoOn, nullptr)), IsEmpty()) << seed;
+  }
+  EXPECT_GT(with_rests, 50);
+}
+
 TEST(MakePlan, KeepsLimitsOfLengthsAndLotsOrIsRefused) {
   int planned = 0;
   for (std::uint64_t seed = 1; seed <= 80; ++seed) {

@@ -44,9 +44,12 @@ Micros BoundOf(const CuttingTask& task, ViewByIndex<const Micros> prices,
   Micros bound = 0;
   for (std::size_t i = 0; i < prices.size(); ++i) bound += prices[i] * task.items[i].demand;
   for (std::size_t b = 0; b < task.bars.size(); ++b) {
-    if (task.bars[b].rest) bound -= rest_worths[b] * task.bars[b].available;
+    if (!task.bars[b].rest || rest_worths[b] == 0) continue;
+    // There may be far more rest bars than any group needs: what all of them are worth has no 64 bits then.
+    if (task.bars[b].available > bound / rest_worths[b]) return 0;
+    bound -= rest_worths[b] * task.bars[b].available;
   }
-  return std::max<Micros>(0, bound);
+  return bound;
 }
 
 std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros> worths,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "planning/solve/price_proof.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "planning/problem_samples.h"
@@ -40,6 +42,23 @@ TEST(ProveMaterialBound, TakesWhatRestBarsCarryAway) {
   problem.supplies[0].rests = {{5000, 2}};
   const CuttingTask task = MakeTask(problem, problem.groups[0]);
   EXPECT_EQ(ProveMaterialBound(task).bound, 6000 * kMm);  // 5300 mm
+}
+
+TEST(ProveMaterialBound, IsNothingWhereRestBarsCouldCarryEverythingHoweverManyTheyAre) {
+  Problem problem = OneGroup({{2340, 5}}, {6000, 12000});
+  for (const std::int64_t count : {1LL, 5LL, 999'999'999LL, std::numeric_limits<long long>::max()}) {
+    problem.supplies[0].rests = {{12000, count}};
+    const CuttingTask task = MakeTask(problem, problem.groups[0]);
+    EXPECT_EQ(ProveMaterialBound(task).bound, 0) << count;
+    EXPECT_EQ(ProveBound(task, MaterialPrices(task)).bound, 0) << count;
+  }
+}
+
+TEST(ProveBound, IsThatOfThePiecesWhereNoneFitsARestBar) {
+  Problem problem = OneGroup({{2340, 5}}, {6000, 12000});
+  problem.supplies[0].rests = {{2000, std::numeric_limits<std::int64_t>::max()}};
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(ProveBound(task, MaterialPrices(task)).bound, 12000 * kMm);  // 11700 mm
 }
 
 TEST(ProveBound, LowersPricesUntilNoContentIsWorthMoreThanItsBar) {
