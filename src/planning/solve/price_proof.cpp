@@ -12,8 +12,9 @@ namespace {
 
 constexpr Micros kWholeUnit = 1'000'000;
 
-/// What the dearest content of every capacity is worth, none of an item more often than it is to be cut.
-std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices) {
+/// What the dearest content of every capacity is worth, none of an item more often than it is to be cut;
+/// empty where it was stopped.
+std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices, Pace& pace) {
   const int capacity = task.LargestCapacity();
   ByIndex<Micros> worth(static_cast<std::size_t>(capacity) + 1, 0);
   ByIndex<Micros> next(worth);
@@ -22,6 +23,7 @@ std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Mic
     auto most = static_cast<int>(std::min<std::int64_t>(item.demand, capacity / item.weight));
     // In bundles of 1, 2, 4, ... pieces and the rest, each taken or not.
     for (int pieces = 1; prices[i] > 0 && most > 0; pieces *= 2) {
+      if (pace.StoppedAfter(capacity)) return {};
       const int bundle = std::min(pieces, most);
       most -= bundle;
       const int weight = item.weight * bundle;
@@ -61,10 +63,11 @@ std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros
 
 }  // namespace
 
-PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
+std::optional<PriceProof> ProveBound(const CuttingTask& task, std::span<const double> prices, Pace& pace) {
   PriceProof proof;
   for (const double price : prices) proof.prices.push_back(static_cast<Micros>(price * kWholeUnit));
-  const std::vector<Micros> worths = DearestWorths(task, proof.prices);
+  const std::vector<Micros> worths = DearestWorths(task, proof.prices, pace);
+  if (worths.empty()) return std::nullopt;
   // The bar whose dearest content is worth most for what it costs.
   Micros cost = 1;
   Micros worth = 0;
@@ -78,7 +81,8 @@ PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
   if (worth == 0) return proof;
   for (Micros& price : proof.prices) price = Scaled(price, cost, worth);
   const bool has_rests = task.bars.front().rest;
-  const std::vector<Micros> scaled = has_rests ? DearestWorths(task, proof.prices) : worths;
+  const std::vector<Micros> scaled = has_rests ? DearestWorths(task, proof.prices, pace) : worths;
+  if (scaled.empty()) return std::nullopt;
   proof.bound = RoundUpBound(task, BoundOf(task, proof.prices, RestWorths(task, scaled, proof.prices)));
   return proof;
 }
