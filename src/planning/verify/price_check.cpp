@@ -132,7 +132,7 @@ class PriceCheck {
       if (length.cost % kUnit != 0) return proven;
       step = std::gcd(step, length.cost);
     }
-    return (proven + step - 1) / step * step;
+    return step == 0 ? proven : (proven + step - 1) / step * step;
   }
 
   const Problem& problem_;
