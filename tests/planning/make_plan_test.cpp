@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "planning/make_plan.h"
 
+#include <algorithm>
 #include <atomic>
+#include <set>
 #include <thread>
 #include <vector>
 
@@ -48,6 +50,20 @@ TEST(MakePlan, KeepsEveryPromiseOverRandomProblems) {
     const Plan plan = SolvePlan(problem, kGoOn, nullptr);
     EXPECT_THAT(FindFaults(problem, plan), IsEmpty()) << seed;
   }
+}
+
+TEST(MakePlan, KeepsEveryPromiseWithMoreRestBarsThanAnyGroupNeeds) {
+  constexpr std::int64_t kMany = 999'999'999;
+  int with_rests = 0;
+  for (std::uint64_t seed = 300; seed <= 360; ++seed) {
+    Problem problem = RandomProblem(seed);
+    for (Supply& supply : problem.supplies) {
+      for (RestBar& rest : supply.rests) rest.count = kMany;
+      with_rests += static_cast<int>(supply.rests.size());
+    }
+    EXPECT_THAT(FindFaults(problem, SolvePlan(problem, kGoOn, nullptr)), IsEmpty()) << seed;
+  }
+  EXPECT_GT(with_rests, 50);
 }
 
 TEST(MakePlan, KeepsLimitsOfLengthsAndLotsOrIsRefused) {
@@ -203,12 +219,49 @@ TEST(MakePlan, HasAnAnswerAtEveryMoment) {
   EXPECT_EQ(last, Stopped::no);
 }
 
-TEST(MakePlan, CutsGreedilyWhereBarsAreTooLongForTables) {
+/// Many lengths that are cut from long bars.
+Problem LongBars(int number) {
   test::Random random(1);
   std::vector<std::pair<int, std::int64_t>> pieces;
-  pieces.reserve(400);
-  for (int n = 0; n < 400; ++n) pieces.emplace_back(random.Between(100'000, 400'000), 1);
-  const Problem problem = test::OneGroup(pieces, {1'000'000});
+  pieces.reserve(static_cast<std::size_t>(number));
+  for (int n = 0; n < number; ++n) pieces.emplace_back(random.Between(100'000, 400'000), 1);
+  return test::OneGroup(pieces, {1'000'000});
+}
+
+TEST(MakePlan, IsThatSoFarWhereverItIsStoppedWhilePiecesAreCutGreedily) {
+  Problem problem = LongBars(16);
+  problem.options.effort = Effort::greedy;
+  std::vector<Micros> costs;
+  std::set<Method> methods;
+  Stopped last = Stopped::cancel;
+  for (int question = 0; last != Stopped::no; question += 1 + question / 16) {
+    const Plan plan = MakePlan(problem, StopAtQuestion(question));
+    costs.push_back(CostOf(problem, problem.groups[0], plan.groups[0]));
+    methods.insert(plan.groups[0].method);
+    last = plan.stopped;
+    ASSERT_EQ(methods.size() == 1, plan.groups[0].method == Method::per_row) << question;
+  }
+  EXPECT_GT(costs.size(), 10u);
+  EXPECT_TRUE(std::is_sorted(costs.rbegin(), costs.rend()));
+  EXPECT_EQ(methods, (std::set{Method::per_row, Method::greedy}));
+}
+
+TEST(MakePlan, IsThatSoFarWhereverItIsStoppedWhileFewLengthsAreMixed) {
+  Problem problem = test::OneGroup({{13, 900}, {11, 900}, {7, 900}, {5, 900}, {3, 900}}, {39'000, 40'000});
+  problem.options.mix = 4;
+  Stopped last = Stopped::cancel;
+  int question = 0;
+  for (; last != Stopped::no && question < 100'000; question += 1 + question / 4) {
+    const Plan plan = MakePlan(problem, StopAtQuestion(question));
+    EXPECT_THAT(FindFaults(problem, plan), IsEmpty()) << question;
+    last = plan.stopped;
+  }
+  EXPECT_EQ(last, Stopped::no);
+  EXPECT_GT(question, 50);
+}
+
+TEST(MakePlan, CutsGreedilyWhereBarsAreTooLongForTables) {
+  const Problem problem = LongBars(400);
   const Plan plan = MakePlan(problem, kGoOn);
   EXPECT_EQ(plan.groups[0].method, Method::greedy);
 }

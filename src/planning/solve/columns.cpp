@@ -171,7 +171,7 @@ Columns::Round Columns::RunRound() {
   pace_.Spend(lp_.Steps());
   ReadPrices();
   Purge();
-  table_->Fill(prices_, left_);
+  if (!table_->Fill(prices_, left_, pace_)) return Round::failed;
   pace_.Spend(table_->Steps());
   const int added = AddPayingColumns();
   UpdateBound();

@@ -40,10 +40,16 @@ int Most(const CuttingTask& task, int item, int capacity, std::int64_t left) {
   return static_cast<int>(std::min<std::int64_t>(left, capacity / task.items[item].weight));
 }
 
+/// What it takes to go through so many cells, a few of them at once.
+std::int64_t StepsOfRow(std::size_t cells) { return static_cast<std::int64_t>(cells) / 2; }
+
 /// A bar that the leading item fills alone.
 class NothingMore : public ContentTable {
  public:
-  void Fill(ViewByIndex<const double> /*prices*/, ViewByIndex<const std::int64_t> /*left*/) override {}
+  bool Fill(ViewByIndex<const double> /*prices*/, ViewByIndex<const std::int64_t> /*left*/,
+            Pace& /*pace*/) override {
+    return true;
+  }
   double Worth(int /*capacity*/) const override { return 0.0; }
   Content ContentAt(int /*capacity*/) const override { return {}; }
   std::int64_t Steps() const override { return 0; }
@@ -55,11 +61,13 @@ class OneItem : public ContentTable {
   explicit OneItem(const CuttingTask& task)
       : task_(task), cells_(static_cast<std::size_t>(task.LargestCapacity()) + 1) {}
 
-  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
+  bool Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left, Pace& pace) override {
     std::ranges::fill(cells_, Cell{});
     const int capacity = task_.LargestCapacity();
     for (int i = 0; i < static_cast<int>(prices.size()); ++i) {
-      for (int pieces = 1; pieces <= Most(task_, i, capacity, left[i]); ++pieces) {
+      const int most = Most(task_, i, capacity, left[i]);
+      if (pace.StoppedAfter(most)) return false;
+      for (int pieces = 1; pieces <= most; ++pieces) {
         Cell& cell = cells_[pieces * task_.items[i].weight];
         if (prices[i] * pieces > cell.worth) cell = {prices[i] * pieces, i, pieces};
       }
@@ -67,6 +75,7 @@ class OneItem : public ContentTable {
     for (std::size_t c = 1; c < cells_.size(); ++c) {
       if (cells_[c - 1].worth >= cells_[c].worth) cells_[c] = cells_[c - 1];
     }
+    return true;
   }
   double Worth(int capacity) const override { return cells_[capacity].worth; }
   Content ContentAt(int capacity) const override {
@@ -92,7 +101,7 @@ class AnyItems : public ContentTable {
   explicit AnyItems(const CuttingTask& task)
       : task_(task), size_(static_cast<std::size_t>(task.LargestCapacity()) + 1), next_(size_) {}
 
-  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
+  bool Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left, Pace& pace) override {
     prices_.Set(task_, prices);
     bundles_.clear();
     worth_.assign(size_, 0);
@@ -106,7 +115,11 @@ class AnyItems : public ContentTable {
       }
     }
     taken_.resize(bundles_.size() * size_);
-    for (std::size_t b = 0; b < bundles_.size(); ++b) TakeOrLeave(b);
+    for (std::size_t b = 0; b < bundles_.size(); ++b) {
+      if (pace.StoppedAfter(StepsOfRow(size_))) return false;
+      TakeOrLeave(b);
+    }
+    return true;
   }
 
   double Worth(int capacity) const override { return prices_.Back(worth_[capacity]); }
@@ -169,14 +182,17 @@ class FewItems : public ContentTable {
         worth_(static_cast<std::size_t>(kinds) + 1),
         pieces_(task.items.size() * static_cast<std::size_t>(kinds) * size_) {}
 
-  void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) override {
+  bool Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left, Pace& pace) override {
     prices_.Set(task_, prices);
     for (auto& row : worth_) row.assign(size_, 0);
     for (int i = 0; i < static_cast<int>(prices.size()); ++i) {
       const int most = std::min(kMostPieces, Most(task_, i, static_cast<int>(size_) - 1, left[i]));
       // From the most items down, so that the row below is still the one without this item.
-      for (int kinds = kinds_; kinds >= 1; --kinds) TakeSome(i, kinds, prices_.Of(i) == 0 ? 0 : most);
+      for (int kinds = kinds_; kinds >= 1; --kinds) {
+        if (!TakeSome(i, kinds, prices_.Of(i) == 0 ? 0 : most, pace)) return false;
+      }
     }
+    return true;
   }
 
   double Worth(int capacity) const override { return prices_.Back(worth_[kinds_][capacity]); }
@@ -204,12 +220,14 @@ class FewItems : public ContentTable {
   /// Where the pieces of an item stand as one of so many items.
   std::size_t Row(int item, int kinds) const { return static_cast<std::size_t>(item * kinds_ + kinds - 1); }
 
-  void TakeSome(int item, int kinds, int most) {
+  /// False where it was stopped.
+  bool TakeSome(int item, int kinds, int most, Pace& pace) {
     std::uint8_t* taken = pieces_.data() + Row(item, kinds) * size_;
     std::fill_n(taken, size_, std::uint8_t{0});
     const WholePrices::Worth* fewer = worth_[kinds - 1].data();
     WholePrices::Worth* row = worth_[kinds].data();
     for (int pieces = 1; pieces <= most; ++pieces) {
+      if (pace.StoppedAfter(StepsOfRow(size_))) return false;
       const std::size_t weight =
           static_cast<std::size_t>(task_.items[item].weight) * static_cast<std::size_t>(pieces);
       const WholePrices::Worth worth = prices_.Of(item) * pieces;
@@ -219,6 +237,7 @@ class FewItems : public ContentTable {
         row[c] = std::max(with, row[c]);
       }
     }
+    return true;
   }
 
   static constexpr int kMostPieces = 255;  ///< of one item on a bar; more would only make the table larger

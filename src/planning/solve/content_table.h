@@ -6,6 +6,7 @@
 
 #include "planning/solve/by_index.h"
 #include "planning/solve/cutting_task.h"
+#include "planning/solve/pace.h"
 
 namespace rbt::planning {
 
@@ -14,8 +15,9 @@ class ContentTable {
  public:
   virtual ~ContentTable() = default;
 
-  /// `prices`, at least 0, and `left`, how often an item may be taken, are parallel to the items.
-  virtual void Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left) = 0;
+  /// `prices`, at least 0, and `left`, how often an item may be taken, are parallel to the items. False where
+  /// it was stopped: the table is none then until it is filled again.
+  virtual bool Fill(ViewByIndex<const double> prices, ViewByIndex<const std::int64_t> left, Pace& pace) = 0;
   /// Of the last fill, by a capacity from 0 to the task's largest: the worth, up to rounding, and a content
   /// that has it.
   virtual double Worth(int capacity) const = 0;

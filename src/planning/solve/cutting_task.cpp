@@ -25,8 +25,9 @@ void Shrink(CuttingTask& task) {
   for (Bar& bar : task.bars) bar.capacity = std::max(0, bar.capacity) / measure;
 }
 
-/// A limit that no bar can reach is none.
+/// A limit that no bar can reach is none, nor one of as many items as there are.
 void DropIdleMix(CuttingTask& task) {
+  if (task.mix >= static_cast<int>(task.items.size())) task.mix = 0;
   const auto lightest = std::ranges::min_element(task.items, {}, &Item::weight);
   if (lightest != task.items.end() && task.mix >= task.LargestCapacity() / lightest->weight) task.mix = 0;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "planning/solve/greedy.h"
 
@@ -159,13 +160,14 @@ class Diver {
   void CutRestGreedily() {
     CuttingTask rest = task_;
     for (std::size_t b = 0; b < rest.bars.size(); ++b) rest.bars[b].available = bars_left_[b];
-    Cutting greedy = CutGreedily(rest, left_);
-    pace_.Spend(GreedySteps(task_, greedy));
-    const Micros cost = cut_cost_ + CostOf(task_, greedy);
+    const std::optional<Cutting> greedy = CutGreedily(rest, left_, pace_);
+    if (!greedy) return;
+    pace_.Spend(GreedySteps(task_, *greedy));
+    const Micros cost = cut_cost_ + CostOf(task_, *greedy);
     if (cost >= best_cost_) return;
     best_cost_ = cost;
     best_ = cut_;
-    best_.insert(best_.end(), greedy.begin(), greedy.end());
+    best_.insert(best_.end(), greedy->begin(), greedy->end());
   }
 
   const CuttingTask& task_;

@@ -10,16 +10,24 @@
 namespace rbt::planning {
 namespace {
 
+std::int64_t WordsOfRow(const CuttingTask& task) {
+  return static_cast<std::int64_t>(WordsFor(task.LargestCapacity()));
+}
+
 class Greedy {
  public:
-  Greedy(const CuttingTask& task, ByIndex<std::int64_t> left, Ties ties)
-      : task_(task), left_(std::move(left)), ties_(ties), sums_(task, left_) {
+  Greedy(const CuttingTask& task, ByIndex<std::int64_t> left, Pace& pace, Ties ties)
+      : task_(task), left_(std::move(left)), pace_(pace), ties_(ties), sums_(task, left_, pace) {
     for (const Bar& bar : task.bars) available_.push_back(bar.rest ? bar.available : kNoEnd);
   }
 
-  Cutting Cut() {
+  std::optional<Cutting> Cut() {
+    const std::int64_t steps_of_bar = WordsOfRow(task_) * static_cast<std::int64_t>(task_.bars.size() + 1);
     for (int lead = 0; lead < static_cast<int>(left_.size()); ++lead) {
-      while (left_[lead] > 0) CutBarsWith(lead);
+      while (left_[lead] > 0) {
+        if (pace_.StoppedAfter(steps_of_bar)) return std::nullopt;
+        CutBarsWith(lead);
+      }
     }
     return std::move(cutting_);
   }
@@ -70,6 +78,7 @@ class Greedy {
 
   const CuttingTask& task_;
   ByIndex<std::int64_t> left_;
+  Pace& pace_;
   Ties ties_;
   ByIndex<std::int64_t> available_;
   ReachableSums sums_;
@@ -78,13 +87,13 @@ class Greedy {
 
 }  // namespace
 
-Cutting CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left, Ties ties) {
-  return Greedy(task, std::move(left), ties).Cut();
+std::optional<Cutting> CutGreedily(const CuttingTask& task, ByIndex<std::int64_t> left, Pace& pace,
+                                   Ties ties) {
+  return Greedy(task, std::move(left), pace, ties).Cut();
 }
 
 std::int64_t GreedySteps(const CuttingTask& task, const Cutting& cutting) {
-  const auto words = static_cast<std::int64_t>(WordsFor(task.LargestCapacity()));
-  return words * static_cast<std::int64_t>(task.items.size() * (cutting.size() + 1));
+  return WordsOfRow(task) * static_cast<std::int64_t>(task.items.size() * (cutting.size() + 1));
 }
 
 }  // namespace rbt::planning

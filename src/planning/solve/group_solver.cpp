@@ -2,6 +2,7 @@
 #include "planning/solve/group_solver.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "planning/solve/columns.h"
@@ -19,10 +20,10 @@ CuttingTask TaskOfAnyMix(const Problem& problem, const Group& group) {
 }
 
 /// The better of a bound already proven and one that prices would prove.
-void TakeBetter(PriceProof& proof, const CuttingTask& task, const std::vector<double>& prices) {
+void TakeBetter(PriceProof& proof, const CuttingTask& task, const std::vector<double>& prices, Pace& pace) {
   if (prices.empty()) return;
-  PriceProof other = ProveBound(task, prices);
-  if (other.bound > proof.bound) proof = std::move(other);
+  std::optional<PriceProof> other = ProveBound(task, prices, pace);
+  if (other && other->bound > proof.bound) proof = *std::move(other);
 }
 
 }  // namespace
@@ -43,8 +44,9 @@ void GroupSolver::MakeQuickPlan(const RestCounts& rests, Pace& pace) {
   if (!pace.Stopped()) {
     const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
     for (const Ties ties : {Ties::shorter, Ties::fuller}) {
-      const Cutting cutting = CutGreedily(task, DemandOf(task), ties);
-      planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, cutting), promises_);
+      const std::optional<Cutting> cutting = CutGreedily(task, DemandOf(task), pace, ties);
+      if (!cutting) break;
+      planning::TakeBetter(best_, MakeCandidate(supply_, Method::greedy, task, *cutting), promises_);
     }
   }
   if (!promises_.KeptBy(best_)) {
@@ -60,14 +62,16 @@ void GroupSolver::Improve(const RestCounts& rests, Pace& pace) {
     return;
   }
   const CuttingTask task = MakeTask(problem_, group_, AllLengths(supply_), rests);
-  const ColumnsResult result = CutByColumns(task, CutGreedily(task, DemandOf(task)), pace);
+  const std::optional<Cutting> start = CutGreedily(task, DemandOf(task), pace);
+  if (!start) return;
+  const ColumnsResult result = CutByColumns(task, *start, pace);
   if (!result.cutting.empty()) {
     planning::TakeBetter(best_, MakeCandidate(supply_, Method::columns, task, result.cutting), promises_);
   }
   LookForLightPlan(problem_, group_, rests, promises_, best_, pace);
   if (pace.Stopped()) return;
   if (task.mix == 0) {
-    TakeBetter(proof_, TaskOfAnyMix(problem_, group_), result.prices);
+    TakeBetter(proof_, TaskOfAnyMix(problem_, group_), result.prices, pace);
   } else {
     proof_ = BestBound(problem_, group_, pace);
   }
@@ -97,13 +101,15 @@ PriceProof BestBound(const Problem& problem, const Group& group, Pace& pace) {
   PriceProof proof = ProveMaterialBound(task);
   if (pace.Stopped() || !HasRoomForColumns(task)) return proof;
   if (problem.options.effort == Effort::greedy || !LinearProgramsAreSolved()) {
-    TakeBetter(proof, task, MaterialPrices(task));
+    TakeBetter(proof, task, MaterialPrices(task), pace);
     return proof;
   }
+  const std::optional<Cutting> start = CutGreedily(task, DemandOf(task), pace);
+  if (!start) return proof;
   Columns columns(task, pace);
-  columns.Offer(CutGreedily(task, DemandOf(task)));
+  columns.Offer(*start);
   columns.ConvergeToBound();
-  if (!pace.Stopped()) TakeBetter(proof, task, columns.BoundPrices());
+  if (!pace.Stopped()) TakeBetter(proof, task, columns.BoundPrices(), pace);
   return proof;
 }
 

@@ -15,8 +15,8 @@ class GroupSolver {
  public:
   GroupSolver(const Problem& problem, const Group& group);
 
-  /// The schedule, the per-row rule and, unless it was stopped before, the greedy plan; where none of them
-  /// keeps the promises, also the rows alone from two lengths.
+  /// The schedule, the per-row rule and, unless it is stopped before that stands, the greedy plan; where none
+  /// of them keeps the promises, also the rows alone from two lengths.
   void MakeQuickPlan(const RestCounts& rests, Pace& pace);
   /// Columns on top of it where the effort is full and linear programs are solved, and the best bound.
   void Improve(const RestCounts& rests, Pace& pace);

@@ -5,6 +5,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <optional>
 
 #include "planning/problem/bar_rule.h"
 #include "planning/solve/columns.h"
@@ -28,7 +29,7 @@ constexpr int kExchanges = 3;
 class GroupJudge {
  public:
   GroupJudge(const Problem& problem, const Group& group, Pace& pace)
-      : problem_(problem), group_(group), task_(MakeTask(problem, group)) {
+      : problem_(problem), group_(group), pace_(pace), task_(MakeTask(problem, group)) {
     if (problem.options.effort == Effort::full && LinearProgramsAreSolved() && HasRoomForColumns(task_)) {
       columns_ = std::make_unique<Columns>(task_, pace);
     }
@@ -37,7 +38,8 @@ class GroupJudge {
   /// Of the greedy plan.
   double Guess(const LengthSet& lengths) const {
     CuttingTask task = MakeTask(problem_, group_, lengths, AllRests(problem_.supplies[group_.supply]));
-    return static_cast<double>(CostOf(task, CutGreedily(task, DemandOf(task))));
+    const std::optional<Cutting> greedy = CutGreedily(task, DemandOf(task), pace_);
+    return greedy ? static_cast<double>(CostOf(task, *greedy)) : kImpossible;
   }
 
   bool CanTellMore() const { return columns_ != nullptr; }
@@ -54,7 +56,9 @@ class GroupJudge {
     for (std::size_t b = 0; b < allowed.size(); ++b) {
       if (!allowed[b]) task.bars[b].capacity = 0;
     }
-    columns_->Offer(CutGreedily(task, DemandOf(task)));
+    const std::optional<Cutting> greedy = CutGreedily(task, DemandOf(task), pace_);
+    if (!greedy) return kImpossible;
+    columns_->Offer(*greedy);
     columns_->AllowBars(allowed);
     return columns_->Estimate(kRounds, enough) && columns_->Bound() <= enough ? columns_->Cost()
                                                                               : kImpossible;
@@ -63,6 +67,7 @@ class GroupJudge {
  private:
   const Problem& problem_;
   const Group& group_;
+  Pace& pace_;
   CuttingTask task_;
   std::unique_ptr<Columns> columns_;
 };

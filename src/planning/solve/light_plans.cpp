@@ -166,10 +166,11 @@ void LookForLightPlan(const Problem& problem, const Group& group, const RestCoun
   for (const std::int64_t part : kParts) {
     if (promises.KeptBy(best) || pace.Stopped()) return;
     const CuttingTask blended = Blend(task, part, unit);
-    const Cutting greedy = CutGreedily(blended, DemandOf(blended));
-    offer(Method::greedy, greedy);
+    const std::optional<Cutting> greedy = CutGreedily(blended, DemandOf(blended), pace);
+    if (!greedy) return;
+    offer(Method::greedy, *greedy);
     if (!by_columns) continue;
-    const Cutting columns = CutByColumns(blended, greedy, pace).cutting;
+    const Cutting columns = CutByColumns(blended, *greedy, pace).cutting;
     if (!columns.empty()) offer(Method::columns, columns);
   }
   OfferMixtures(supply, Blend(task, kWhole, unit), cheapest, promises, best, pace);
@@ -178,18 +179,21 @@ void LookForLightPlan(const Problem& problem, const Group& group, const RestCoun
 
 void OfferMixtures(const Supply& supply, const CuttingTask& task, const Candidate& base,
                    const Promises& promises, Candidate& best, Pace& pace) {
+  const std::optional<Cutting> whole = CutGreedily(task, DemandOf(task), pace);
+  if (!whole) return;
   std::int64_t most = 0;
   for (const Pattern& pattern : base.patterns) most = std::max(most, pattern.bars);
-  const std::int64_t steps = std::max<std::int64_t>(1, GreedySteps(task, CutGreedily(task, DemandOf(task))));
+  const std::int64_t steps = std::max<std::int64_t>(1, GreedySteps(task, *whole));
   const std::int64_t tries = std::clamp<std::int64_t>(kMixtureSteps / steps, 1, kMostMixtures);
   const std::int64_t stride = (most + tries - 1) / tries;
   for (std::int64_t bars = most - 1; bars > 0 && !pace.Stopped(); bars -= stride) {
     std::vector<Pattern> patterns = base.patterns;
     for (Pattern& pattern : patterns) pattern.bars = std::min(pattern.bars, bars);
     const Remainder remainder = RemainderBehind(task, patterns);
-    const Cutting cutting = CutGreedily(remainder.task, remainder.left);
-    pace.Spend(GreedySteps(remainder.task, cutting));
-    const Candidate rest = MakeCandidate(supply, Method::greedy, remainder.task, cutting);
+    const std::optional<Cutting> cutting = CutGreedily(remainder.task, remainder.left, pace);
+    if (!cutting) return;
+    pace.Spend(GreedySteps(remainder.task, *cutting));
+    const Candidate rest = MakeCandidate(supply, Method::greedy, remainder.task, *cutting);
     patterns.insert(patterns.end(), rest.patterns.begin(), rest.patterns.end());
     TakeBetter(best, MakeCandidate(supply, Method::greedy, std::move(patterns)), promises);
   }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <set>
 #include <string>
 #include <tuple>
@@ -85,8 +86,11 @@ void LimitedSupply::MakeQuickPlan(Pace& pace) {
     return;
   }
   if (FindQuickPlan(pace)) return;
-  // A refusal is no answer for want of time; none of this takes long.
-  Pace patience(nullptr);
+  // A refusal is no answer for want of time, but the first plan is one.
+  Pace patience([&] {
+    const bool may_stop = BestOf(most_) != nullptr && pace.Stopped();
+    return may_stop ? pace.Why() : Stopped::no;
+  });
   if (HasLots() || !ConsiderEveryPlan()) SearchFullLots(false, patience);
   if (BestOf(most_) == nullptr) Refuse();
 }
@@ -123,7 +127,7 @@ void LimitedSupply::Improve(Micros least, Pace& pace) {
   if (pace.Stopped()) return;
   const bool by_columns = problem_.options.effort == Effort::full;
   const SupplyPlans free = Consider(AllLengths(supply_), by_columns, pace);
-  if (ConsiderEveryPlan()) return;
+  if (ConsiderEveryPlan() || pace.Stopped()) return;
   // Where their number is free, the plan from all lengths is the best if it happens to fill the lots.
   const bool is_best = IsProven(most_, least) || (any_number_ && FillsLots(free));
   if (wanted_ == Wanted::plan && is_best) return;
@@ -226,10 +230,10 @@ SupplyPlans LimitedSupply::MakePlans(const LengthSet& lengths, Method method, Pa
     Candidate plan = PerRowCandidate(problem_, group, lengths);
     if (method != Method::per_row) {
       const CuttingTask task = MakeTask(problem_, group, lengths, rests);
-      const Cutting greedy = CutGreedily(task, DemandOf(task));
-      TakeBetter(plan, MakeCandidate(supply_, Method::greedy, task, greedy), {});
-      if (method == Method::columns) {
-        const Cutting columns = CutByColumns(task, greedy, pace).cutting;
+      const std::optional<Cutting> greedy = CutGreedily(task, DemandOf(task), pace);
+      if (greedy) TakeBetter(plan, MakeCandidate(supply_, Method::greedy, task, *greedy), {});
+      if (greedy && method == Method::columns) {
+        const Cutting columns = CutByColumns(task, *greedy, pace).cutting;
         if (!columns.empty()) TakeBetter(plan, MakeCandidate(supply_, Method::columns, task, columns), {});
       }
     }

@@ -75,8 +75,10 @@ bool OneLengthPlans::CannotCostLess(Micros below, Pace& pace) const {
     if (pace.Stopped() || !HasRoomForColumns(task)) return false;
     const double material = static_cast<double>(ProveMaterialBound(task).bound) / kMicrosOfUnit;
     others -= material;
+    const std::optional<Cutting> greedy = CutGreedily(task, DemandOf(task), pace);
+    if (!greedy) return false;
     Columns columns(task, pace);
-    columns.Offer(CutGreedily(task, DemandOf(task)));
+    columns.Offer(*greedy);
     columns.Estimate(std::numeric_limits<int>::max(), (enough - others) * (1.0 + kSlack));
     others += std::max(material, columns.RoundedUp(columns.Bound()));
     if (others >= enough * (1.0 - kSlack)) return true;

@@ -12,8 +12,9 @@ namespace {
 
 constexpr Micros kWholeUnit = 1'000'000;
 
-/// What the dearest content of every capacity is worth, none of an item more often than it is to be cut.
-std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices) {
+/// What the dearest content of every capacity is worth, none of an item more often than it is to be cut;
+/// empty where it was stopped.
+std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Micros> prices, Pace& pace) {
   const int capacity = task.LargestCapacity();
   ByIndex<Micros> worth(static_cast<std::size_t>(capacity) + 1, 0);
   ByIndex<Micros> next(worth);
@@ -22,6 +23,7 @@ std::vector<Micros> DearestWorths(const CuttingTask& task, ViewByIndex<const Mic
     auto most = static_cast<int>(std::min<std::int64_t>(item.demand, capacity / item.weight));
     // In bundles of 1, 2, 4, ... pieces and the rest, each taken or not.
     for (int pieces = 1; prices[i] > 0 && most > 0; pieces *= 2) {
+      if (pace.StoppedAfter(capacity)) return {};
       const int bundle = std::min(pieces, most);
       most -= bundle;
       const int weight = item.weight * bundle;
@@ -44,9 +46,12 @@ Micros BoundOf(const CuttingTask& task, ViewByIndex<const Micros> prices,
   Micros bound = 0;
   for (std::size_t i = 0; i < prices.size(); ++i) bound += prices[i] * task.items[i].demand;
   for (std::size_t b = 0; b < task.bars.size(); ++b) {
-    if (task.bars[b].rest) bound -= rest_worths[b] * task.bars[b].available;
+    if (!task.bars[b].rest || rest_worths[b] == 0) continue;
+    // There may be far more rest bars than any group needs: what all of them are worth has no 64 bits then.
+    if (task.bars[b].available > bound / rest_worths[b]) return 0;
+    bound -= rest_worths[b] * task.bars[b].available;
   }
-  return std::max<Micros>(0, bound);
+  return bound;
 }
 
 std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros> worths,
@@ -58,10 +63,11 @@ std::vector<Micros> RestWorths(const CuttingTask& task, ViewByIndex<const Micros
 
 }  // namespace
 
-PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
+std::optional<PriceProof> ProveBound(const CuttingTask& task, std::span<const double> prices, Pace& pace) {
   PriceProof proof;
   for (const double price : prices) proof.prices.push_back(static_cast<Micros>(price * kWholeUnit));
-  const std::vector<Micros> worths = DearestWorths(task, proof.prices);
+  const std::vector<Micros> worths = DearestWorths(task, proof.prices, pace);
+  if (worths.empty()) return std::nullopt;
   // The bar whose dearest content is worth most for what it costs.
   Micros cost = 1;
   Micros worth = 0;
@@ -75,7 +81,8 @@ PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices) {
   if (worth == 0) return proof;
   for (Micros& price : proof.prices) price = Scaled(price, cost, worth);
   const bool has_rests = task.bars.front().rest;
-  const std::vector<Micros> scaled = has_rests ? DearestWorths(task, proof.prices) : worths;
+  const std::vector<Micros> scaled = has_rests ? DearestWorths(task, proof.prices, pace) : worths;
+  if (scaled.empty()) return std::nullopt;
   proof.bound = RoundUpBound(task, BoundOf(task, proof.prices, RestWorths(task, scaled, proof.prices)));
   return proof;
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "planning/problem/plan.h"
 #include "planning/solve/cutting_task.h"
+#include "planning/solve/pace.h"
 
 namespace rbt::planning {
 
@@ -17,8 +19,9 @@ struct PriceProof {
 
 /// Prices that are a first guess (in cost units, parallel to the items), made whole and raised or lowered
 /// together until the dearest content that is worth most for its bar's cost is worth just that: what they
-/// then prove. The items' mix is not looked at. Takes an exact table of the largest capacity.
-PriceProof ProveBound(const CuttingTask& task, std::span<const double> prices);
+/// then prove; nothing where it was stopped. The items' mix is not looked at. Takes an exact table of the
+/// largest capacity.
+std::optional<PriceProof> ProveBound(const CuttingTask& task, std::span<const double> prices, Pace& pace);
 
 /// What a piece takes of a bar at the least price for capacity: proven without a table.
 PriceProof ProveMaterialBound(const CuttingTask& task);

@@ -4,10 +4,17 @@
 #include <algorithm>
 
 namespace rbt::planning {
+namespace {
 
-ReachableSums::ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left)
+/// About what a row takes for each of its words: shifts for 1, 2, 4, ... pieces.
+constexpr std::int64_t kStepsOfWord = 4;
+
+}  // namespace
+
+ReachableSums::ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left, Pace& pace)
     : task_(task),
       left_(left),
+      pace_(pace),
       items_(static_cast<int>(task.items.size())),
       largest_(std::max(0, task.LargestCapacity())),
       kinds_(task.mix),
@@ -46,6 +53,7 @@ void ReachableSums::Renew(int first, int last) {
   const int lowest_kinds = kinds_ == 0 ? 0 : 1;
   for (int item = last; item >= first; --item) {
     for (int kinds = lowest_kinds; kinds <= kinds_; ++kinds) {
+      if (pace_.StoppedAfter(kStepsOfWord * static_cast<std::int64_t>(words_))) return;
       const ConstWords behind = Row(item + 1, kinds);
       const ConstWords fewer = Row(item + 1, kinds_ == 0 ? 0 : kinds - 1);
       WithCopies(scratch_, fewer, task_.items[item].weight, Most(item));

@@ -6,15 +6,16 @@
 
 #include "planning/solve/bit_row.h"
 #include "planning/solve/cutting_task.h"
+#include "planning/solve/pace.h"
 
 namespace rbt::planning {
 
 /// Which weights the pieces that are left can fill together, none of an item more often than it is left and
-/// no more items than may be mixed.
+/// no more items than may be mixed. Once the pace says stop the sums are not complete: nothing is asked then.
 class ReachableSums {
  public:
   /// `left` is parallel to the items and must outlive the object.
-  ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left);
+  ReachableSums(const CuttingTask& task, const ByIndex<std::int64_t>& left, Pace& pace);
 
   /// After a change of what is left of items `first` to `last`; those before are used up.
   void Renew(int first, int last);
@@ -37,6 +38,7 @@ class ReachableSums {
 
   const CuttingTask& task_;
   const ByIndex<std::int64_t>& left_;
+  Pace& pace_;
   int items_;
   int largest_;  ///< capacity
   int kinds_;    ///< at most so many items on a bar, 0: any number

@@ -109,11 +109,20 @@ class PriceCheck {
         Report("a content of bar " + std::to_string(length.mm) + " is worth more than the bar costs");
       }
     }
+    if (plan_.bound > RoundedUp(Proven(worths))) Report("its prices do not prove its bound");
+  }
+
+  /// What all pieces are worth less what the rest bars can carry of it, at least 0. A rest bar may be there
+  /// so often that the product would overflow.
+  std::int64_t Proven(const std::vector<std::int64_t>& worths) const {
     std::int64_t proven = 0;
     for (const Priced& piece : pieces_) proven += piece.count * piece.price;
-    for (const RestBar& rest : supply_.rests) proven -= rest.count * WorthOf(worths, rest.mm);
-    if (plan_.bound > RoundedUp(std::max<std::int64_t>(0, proven)))
-      Report("its prices do not prove its bound");
+    for (const RestBar& rest : supply_.rests) {
+      std::int64_t carried = 0;
+      const bool overflows = __builtin_mul_overflow(rest.count, WorthOf(worths, rest.mm), &carried);
+      proven = overflows ? 0 : std::max<std::int64_t>(0, proven - carried);
+    }
+    return proven;
   }
 
   std::int64_t RoundedUp(std::int64_t proven) const {
@@ -123,7 +132,7 @@ class PriceCheck {
       if (length.cost % kUnit != 0) return proven;
       step = std::gcd(step, length.cost);
     }
-    return (proven + step - 1) / step * step;
+    return step == 0 ? proven : (proven + step - 1) / step * step;
   }
 
   const Problem& problem_;

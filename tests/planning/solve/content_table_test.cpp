@@ -44,11 +44,12 @@ double Best(const Sample& sample, std::size_t at, int room, int kinds) {
 }
 
 void ExpectBest(int kinds) {
+  Pace pace(nullptr);
   Random random(static_cast<std::uint64_t>(100 + kinds));
   for (int trial = 0; trial < 150; ++trial) {
     const Sample sample = RandomSample(random);
     const auto table = MakeContentTable(sample.task, kinds);
-    table->Fill(sample.prices, sample.left);
+    ASSERT_TRUE(table->Fill(sample.prices, sample.left, pace));
     for (int capacity = 0; capacity <= sample.task.bars[0].capacity; capacity += 7) {
       const double best = Best(sample, 0, capacity, kinds);
       ASSERT_NEAR(table->Worth(capacity), best, 1e-4) << trial << " " << capacity;
@@ -84,14 +85,40 @@ TEST(ContentTable, CanBeFilledAgain) {
   CuttingTask task;
   task.items = {{10, 10, 0}, {7, 7, 0}};
   task.bars.push_back({20, 20, 1'000'000});
+  Pace pace(nullptr);
   const auto table = MakeContentTable(task, -1);
-  table->Fill(std::vector<double>{5.0, 1.0}, std::vector<std::int64_t>{2, 2});
+  table->Fill(std::vector<double>{5.0, 1.0}, std::vector<std::int64_t>{2, 2}, pace);
   EXPECT_NEAR(table->Worth(20), 10.0, 1e-6);
-  table->Fill(std::vector<double>{1.0, 5.0}, std::vector<std::int64_t>{2, 1});
+  table->Fill(std::vector<double>{1.0, 5.0}, std::vector<std::int64_t>{2, 1}, pace);
   EXPECT_NEAR(table->Worth(20), 6.0, 1e-6);
-  table->Fill(std::vector<double>{0.0, 0.0}, std::vector<std::int64_t>{2, 1});
+  table->Fill(std::vector<double>{0.0, 0.0}, std::vector<std::int64_t>{2, 1}, pace);
   EXPECT_EQ(table->Worth(20), 0.0);
   EXPECT_TRUE(table->ContentAt(20).empty());
+}
+
+TEST(ContentTable, IsFilledNoFurtherOnceItIsStopped) {
+  CuttingTask task;
+  std::vector<double> prices;
+  for (int item = 0; item < 8; ++item) {
+    task.items.push_back({1000 - item, 1000 - item, 0});
+    prices.push_back(10.0 + item);
+  }
+  task.bars.push_back({200'000, 200'000, 1'000'000});
+  const std::vector<std::int64_t> left(task.items.size(), 20);
+  for (const int kinds : {-1, 2, 3}) {
+    const auto table = MakeContentTable(task, kinds);
+    int asked = 0;
+    Pace pace([&] { return ++asked == 3 ? Stopped::time : Stopped::no; });
+    EXPECT_FALSE(table->Fill(prices, left, pace)) << kinds;
+    EXPECT_EQ(asked, 3) << kinds;
+    EXPECT_EQ(pace.Why(), Stopped::time);
+    EXPECT_EQ(pace.Spent(), 0);
+    Pace patience(nullptr);
+    EXPECT_TRUE(table->Fill(prices, left, patience)) << kinds;
+    const auto fresh = MakeContentTable(task, kinds);
+    fresh->Fill(prices, left, patience);
+    EXPECT_EQ(table->Worth(200'000), fresh->Worth(200'000)) << kinds;
+  }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "planning/solve/price_proof.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "planning/problem_samples.h"
@@ -12,6 +14,11 @@ namespace {
 using test::BruteForce;
 using test::kMm;
 using test::OneGroup;
+
+PriceProof Proven(const CuttingTask& task, const std::vector<double>& prices) {
+  Pace pace(nullptr);
+  return ProveBound(task, prices, pace).value();
+}
 
 TEST(RoundUpBound, GoesToAMultipleOfWhatAllCostsAreMultiplesOf) {
   const Problem problem = OneGroup({{2000, 1}}, {5500, 6000, 12000});
@@ -42,10 +49,27 @@ TEST(ProveMaterialBound, TakesWhatRestBarsCarryAway) {
   EXPECT_EQ(ProveMaterialBound(task).bound, 6000 * kMm);  // 5300 mm
 }
 
+TEST(ProveMaterialBound, IsNothingWhereRestBarsCouldCarryEverythingHoweverManyTheyAre) {
+  Problem problem = OneGroup({{2340, 5}}, {6000, 12000});
+  for (const std::int64_t count : {1LL, 5LL, 999'999'999LL, std::numeric_limits<long long>::max()}) {
+    problem.supplies[0].rests = {{12000, count}};
+    const CuttingTask task = MakeTask(problem, problem.groups[0]);
+    EXPECT_EQ(ProveMaterialBound(task).bound, 0) << count;
+    EXPECT_EQ(Proven(task, MaterialPrices(task)).bound, 0) << count;
+  }
+}
+
+TEST(ProveBound, IsThatOfThePiecesWhereNoneFitsARestBar) {
+  Problem problem = OneGroup({{2340, 5}}, {6000, 12000});
+  problem.supplies[0].rests = {{2000, std::numeric_limits<std::int64_t>::max()}};
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  EXPECT_EQ(Proven(task, MaterialPrices(task)).bound, 12000 * kMm);  // 11700 mm
+}
+
 TEST(ProveBound, LowersPricesUntilNoContentIsWorthMoreThanItsBar) {
   const Problem problem = OneGroup({{4000, 6}}, {6000});
   const CuttingTask task = MakeTask(problem, problem.groups[0]);
-  const PriceProof proof = ProveBound(task, std::vector<double>{60000.0});
+  const PriceProof proof = Proven(task, std::vector<double>{60000.0});
   EXPECT_EQ(proof.prices, std::vector<Micros>{6000 * kMm});
   EXPECT_EQ(proof.bound, 36000 * kMm);
 }
@@ -53,14 +77,21 @@ TEST(ProveBound, LowersPricesUntilNoContentIsWorthMoreThanItsBar) {
 TEST(ProveBound, RaisesPricesThatAreTooLow) {
   const Problem problem = OneGroup({{4000, 6}}, {6000});
   const CuttingTask task = MakeTask(problem, problem.groups[0]);
-  EXPECT_EQ(ProveBound(task, std::vector<double>{1.0}).bound, 36000 * kMm);
+  EXPECT_EQ(Proven(task, std::vector<double>{1.0}).bound, 36000 * kMm);
 }
 
 TEST(ProveBound, CountsNoPieceMoreOftenThanItIsToBeCut) {
   // Two of 2000 fit, but there is only one: it may be worth the whole bar.
   const Problem problem = OneGroup({{2000, 1}}, {5000});
   const CuttingTask task = MakeTask(problem, problem.groups[0]);
-  EXPECT_EQ(ProveBound(task, MaterialPrices(task)).bound, 5000 * kMm);
+  EXPECT_EQ(Proven(task, MaterialPrices(task)).bound, 5000 * kMm);
+}
+
+TEST(ProveBound, IsNoneWhenItIsStopped) {
+  const Problem problem = OneGroup({{4001, 999}, {3001, 999}, {701, 999}, {307, 999}}, {1'000'000});
+  const CuttingTask task = MakeTask(problem, problem.groups[0]);
+  Pace pace([] { return Stopped::cancel; });
+  EXPECT_FALSE(ProveBound(task, MaterialPrices(task), pace).has_value());
 }
 
 TEST(ProveBound, NeverPassesTheLeastCost) {
@@ -75,11 +106,11 @@ TEST(ProveBound, NeverPassesTheLeastCost) {
     const CuttingTask task = MakeTask(problem, problem.groups[0]);
     const Micros least = BruteForce(problem, problem.groups[0]).LeastCost();
     EXPECT_LE(ProveMaterialBound(task).bound, least) << seed;
-    EXPECT_LE(ProveBound(task, MaterialPrices(task)).bound, least) << seed;
+    EXPECT_LE(Proven(task, MaterialPrices(task)).bound, least) << seed;
     std::vector<double> prices;
     test::Random random(seed);
     for (std::size_t i = 0; i < task.items.size(); ++i) prices.push_back(random.Between(0, 12000));
-    EXPECT_LE(ProveBound(task, prices).bound, least) << seed;
+    EXPECT_LE(Proven(task, prices).bound, least) << seed;
   }
 }
 

@@ -49,7 +49,8 @@ TEST(HighestBit, LooksFromLowToHigh) {
 TEST(ReachableSums, TakeNoPieceMoreOftenThanItIsLeft) {
   const CuttingTask task = TaskOf({50, 30, 20}, 120);
   ByIndex<std::int64_t> left{1, 1, 1};
-  ReachableSums sums(task, left);
+  Pace pace(nullptr);
+  ReachableSums sums(task, left, pace);
   sums.LeadWith(0);
   EXPECT_EQ(sums.Best(120), 100);
   EXPECT_THAT(sums.ContentOf(100), ElementsAre(Pair(0, 1), Pair(1, 1), Pair(2, 1)));
@@ -62,7 +63,8 @@ TEST(ReachableSums, TakeNoPieceMoreOftenThanItIsLeft) {
 TEST(ReachableSums, HoldTheLeadingItem) {
   const CuttingTask task = TaskOf({50, 30}, 120);
   const ByIndex<std::int64_t> left{1, 9};
-  ReachableSums sums(task, left);
+  Pace pace(nullptr);
+  ReachableSums sums(task, left, pace);
   sums.LeadWith(0);
   EXPECT_EQ(sums.Best(120), 110);  // four of 30 would fill it
   EXPECT_EQ(sums.Best(40), 0);
@@ -73,11 +75,12 @@ TEST(ReachableSums, HoldTheLeadingItem) {
 TEST(ReachableSums, MixNoMoreItemsThanAllowed) {
   const ByIndex<std::int64_t> left{1, 1, 4};
   const CuttingTask two = TaskOf({50, 30, 10}, 100, 2);
-  ReachableSums sums(two, left);
+  Pace pace(nullptr);
+  ReachableSums sums(two, left, pace);
   sums.LeadWith(0);
   EXPECT_EQ(sums.Best(100), 90);  // 50 and four of 10; with 30 it would be 100
   const CuttingTask one = TaskOf({50, 30, 10}, 100, 1);
-  ReachableSums alone(one, left);
+  ReachableSums alone(one, left, pace);
   alone.LeadWith(2);
   EXPECT_EQ(alone.Best(100), 40);
 }
@@ -105,7 +108,8 @@ TEST(ReachableSums, AreThoseOfATrialOfAllWays) {
       left.push_back(random.Between(0, 3));
     }
     const CuttingTask task = TaskOf(weights, random.Between(40, 150), random.Between(0, 3));
-    ReachableSums sums(task, left);
+    Pace pace(nullptr);
+    ReachableSums sums(task, left, pace);
     const auto lead = static_cast<std::size_t>(random.Between(0, static_cast<int>(weights.size()) - 1));
     sums.LeadWith(static_cast<int>(lead));
     std::set<int> all;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "planning/verify/verify.h"
 
+#include <limits>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -215,6 +217,15 @@ TEST_F(SpoiltPlan, HasPricesThatMakeAContentWorthMoreThanItsBar) {
 TEST_F(SpoiltPlan, HasABoundThatItsPricesDoNotProve) {
   for (Price& price : Of().prices) price.price = 0;
   Of().bound = 6000 * kMm;
+  ExpectFault("its prices do not prove its bound");
+}
+
+TEST_F(SpoiltPlan, HasABoundThoughRestBarsBeyondNumberCouldCarryEveryPiece) {
+  problem_.supplies[0].rests = {{12000, std::numeric_limits<std::int64_t>::max() / 2}};
+  plan_ = SolvePlan(problem_, nullptr, nullptr);
+  EXPECT_THAT(FindFaults(problem_, plan_), IsEmpty());
+  EXPECT_EQ(Of().bound, 0);
+  Of().bound = 1;
   ExpectFault("its prices do not prove its bound");
 }
 
