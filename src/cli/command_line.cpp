@@ -2,11 +2,13 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/output.h"
+#include "platform/numbers/decimal_text.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {
@@ -17,11 +19,6 @@ std::string Joined(const std::vector<std::string>& words) {
   std::string text;
   for (const std::string& word : words) text += (text.empty() ? "" : "|") + word;
   return text;
-}
-
-bool IsWholeNumber(std::string_view text) {
-  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 /// False when help, or the version, was asked for and given.
@@ -60,6 +57,15 @@ std::function<void(const std::string& text)> Taker(const std::string& name, cons
   };
 }
 
+/// Takes a whole number of 32 bits. The library's own conversion would read "010" as 8 and "0x1F" as 31.
+std::function<void(const std::string& text)> NumberTaker(const std::string& name, std::int32_t& target) {
+  return [name, &target](const std::string& text) {
+    const std::optional<std::int32_t> number = WholeNumber(text);
+    if (!number) throw CLI::ConversionError(name, std::vector{text});
+    target = *number;
+  };
+}
+
 }  // namespace
 
 void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
@@ -83,7 +89,9 @@ void CommandLine::WordArgument(const std::string& name, std::string& target,
 
 void CommandLine::NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
                                  const std::string& description) {
-  line_.add_option(name, target, description)->type_name(form)->required();
+  line_.add_option_function<std::string>(name, NumberTaker(name, target), description)
+      ->type_name(form)
+      ->required();
 }
 
 void CommandLine::WholeNumberArgument(const std::string& name, const std::string& form, double& target,
@@ -121,20 +129,29 @@ void CommandLine::WordOption(const std::string& name, const std::string& form, s
 
 void CommandLine::NumberOption(const std::string& name, const std::string& form, std::int32_t& target,
                                const std::string& description) {
-  line_.add_option(name, target, description)->type_name(form)->capture_default_str();
+  line_.add_option_function<std::string>(name, NumberTaker(name, target), description)
+      ->type_name(form)
+      ->default_str(std::to_string(target));
 }
 
 template <typename Number>
-void CommandLine::NumberOption(const std::string& name, Number& target, std::int64_t lowest,
-                               std::int64_t highest, const std::string& description) {
-  line_.add_option(name, target, description)
+void CommandLine::NumberOption(const std::string& name, Number& target, std::type_identity_t<Number> lowest,
+                               std::type_identity_t<Number> highest, const std::string& description) {
+  const auto take = [name, &target, lowest, highest](const std::string& text) {
+    const std::optional<std::int32_t> number = WholeNumberIn(text, lowest, highest);
+    if (!number) {
+      throw CLI::ValidationError(name, "Value " + text + " not in range " + std::to_string(lowest) + " to " +
+                                           std::to_string(highest));
+    }
+    target = static_cast<Number>(*number);
+  };
+  line_.add_option_function<std::string>(name, take, description)
       ->type_name(std::to_string(lowest) + ".." + std::to_string(highest))
-      ->check(CLI::Range(lowest, highest).description(""))
-      ->capture_default_str();
+      ->default_str(std::to_string(target));
 }
-template void CommandLine::NumberOption(const std::string&, std::int16_t&, std::int64_t, std::int64_t,
+template void CommandLine::NumberOption(const std::string&, std::int16_t&, std::int16_t, std::int16_t,
                                         const std::string&);
-template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::int64_t, std::int64_t,
+template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::int32_t, std::int32_t,
                                         const std::string&);
 
 void CommandLine::FormOption(const std::string& name, const std::string& form,
@@ -157,7 +174,7 @@ void CommandLine::RootOption() {
 }
 
 void CommandLine::WaitOption() {
-  constexpr std::int64_t kDay = 86'400;
+  constexpr std::int32_t kDay = 86'400;
   NumberOption("--wait", order_.wait_seconds, 0, kDay,
                "seconds to wait for a file that another program holds");
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/plan_options.h"
 
-#include <charconv>
-#include <cmath>
 #include <string_view>
 
 #include "cli/command_line.h"
@@ -10,6 +8,7 @@
 #include "planning/input/plan_files.h"
 #include "planning/input/scopes.h"
 #include "platform/files/files.h"
+#include "platform/numbers/decimal_text.h"
 
 namespace rbt {
 
@@ -18,39 +17,21 @@ namespace {
 constexpr double kLongestTime = 86'400.0;
 constexpr std::int32_t kMostLengths = 1000;
 
-template <typename Number>
-std::optional<Number> NumberOf(std::string_view text) {
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 /// "6000,12000".
 bool TakeLengths(std::string_view text, std::optional<std::vector<int>>& lengths) {
-  std::vector<int> taken;
-  for (bool more = true; more;) {
-    const std::size_t comma = text.find(',');
-    more = comma != std::string_view::npos;
-    const auto mm = NumberOf<int>(text.substr(0, comma));
-    if (!mm || *mm < 1 || *mm > planning::kLongestMm) return false;
-    taken.push_back(*mm);
-    if (more) text.remove_prefix(comma + 1);
-  }
-  lengths = std::move(taken);
-  return true;
+  lengths = WholeNumbersIn(text, 1, planning::kLongestMm);
+  return lengths.has_value();
 }
 
 bool TakeMm(std::string_view text, std::optional<std::int32_t>& mm) {
-  mm = NumberOf<std::int32_t>(text);
-  return mm && *mm >= 0 && *mm <= planning::kLongestMm;
+  mm = WholeNumberIn(text, 0, planning::kLongestMm);
+  return mm.has_value();
 }
 
 bool TakeSeconds(std::string_view text, double& seconds) {
-  const auto taken = NumberOf<double>(text);
-  if (!taken || !std::isfinite(*taken) || *taken < 0.0 || *taken > kLongestTime) return false;
-  seconds = *taken;
-  return true;
+  const std::optional<double> taken = DecimalIn(text, 0.0, kLongestTime);
+  if (taken) seconds = *taken;
+  return taken.has_value();
 }
 
 void AddBarOptions(CommandLine& line, PlanCommandOptions& options) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <memory>
 #include <numeric>
@@ -17,6 +16,7 @@
 #include "cli/options.h"
 #include "cli/output_options.h"
 #include "platform/files/files.h"
+#include "platform/numbers/decimal_text.h"
 #include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
 #include "platform/system/clock.h"
@@ -265,10 +265,8 @@ void AddText(CommandLine& line, const std::string& name, std::optional<std::stri
 void AddNumber(CommandLine& line, const std::string& name, std::optional<std::int32_t>& target,
                const std::string& description) {
   const auto take = [&target](const std::string& text) {
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    target = number;
-    return error == std::errc() && end == text.data() + text.size();
+    target = WholeNumber(text);
+    return target.has_value();
   };
   line.FormOption(name, "N", take, description);
 }
