@@ -2,6 +2,7 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
+#include <ranges>
 #include <type_traits>
 #include <utility>
 
@@ -21,10 +22,33 @@ std::string Joined(const std::vector<std::string>& words) {
   return text;
 }
 
+/// An option with a value of which nothing stands behind the sign, "--rests=".
+bool GivesAnEmptyValue(const CLI::App& line, std::string_view word) {
+  if (!word.starts_with("--") || word.find('=') + 1 != word.size()) return false;
+  const CLI::Option* const option = line.get_option_no_throw(std::string(word.substr(0, word.size() - 1)));
+  return option != nullptr && option->get_items_expected_max() > 0;
+}
+
+/// The words behind the program's name, the last one first, as the library wants them. It would take the word
+/// behind "--rests=" for the value, so the empty value stands as a word of its own.
+std::vector<std::string> WordsFromTheEnd(const CLI::App& line, int argc, char** argv) {
+  std::vector<std::string> words;
+  words.reserve(2 * static_cast<std::size_t>(argc));
+  bool takes_options = true;
+  for (const std::string_view word : std::span(argv, static_cast<std::size_t>(argc)) | std::views::drop(1)) {
+    takes_options = takes_options && word != "--";
+    const bool is_empty = takes_options && GivesAnEmptyValue(line, word);
+    words.emplace_back(is_empty ? word.substr(0, word.size() - 1) : word);
+    if (is_empty) words.emplace_back();
+  }
+  std::ranges::reverse(words);
+  return words;
+}
+
 /// False when help, or the version, was asked for and given.
-bool Parse(CLI::App& app, int argc, char** argv) {
+bool Parse(CLI::App& app, std::vector<std::string> words_from_the_end) {
   try {
-    app.parse(argc, argv);
+    app.parse(std::move(words_from_the_end));
     return true;
   } catch (const CLI::CallForHelp&) {
     WriteResult(app.help());
@@ -66,6 +90,12 @@ std::function<void(const std::string& text)> NumberTaker(const std::string& name
   };
 }
 
+/// An empty target stands for a name that was not given, which an empty text, of a variable that a script
+/// does not set, must not pass for.
+CLI::Validator IsNamed() {
+  return {[](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, ""};
+}
+
 }  // namespace
 
 void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
@@ -77,9 +107,18 @@ void CommandLine::Arguments(const std::string& name, std::vector<std::string>& t
   line_.add_option(name, target, description)->required();
 }
 
+void CommandLine::FileArgument(const std::string& name, std::string& target, const std::string& description) {
+  line_.add_option(name, target, description)->required()->check(IsNamed());
+}
+
+void CommandLine::FileArguments(const std::string& name, std::vector<std::string>& target,
+                                const std::string& description) {
+  line_.add_option(name, target, description)->required()->check(IsNamed());
+}
+
 void CommandLine::OptionalArgument(const std::string& name, std::string& target,
                                    const std::string& description) {
-  line_.add_option(name, target, description);
+  line_.add_option(name, target, description)->check(IsNamed());
 }
 
 void CommandLine::WordArgument(const std::string& name, std::string& target,
@@ -115,6 +154,11 @@ void CommandLine::Flag(const std::string& name, bool& target, const std::string&
 void CommandLine::TextOption(const std::string& name, const std::string& form, std::string& target,
                              const std::string& description) {
   line_.add_option(name, target, description)->type_name(form);
+}
+
+void CommandLine::FileOption(const std::string& name, const std::string& form, std::string& target,
+                             const std::string& description) {
+  line_.add_option(name, target, description)->type_name(form)->check(IsNamed());
 }
 
 void CommandLine::WordOption(const std::string& name, const std::string& form, std::string& target,
@@ -170,7 +214,7 @@ void CommandLine::RepeatedOption(const std::string& name, const std::string& for
 }
 
 void CommandLine::RootOption() {
-  TextOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
+  FileOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
 }
 
 void CommandLine::WaitOption() {
@@ -193,7 +237,8 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
     CommandLine command_line(*line, order);
     lines.emplace_back(line, command.define(command_line));
   }
-  if (!Parse(app, argc, argv)) return std::nullopt;
+  const CLI::App& read = first != nullptr ? *lines.front().first : app;
+  if (!Parse(app, WordsFromTheEnd(read, argc, argv))) return std::nullopt;
   const auto given = std::ranges::find_if(lines, [](const auto& line) { return line.first->parsed(); });
   order.action = std::move(given->second);
   return order;

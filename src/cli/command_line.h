@@ -35,6 +35,11 @@ class CommandLine {
   void Argument(const std::string& name, std::string& target, const std::string& description);
   /// One or more.
   void Arguments(const std::string& name, std::vector<std::string>& target, const std::string& description);
+  /// They name files, folders or sites: an empty text is wrong usage, not one that was not given.
+  void FileArgument(const std::string& name, std::string& target, const std::string& description);
+  void FileArguments(const std::string& name, std::vector<std::string>& target,
+                     const std::string& description);
+  /// Nor does an empty text pass here for one that was not given.
   void OptionalArgument(const std::string& name, std::string& target, const std::string& description);
   /// One of the words, which the help lists.
   void WordArgument(const std::string& name, std::string& target, const std::vector<std::string>& words,
@@ -48,6 +53,9 @@ class CommandLine {
 
   void Flag(const std::string& name, bool& target, const std::string& description);
   void TextOption(const std::string& name, const std::string& form, std::string& target,
+                  const std::string& description);
+  /// The name of a file, folder or site, as of a `FileArgument`.
+  void FileOption(const std::string& name, const std::string& form, std::string& target,
                   const std::string& description);
   /// One of the words. The help lists them behind `form`, or in its place where it is empty, and the default.
   void WordOption(const std::string& name, const std::string& form, std::string& target,

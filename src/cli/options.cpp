@@ -64,7 +64,7 @@ bool TakePercent(std::string_view text, double& percent) {
 void AddCommonOptions(CommandLine& line, CommonOptions& options) {
   line.RootOption();
   line.WaitOption();
-  line.TextOption(
+  line.FileOption(
       "--site", "FILE", options.site,
       "schedule file in place of the site STEEL.INI names: its name in DATA, or its path below the "
       "root");

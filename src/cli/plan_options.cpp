@@ -39,9 +39,9 @@ void AddBarOptions(CommandLine& line, PlanCommandOptions& options) {
       "--lengths", "MM,..",
       [&options](const std::string& text) { return TakeLengths(text, options.lengths); },
       "lengths that may be bought; default those of STEEL.INI and those that the site's rows use");
-  line.TextOption("--lengths-file", "FILE.csv", options.lengths_file,
+  line.FileOption("--lengths-file", "FILE.csv", options.lengths_file,
                   "diameter,length,price,min_kg of the lengths that may be bought, JPY a tonne");
-  line.TextOption("--rests", "FILE.csv", options.rests_file, "diameter,kind,length,count of rest bars, free");
+  line.FileOption("--rests", "FILE.csv", options.rests_file, "diameter,kind,length,count of rest bars, free");
   line.NumberOption("--max-lengths", options.max_lengths, 0, kMostLengths,
                     "at most so many bought lengths of a diameter, kind and hoop; 0 any number");
   line.NumberOption("--mix", options.mix, 0, kMostLengths,
@@ -72,9 +72,9 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
       "seconds after which the best so far is the plan; default 10");
   line.NumberOption("--advise", options.advise, 0, kMostLengths,
                     "what the best 1 to so many lengths would lose");
-  line.TextOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
-  line.TextOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
-  line.TextOption("--trace", "FILE", options.trace, "writes what the sheets drew, one operation a line");
+  line.FileOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
+  line.FileOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
+  line.FileOption("--trace", "FILE", options.trace, "writes what the sheets drew, one operation a line");
   AddForceOption(line, options.force);
   line.Flag("--progress", options.progress, "tell on standard error how far the plan is");
 }
@@ -82,7 +82,7 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
 }  // namespace
 
 void AddPlanOptions(CommandLine& line, PlanCommandOptions& options) {
-  line.TextOption("--pieces", "FILE.csv", options.pieces_file,
+  line.FileOption("--pieces", "FILE.csv", options.pieces_file,
                   "length,count[,diameter[,kind[,mark]]] in place of a site");
   AddBarOptions(line, options);
   AddWayOptions(line, options);
