@@ -51,7 +51,8 @@ void RunAccumulate(const AccumulateOptions& options) {
 
 Action DefineAccumulate(CommandLine& line) {
   auto options = std::make_shared<AccumulateOptions>();
-  line.Arguments("SITE", options->sites, "schedule files of the sites that are added, one after the other");
+  line.FileArguments("SITE", options->sites,
+                     "schedule files of the sites that are added, one after the other");
   AddCommonOptions(line, options->common);
   AddSelectionOptions(line, options->selection);
   AddFormatOption(line, options->format);

@@ -2,11 +2,14 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
+#include <ranges>
+#include <type_traits>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/output.h"
+#include "platform/numbers/decimal_text.h"
 #include "platform/numbers/number_words.h"
 
 namespace rbt {
@@ -19,15 +22,33 @@ std::string Joined(const std::vector<std::string>& words) {
   return text;
 }
 
-bool IsWholeNumber(std::string_view text) {
-  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+/// An option with a value of which nothing stands behind the sign, "--rests=".
+bool GivesAnEmptyValue(const CLI::App& line, std::string_view word) {
+  if (!word.starts_with("--") || word.find('=') + 1 != word.size()) return false;
+  const CLI::Option* const option = line.get_option_no_throw(std::string(word.substr(0, word.size() - 1)));
+  return option != nullptr && option->get_items_expected_max() > 0;
+}
+
+/// The words behind the program's name, the last one first, as the library wants them. It would take the word
+/// behind "--rests=" for the value, so the empty value stands as a word of its own.
+std::vector<std::string> WordsFromTheEnd(const CLI::App& line, int argc, char** argv) {
+  std::vector<std::string> words;
+  words.reserve(2 * static_cast<std::size_t>(argc));
+  bool takes_options = true;
+  for (const std::string_view word : std::span(argv, static_cast<std::size_t>(argc)) | std::views::drop(1)) {
+    takes_options = takes_options && word != "--";
+    const bool is_empty = takes_options && GivesAnEmptyValue(line, word);
+    words.emplace_back(is_empty ? word.substr(0, word.size() - 1) : word);
+    if (is_empty) words.emplace_back();
+  }
+  std::ranges::reverse(words);
+  return words;
 }
 
 /// False when help, or the version, was asked for and given.
-bool Parse(CLI::App& app, int argc, char** argv) {
+bool Parse(CLI::App& app, std::vector<std::string> words_from_the_end) {
   try {
-    app.parse(argc, argv);
+    app.parse(std::move(words_from_the_end));
     return true;
   } catch (const CLI::CallForHelp&) {
     WriteResult(app.help());
@@ -60,6 +81,21 @@ std::function<void(const std::string& text)> Taker(const std::string& name, cons
   };
 }
 
+/// Takes a whole number of 32 bits. The library's own conversion would read "010" as 8 and "0x1F" as 31.
+std::function<void(const std::string& text)> NumberTaker(const std::string& name, std::int32_t& target) {
+  return [name, &target](const std::string& text) {
+    const std::optional<std::int32_t> number = WholeNumber(text);
+    if (!number) throw CLI::ConversionError(name, std::vector{text});
+    target = *number;
+  };
+}
+
+/// An empty target stands for a name that was not given, which an empty text, of a variable that a script
+/// does not set, must not pass for.
+CLI::Validator IsNamed() {
+  return {[](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, ""};
+}
+
 }  // namespace
 
 void CommandLine::Argument(const std::string& name, std::string& target, const std::string& description) {
@@ -71,9 +107,18 @@ void CommandLine::Arguments(const std::string& name, std::vector<std::string>& t
   line_.add_option(name, target, description)->required();
 }
 
+void CommandLine::FileArgument(const std::string& name, std::string& target, const std::string& description) {
+  line_.add_option(name, target, description)->required()->check(IsNamed());
+}
+
+void CommandLine::FileArguments(const std::string& name, std::vector<std::string>& target,
+                                const std::string& description) {
+  line_.add_option(name, target, description)->required()->check(IsNamed());
+}
+
 void CommandLine::OptionalArgument(const std::string& name, std::string& target,
                                    const std::string& description) {
-  line_.add_option(name, target, description);
+  line_.add_option(name, target, description)->check(IsNamed());
 }
 
 void CommandLine::WordArgument(const std::string& name, std::string& target,
@@ -83,7 +128,9 @@ void CommandLine::WordArgument(const std::string& name, std::string& target,
 
 void CommandLine::NumberArgument(const std::string& name, const std::string& form, std::int32_t& target,
                                  const std::string& description) {
-  line_.add_option(name, target, description)->type_name(form)->required();
+  line_.add_option_function<std::string>(name, NumberTaker(name, target), description)
+      ->type_name(form)
+      ->required();
 }
 
 void CommandLine::WholeNumberArgument(const std::string& name, const std::string& form, double& target,
@@ -109,6 +156,11 @@ void CommandLine::TextOption(const std::string& name, const std::string& form, s
   line_.add_option(name, target, description)->type_name(form);
 }
 
+void CommandLine::FileOption(const std::string& name, const std::string& form, std::string& target,
+                             const std::string& description) {
+  line_.add_option(name, target, description)->type_name(form)->check(IsNamed());
+}
+
 void CommandLine::WordOption(const std::string& name, const std::string& form, std::string& target,
                              const std::vector<std::string>& words, const std::string& description) {
   CLI::Validator is_word = CLI::IsMember(words);
@@ -121,20 +173,29 @@ void CommandLine::WordOption(const std::string& name, const std::string& form, s
 
 void CommandLine::NumberOption(const std::string& name, const std::string& form, std::int32_t& target,
                                const std::string& description) {
-  line_.add_option(name, target, description)->type_name(form)->capture_default_str();
+  line_.add_option_function<std::string>(name, NumberTaker(name, target), description)
+      ->type_name(form)
+      ->default_str(std::to_string(target));
 }
 
 template <typename Number>
-void CommandLine::NumberOption(const std::string& name, Number& target, std::int64_t lowest,
-                               std::int64_t highest, const std::string& description) {
-  line_.add_option(name, target, description)
+void CommandLine::NumberOption(const std::string& name, Number& target, std::type_identity_t<Number> lowest,
+                               std::type_identity_t<Number> highest, const std::string& description) {
+  const auto take = [name, &target, lowest, highest](const std::string& text) {
+    const std::optional<std::int32_t> number = WholeNumberIn(text, lowest, highest);
+    if (!number) {
+      throw CLI::ValidationError(name, "Value " + text + " not in range " + std::to_string(lowest) + " to " +
+                                           std::to_string(highest));
+    }
+    target = static_cast<Number>(*number);
+  };
+  line_.add_option_function<std::string>(name, take, description)
       ->type_name(std::to_string(lowest) + ".." + std::to_string(highest))
-      ->check(CLI::Range(lowest, highest).description(""))
-      ->capture_default_str();
+      ->default_str(std::to_string(target));
 }
-template void CommandLine::NumberOption(const std::string&, std::int16_t&, std::int64_t, std::int64_t,
+template void CommandLine::NumberOption(const std::string&, std::int16_t&, std::int16_t, std::int16_t,
                                         const std::string&);
-template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::int64_t, std::int64_t,
+template void CommandLine::NumberOption(const std::string&, std::int32_t&, std::int32_t, std::int32_t,
                                         const std::string&);
 
 void CommandLine::FormOption(const std::string& name, const std::string& form,
@@ -153,11 +214,11 @@ void CommandLine::RepeatedOption(const std::string& name, const std::string& for
 }
 
 void CommandLine::RootOption() {
-  TextOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
+  FileOption("--root", "DIR", order_.root, "the root folder; default $RBK_ROOT");
 }
 
 void CommandLine::WaitOption() {
-  constexpr std::int64_t kDay = 86'400;
+  constexpr std::int32_t kDay = 86'400;
   NumberOption("--wait", order_.wait_seconds, 0, kDay,
                "seconds to wait for a file that another program holds");
 }
@@ -176,7 +237,8 @@ std::optional<Order> ReadCommandLine(std::span<const Command> commands, int argc
     CommandLine command_line(*line, order);
     lines.emplace_back(line, command.define(command_line));
   }
-  if (!Parse(app, argc, argv)) return std::nullopt;
+  const CLI::App& read = first != nullptr ? *lines.front().first : app;
+  if (!Parse(app, WordsFromTheEnd(read, argc, argv))) return std::nullopt;
   const auto given = std::ranges::find_if(lines, [](const auto& line) { return line.first->parsed(); });
   order.action = std::move(given->second);
   return order;

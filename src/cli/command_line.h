@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "cli/command.h"
@@ -25,7 +26,7 @@ struct Order {
 
 /// One command's part of the command line, as its help lists it. Arguments stand by their place, options by
 /// their name. A target keeps its value where nothing is given for it; it must live until the line is read.
-/// What a target does not take is wrong usage.
+/// What a target does not take is wrong usage. Numbers are plain decimals.
 class CommandLine {
  public:
   /// `order` gets what main itself puts in force.
@@ -34,6 +35,11 @@ class CommandLine {
   void Argument(const std::string& name, std::string& target, const std::string& description);
   /// One or more.
   void Arguments(const std::string& name, std::vector<std::string>& target, const std::string& description);
+  /// They name files, folders or sites: an empty text is wrong usage, not one that was not given.
+  void FileArgument(const std::string& name, std::string& target, const std::string& description);
+  void FileArguments(const std::string& name, std::vector<std::string>& target,
+                     const std::string& description);
+  /// Nor does an empty text pass here for one that was not given.
   void OptionalArgument(const std::string& name, std::string& target, const std::string& description);
   /// One of the words, which the help lists.
   void WordArgument(const std::string& name, std::string& target, const std::vector<std::string>& words,
@@ -48,6 +54,9 @@ class CommandLine {
   void Flag(const std::string& name, bool& target, const std::string& description);
   void TextOption(const std::string& name, const std::string& form, std::string& target,
                   const std::string& description);
+  /// The name of a file, folder or site, as of a `FileArgument`.
+  void FileOption(const std::string& name, const std::string& form, std::string& target,
+                  const std::string& description);
   /// One of the words. The help lists them behind `form`, or in its place where it is empty, and the default.
   void WordOption(const std::string& name, const std::string& form, std::string& target,
                   const std::vector<std::string>& words, const std::string& description);
@@ -56,8 +65,8 @@ class CommandLine {
                     const std::string& description);
   /// A whole number of `lowest` to `highest`, with its present value as the default. Of 16 or 32 bits.
   template <typename Number>
-  void NumberOption(const std::string& name, Number& target, std::int64_t lowest, std::int64_t highest,
-                    const std::string& description);
+  void NumberOption(const std::string& name, Number& target, std::type_identity_t<Number> lowest,
+                    std::type_identity_t<Number> highest, const std::string& description);
   /// A text of a form of its own, "A-B": `take` says whether it is one.
   void FormOption(const std::string& name, const std::string& form,
                   std::function<bool(const std::string& text)> take, const std::string& description);

@@ -13,7 +13,7 @@ Action DefineDemo(CommandLine& line) {
     demo::DemoOptions demo;
   };
   auto options = std::make_shared<Options>();
-  line.Argument("ROOT", options->root, "the folder to make; it must not exist or be empty");
+  line.FileArgument("ROOT", options->root, "the folder to make; it must not exist or be empty");
   line.NumberOption("--sites", options->demo.sites, 1, demo::kMostSites, "number of sites");
   line.NumberOption("--rows", options->demo.rows, 0, demo::kMostRows, "schedule lines of each site");
   line.NumberOption("--seed", options->demo.seed, 0, demo::kHighestSeed,

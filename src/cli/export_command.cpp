@@ -130,7 +130,7 @@ Action DefineExport(CommandLine& line) {
   }
   line.WordOption("--layout", "", options->layout, {"total", "parts"},
                   "a floor tally as one table (default) or for each floor one of parts by diameter");
-  line.TextOption("-o", "FILE.csv", options->output,
+  line.FileOption("-o", "FILE.csv", options->output,
                   "the file to write, or a folder that it gets a name of its own in");
   AddForceOption(line, options->force);
   return [options] { RunExport(*options); };

@@ -178,11 +178,12 @@ Action DefineImport(CommandLine& line) {
     bool despite_damage = false;
   };
   auto options = std::make_shared<Options>();
-  line.Argument("SOURCE", options->source,
-                "a real Jet file, or a folder of such files: DATA, or the root above it");
-  line.Argument("TARGET", options->target,
-                "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
-                "replaced and kept as SOURCE.jet");
+  line.FileArgument("SOURCE", options->source,
+                    "a real Jet file, or a folder of such files: DATA, or the root above it");
+  line.FileArgument(
+      "TARGET", options->target,
+      "the new file, or the root folder that gets a new DATA folder; SOURCE itself: a Jet file is "
+      "replaced and kept as SOURCE.jet");
   line.Flag("--despite-damage", options->despite_damage,
             "import a Jet file in its own place though the check finds damage in it");
   return [options] {
@@ -193,7 +194,7 @@ Action DefineImport(CommandLine& line) {
 
 Action DefineCheck(CommandLine& line) {
   auto file = std::make_shared<std::string>();
-  line.Argument("FILE", *file, "a real Jet file");
+  line.FileArgument("FILE", *file, "a real Jet file");
   return [file] { Check(*file); };
 }
 
@@ -204,7 +205,7 @@ Action DefineDump(CommandLine& line) {
     bool cp932 = false;
   };
   auto options = std::make_shared<Options>();
-  line.Argument("FILE", options->file, "a real Jet file");
+  line.FileArgument("FILE", options->file, "a real Jet file");
   line.OptionalArgument("TABLE", options->table, "the table whose rows to print; without it, the tables");
   line.Flag("--cp932", options->cp932, "in code page 932 in place of UTF-8");
   return [options] { Dump(options->file, options->table, options->cp932); };

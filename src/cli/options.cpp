@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/options.h"
 
-#include <charconv>
-#include <cmath>
+#include <limits>
 #include <string_view>
 
 #include "cli/command_line.h"
+#include "platform/numbers/decimal_text.h"
 
 namespace rbt {
 
@@ -16,14 +16,8 @@ namespace {
 std::optional<std::pair<std::int32_t, std::int32_t>> ParsePair(std::string_view text, std::string_view sign) {
   const std::size_t at = text.find(sign, 1);
   if (at == std::string_view::npos) return std::nullopt;
-  const auto number = [](std::string_view part) -> std::optional<std::int32_t> {
-    std::int32_t value = 0;
-    const auto [end, error] = std::from_chars(part.data(), part.data() + part.size(), value);
-    if (error != std::errc() || end != part.data() + part.size()) return std::nullopt;
-    return value;
-  };
-  const auto first = number(text.substr(0, at));
-  const auto second = number(text.substr(at + sign.size()));
+  const auto first = WholeNumber(text.substr(0, at));
+  const auto second = WholeNumber(text.substr(at + sign.size()));
   if (!first || !second) return std::nullopt;
   return std::pair(*first, *second);
 }
@@ -49,26 +43,20 @@ bool TakeFloorRange(const std::string& text, std::optional<FloorRange>& floors) 
   return true;
 }
 
-/// "3,1,12": whole numbers and nothing else.
+/// "3,1,12".
 bool TakeNumbers(std::string_view text, std::vector<std::int32_t>& numbers) {
-  numbers.clear();
-  while (true) {
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc()) return false;
-    numbers.push_back(number);
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    if (text.empty()) return true;
-    if (text.front() != ',') return false;
-    text.remove_prefix(1);
-  }
+  using Limits = std::numeric_limits<std::int32_t>;
+  const auto taken = WholeNumbersIn(text, Limits::min(), Limits::max());
+  if (taken) numbers = *taken;
+  return taken.has_value();
 }
 
-/// "10" or "-2.5": digits, a sign and a point.
-bool TakePercent(const std::string& text, double& percent) {
-  const auto [end, error] =
-      std::from_chars(text.data(), text.data() + text.size(), percent, std::chars_format::fixed);
-  return error == std::errc() && end == text.data() + text.size() && std::isfinite(percent);
+/// "10" or "-2.5".
+bool TakePercent(std::string_view text, double& percent) {
+  constexpr double kHighest = std::numeric_limits<double>::max();
+  const std::optional<double> taken = DecimalIn(text, -kHighest, kHighest);
+  if (taken) percent = *taken;
+  return taken.has_value();
 }
 
 }  // namespace
@@ -76,7 +64,7 @@ bool TakePercent(const std::string& text, double& percent) {
 void AddCommonOptions(CommandLine& line, CommonOptions& options) {
   line.RootOption();
   line.WaitOption();
-  line.TextOption(
+  line.FileOption(
       "--site", "FILE", options.site,
       "schedule file in place of the site STEEL.INI names: its name in DATA, or its path below the "
       "root");

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/plan_options.h"
 
-#include <charconv>
-#include <cmath>
 #include <string_view>
 
 #include "cli/command_line.h"
@@ -10,6 +8,7 @@
 #include "planning/input/plan_files.h"
 #include "planning/input/scopes.h"
 #include "platform/files/files.h"
+#include "platform/numbers/decimal_text.h"
 
 namespace rbt {
 
@@ -18,39 +17,21 @@ namespace {
 constexpr double kLongestTime = 86'400.0;
 constexpr std::int32_t kMostLengths = 1000;
 
-template <typename Number>
-std::optional<Number> NumberOf(std::string_view text) {
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 /// "6000,12000".
 bool TakeLengths(std::string_view text, std::optional<std::vector<int>>& lengths) {
-  std::vector<int> taken;
-  for (bool more = true; more;) {
-    const std::size_t comma = text.find(',');
-    more = comma != std::string_view::npos;
-    const auto mm = NumberOf<int>(text.substr(0, comma));
-    if (!mm || *mm < 1 || *mm > planning::kLongestMm) return false;
-    taken.push_back(*mm);
-    if (more) text.remove_prefix(comma + 1);
-  }
-  lengths = std::move(taken);
-  return true;
+  lengths = WholeNumbersIn(text, 1, planning::kLongestMm);
+  return lengths.has_value();
 }
 
 bool TakeMm(std::string_view text, std::optional<std::int32_t>& mm) {
-  mm = NumberOf<std::int32_t>(text);
-  return mm && *mm >= 0 && *mm <= planning::kLongestMm;
+  mm = WholeNumberIn(text, 0, planning::kLongestMm);
+  return mm.has_value();
 }
 
 bool TakeSeconds(std::string_view text, double& seconds) {
-  const auto taken = NumberOf<double>(text);
-  if (!taken || !std::isfinite(*taken) || *taken < 0.0 || *taken > kLongestTime) return false;
-  seconds = *taken;
-  return true;
+  const std::optional<double> taken = DecimalIn(text, 0.0, kLongestTime);
+  if (taken) seconds = *taken;
+  return taken.has_value();
 }
 
 void AddBarOptions(CommandLine& line, PlanCommandOptions& options) {
@@ -58,9 +39,9 @@ void AddBarOptions(CommandLine& line, PlanCommandOptions& options) {
       "--lengths", "MM,..",
       [&options](const std::string& text) { return TakeLengths(text, options.lengths); },
       "lengths that may be bought; default those of STEEL.INI and those that the site's rows use");
-  line.TextOption("--lengths-file", "FILE.csv", options.lengths_file,
+  line.FileOption("--lengths-file", "FILE.csv", options.lengths_file,
                   "diameter,length,price,min_kg of the lengths that may be bought, JPY a tonne");
-  line.TextOption("--rests", "FILE.csv", options.rests_file, "diameter,kind,length,count of rest bars, free");
+  line.FileOption("--rests", "FILE.csv", options.rests_file, "diameter,kind,length,count of rest bars, free");
   line.NumberOption("--max-lengths", options.max_lengths, 0, kMostLengths,
                     "at most so many bought lengths of a diameter, kind and hoop; 0 any number");
   line.NumberOption("--mix", options.mix, 0, kMostLengths,
@@ -91,9 +72,9 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
       "seconds after which the best so far is the plan; default 10");
   line.NumberOption("--advise", options.advise, 0, kMostLengths,
                     "what the best 1 to so many lengths would lose");
-  line.TextOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
-  line.TextOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
-  line.TextOption("--trace", "FILE", options.trace, "writes what the sheets drew, one operation a line");
+  line.FileOption("--shop-sheet", "FILE.pdf", options.shop_sheet, "writes what the shop cuts from each bar");
+  line.FileOption("--purchase-sheet", "FILE.pdf", options.purchase_sheet, "writes all bars to order");
+  line.FileOption("--trace", "FILE", options.trace, "writes what the sheets drew, one operation a line");
   AddForceOption(line, options.force);
   line.Flag("--progress", options.progress, "tell on standard error how far the plan is");
 }
@@ -101,7 +82,7 @@ void AddWayOptions(CommandLine& line, PlanCommandOptions& options) {
 }  // namespace
 
 void AddPlanOptions(CommandLine& line, PlanCommandOptions& options) {
-  line.TextOption("--pieces", "FILE.csv", options.pieces_file,
+  line.FileOption("--pieces", "FILE.csv", options.pieces_file,
                   "length,count[,diameter[,kind[,mark]]] in place of a site");
   AddBarOptions(line, options);
   AddWayOptions(line, options);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <memory>
 #include <numeric>
@@ -17,6 +16,7 @@
 #include "cli/options.h"
 #include "cli/output_options.h"
 #include "platform/files/files.h"
+#include "platform/numbers/decimal_text.h"
 #include "platform/print/diverted_deliveries.h"
 #include "platform/print/print_trace.h"
 #include "platform/system/clock.h"
@@ -40,7 +40,7 @@ struct ReportOptions {
   std::int32_t body = 1;
   DetailChanges changes;
   std::optional<std::string> sub_project;
-  std::string date;
+  std::optional<std::string> date;
   std::string pdf;
   std::string trace;
   bool force = false;
@@ -59,8 +59,9 @@ std::vector<std::string> ReportNames() {
 }
 
 /// The three texts between the slashes, as typed; nothing when no date was given.
-std::optional<DateTexts> TypedDate(const std::string& date) {
-  if (date.empty()) return std::nullopt;
+std::optional<DateTexts> TypedDate(const std::optional<std::string>& given) {
+  if (!given) return std::nullopt;
+  const std::string& date = *given;
   const std::size_t first = date.find('/');
   const std::size_t second = date.find('/', first + 1);
   if (first == std::string::npos || second == std::string::npos ||
@@ -253,22 +254,20 @@ void RunReport(const ReportOptions& options) {
   WriteDocuments(DocumentsOf(form, arguments, result, subjects), options);
 }
 
-void AddText(CommandLine& line, const std::string& name, std::optional<std::string>& target,
-             const std::string& description) {
+void AddText(CommandLine& line, const std::string& name, const std::string& form,
+             std::optional<std::string>& target, const std::string& description) {
   const auto take = [&target](const std::string& text) {
     target = text;
     return true;
   };
-  line.FormOption(name, "TEXT", take, description);
+  line.FormOption(name, form, take, description);
 }
 
 void AddNumber(CommandLine& line, const std::string& name, std::optional<std::int32_t>& target,
                const std::string& description) {
   const auto take = [&target](const std::string& text) {
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    target = number;
-    return error == std::errc() && end == text.data() + text.size();
+    target = WholeNumber(text);
+    return target.has_value();
   };
   line.FormOption(name, "N", take, description);
 }
@@ -307,14 +306,14 @@ Action DefineReport(CommandLine& line) {
       "the kind of tally that fills the report; default bulk, floor for kai-..., part for bui-...");
   line.NumberOption("--body", options->body, 0, 1, "1 with Ulbon and spirals, 0 deformed bars only");
   AddChangeOptions(line, options->changes, "uplift of the Ulbon weights, or of the bars of a purchase list");
-  AddText(line, "--subproject", options->sub_project, "a line under the project's name");
-  line.TextOption("--date", "YEAR/MONTH/DAY", options->date,
-                  "the date as typed, the year of the era with era dates; default today");
+  AddText(line, "--subproject", "TEXT", options->sub_project, "a line under the project's name");
+  AddText(line, "--date", "YEAR/MONTH/DAY", options->date,
+          "the date as typed, the year of the era with era dates; default today");
   AddDetailOptions(line, *options);
   AddNumber(line, "--floor", options->floor, "the one floor of kai-kakukai; default all with weight");
   AddNumber(line, "--part", options->part, "the one part of bui-kakubui, 1 to 11; default all");
-  line.TextOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
-  line.TextOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
+  line.FileOption("-o", "FILE.pdf", options->pdf, "the PDF file to write");
+  line.FileOption("--trace", "FILE", options->trace, "writes what the report drew, one operation a line");
   AddForceOption(line, options->force);
   return [options] { RunReport(*options); };
 }

@@ -2,7 +2,8 @@
 #include "planning/input/scopes.h"
 
 #include <algorithm>
-#include <charconv>
+
+#include "platform/numbers/decimal_text.h"
 
 namespace rbt::planning {
 namespace {
@@ -10,13 +11,6 @@ namespace {
 constexpr std::string_view kSite = "site";
 constexpr std::string_view kFloor = "floor";
 constexpr std::string_view kTo = "..";
-
-std::optional<int> FloorOf(std::string_view text) {
-  int floor = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), floor);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return floor;
-}
 
 }  // namespace
 
@@ -33,8 +27,8 @@ std::optional<Scopes> Scopes::Of(std::string_view text) {
     more = slash != std::string_view::npos;
     const std::string_view name = text.substr(0, slash);
     const std::size_t to = name.find(kTo);
-    const auto first = FloorOf(name.substr(0, to));
-    const auto last = to == std::string_view::npos ? first : FloorOf(name.substr(to + kTo.size()));
+    const auto first = WholeNumber(name.substr(0, to));
+    const auto last = to == std::string_view::npos ? first : WholeNumber(name.substr(to + kTo.size()));
     if (!first || !last || *first > *last) return std::nullopt;
     const auto overlaps = [&](const Range& range) { return range.first <= *last && *first <= range.last; };
     if (std::ranges::any_of(scopes.ranges_, overlaps)) return std::nullopt;

@@ -2,7 +2,6 @@
 #include "session/planning/plan_choices.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 
 #include <fmt/format.h>
@@ -13,6 +12,7 @@
 #include "planning/outcome/plan_text.h"
 #include "planning/problem/refusal.h"
 #include "platform/files/files.h"
+#include "platform/numbers/decimal_text.h"
 #include "platform/profile/registry.h"
 #include "platform/system/paths.h"
 #include "platform/text/characters.h"
@@ -56,21 +56,13 @@ std::vector<std::string_view> PartsOf(std::string_view text, std::string_view se
   return parts;
 }
 
-std::optional<int> WholeOf(std::string_view text, int least, int most) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  if (!whole || number < least || number > most) return std::nullopt;
-  return number;
-}
-
 /// Lengths between commas or blanks, rising, each once.
 std::optional<std::vector<int>> LengthsOf(std::string_view text) {
   const std::vector<std::string_view> parts = PartsOf(text, ", ");
   std::vector<int> lengths;
   lengths.reserve(parts.size());
   for (const std::string_view part : parts) {
-    const std::optional<int> mm = WholeOf(part, 1, kLongestMm);
+    const std::optional<int> mm = WholeNumberIn(part, 1, kLongestMm);
     if (!mm) return std::nullopt;
     lengths.push_back(*mm);
   }
@@ -87,7 +79,7 @@ std::string NumberText(const PlanChoices& of) {
 }
 template <int PlanChoices::*field, int least, int most>
 bool TakeNumber(PlanChoices& into, std::string_view text) {
-  const std::optional<int> number = WholeOf(Plain(text), least, most);
+  const std::optional<int> number = WholeNumberIn(Plain(text), least, most);
   if (number) into.*field = *number;
   return number.has_value();
 }
@@ -116,7 +108,7 @@ bool TakeFile(PlanChoices& into, std::string_view text) {
 std::string PlusText(const PlanChoices& of) { return of.plus ? std::to_string(*of.plus) : ""; }
 bool TakePlus(PlanChoices& into, std::string_view text) {
   const std::string plain = Plain(text);
-  const std::optional<int> plus = WholeOf(plain, 0, kLongestMm);
+  const std::optional<int> plus = WholeNumberIn(plain, 0, kLongestMm);
   if (!plus && !plain.empty()) return false;
   into.plus = plus;
   return true;
@@ -149,9 +141,9 @@ std::string StoredSets(const PlanChoices& of) {
 std::optional<BarSteel> SteelOf(std::string_view text) {
   const std::vector<std::string_view> parts = PartsOf(text, " ");
   if (parts.size() != 3) return std::nullopt;
-  const std::optional<int> diameter = WholeOf(parts[0], 0, kLongestMm);
-  const std::optional<int> kind = WholeOf(parts[1], 1, kHighestKind);
-  const std::optional<int> hoop = WholeOf(parts[2], 0, 1);
+  const std::optional<int> diameter = WholeNumberIn(parts[0], 0, kLongestMm);
+  const std::optional<int> kind = WholeNumberIn(parts[1], 1, kHighestKind);
+  const std::optional<int> hoop = WholeNumberIn(parts[2], 0, 1);
   if (!diameter || !kind || !hoop) return std::nullopt;
   return BarSteel{*diameter, *kind, *hoop == 1};
 }
