@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "cli/command.h"
 #include "cli/session.h"
@@ -46,8 +47,11 @@ PositionRange PositionsOf(const SelectionOptions& options) {
 void TakeAskedPositions(const SelectionOptions& options) {
   const PositionRange positions = PositionsOf(options);
   TakePositions(Selection, positions);
-  if (!options.from && !options.to) return;
-  if (const auto refusal = PositionsRefusal(*SiteContext.WorkDatabase, positions)) MsgBox(refusal->text);
+  std::vector<PositionBox> asked;
+  if (options.from) asked.insert(asked.end(), {PositionBox::start_page, PositionBox::start_line});
+  if (options.to) asked.insert(asked.end(), {PositionBox::end_page, PositionBox::end_line});
+  const auto refusal = PositionsRefusal(*SiteContext.WorkDatabase, positions, asked);
+  if (refusal) MsgBox(refusal->text);
 }
 
 void TakeAskedNames(const SelectionOptions& options) {

@@ -51,10 +51,10 @@ ScheduleRows RowsOf(Database& schedule) {
       [&schedule](const SchedulePosition& position) { return schedule.HasRows(RowsOfPosition(position)); }};
 }
 
-std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered) {
+std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered,
+                                             std::span<const PositionBox> boxes) {
   const ScheduleRows rows = RowsOf(schedule);
-  for (const PositionBox box :
-       {PositionBox::start_page, PositionBox::start_line, PositionBox::end_page, PositionBox::end_line}) {
+  for (const PositionBox box : boxes) {
     if (auto refusal = PositionRefusal(box, entered, rows)) return refusal;
   }
   return std::nullopt;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -37,8 +38,9 @@ std::optional<RangeRefusal> PositionRefusal(PositionBox box, const PositionRange
 
 /// Those of a schedule, which must outlive them.
 ScheduleRows RowsOf(Database& schedule);
-/// The same over all boxes of a schedule: of the first that does not pass.
-std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered);
+/// The same over some boxes and a schedule: of the first that does not pass.
+std::optional<RangeRefusal> PositionsRefusal(Database& schedule, const PositionRange& entered,
+                                             std::span<const PositionBox> boxes);
 
 /// The tests that Enter in the right box makes: the smallest shape first, then the largest, then the order.
 std::optional<RangeRefusal> ShapeRangeRefusal(const ShapeRange& entered, const ShapeRange& whole);
