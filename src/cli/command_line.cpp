@@ -2,7 +2,7 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 #include <type_traits>
 #include <utility>
 
@@ -35,7 +35,8 @@ std::vector<std::string> WordsFromTheEnd(const CLI::App& line, int argc, char** 
   std::vector<std::string> words;
   words.reserve(2 * static_cast<std::size_t>(argc));
   bool takes_options = true;
-  for (const std::string_view word : std::span(argv, static_cast<std::size_t>(argc)) | std::views::drop(1)) {
+  const std::span<char*> all(argv, static_cast<std::size_t>(argc));
+  for (const std::string_view word : all.subspan(std::min<std::size_t>(1, all.size()))) {
     takes_options = takes_options && word != "--";
     const bool is_empty = takes_options && GivesAnEmptyValue(line, word);
     words.emplace_back(is_empty ? word.substr(0, word.size() - 1) : word);
