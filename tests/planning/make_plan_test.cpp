@@ -122,7 +122,8 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
   int refused = 0;
   int best = 0;
   int all = 0;
-  for (std::uint64_t seed = 1; seed <= rbt::test::ProblemsOf(250); ++seed) {
+  const std::uint64_t problems = rbt::test::ProblemsOf(250);
+  for (std::uint64_t seed = 1; seed <= problems; ++seed) {
     Problem problem = TinyProblem(seed, true);
     if (problem.groups.empty()) continue;
     const Micros least = test::NeededBars(problem).LeastCost();
@@ -141,7 +142,10 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
               cost == test::BruteForce::kNever)
         << seed << ": nor for want of time";
   }
-  EXPECT_GE(refused, 3);
+  // Of fewer problems none may have to be refused.
+  if (problems == 250) {
+    EXPECT_GE(refused, 3);
+  }
   // Where the cheapest of all plans has a bar that only fills a lot, others are found that need not be the
   // best.
   EXPECT_GE(best * 100, all * 98) << best << " of " << all;
