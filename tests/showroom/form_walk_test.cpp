@@ -13,6 +13,7 @@
 
 #include "showroom/all_forms.h"
 #include "support/desktop/key_press.h"
+#include "support/sample.h"
 #include "support/site_fixture.h"
 #include "support/user_home.h"
 
@@ -221,10 +222,12 @@ TEST(AllForms, AnswerEveryKeyOfTheirTableInEveryState) {
   const ModalFormCloser closer;
   for (const FormEntry& entry : AllForms()) {
     EXPECT_FALSE(entry.keys.empty()) << entry.name;
-    for (const FormState& state : entry.states) {
-      for (const int key : entry.keys) {
-        const std::unique_ptr<QWidget> form = Shown(entry, state);
-        EXPECT_TRUE(Press(*form, key)) << entry.name << " " << state.name << " key " << key;
+    for (std::size_t s = 0; s < entry.states.size(); ++s) {
+      for (std::size_t k = 0; k < entry.keys.size(); ++k) {
+        if (!IsTriedWith(k, s, entry.states.size())) continue;
+        const std::unique_ptr<QWidget> form = Shown(entry, entry.states[s]);
+        EXPECT_TRUE(Press(*form, entry.keys[k]))
+            << entry.name << " " << entry.states[s].name << " key " << entry.keys[k];
       }
     }
   }

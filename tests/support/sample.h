@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 
@@ -20,5 +21,9 @@ void TryMoments(const std::function<bool(int)>& is_there);
 /// How many random problems a law of answers is held against that takes long: all, but a fourth of them under
 /// sanitizers, which look at what the code does and not at what it answers.
 std::uint64_t ProblemsOf(std::uint64_t all);
+
+/// Whether a thing is tried with another one, of so many: each with each, but under sanitizers each with one
+/// of the others, which take turns.
+bool IsTriedWith(std::size_t thing, std::size_t other, std::size_t others);
 
 }  // namespace rbt::test
