@@ -3,11 +3,10 @@
 
 #include <string>
 
-#include <QFileDialog>
 #include <fmt/format.h>
 
+#include "desktop/file_choice.h"
 #include "desktop/painting/painting_surface.h"
-#include "desktop/wait_sign.h"
 #include "platform/files/files.h"
 #include "platform/pass_over_faults.h"
 #include "platform/system/clock.h"
@@ -59,10 +58,8 @@ bool Write(std::span<const PrintedDocument> documents, const fs::path& file, con
 }  // namespace
 
 std::optional<fs::path> AskPdfFile(QWidget& form, const fs::path& offered) {
-  QFileDialog dialog(&form, QStringLiteral("ＰＤＦ保存"));
+  FileChoice dialog(&form, QStringLiteral("ＰＤＦ保存"));
   dialog.setObjectName("cdgPdf");
-  // One dialog everywhere: the desktop's own may know neither the title nor Esc.
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
   // Whoever asked for the name asks that too.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -71,14 +68,7 @@ std::optional<fs::path> AskPdfFile(QWidget& form, const fs::path& offered) {
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.setDirectory(QString::fromStdString(offered.parent_path().string()));
   dialog.selectFile(QString::fromStdString(offered.filename().string()));
-  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
-  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名："));
-  dialog.setLabelText(QFileDialog::FileType, QStringLiteral("種類："));
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("保存"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
-  const WorkAtRest rest;
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return fs::path(dialog.selectedFiles().constFirst().toStdString());
+  return dialog.Ask(QStringLiteral("保存"));
 }
 
 fs::path OfferedPdfFile(std::string_view title) {

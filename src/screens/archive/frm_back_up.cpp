@@ -4,13 +4,12 @@
 #include <utility>
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QSignalBlocker>
 
 #include "desktop/action.h"
+#include "desktop/file_choice.h"
 #include "desktop/form.h"
 #include "desktop/texts.h"
-#include "desktop/wait_sign.h"
 #include "screens/panels/boxes.h"
 #include "screens/panels/form_actions.h"
 #include "session/panels/at_end.h"
@@ -84,12 +83,13 @@ void FrmBackUp::Show() {
 }
 
 std::optional<std::filesystem::path> AskBackUpFolder(const std::filesystem::path& from) {
-  const WorkAtRest rest;
-  const QString folder = QFileDialog::getExistingDirectory(QApplication::activeWindow(),
-                                                           QStringLiteral("バックアップ先のフォルダ"),
-                                                           QString::fromStdString(from.string()));
-  if (folder.isEmpty()) return std::nullopt;
-  return std::filesystem::path(folder.toStdString());
+  FileChoice dialog(QApplication::activeWindow(), QStringLiteral("バックアップ先のフォルダ"));
+  dialog.setObjectName("cdgFolder");
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  dialog.setDirectory(QString::fromStdString(from.string()));
+  return dialog.Ask(QStringLiteral("選択"));
 }
 
 }  // namespace rbt

@@ -2,6 +2,8 @@
 #include "screens/archive/frm_back_up.h"
 
 #include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,6 +11,8 @@
 #include "screens/archive/dialog_driver.h"
 #include "screens/archive/mounted_volumes.h"
 #include "screens/archive/saved_tally_dialogs.h"
+#include "support/desktop/key_press.h"
+#include "support/desktop/next_dialog.h"
 #include "support/user_home.h"
 
 namespace rbt::test {
@@ -130,6 +134,25 @@ TEST(MountedVolumes, AreFoldersEachOnce) {
     EXPECT_THAT(volumes[i].caption, testing::StartsWith(volumes[i].root.string()));
     for (std::size_t k = 0; k < i; ++k) EXPECT_NE(volumes[k].root, volumes[i].root);
   }
+}
+
+TEST_F(FrmBackUpForm, LetsAnotherFolderBeChosen) {
+  const fs::path usb = home_ / "usb";
+  QStringList captions;
+  const WithNextDialog choose([&](QWidget& dialog) {
+    for (const auto* button : dialog.findChildren<QPushButton*>()) captions.append(button->text());
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText("csv");
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_EQ(AskBackUpFolder(usb), usb / "csv");
+  EXPECT_EQ(choose.met, "cdgFolder");
+  EXPECT_THAT(captions, ::testing::UnorderedElementsAre("選択", "キャンセル"));
+}
+
+TEST_F(FrmBackUpForm, KeepsItsFolderWhereTheChoiceIsGivenUp) {
+  const WithNextDialog give_up([](QWidget& dialog) { Press(dialog, Qt::Key_Escape); });
+  EXPECT_EQ(AskBackUpFolder(home_ / "usb"), std::nullopt);
+  EXPECT_EQ(give_up.met, "cdgFolder");
 }
 
 }  // namespace rbt::test
