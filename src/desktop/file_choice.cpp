@@ -12,7 +12,9 @@ FileChoice::FileChoice(QWidget* parent, const QString& title) : QFileDialog(pare
 
 std::optional<std::filesystem::path> FileChoice::Ask(const QString& accept) {
   setLabelText(QFileDialog::LookIn, QStringLiteral("場所："));
-  setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名："));
+  const bool of_folder = fileMode() == QFileDialog::Directory;
+  setLabelText(QFileDialog::FileName,
+               of_folder ? QStringLiteral("フォルダ名：") : QStringLiteral("ファイル名："));
   setLabelText(QFileDialog::FileType, QStringLiteral("種類："));
   setLabelText(QFileDialog::Accept, accept);
   setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));

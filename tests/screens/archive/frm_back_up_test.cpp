@@ -2,6 +2,7 @@
 #include "screens/archive/frm_back_up.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -141,12 +142,13 @@ TEST_F(FrmBackUpForm, LetsAnotherFolderBeChosen) {
   QStringList captions;
   const WithNextDialog choose([&](QWidget& dialog) {
     for (const auto* button : dialog.findChildren<QPushButton*>()) captions.append(button->text());
+    captions.append(dialog.findChild<QLabel*>("fileNameLabel")->text());
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText("csv");
     QMetaObject::invokeMethod(&dialog, "accept");
   });
   EXPECT_EQ(AskBackUpFolder(usb), usb / "csv");
   EXPECT_EQ(choose.met, "cdgFolder");
-  EXPECT_THAT(captions, ::testing::UnorderedElementsAre("選択", "キャンセル"));
+  EXPECT_THAT(captions, ::testing::UnorderedElementsAre("選択", "キャンセル", "フォルダ名："));
 }
 
 TEST_F(FrmBackUpForm, KeepsItsFolderWhereTheChoiceIsGivenUp) {
