@@ -15,8 +15,8 @@ class FileChoice : public QFileDialog {
  public:
   FileChoice(QWidget* parent, const QString& title);
 
-  /// Nothing when the user turns back. `accept` is the caption of the button that does not. What is at work
-  /// stands still meanwhile.
+  /// Nothing when the user turns back. `accept` is the caption of the button that takes the choice. What is
+  /// at work stands still meanwhile.
   std::optional<std::filesystem::path> Ask(const QString& accept);
 };
 

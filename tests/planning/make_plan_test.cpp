@@ -122,7 +122,8 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
   int refused = 0;
   int best = 0;
   int all = 0;
-  const std::uint64_t problems = rbt::test::ProblemsOf(250);
+  constexpr std::uint64_t kAll = 250;
+  const std::uint64_t problems = rbt::test::ProblemsOf(kAll);
   for (std::uint64_t seed = 1; seed <= problems; ++seed) {
     Problem problem = TinyProblem(seed, true);
     if (problem.groups.empty()) continue;
@@ -143,7 +144,7 @@ TEST(MakePlan, IsTheCheapestWithLimitsOnTinyProblemsAndRefusedOnlyWhereThereIsNo
         << seed << ": nor for want of time";
   }
   // Of fewer problems none may have to be refused.
-  if (problems == 250) {
+  if (problems == kAll) {
     EXPECT_GE(refused, 3);
   }
   // Where the cheapest of all plans has a bar that only fills a lot, others are found that need not be the

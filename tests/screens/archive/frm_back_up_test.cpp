@@ -151,6 +151,12 @@ TEST_F(FrmBackUpForm, LetsAnotherFolderBeChosen) {
   EXPECT_THAT(captions, ::testing::UnorderedElementsAre("選択", "キャンセル", "フォルダ名："));
 }
 
+TEST_F(FrmBackUpForm, TakesTheFolderThatIsShownWhereNoneIsNamed) {
+  const WithNextDialog take([](QWidget& dialog) { Press(dialog, Qt::Key_Return); });
+  EXPECT_EQ(AskBackUpFolder(home_ / "usb"), home_ / "usb");
+  EXPECT_EQ(take.met, "cdgFolder");
+}
+
 TEST_F(FrmBackUpForm, KeepsItsFolderWhereTheChoiceIsGivenUp) {
   const WithNextDialog give_up([](QWidget& dialog) { Press(dialog, Qt::Key_Escape); });
   EXPECT_EQ(AskBackUpFolder(home_ / "usb"), std::nullopt);
